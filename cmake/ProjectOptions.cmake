@@ -1,0 +1,31 @@
+# Settings that every target of the project shares, and the one way to add a library.
+include(GNUInstallDirs)
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(orx_options INTERFACE)
+target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Werror)
+if(ORX_SANITIZE)
+  target_compile_options(orx_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orx_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# orx_add_library(NAME ALIAS DIRS...): a static library of all sources in the named folders of src/.
+function(orx_add_library name)
+  set(sources)
+  foreach(dir IN LISTS ARGN)
+    file(GLOB found CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${dir}/*.cpp ${CMAKE_SOURCE_DIR}/src/${dir}/*.h)
+    list(APPEND sources ${found})
+  endforeach()
+  add_library(${name} STATIC ${sources})
+  add_library(OrvexMapDialogs2::${name} ALIAS ${name})
+  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:orx_options>)
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/src>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/OrvexMapDialogs2>)
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()

@@ -1,0 +1,31 @@
+// Colours and fonts as forms and drawings name them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace orx {
+
+/// An opaque colour, each part from 0 to 255.
+struct Color {
+  std::uint8_t Red = 0;
+  std::uint8_t Green = 0;
+  std::uint8_t Blue = 0;
+  bool operator==(const Color&) const = default;
+};
+
+/// A font by face name and size in points. An empty name means the desktop's own dialog font.
+struct Font {
+  std::string Name = {};
+  double Size = 8.25;
+  bool Bold = false;
+  bool Italic = false;
+  bool Underline = false;
+  bool Strikethrough = false;
+  bool operator==(const Font&) const = default;
+};
+
+/// The mouse pointers that dialogs ask for, with the platform's code numbers.
+enum class Pointer { Default = 0, SizeNS = 7, Hourglass = 11 };
+
+}  // namespace orx

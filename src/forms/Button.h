@@ -1,0 +1,31 @@
+// A push button.
+#pragma once
+
+#include "forms/Control.h"
+
+namespace orx {
+
+/// What a button stands for in its form: Enter presses the default button, Escape the cancel button.
+enum class ButtonRole { Plain, Default, Cancel };
+
+class Button final : public Control {
+ public:
+  Button(Container& parent, std::string name, Design design, ButtonRole role = ButtonRole::Plain)
+      : Control(parent, std::move(name), std::move(design)), mRole(role) {}
+
+  ButtonRole Role() const { return mRole; }
+
+  /// Raised when the button is pressed by mouse, key or program.
+  Event<> Click;
+
+  /// For desktops and test users: the user presses the button. The focus comes here first; when the field that loses it
+  /// takes it back, the press is dropped.
+  void UserPress();
+  void UserMnemonic() override { UserPress(); }
+  void Accept(ControlVisitor& visitor) override;
+
+ private:
+  ButtonRole mRole;
+};
+
+}  // namespace orx

@@ -1,0 +1,76 @@
+// Drawings. A picture keeps what was drawn as a list of marks, and a desktop paints the list whenever the screen needs it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "forms/Appearance.h"
+#include "forms/Geometry.h"
+
+namespace orx {
+
+/// A raster of opaque or transparent pixels, row by row from the top; 4 bytes each in the order red, green, blue, alpha
+/// (alpha not premultiplied).
+struct Image {
+  int Width = 0;
+  int Height = 0;
+  std::vector<std::uint8_t> Pixels;
+};
+
+/// A filled rectangle.
+struct FillMark {
+  Rect Place;
+  Color Fill;
+  bool operator==(const FillMark&) const = default;
+};
+
+/// Straight lines from point to point, `Width` pixels wide.
+struct LineMark {
+  std::vector<Point> Points;
+  Color Pen;
+  int Width = 1;
+  bool operator==(const LineMark&) const = default;
+};
+
+/// A line of text centred on a point, turned counter-clockwise by `Rotation` degrees.
+struct TextMark {
+  Point Center;
+  std::string Text;
+  Font Face;
+  Color Pen;
+  double Rotation = 0;
+  bool operator==(const TextMark&) const = default;
+};
+
+/// An image stretched over a rectangle. The list shares the pixels.
+struct ImageMark {
+  Rect Place;
+  std::shared_ptr<const Image> Picture;
+  bool operator==(const ImageMark&) const = default;
+};
+
+/// The dotted rectangle that shows the focus.
+struct FocusMark {
+  Rect Place;
+  bool operator==(const FocusMark&) const = default;
+};
+
+using Mark = std::variant<FillMark, LineMark, TextMark, ImageMark, FocusMark>;
+
+/// What was drawn, oldest mark first. Places are in pixels from the upper left corner.
+class Canvas {
+ public:
+  const std::vector<Mark>& Marks() const { return mMarks; }
+  void Clear() { mMarks.clear(); }
+  void Draw(Mark mark) { mMarks.push_back(std::move(mark)); }
+  /// Draws the focus rectangle, or takes it away again when it stands at that place already.
+  void ToggleFocus(const Rect& place);
+
+ private:
+  std::vector<Mark> mMarks;
+};
+
+}  // namespace orx

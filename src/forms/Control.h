@@ -1,0 +1,127 @@
+// The base of all controls. A control is its state (text, place, enabled, ...); while its form has a window a desktop
+// mirrors that state in a native control and reports what the user does.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/Event.h"
+#include "forms/Geometry.h"
+
+namespace orx {
+
+class Container;
+class ControlVisitor;
+class Form;
+
+/// A part of a control's state, as a desktop is told of its change.
+enum class Aspect { Place, Visible, Enabled, Text, Value, Items, Selection, Colors, ToolTip, Drawing, Accessible };
+
+/// The native mirror of one control. A desktop makes one for each control when the form gets its window, and keeps it
+/// until the window goes.
+class ControlPeer {
+ public:
+  virtual ~ControlPeer() = default;
+  /// Brings one aspect of the native control up to the state of the control.
+  virtual void Update(Aspect aspect) = 0;
+  /// Gives the native control the keyboard focus, without reporting back.
+  virtual void TakeFocus() = 0;
+};
+
+/// How a control is drawn up in its form. Places are in twips, from the upper left corner of the parent's client area.
+struct Design {
+  std::string Caption = {};
+  Rect Place = {};
+  bool Enabled = true;
+  bool Visible = true;
+  bool TabStop = true;
+  /// Keeps the control in reach at the bottom of the window when the form is too high for the screen and scrolls.
+  bool Pinned = false;
+  std::string ToolTipText = {};
+  /// What assistive software reads; empty: derived from the caption or the label in front of the control.
+  std::string AccessibleName = {};
+};
+
+/// State, place in the form and focus events that all controls share. Controls are members of their form or page, which
+/// outlives them; the order of their declaration is the tab order and the drawing order.
+class Control {
+ public:
+  /// Draws the control up in `parent`. `name` is the name by which tests, translation and automation find it.
+  Control(Container& parent, std::string name, Design design);
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& Name() const { return mName; }
+  Container& Parent() const { return mParent; }
+  /// The form that the control stands in.
+  Form& OwnerForm() const;
+
+  /// The caption, with "&" in front of the mnemonic letter; "&&" stands for an ampersand. UTF-8, as all texts.
+  const std::string& Caption() const { return mDesign.Caption; }
+  void Caption(const std::string& value);
+
+  const Rect& Place() const { return mDesign.Place; }
+  void Place(const Rect& value);
+  int Left() const { return mDesign.Place.Left; }
+  void Left(int value);
+  int Top() const { return mDesign.Place.Top; }
+  void Top(int value);
+
+  bool Visible() const { return mDesign.Visible; }
+  void Visible(bool value);
+  bool Enabled() const { return mDesign.Enabled; }
+  void Enabled(bool value);
+  /// True when the control and all that it stands in are visible, an open tab included.
+  bool IsShown() const;
+  /// True when the user can work with the control: shown and enabled, as all that it stands in.
+  bool IsReachable() const;
+
+  const std::string& ToolTipText() const { return mDesign.ToolTipText; }
+  void ToolTipText(const std::string& value);
+  bool Pinned() const { return mDesign.Pinned; }
+
+  /// What assistive software reads for the control: the designed name, else the caption without its mnemonic mark, else
+  /// the caption of the label or frame in front of it.
+  std::string AccessibleName() const;
+  /// The mnemonic letter of the caption in lower case, 0 when there is none.
+  char32_t Mnemonic() const;
+
+  /// True when Tab may stop at the control (a reachable control that takes the focus).
+  bool IsTabStop() const;
+  /// True when the control can take the keyboard focus at all; labels, frames and panels cannot.
+  virtual bool TakesFocus() const { return true; }
+  /// Moves the focus here. Does nothing on a control that is not reachable while the form is shown.
+  void SetFocus();
+  bool HasFocus() const;
+
+  /// Raised when the focus has come to the control, and when it has left for another control of the form.
+  Event<> GotFocus;
+  Event<> LostFocus;
+
+  /// What the mnemonic of the caption does; by default the focus comes here, or to the next control for a label.
+  virtual void UserMnemonic();
+  /// The children when the control is a container, else null.
+  virtual Container* AsContainer() { return nullptr; }
+  virtual void Accept(ControlVisitor& visitor) = 0;
+
+  /// For desktops: the native mirror, null while the form has no window. The desktop owns it.
+  ControlPeer* Peer() const { return mPeer; }
+  void Peer(ControlPeer* value) { mPeer = value; }
+
+ protected:
+  /// Tells the native mirror, when there is one.
+  void Changed(Aspect aspect);
+  const Design& Drawn() const { return mDesign; }
+
+ private:
+  Container& mParent;
+  std::string mName;
+  Design mDesign;
+  ControlPeer* mPeer = nullptr;
+};
+
+/// `caption` without mnemonic marks.
+std::string WithoutMnemonic(std::string_view caption);
+
+}  // namespace orx

@@ -1,0 +1,31 @@
+// Tells the kinds of controls apart. A desktop implements it to make the native mirror of each kind, so that the
+// compiler names the kind which a desktop has forgotten.
+#pragma once
+
+namespace orx {
+
+class Button;
+class CheckBox;
+class ComboBox;
+class Frame;
+class Label;
+class Panel;
+class PictureBox;
+class TabControl;
+class TextBox;
+
+class ControlVisitor {
+ public:
+  virtual ~ControlVisitor() = default;
+  virtual void Visit(Button& control) = 0;
+  virtual void Visit(CheckBox& control) = 0;
+  virtual void Visit(ComboBox& control) = 0;
+  virtual void Visit(Frame& control) = 0;
+  virtual void Visit(Label& control) = 0;
+  virtual void Visit(Panel& control) = 0;
+  virtual void Visit(PictureBox& control) = 0;
+  virtual void Visit(TabControl& control) = 0;
+  virtual void Visit(TextBox& control) = 0;
+};
+
+}  // namespace orx

@@ -1,0 +1,111 @@
+#include "forms/Desktop.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "forms/Form.h"
+
+namespace orx {
+namespace {
+
+std::string DescribeError(const std::exception_ptr& error) {
+  try {
+    std::rethrow_exception(error);
+  } catch (const std::exception& known) {
+    return known.what();
+  } catch (...) {
+    return "Unknown error";
+  }
+}
+
+}  // namespace
+
+Desktop::~Desktop() = default;
+
+int Desktop::ToPixels(int twips) const { return static_cast<int>(std::lround(twips * Scale() / kTwipsPerPixel)); }
+
+int Desktop::ToTwips(int pixels) const { return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale())); }
+
+void Desktop::ShowMessage(const Message& message) {
+  const Modal modal{nullptr, &message};
+  if (mHook) mHook->ModalOpening(modal);
+  FormWindow* owner = nullptr;
+  if (!mSessions.empty()) {
+    owner = mSessions.back()->Shown->Window();
+  } else if (!mOpenForms.empty()) {
+    owner = mOpenForms.back()->Window();
+  }
+  DoShowMessage(message, owner);
+  if (mHook) mHook->ModalClosed(modal);
+}
+
+void Desktop::ModalIsRunning(const Modal& modal) {
+  if (mHook) mHook->ModalRunning(modal);
+}
+
+void Desktop::Beep() {
+  if (mHook) mHook->Beeped();
+  DoBeep();
+}
+
+void Desktop::Pointer(orx::Pointer value) {
+  mPointer = value;
+  if (mHook) mHook->PointerChanged(value);
+  DoSetPointer(value);
+}
+
+void Desktop::ShowHelp(const HelpRequest& request) {
+  if (mHook && mHook->HelpRequested(request)) return;
+  DoShowHelp(request);
+}
+
+void Desktop::RunModal(Form& form) {
+  Session session{&form, nullptr, nullptr};
+  const Modal modal{&form, nullptr};
+  mSessions.push_back(&session);
+  if (mHook) mHook->ModalOpening(modal);
+  try {
+    form.Window()->RunModal();
+  } catch (...) {
+    session.Error = std::current_exception();
+  }
+  std::erase(mSessions, &session);
+  if (mHook) mHook->ModalClosed(modal);
+  if (session.Error) std::rethrow_exception(session.Error);
+}
+
+void Desktop::EndModal(const Form& form) {
+  for (Session* session : mSessions)
+    if (session->Shown == &form && form.mWindow) form.mWindow->EndModal();
+}
+
+void Desktop::Retire(const Form& form, std::unique_ptr<FormWindow> window) {
+  for (Session* session : mSessions)
+    if (session->Shown == &form) session->Retired = std::move(window);
+}
+
+void Desktop::KeepOpen(std::shared_ptr<Form> form) { mOpenForms.push_back(std::move(form)); }
+
+void Desktop::LeaveAct() {
+  if (--mActs > 0) return;
+  // A form that closes may be the last to hold another one, so the list is settled before anything is let go.
+  const auto closed = std::stable_partition(mOpenForms.begin(), mOpenForms.end(),
+                                            [](const std::shared_ptr<Form>& form) { return form->Visible(); });
+  const std::vector<std::shared_ptr<Form>> gone(closed, mOpenForms.end());
+  mOpenForms.erase(closed, mOpenForms.end());
+}
+
+void Desktop::CloseOpenForms() {
+  const std::vector<std::shared_ptr<Form>> forms = std::move(mOpenForms);
+  mOpenForms.clear();
+  for (const std::shared_ptr<Form>& form : forms) form->Unload();
+}
+
+void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {
+  if (mSessions.empty()) return ShowMessage({DescribeError(error), form.Caption(), MessageIcon::Critical});
+  Session& session = *mSessions.back();
+  if (!session.Error) session.Error = std::move(error);
+  EndModal(*session.Shown);
+}
+
+}  // namespace orx

@@ -1,0 +1,95 @@
+// The one interface between forms and a platform. The public members keep the rules that all desktops share (the hook,
+// modal sessions, modeless forms staying alive); the protected virtual ones are the bare moves that a platform makes.
+#pragma once
+
+#include <exception>
+#include <memory>
+#include <vector>
+
+#include "forms/Appearance.h"
+#include "forms/DesktopHook.h"
+#include "forms/FormWindow.h"
+#include "forms/Geometry.h"
+#include "numbers/Numbers.h"
+
+namespace orx {
+
+enum class BorderStyle { Fixed, Sizable };
+
+/// The screen in twips: its size, the part not covered by task bars, and what a window's frame adds to the client area.
+struct ScreenMetrics {
+  Size Screen;
+  Rect WorkArea;
+  Size Frame;
+};
+
+class Desktop {
+ public:
+  Desktop() = default;
+  virtual ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  /// The hook that sees everything modal; null removes it. Not owned.
+  void Hook(DesktopHook* hook) { mHook = hook; }
+
+  /// Shows a message box and returns when it has been answered. It belongs to the form that is shown on top.
+  void ShowMessage(const Message& message);
+  void Beep();
+  orx::Pointer Pointer() const { return mPointer; }
+  /// Sets the mouse pointer of the whole screen.
+  void Pointer(orx::Pointer value);
+  /// Opens the platform's help engine.
+  void ShowHelp(const HelpRequest& request);
+
+  virtual ScreenMetrics Metrics(BorderStyle border) const = 0;
+  /// Pixels in 15 twips: 1 at 96 dpi, 1.5 at 144 dpi.
+  virtual double Scale() const = 0;
+  int ToPixels(int twips) const;
+  int ToTwips(int pixels) const;
+  /// The separators of the user's locale.
+  virtual numbers::Separators Separators() const = 0;
+  /// Lets paint and input events that wait be handled.
+  virtual void ProcessPendingEvents() = 0;
+
+  /// For FormWindow::RunModal and DoShowMessage: the modal form or box is up and the user can act.
+  void ModalIsRunning(const Modal& modal);
+
+ protected:
+  virtual std::unique_ptr<FormWindow> OpenWindow(Form& form) = 0;
+  virtual void DoShowMessage(const Message& message, FormWindow* owner) = 0;
+  virtual void DoBeep() = 0;
+  virtual void DoSetPointer(orx::Pointer value) = 0;
+  virtual void DoShowHelp(const HelpRequest& request) = 0;
+  /// For the destructor of a desktop: unloads the forms that are still open while the platform can close windows.
+  void CloseOpenForms();
+
+ private:
+  friend class Form;
+
+  struct Session {
+    Form* Shown;
+    std::unique_ptr<FormWindow> Retired;
+    std::exception_ptr Error;
+  };
+
+  void RunModal(Form& form);
+  void EndModal(const Form& form);
+  /// Takes over the window of a form that unloads, so that a modal loop still running in it can come to its end.
+  void Retire(const Form& form, std::unique_ptr<FormWindow> window);
+  /// Keeps a modeless form alive until it is hidden or unloaded.
+  void KeepOpen(std::shared_ptr<Form> form);
+  void EnterAct() { ++mActs; }
+  void LeaveAct();
+  /// Takes an error that a handler let go, so that it can travel to the caller of the modal Show; without a modal form
+  /// the user is told.
+  void HandlerFailed(const Form& form, std::exception_ptr error);
+
+  DesktopHook* mHook = nullptr;
+  orx::Pointer mPointer = orx::Pointer::Default;
+  std::vector<Session*> mSessions;
+  std::vector<std::shared_ptr<Form>> mOpenForms;
+  int mActs = 0;
+};
+
+}  // namespace orx

@@ -1,0 +1,34 @@
+// The one place where everything passes that a desktop shows or sounds: tests answer and record here, a gallery takes
+// its pictures here, a server decides here without a screen.
+#pragma once
+
+#include "forms/Appearance.h"
+#include "forms/HelpRequest.h"
+#include "forms/Message.h"
+
+namespace orx {
+
+class Form;
+
+/// Something modal: a form or a message box, the other pointer is null.
+struct Modal {
+  Form* ShownForm = nullptr;
+  const Message* ShownMessage = nullptr;
+};
+
+class DesktopHook {
+ public:
+  virtual ~DesktopHook() = default;
+  /// A modal form or box is about to open.
+  virtual void ModalOpening(const Modal&) {}
+  /// It is up and waits for the user; what is done here happens inside its modal loop.
+  virtual void ModalRunning(const Modal&) {}
+  /// It has closed.
+  virtual void ModalClosed(const Modal&) {}
+  virtual void PointerChanged(Pointer) {}
+  virtual void Beeped() {}
+  /// True when the hook has dealt with the request, so that the platform's help engine is not asked.
+  virtual bool HelpRequested(const HelpRequest&) { return false; }
+};
+
+}  // namespace orx

@@ -1,0 +1,134 @@
+#include "forms/Form.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "forms/Control.h"
+
+namespace orx {
+
+Form::Form(Desktop& desktop, std::string name, FormDesign design)
+    : mDesktop(desktop), mName(std::move(name)), mDesign(std::move(design)) {}
+
+Form::~Form() { DropWindow(); }
+
+void Form::Caption(const std::string& value) {
+  mDesign.Caption = value;
+  if (mWindow) mWindow->UpdateCaption();
+}
+
+void Form::Move(int left, int top) {
+  mLeft = left;
+  mTop = top;
+  if (mWindow) mWindow->UpdatePlace();
+}
+
+int Form::Width() const { return ShownClientSize().Width + mDesktop.Metrics(mDesign.Border).Frame.Width; }
+
+int Form::Height() const { return ShownClientSize().Height + mDesktop.Metrics(mDesign.Border).Frame.Height; }
+
+void Form::ClientSize(Size value) {
+  if (value == mDesign.Client) return;
+  mDesign.Client = value;
+  if (mWindow) mWindow->UpdatePlace();
+  if (mVisible) Form_Resize();
+}
+
+Size Form::ShownClientSize() const {
+  const ScreenMetrics screen = mDesktop.Metrics(mDesign.Border);
+  return {std::min(mDesign.Client.Width, screen.WorkArea.Width - screen.Frame.Width),
+          std::min(mDesign.Client.Height, screen.WorkArea.Height - screen.Frame.Height)};
+}
+
+void Form::Center() {
+  const Size screen = mDesktop.Metrics(mDesign.Border).Screen;
+  Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2);
+}
+
+void Form::KeepOnScreen() {
+  const Rect area = mDesktop.Metrics(mDesign.Border).WorkArea;
+  const int left = std::max(area.Left, std::min(mLeft, area.Right() - Width()));
+  const int top = std::max(area.Top, std::min(mTop, area.Bottom() - Height()));
+  if (left != mLeft || top != mTop) Move(left, top);
+}
+
+void Form::Load() {
+  if (mLoaded) return;
+  mLoaded = true;
+  Form_Load();
+}
+
+void Form::Show(ShowMode mode, OwnerWindow owner) {
+  if (mVisible) throw std::logic_error(mName + " is shown already");
+  Load();
+  if (!mWindow) mWindow = mDesktop.OpenWindow(*this);
+  Form_Resize();
+  KeepOnScreen();
+  mVisible = true;
+  mWindow->Show(mode, owner);
+  UserAct([this] { FocusFirst(); });
+  if (mode == ShowMode::Modal) {
+    mDesktop.RunModal(*this);
+  } else {
+    mDesktop.KeepOpen(shared_from_this());
+  }
+}
+
+void Form::Hide() {
+  if (!mVisible) return;
+  mVisible = false;
+  mWindow->Hide();
+  mDesktop.EndModal(*this);
+}
+
+void Form::Unload() {
+  if (!mLoaded) return;
+  Hide();
+  Form_Unload();
+  mLoaded = false;
+  mActive = nullptr;
+  DropWindow();
+}
+
+void Form::DropWindow() {
+  if (!mWindow) return;
+  mVisible = false;
+  for (Control* control : All()) control->Peer(nullptr);
+  mDesktop.Retire(*this, std::move(mWindow));
+  mWindow = nullptr;
+}
+
+void Form::Refresh() {
+  if (mWindow) mWindow->Repaint();
+}
+
+void Form::UserAct(const std::function<void()>& act) {
+  const std::shared_ptr<Form> keep = weak_from_this().lock();
+  Desktop& desktop = mDesktop;
+  desktop.EnterAct();
+  try {
+    act();
+  } catch (...) {
+    desktop.HandlerFailed(*this, std::current_exception());
+  }
+  desktop.LeaveAct();
+}
+
+void Form::UserClose() {
+  UserAct([this] { Unload(); });
+}
+
+void Form::UserResize(Size client) {
+  UserAct([&] {
+    if (client == mDesign.Client) return;
+    mDesign.Client = client;
+    if (mVisible) Form_Resize();
+  });
+}
+
+void Form::UserMove(int left, int top) {
+  mLeft = left;
+  mTop = top;
+}
+
+}  // namespace orx

@@ -1,0 +1,134 @@
+// A dialog: named controls, event handlers, and the life from Load to Unload. Knows no platform; a desktop shows it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "forms/Container.h"
+#include "forms/Desktop.h"
+#include "forms/Keys.h"
+
+namespace orx {
+
+class Button;
+enum class ButtonRole;
+
+/// How a form is drawn up. The client area is in twips.
+struct FormDesign {
+  std::string Caption = {};
+  Size Client = {};
+  BorderStyle Border = BorderStyle::Fixed;
+  std::int32_t HelpContextId = 0;
+};
+
+/// The base of all dialogs. Create forms with std::make_shared: a modeless form keeps itself alive until it is closed.
+/// All members are for the user-interface thread of the desktop.
+class Form : public Container, public std::enable_shared_from_this<Form> {
+ public:
+  Form(Desktop& desktop, std::string name, FormDesign design);
+  ~Form() override;
+
+  const std::string& Name() const { return mName; }
+  Desktop& OwnerDesktop() const { return mDesktop; }
+  const std::string& Caption() const { return mDesign.Caption; }
+  void Caption(const std::string& value);
+  std::int32_t HelpContextId() const { return mDesign.HelpContextId; }
+  void HelpContextId(std::int32_t value) { mDesign.HelpContextId = value; }
+  BorderStyle Border() const { return mDesign.Border; }
+
+  /// Place of the window with its frame, in twips from the upper left corner of the screen.
+  int Left() const { return mLeft; }
+  int Top() const { return mTop; }
+  void Move(int left, int top);
+  int Width() const;
+  int Height() const;
+  /// The client area, in twips. Setting it raises Form_Resize while the form is shown.
+  Size ClientSize() const { return mDesign.Client; }
+  void ClientSize(Size value);
+  /// The part of the client area that the screen has room for; the rest is reached by scrolling.
+  Size ShownClientSize() const;
+  /// Puts the window into the middle of the screen.
+  void Center();
+
+  /// Runs Form_Load, once until the next Unload. What it throws travels; the form counts as loaded all the same.
+  void Load();
+  bool IsLoaded() const { return mLoaded; }
+  /// Loads and shows the form. Modal: returns when it was hidden or unloaded, and throws what a handler let go; a form
+  /// that is shown already throws std::logic_error. Modeless: returns at once.
+  void Show(ShowMode mode = ShowMode::Modal, OwnerWindow owner = {});
+  /// Takes the form from the screen and keeps it as it is.
+  void Hide();
+  /// Takes the form from the screen, runs Form_Unload and gives up what it holds. Does nothing when not loaded.
+  void Unload();
+  /// Repaints the form.
+  void Refresh();
+  bool Visible() const { return mVisible; }
+
+  /// The control with the focus, null when none has it.
+  Control* ActiveControl() const { return mActive; }
+  /// The controls where Tab stops, in order.
+  std::vector<Control*> TabOrder() const;
+  /// The first button with that role, null when there is none.
+  Button* ButtonFor(ButtonRole role) const;
+
+  /// Moves the focus and runs LostFocus and GotFocus. True when it rests there, false when the field that loses it has
+  /// taken it back or the control is not reachable.
+  bool MoveFocus(Control& to);
+
+  /// For desktops and test users: runs what a user's act sets off. Errors that handlers let go end the modal loop and
+  /// travel to the caller of Show; nothing is thrown here.
+  void UserAct(const std::function<void()>& act);
+  /// The native focus has come to a control by mouse or by the platform.
+  void UserFocus(Control& control);
+  /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and is dealt with.
+  bool UserKey(const KeyStroke& stroke);
+  /// The close box was pressed: the form unloads, and no button handler runs.
+  void UserClose();
+  /// The user has sized or moved the window.
+  void UserResize(Size client);
+  void UserMove(int left, int top);
+
+  /// The native window, null while there is none.
+  FormWindow* Window() const { return mWindow.get(); }
+
+  Form& ContainingForm() override { return *this; }
+  Control* ContainerControl() override { return nullptr; }
+
+ protected:
+  /// Runs when the form is loaded, sized (and first shown), and unloaded.
+  virtual void Form_Load() {}
+  virtual void Form_Resize() {}
+  virtual void Form_Unload() {}
+
+ private:
+  friend class Control;
+  friend class Desktop;
+
+  /// Closes the window; the peers go with it.
+  void DropWindow();
+  void KeepOnScreen();
+  /// Runs the focus events until the focus rests.
+  void SettleFocus(Control* to);
+  void FocusFirst();
+  /// Moves the focus on when its control cannot be reached any more.
+  void LeaveUnreachable();
+  void TabAway(bool backwards);
+  bool PressByKey(Button* button);
+  bool PressMnemonic(char32_t letter);
+
+  Desktop& mDesktop;
+  std::string mName;
+  FormDesign mDesign;
+  int mLeft = 0;
+  int mTop = 0;
+  bool mLoaded = false;
+  bool mVisible = false;
+  std::unique_ptr<FormWindow> mWindow;
+  Control* mActive = nullptr;
+  Control* mFocusTarget = nullptr;
+  bool mSettlingFocus = false;
+};
+
+}  // namespace orx

@@ -1,0 +1,16 @@
+// The keys that mean something to a dialog as a whole, whatever control has the focus.
+#pragma once
+
+namespace orx {
+
+enum class Key { Tab, Enter, Escape, Character };
+
+/// One key press. `Character` holds the letter when the key is Key::Character.
+struct KeyStroke {
+  orx::Key Key = Key::Character;
+  char32_t Character = 0;
+  bool Shift = false;
+  bool Alt = false;
+};
+
+}  // namespace orx

@@ -1,0 +1,20 @@
+// A plain surface that holds controls: the body of a property page, a page of a tab control.
+#pragma once
+
+#include "forms/Container.h"
+#include "forms/Control.h"
+
+namespace orx {
+
+class Panel : public Control, public Container {
+ public:
+  Panel(Container& parent, std::string name, Design design) : Control(parent, std::move(name), std::move(design)) {}
+
+  bool TakesFocus() const override { return false; }
+  Container* AsContainer() override { return this; }
+  Form& ContainingForm() override { return OwnerForm(); }
+  Control* ContainerControl() override { return this; }
+  void Accept(ControlVisitor& visitor) override;
+};
+
+}  // namespace orx

@@ -1,0 +1,42 @@
+#include "forms/PictureBox.h"
+
+#include <algorithm>
+
+#include "forms/ControlVisitor.h"
+#include "forms/Desktop.h"
+#include "forms/Form.h"
+
+namespace orx {
+
+void Canvas::ToggleFocus(const Rect& place) {
+  const Mark mark = FocusMark{place};
+  const auto found = std::find(mMarks.begin(), mMarks.end(), mark);
+  if (found == mMarks.end()) {
+    mMarks.push_back(mark);
+  } else {
+    mMarks.erase(found);
+  }
+}
+
+void PictureBox::BackColor(Color value) {
+  if (mBackColor == value) return;
+  mBackColor = value;
+  Changed(Aspect::Colors);
+}
+
+void PictureBox::AutoRedraw(bool value) {
+  if (mAutoRedraw == value) return;
+  mAutoRedraw = value;
+  Changed(Aspect::Drawing);
+}
+
+Size PictureBox::PixelSize() const {
+  const Desktop& desktop = OwnerForm().OwnerDesktop();
+  return {desktop.ToPixels(Place().Width), desktop.ToPixels(Place().Height)};
+}
+
+void PictureBox::Refresh() { Changed(Aspect::Drawing); }
+
+void PictureBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+
+}  // namespace orx

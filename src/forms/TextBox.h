@@ -1,0 +1,50 @@
+// A text field of one line, or of several lines for longer texts.
+#pragma once
+
+#include "forms/Control.h"
+
+namespace orx {
+
+enum class TextLines { Single, Multiple };
+
+class TextBox final : public Control {
+ public:
+  TextBox(Container& parent, std::string name, Design design, TextLines lines = TextLines::Single, bool locked = false)
+      : Control(parent, std::move(name), std::move(design)), mLines(lines), mLocked(locked) {}
+
+  /// The text, UTF-8.
+  const std::string& Text() const { return mText; }
+  /// Sets the text and raises Change when it differs; the caret goes to the start.
+  void Text(const std::string& value);
+
+  TextLines Lines() const { return mLines; }
+  /// True when the user may read and copy the text but not change it.
+  bool Locked() const { return mLocked; }
+
+  /// Start and length of the selection in characters (code points). Values outside the text are cut to it.
+  int SelStart() const { return mSelStart; }
+  void SelStart(int value);
+  int SelLength() const { return mSelLength; }
+  void SelLength(int value);
+
+  /// Raised when the text changes, by the user or by the program.
+  Event<> Change;
+
+  /// For desktops and test users: the user has edited the text; the selection is given in characters.
+  void UserText(const std::string& text, int selStart, int selLength);
+  /// For desktops: the user has moved the caret or the selection.
+  void UserSelect(int selStart, int selLength);
+  void Accept(ControlVisitor& visitor) override;
+
+ private:
+  TextLines mLines;
+  bool mLocked;
+  std::string mText;
+  int mSelStart = 0;
+  int mSelLength = 0;
+};
+
+/// The number of characters (code points) in a UTF-8 text.
+int CharacterCount(std::string_view text);
+
+}  // namespace orx

@@ -1,0 +1,135 @@
+// Interfaces of the host's map: the map, an extent, a layer with its labels, and legends.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/Appearance.h"
+#include "hostobjects/HostObject.h"
+
+namespace orx {
+
+/// A rectangle on the ground, in the map's own unit (degrees or metres), y upwards.
+class IExtent {
+ public:
+  static constexpr Kind kKind = Kind::Extent;
+  virtual ~IExtent() = default;
+  virtual double Left() const = 0;
+  virtual void Left(double value) = 0;
+  virtual double Right() const = 0;
+  virtual void Right(double value) = 0;
+  virtual double Bottom() const = 0;
+  virtual void Bottom(double value) = 0;
+  virtual double Top() const = 0;
+  virtual void Top(double value) = 0;
+};
+
+/// A map: layers in drawing order, numbered from 1, the first drawn first. An index outside the layers throws.
+class IMap {
+ public:
+  static constexpr Kind kKind = Kind::Map;
+  virtual ~IMap() = default;
+  virtual std::int32_t LayerCount() = 0;
+  virtual std::string LayerName(std::int32_t index) = 0;
+  /// The layer object; the map owns it.
+  virtual HostObject* Layer(std::int32_t index) = 0;
+  /// Reads a layer from a file and puts it on top. `options` is reserved and empty. Throws RunTimeError with file and
+  /// reason when the file cannot be read.
+  virtual HostObject* AddLayer(const std::string& path, const std::string& options) = 0;
+  /// True when done.
+  virtual bool RemoveLayer(std::int32_t index) = 0;
+  virtual bool MoveLayerUp(std::int32_t index) = 0;
+  virtual bool MoveLayerDown(std::int32_t index) = 0;
+  /// The extent of the map as it is now; the map owns it.
+  virtual IExtent* Extent() = 0;
+};
+
+/// The layers of a map under a name of their own.
+class ILayers {
+ public:
+  static constexpr Kind kKind = Kind::Layers;
+  virtual ~ILayers() = default;
+  virtual std::string Name() = 0;
+  /// The map that the collection belongs to.
+  virtual HostObject* Map() = 0;
+};
+
+/// General properties of a layer.
+class ILayer {
+ public:
+  static constexpr Kind kKind = Kind::Layer;
+  virtual ~ILayer() = default;
+  virtual std::string Name() const = 0;
+  virtual void Name(const std::string& value) = 0;
+  virtual bool Visible() const = 0;
+  virtual void Visible(bool value) = 0;
+  /// The file that the layer was read from, for display; empty when there is none.
+  virtual std::string Source() const = 0;
+  /// The symbol that marks the layer's points: a character of a font, turned counter-clockwise by degrees.
+  virtual std::string SymbolFont() const = 0;
+  virtual void SymbolFont(const std::string& value) = 0;
+  /// Unicode code point.
+  virtual std::int32_t SymbolCharacter() const = 0;
+  virtual void SymbolCharacter(std::int32_t value) = 0;
+  virtual double SymbolRotation() const = 0;
+  virtual void SymbolRotation(double value) = 0;
+  /// Points.
+  virtual double SymbolSize() const = 0;
+  virtual void SymbolSize(double value) = 0;
+};
+
+/// Where a label stands beside the symbol that it belongs to.
+enum class LabelPosition { Center = 0, Above = 1, Below = 2, Left = 3, Right = 4 };
+/// What a label says.
+enum class LabelContent { Name = 0, Value = 1, NameAndValue = 2 };
+
+/// The labels of a layer.
+class ILabels {
+ public:
+  static constexpr Kind kKind = Kind::Labels;
+  virtual ~ILabels() = default;
+  virtual bool ShowLabels() const = 0;
+  virtual void ShowLabels(bool value) = 0;
+  virtual LabelContent Content() const = 0;
+  virtual void Content(LabelContent value) = 0;
+  virtual LabelPosition Position() const = 0;
+  virtual void Position(LabelPosition value) = 0;
+  virtual Font LabelFont() const = 0;
+  virtual void LabelFont(const Font& value) = 0;
+  virtual Color LabelColor() const = 0;
+  virtual void LabelColor(Color value) = 0;
+  /// Degrees counter-clockwise.
+  virtual double LabelRotation() const = 0;
+  virtual void LabelRotation(double value) = 0;
+};
+
+/// The corner of the map where a legend stands.
+enum class LegendCorner { TopLeft = 0, TopRight = 1, BottomLeft = 2, BottomRight = 3 };
+
+/// One legend of a map.
+class ILegend {
+ public:
+  virtual ~ILegend() = default;
+  virtual std::string Title() const = 0;
+  virtual void Title(const std::string& value) = 0;
+  virtual bool Visible() const = 0;
+  virtual void Visible(bool value) = 0;
+  virtual LegendCorner Corner() const = 0;
+  virtual void Corner(LegendCorner value) = 0;
+  virtual bool Framed() const = 0;
+  virtual void Framed(bool value) = 0;
+  /// Font size of title and entries in points.
+  virtual double TextSize() const = 0;
+  virtual void TextSize(double value) = 0;
+};
+
+/// The legends of a map, numbered from 0. An index outside the legends throws.
+class ILegends {
+ public:
+  static constexpr Kind kKind = Kind::Legends;
+  virtual ~ILegends() = default;
+  virtual std::int32_t LegendCount() = 0;
+  virtual ILegend& Legend(std::int32_t index) = 0;
+};
+
+}  // namespace orx

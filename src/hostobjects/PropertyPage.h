@@ -1,0 +1,88 @@
+// Property pages: each edits one aspect of a host object inside a dialog of the library.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "forms/Event.h"
+#include "forms/Geometry.h"
+#include "hostobjects/HostObject.h"
+
+namespace orx {
+
+class Container;
+class ILanguage;
+
+/// The choice of a symbol: the page fills in the present one, the dialog the one chosen.
+struct CharacterRequest {
+  std::string FontName;
+  std::int32_t Character = 0;
+  double Rotation = 0;
+  bool Changed = false;
+};
+
+/// A page edits its client in fields of its own and writes to it only in SaveChanges and ApplyChanges. What a page
+/// throws ends the handler that called it and reaches the service.
+class PropertyPage {
+ public:
+  virtual ~PropertyPage() = default;
+
+  /// The host object being edited, null for none; used, not owned. It is read in RefreshContents.
+  virtual HostObject* Client() const = 0;
+  virtual void Client(HostObject* value) = 0;
+  /// The language, null for none; used, not owned.
+  virtual ILanguage* Language() const = 0;
+  virtual void Language(ILanguage* value) = 0;
+  /// Whether the client was changed since it was handed over, or since the flag was set to false.
+  virtual bool IsDirty() const = 0;
+  virtual void IsDirty(bool value) = 0;
+  /// Which entry the page shows first; of meaning to the legends page only.
+  virtual std::int32_t StartUpIndex() const { return mStartUpIndex; }
+  virtual void StartUpIndex(std::int32_t value) { mStartUpIndex = value; }
+  /// Loads the client's values into the fields.
+  virtual void RefreshContents() = 0;
+  /// Writes the fields to the client, for OK.
+  virtual void SaveChanges() = 0;
+  /// Drops the edits that were not written, for Cancel.
+  virtual void DiscardChanges() = 0;
+  /// Writes the fields to the client, for Apply.
+  virtual void ApplyChanges() = 0;
+  /// Whether the page's tab is the selected one, as a dialog with several pages tells it.
+  virtual bool Selected() const { return mSelected; }
+  virtual void Selected(bool value) { mSelected = value; }
+
+  /// Requests of the page to its dialog. A request that no dialog answers has no handler; the page then offers no
+  /// button for it.
+  Event<CharacterRequest&> CharacterRequested;
+  Event<const std::string&> NameChanged;
+
+ private:
+  std::int32_t mStartUpIndex = 0;
+  bool mSelected = false;
+};
+
+enum class PageKind { Properties, LabelProperties, Coordinates, Legends };
+
+/// The name of a kind of page: "Properties", "LabelProperties", ...
+const char* PageKindName(PageKind kind);
+
+/// Where a page is to stand: its controls go below a panel of that name and place (twips) in the parent.
+struct PageSite {
+  Container& Parent;
+  std::string Name;
+  Rect Place;
+};
+
+/// Makes the pages for dialogs: one page for each form instance.
+class IPageFactory {
+ public:
+  virtual ~IPageFactory() = default;
+  /// Makes a page with its controls; null when the factory has no page of that kind.
+  virtual std::unique_ptr<PropertyPage> CreatePage(PageKind kind, const PageSite& site) = 0;
+};
+
+/// Makes a page, and throws RunTimeError with the kind's name when the factory has none.
+std::unique_ptr<PropertyPage> RequirePage(IPageFactory& factory, PageKind kind, const PageSite& site);
+
+}  // namespace orx

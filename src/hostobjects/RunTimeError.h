@@ -1,0 +1,28 @@
+// The library's run-time error, as host objects raise it and as it reaches the host.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace orx {
+
+/// A numbered error. `what()` is the description, UTF-8, fit to be shown to a user.
+class RunTimeError : public std::runtime_error {
+ public:
+  RunTimeError(std::int32_t number, const std::string& description)
+      : std::runtime_error(description), mNumber(number) {}
+
+  std::int32_t Number() const { return mNumber; }
+
+ private:
+  std::int32_t mNumber;
+};
+
+/// The numbers of the errors that the library itself raises.
+inline constexpr std::int32_t kErrorOverflow = 6;
+inline constexpr std::int32_t kErrorFileFormat = 321;
+inline constexpr std::int32_t kErrorNoSuchFile = 53;
+inline constexpr std::int32_t kErrorNoSuchPage = 430;
+
+}  // namespace orx

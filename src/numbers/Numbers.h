@@ -1,0 +1,34 @@
+// The one place that tests text for a number, converts it, and writes numbers as text, in the user's locale.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orx::numbers {
+
+/// The separators of a locale, UTF-8. An empty `Group` or `Currency` means that there is none.
+struct Separators {
+  std::string Decimal = ".";
+  std::string Group = ",";
+  std::string Currency = "$";
+};
+
+/// The value of `text` when it is a number: blanks around it, a sign in front or behind, parentheses for a negative
+/// amount, groups of three digits, an exponent with E or D, "&H" and "&O" for hexadecimal and octal, a currency sign.
+/// Anything else, a number beyond the range of a double included, gives no value. A group separator that does not stand
+/// between groups of three digits makes the text no number.
+std::optional<double> ToDouble(std::string_view text, const Separators& separators = {});
+
+/// True when ToDouble finds a number.
+bool IsNumeric(std::string_view text, const Separators& separators = {});
+
+/// The nearest whole number, halves to the even neighbour. Throws std::overflow_error beyond 32 bits and for NaN.
+std::int32_t RoundToLong(double value);
+
+/// The shortest decimal text that reads back as the same double, with the locale's decimal separator: "0.5", "1E+20",
+/// "1.5E-07".
+std::string ShortestText(double value, const Separators& separators = {});
+
+}  // namespace orx::numbers

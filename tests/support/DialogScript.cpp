@@ -1,0 +1,71 @@
+#include "tests/support/DialogScript.h"
+
+#include <gtest/gtest.h>
+
+namespace orx::test {
+namespace {
+
+std::string Describe(const Modal& modal) {
+  if (modal.ShownForm) return "form " + modal.ShownForm->Name();
+  return "message \"" + modal.ShownMessage->Title + "\": " + modal.ShownMessage->Text;
+}
+
+}  // namespace
+
+void DialogScript::ExpectForm(const std::string& name, FormAction action) {
+  mExpected.push_back({name, std::move(action), {}});
+}
+
+void DialogScript::ExpectMessage(const Message& message) { mExpected.push_back({{}, nullptr, message}); }
+
+void DialogScript::Verify() {
+  for (const Expected& left : mExpected)
+    ADD_FAILURE() << "Not shown: " << (left.FormName.empty() ? "message " + left.Box.Text : "form " + left.FormName);
+  mExpected.clear();
+}
+
+void DialogScript::Fail(const Modal& modal, const std::string& reason) {
+  ADD_FAILURE() << reason << ": " << Describe(modal);
+}
+
+void DialogScript::CloseAnyway(const Modal& modal) {
+  if (modal.ShownForm) {
+    modal.ShownForm->Unload();
+  } else {
+    mUser.AnswerMessage();
+  }
+}
+
+void DialogScript::ModalOpening(const Modal& modal) {
+  if (mExpected.empty()) return Fail(modal, "Unexpected");
+  const Expected& next = mExpected.front();
+  if (modal.ShownForm) {
+    EXPECT_EQ(next.FormName, modal.ShownForm->Name());
+  } else {
+    EXPECT_EQ(next.Box.Text, modal.ShownMessage->Text);
+    EXPECT_EQ(next.Box.Title, modal.ShownMessage->Title);
+    EXPECT_EQ(next.Box.Icon, modal.ShownMessage->Icon);
+  }
+}
+
+void DialogScript::ModalRunning(const Modal& modal) {
+  if (mExpected.empty()) return CloseAnyway(modal);
+  const Expected next = std::move(mExpected.front());
+  mExpected.pop_front();
+  if (!modal.ShownForm || !next.Action) return CloseAnyway(modal);
+  // The form may go while the user acts.
+  const std::weak_ptr<Form> form = modal.ShownForm->weak_from_this();
+  next.Action(*modal.ShownForm);
+  const std::shared_ptr<Form> left = form.lock();
+  if (left && left->Visible()) {
+    Fail(modal, "Left open");
+    CloseAnyway(modal);
+  }
+}
+
+bool DialogScript::HelpRequested(const HelpRequest& request) {
+  Helps.push_back(request);
+  return true;
+}
+
+}  // namespace orx::test

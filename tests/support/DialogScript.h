@@ -1,0 +1,52 @@
+// The dialogs that a test expects, in order, and what the user does in each. A missing or an unexpected one fails the
+// test; whatever happens is closed again, so that no test can hang.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/DesktopHook.h"
+#include "tests/support/User.h"
+
+namespace orx::test {
+
+class DialogScript final : public DesktopHook {
+ public:
+  explicit DialogScript(User& user) : mUser(user) {}
+
+  using FormAction = std::function<void(Form&)>;
+  /// Expects the modal form of that name; `action` is what the user does in it and must close it.
+  void ExpectForm(const std::string& name, FormAction action);
+  /// Expects the message box and presses its OK button.
+  void ExpectMessage(const Message& message);
+  /// Fails the test when an expected dialog was not shown.
+  void Verify();
+
+  /// What was asked of the desktop, oldest first.
+  std::vector<Pointer> Pointers;
+  std::vector<HelpRequest> Helps;
+  int Beeps = 0;
+
+  void ModalOpening(const Modal& modal) override;
+  void ModalRunning(const Modal& modal) override;
+  void PointerChanged(Pointer pointer) override { Pointers.push_back(pointer); }
+  void Beeped() override { ++Beeps; }
+  bool HelpRequested(const HelpRequest& request) override;
+
+ private:
+  struct Expected {
+    std::string FormName;
+    FormAction Action;
+    Message Box;
+  };
+
+  void Fail(const Modal& modal, const std::string& reason);
+  void CloseAnyway(const Modal& modal);
+
+  User& mUser;
+  std::deque<Expected> mExpected;
+};
+
+}  // namespace orx::test

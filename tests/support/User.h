@@ -1,0 +1,71 @@
+// What a person does with a dialog and sees of it, the same on every desktop. Headless acts on the controls, the other
+// desktops send real input events to the native controls and read those back.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/ComboBox.h"
+#include "forms/Desktop.h"
+#include "forms/Form.h"
+#include "forms/TabControl.h"
+#include "forms/TextBox.h"
+
+namespace orx::test {
+
+/// What the screen shows of a control.
+struct Seen {
+  bool Visible = false;
+  bool Enabled = false;
+  bool Focused = false;
+  /// Caption or text; of a tab control the caption of the selected tab.
+  std::string Text;
+  /// Check state, index of the selected entry or tab; otherwise 0.
+  int Value = 0;
+  bool operator==(const Seen&) const = default;
+};
+
+class User {
+ public:
+  virtual ~User() = default;
+  virtual void Click(Button& button) = 0;
+  virtual void Toggle(CheckBox& box) = 0;
+  /// Clicks into a control that takes the focus.
+  virtual void ClickInto(Control& control) = 0;
+  /// Clicks into the field, selects all and types the text.
+  virtual void Type(TextBox& field, const std::string& text) = 0;
+  virtual void Type(ComboBox& box, const std::string& text) = 0;
+  virtual void Choose(ComboBox& box, int index) = 0;
+  virtual void SelectTab(TabControl& tabs, int tab) = 0;
+  /// Presses a dialog key where the focus is in that form.
+  virtual void Press(Form& form, const KeyStroke& stroke) = 0;
+  virtual void CloseBox(Form& form) = 0;
+  /// Presses OK in the message box that is open.
+  virtual void AnswerMessage() = 0;
+  virtual Seen See(Control& control) = 0;
+  /// The title that the form's window shows.
+  virtual std::string SeeCaption(Form& form) = 0;
+};
+
+/// A desktop under test with its user.
+class TestDesktop {
+ public:
+  virtual ~TestDesktop() = default;
+  virtual Desktop& Get() = 0;
+  virtual User& Person() = 0;
+  /// Gives the number separators of the user's locale for this test.
+  virtual void Separators(const numbers::Separators& value) = 0;
+};
+
+/// Made by the desktop that the test program is linked with.
+std::unique_ptr<TestDesktop> MakeTestDesktop();
+
+inline constexpr KeyStroke kTab{Key::Tab, 0, false, false};
+inline constexpr KeyStroke kShiftTab{Key::Tab, 0, true, false};
+inline constexpr KeyStroke kEnter{Key::Enter, 0, false, false};
+inline constexpr KeyStroke kEscape{Key::Escape, 0, false, false};
+inline KeyStroke AltKey(char32_t letter) { return {Key::Character, letter, false, true}; }
+
+}  // namespace orx::test
