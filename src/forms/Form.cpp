@@ -94,6 +94,7 @@ void Form::DropWindow() {
   if (!mWindow) return;
   mVisible = false;
   for (Control* control : All()) control->Peer(nullptr);
+  mWindow->Abandon();
   mDesktop.Retire(*this, std::move(mWindow));
   mWindow = nullptr;
 }

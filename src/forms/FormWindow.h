@@ -33,6 +33,9 @@ class FormWindow {
   virtual void UpdatePlace() = 0;
   virtual void Repaint() = 0;
   virtual std::uintptr_t NativeHandle() const = 0;
+  /// The form lets the window go: neither the form nor its controls may be touched from now on, whatever native events
+  /// still come. A modal loop that runs in the window lives to its end; the destructor follows later.
+  virtual void Abandon() = 0;
 };
 
 }  // namespace orx

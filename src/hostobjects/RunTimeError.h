@@ -23,6 +23,7 @@ class RunTimeError : public std::runtime_error {
 inline constexpr std::int32_t kErrorOverflow = 6;
 inline constexpr std::int32_t kErrorFileFormat = 321;
 inline constexpr std::int32_t kErrorNoSuchFile = 53;
+inline constexpr std::int32_t kErrorNotLoaded = 91;
 inline constexpr std::int32_t kErrorNoSuchPage = 430;
 
 }  // namespace orx

@@ -1,0 +1,55 @@
+#include "desktops/headless/HeadlessDesktop.h"
+
+#include <stdexcept>
+
+#include "forms/Form.h"
+
+namespace orx::headless {
+namespace {
+
+/// What a window's frame adds: a border of 3 pixels and a title bar of 24.
+constexpr Size kFrame{6 * kTwipsPerPixel, 30 * kTwipsPerPixel};
+
+class HeadlessWindow final : public FormWindow {
+ public:
+  HeadlessWindow(Desktop& desktop, Form& form) : mDesktop(desktop), mForm(form) {}
+
+  void Show(ShowMode, OwnerWindow) override {}
+  void Hide() override {}
+  void RunModal() override {
+    mDesktop.ModalIsRunning({&mForm, nullptr});
+    if (!mEnded)
+      throw std::runtime_error("The dialog \"" + mForm.Caption() +
+                               "\" was shown where nobody answers it. Give the desktop a hook that does.");
+  }
+  void EndModal() override { mEnded = true; }
+  void UpdateCaption() override {}
+  void UpdatePlace() override {}
+  void Repaint() override {}
+  std::uintptr_t NativeHandle() const override { return 0; }
+  void Abandon() override {}
+
+ private:
+  Desktop& mDesktop;
+  Form& mForm;
+  bool mEnded = false;
+};
+
+}  // namespace
+
+HeadlessDesktop::~HeadlessDesktop() { CloseOpenForms(); }
+
+ScreenMetrics HeadlessDesktop::Metrics(BorderStyle) const {
+  return {mScreen, {0, 0, mScreen.Width, mScreen.Height}, kFrame};
+}
+
+std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
+  return std::make_unique<HeadlessWindow>(*this, form);
+}
+
+void HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
+  // A message has one answer only, so it counts as read when the hook returns.
+  ModalIsRunning({nullptr, &message});
+}
+
+}  // namespace orx::headless

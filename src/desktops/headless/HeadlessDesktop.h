@@ -1,0 +1,34 @@
+// A desktop without a screen, for tests and servers. Forms live in memory; whoever answers does so in the hook.
+#pragma once
+
+#include "forms/Desktop.h"
+
+namespace orx::headless {
+
+class HeadlessDesktop final : public Desktop {
+ public:
+  HeadlessDesktop() = default;
+  ~HeadlessDesktop() override;
+
+  ScreenMetrics Metrics(BorderStyle border) const override;
+  double Scale() const override { return 1; }
+  numbers::Separators Separators() const override { return mSeparators; }
+  void ProcessPendingEvents() override {}
+
+  /// The size of the screen in twips; 1920 x 1080 pixels unless set.
+  void ScreenSize(Size value) { mScreen = value; }
+  void Separators(const numbers::Separators& value) { mSeparators = value; }
+
+ protected:
+  std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
+  void DoShowMessage(const Message& message, FormWindow* owner) override;
+  void DoBeep() override {}
+  void DoSetPointer(orx::Pointer) override {}
+  void DoShowHelp(const HelpRequest&) override {}
+
+ private:
+  numbers::Separators mSeparators;
+  Size mScreen{1920 * kTwipsPerPixel, 1080 * kTwipsPerPixel};
+};
+
+}  // namespace orx::headless

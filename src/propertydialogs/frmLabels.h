@@ -1,0 +1,16 @@
+// Dialog for the labels of a layer.
+#pragma once
+
+#include "propertydialogs/PageHostForm.h"
+
+namespace orx {
+
+class frmLabels final : public PageHostForm {
+ public:
+  frmLabels(Desktop& desktop, IPageFactory& pages);
+
+ protected:
+  void Form_Resize() override { CloseUpButtons(); }
+};
+
+}  // namespace orx

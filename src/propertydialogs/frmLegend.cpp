@@ -1,0 +1,26 @@
+#include "propertydialogs/frmLegend.h"
+
+namespace orx {
+namespace {
+
+constexpr PageHostDesign kDesign{
+    .FormName = "frmLegend",
+    .Caption = "Map Annotation Properties",
+    .TabCaption = "Legends",
+    .HelpKey = "_HelpMapLegend",
+    .Page = PageKind::Legends,
+    .PageName = "Legends1",
+    .Client = {6165, 4695},
+    .Tab = {120, 120, 5955, 3975},
+    .ButtonTop = 4200,
+    .HelpLeft = 120,
+    .OKLeft = 2040,
+    .CancelLeft = 3420,
+    .ApplyLeft = 4800,
+};
+
+}  // namespace
+
+frmLegend::frmLegend(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {}
+
+}  // namespace orx

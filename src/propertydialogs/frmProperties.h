@@ -1,0 +1,16 @@
+// Dialog for the general properties of a layer.
+#pragma once
+
+#include "propertydialogs/PageHostForm.h"
+
+namespace orx {
+
+class frmProperties final : public PageHostForm {
+ public:
+  frmProperties(Desktop& desktop, IPageFactory& pages);
+
+ protected:
+  void Form_Resize() override { CloseUpButtons(); }
+};
+
+}  // namespace orx

@@ -1,0 +1,74 @@
+#include "service/CCommonMapDialogs.h"
+
+#include "hostobjects/ErrorTrap.h"
+#include "propertydialogs/frmCoordinates.h"
+#include "propertydialogs/frmLabels.h"
+#include "propertydialogs/frmLegend.h"
+#include "propertydialogs/frmProperties.h"
+#include "service/modMain.h"
+
+namespace orx {
+namespace {
+
+bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
+
+}  // namespace
+
+struct CCommonMapDialogs::Request {
+  HostObject* Client;
+  std::int32_t Index;
+  const std::string& Caption;
+  ShowMode Mode;
+  OwnerWindow Owner;
+};
+
+void CCommonMapDialogs::Language(ILanguage* value) {
+  mLanguage = value;
+  if (IsActive(mLanguage)) modMain::HelpFile(mLanguage->TranslateText("_HelpFileMapDialogs"));
+}
+
+template <class HostForm>
+std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
+  constexpr bool isLegend = std::is_same_v<HostForm, frmLegend>;
+  ErrorTrap trap;
+  std::shared_ptr<HostForm> form;
+  trap.Step([&] { form = std::make_shared<HostForm>(mDesktop, mPages); });
+  if (!form) return 0;
+  trap.Step([&] { form->Language(mLanguage); });
+  const auto giveCallBack = [&] { form->RegisterCallBack(mCallBack); };
+  if constexpr (isLegend) trap.Step(giveCallBack);
+  trap.Step([&] { form->RegisterClient(request.Client, mRegistryKey); });
+  if constexpr (!isLegend) trap.Step(giveCallBack);
+  if constexpr (isLegend) trap.Step([&] { form->StartUpIndex(request.Index); });
+  trap.Step([&] { form->RefreshContents(); });
+  if (!IsBlank(request.Caption)) trap.Step([&] { form->Caption(request.Caption); });
+  trap.Step([&] { form->Show(request.Mode, request.Owner); });
+  std::int32_t result = 0;
+  trap.Step([&] {
+    if (!form->Canceled() && form->IsDirty()) result = -1;
+  });
+  if (request.Mode == ShowMode::Modal) trap.Step([&] { form->Unload(); });
+  return result;
+}
+
+std::int32_t CCommonMapDialogs::ShowLegends(HostObject* mObj, std::int32_t Index, const std::string& mCaption,
+                                            ShowMode mModal, OwnerWindow OwnerForm) {
+  return ShowPage<frmLegend>({mObj, Index, mCaption, mModal, OwnerForm});
+}
+
+std::int32_t CCommonMapDialogs::ShowProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
+                                               OwnerWindow OwnerForm) {
+  return ShowPage<frmProperties>({mObj, 0, mCaption, mModal, OwnerForm});
+}
+
+std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
+                                           OwnerWindow OwnerForm) {
+  return ShowPage<frmLabels>({mObj, 0, mCaption, mModal, OwnerForm});
+}
+
+std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
+                                                OwnerWindow OwnerForm) {
+  return ShowPage<frmCoordinates>({mObj, 0, mCaption, mModal, OwnerForm});
+}
+
+}  // namespace orx

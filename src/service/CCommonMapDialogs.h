@@ -1,0 +1,73 @@
+// The public entry point of the library: a host makes one object, gives it its settings, and asks for one dialog at a
+// time.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "forms/Desktop.h"
+#include "hostobjects/HostObject.h"
+#include "hostobjects/IDialogCallBack.h"
+#include "hostobjects/ILanguage.h"
+#include "hostobjects/PropertyPage.h"
+
+namespace orx {
+
+/// Shows the dialogs. All calls come on the user-interface thread of the desktop. The objects given to it are used, not
+/// owned: the host keeps the desktop, the page factory, the language and the call-back alive for as long as it uses the
+/// service or a modeless dialog is open.
+///
+/// The members that show property dialogs share their parameters and their result:
+/// - `mObj`: the object to edit; null and objects that the page cannot edit show an empty page.
+/// - `mCaption`: the title of the dialog; a blank one leaves the dialog's own.
+/// - `mModal`: modal, the call returns when the dialog has closed; modeless, it returns at once and the dialog lives
+///   until it is closed.
+/// - `OwnerForm`: the window that the dialog belongs to; by default none.
+/// - result: -1 when the object was changed, 0 when it was not or the user cancelled or closed the window.
+/// They trap errors step by step: a step that fails is skipped, a result is always returned, and nothing is thrown.
+class CCommonMapDialogs {
+ public:
+  CCommonMapDialogs(Desktop& desktop, IPageFactory& pages) : mDesktop(desktop), mPages(pages) {}
+  CCommonMapDialogs(const CCommonMapDialogs&) = delete;
+  CCommonMapDialogs& operator=(const CCommonMapDialogs&) = delete;
+
+  /// The key under which dialogs keep their placement in the host's settings; empty at first: nothing is kept.
+  const std::string& RegistryKey() const { return mRegistryKey; }
+  void RegistryKey(const std::string& value) { mRegistryKey = value; }
+
+  /// The object that hears of Apply, Cancel and OK; null for none.
+  IDialogCallBack* CallBack() const { return mCallBack; }
+  void CallBack(IDialogCallBack* value) { mCallBack = value; }
+
+  /// The language of the dialogs; null for none. A language with entries also gives the library its help file, under
+  /// the key "_HelpFileMapDialogs". Throws what the language throws.
+  ILanguage* Language() const { return mLanguage; }
+  void Language(ILanguage* value);
+
+  /// The legends of a map (an object with ILegends). `Index` is the legend shown first, counted from 0.
+  std::int32_t ShowLegends(HostObject* mObj, std::int32_t Index = 0, const std::string& mCaption = {},
+                           ShowMode mModal = ShowMode::Modal, OwnerWindow OwnerForm = {});
+  /// General properties of a layer (an object with ILayer).
+  std::int32_t ShowProperties(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
+                              OwnerWindow OwnerForm = {});
+  /// The labels of a layer (an object with ILabels).
+  std::int32_t ShowLabels(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
+                          OwnerWindow OwnerForm = {});
+  /// The coordinates of a layer (an object with IExtent) or of a map (IMap).
+  std::int32_t ShowCoordinates(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
+                               OwnerWindow OwnerForm = {});
+
+ private:
+  struct Request;
+  template <class HostForm>
+  std::int32_t ShowPage(const Request& request);
+
+  Desktop& mDesktop;
+  IPageFactory& mPages;
+  std::string mRegistryKey;
+  ILanguage* mLanguage = nullptr;
+  IDialogCallBack* mCallBack = nullptr;
+};
+
+}  // namespace orx

@@ -1,0 +1,32 @@
+#include "service/DialogForm.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "numbers/Numbers.h"
+#include "service/modMain.h"
+
+namespace orx {
+
+void DialogForm::Language(ILanguage* value) {
+  mLanguage = value;
+  AskLanguage();
+}
+
+void DialogForm::TakeHelpNumber(const std::string& helpKey) {
+  if (!mLanguageActive) return;
+  const std::optional<double> number = numbers::ToDouble(mLanguage->TranslateText(helpKey), OwnerDesktop().Separators());
+  if (number && std::abs(*number) < std::numeric_limits<std::int32_t>::max())
+    HelpContextId(numbers::RoundToLong(*number));
+}
+
+void DialogForm::Translate() {
+  if (!mLanguageActive) return;
+  mLanguage->TranslateForm(*this);
+  Caption(mLanguage->TranslateText(Caption()));
+}
+
+void DialogForm::ShowHelp() { modMain::ShowHelpFinder(*this, modMain::HelpFile(), HelpContextId()); }
+
+}  // namespace orx

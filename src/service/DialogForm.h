@@ -1,0 +1,39 @@
+// The frame that all dialogs share: the language with help number and captions, and the Help button.
+#pragma once
+
+#include <string>
+
+#include "forms/Form.h"
+#include "hostobjects/ILanguage.h"
+
+namespace orx {
+
+class DialogForm : public Form {
+ public:
+  using Form::Form;
+
+  /// The language, null for none. A plain pointer: nothing is counted, and unloading clears it.
+  ILanguage* Language() const { return mLanguage; }
+  void Language(ILanguage* value);
+
+ protected:
+  void Form_Unload() override { mLanguage = nullptr; }
+
+  /// True when the language had entries when it was last asked, by Language or by AskLanguage.
+  bool LanguageActive() const { return mLanguageActive; }
+  /// Asks the language again whether it has entries.
+  void AskLanguage() { mLanguageActive = IsActive(mLanguage); }
+  /// Takes the help context number from an active language: the number under the key, rounded to a whole one. A text
+  /// that is no number, or none that fits, leaves the designed one.
+  void TakeHelpNumber(const std::string& helpKey);
+  /// Has an active language translate the controls, and then the form's caption.
+  void Translate();
+  /// What every Help button does.
+  void ShowHelp();
+
+ private:
+  ILanguage* mLanguage = nullptr;
+  bool mLanguageActive = false;
+};
+
+}  // namespace orx

@@ -1,0 +1,81 @@
+// The user of the desktop without a screen: acts on the control objects.
+#include <gtest/gtest.h>
+
+#include "desktops/headless/HeadlessDesktop.h"
+#include "tests/support/User.h"
+
+namespace orx::test {
+namespace {
+
+class HeadlessUser final : public User {
+ public:
+  void Click(Button& button) override {
+    if (button.IsReachable()) button.UserPress();
+  }
+
+  void Toggle(CheckBox& box) override {
+    if (box.IsReachable()) box.UserToggle();
+  }
+
+  void ClickInto(Control& control) override {
+    if (control.IsReachable()) control.OwnerForm().UserFocus(control);
+  }
+
+  void Type(TextBox& field, const std::string& text) override {
+    ClickInto(field);
+    if (field.HasFocus()) field.UserText(text, CharacterCount(text), 0);
+  }
+
+  void Type(ComboBox& box, const std::string& text) override {
+    ClickInto(box);
+    if (box.HasFocus()) box.UserText(text);
+  }
+
+  void Choose(ComboBox& box, int index) override {
+    if (box.IsReachable()) box.UserPick(index);
+  }
+
+  void SelectTab(TabControl& tabs, int tab) override {
+    if (tabs.IsReachable()) tabs.UserSelect(tab);
+  }
+
+  void Press(Form& form, const KeyStroke& stroke) override { form.UserKey(stroke); }
+
+  void CloseBox(Form& form) override { form.UserClose(); }
+
+  void AnswerMessage() override {}
+
+  Seen See(Control& control) override {
+    Seen seen{control.IsShown(), control.IsReachable(), control.HasFocus(), WithoutMnemonic(control.Caption()), 0};
+    if (auto* text = dynamic_cast<TextBox*>(&control)) seen.Text = text->Text();
+    if (auto* box = dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(box->Value());
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+      seen.Text = combo->Text();
+      seen.Value = combo->ListIndex();
+    }
+    if (auto* tabs = dynamic_cast<TabControl*>(&control)) {
+      seen.Text = WithoutMnemonic(tabs->TabCaption(tabs->Tab()));
+      seen.Value = tabs->Tab();
+    }
+    return seen;
+  }
+
+  std::string SeeCaption(Form& form) override { return form.Caption(); }
+};
+
+class HeadlessTestDesktop final : public TestDesktop {
+ public:
+  Desktop& Get() override { return mDesktop; }
+  User& Person() override { return mUser; }
+  void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+
+ private:
+  headless::HeadlessDesktop mDesktop;
+  HeadlessUser mUser;
+};
+
+}  // namespace
+
+std::unique_ptr<TestDesktop> MakeTestDesktop() { return std::make_unique<HeadlessTestDesktop>(); }
+
+}  // namespace orx::test

@@ -1,0 +1,65 @@
+#include "tests/support/RecordingHost.h"
+
+#include "forms/Form.h"
+
+namespace orx::test {
+
+RecordingPage::RecordingPage(CallLog& log, const PageSite& site)
+    : mLog(log),
+      mPanel(site.Parent, site.Name, {.Place = site.Place}),
+      txtValue(mPanel, "txtValue", {.Place = {120, 120, 2400, 330}, .AccessibleName = "Value"}) {}
+
+void RecordingPage::Client(HostObject* value) {
+  mLog.Call(value ? "Page.Client(object)" : "Page.Client(none)");
+  mClient = value;
+}
+
+void RecordingPage::Language(ILanguage* value) {
+  mLog.Call(value ? "Page.Language(object)" : "Page.Language(none)");
+  mLanguage = value;
+}
+
+bool RecordingPage::IsDirty() const {
+  mLog.Call("Page.IsDirty");
+  return mDirty;
+}
+
+void RecordingPage::IsDirty(bool value) {
+  mLog.Call(value ? "Page.IsDirty(True)" : "Page.IsDirty(False)");
+  mDirty = value;
+}
+
+std::int32_t RecordingPage::StartUpIndex() const {
+  mLog.Call("Page.StartUpIndex");
+  return PropertyPage::StartUpIndex();
+}
+
+void RecordingPage::StartUpIndex(std::int32_t value) {
+  mLog.Call("Page.StartUpIndex(" + std::to_string(value) + ")");
+  PropertyPage::StartUpIndex(value);
+}
+
+void RecordingPage::Write(const std::string& call) {
+  mLog.Call(call);
+  mDirty = mDirty || mWritten != txtValue.Text();
+  mWritten = txtValue.Text();
+}
+
+std::unique_ptr<PropertyPage> RecordingPages::CreatePage(PageKind kind, const PageSite& site) {
+  mLog.Call(std::string("Pages.CreatePage(") + PageKindName(kind) + ", " + site.Name + ")");
+  return std::make_unique<RecordingPage>(mLog, site);
+}
+
+std::string RecordingLanguage::TranslateText(const std::string& key) {
+  mLog.Call("Language.TranslateText(" + key + ")");
+  if (const auto found = Texts.find(key); found != Texts.end()) return found->second;
+  return key.starts_with('_') ? std::string() : "<" + key + ">";
+}
+
+void RecordingLanguage::TranslateForm(Form& form) {
+  mLog.Call("Language.TranslateForm(" + form.Name() + ")");
+  for (Control* control : form.All())
+    if (!control->Caption().empty()) control->Caption("<" + control->Caption() + ">");
+}
+
+}  // namespace orx::test

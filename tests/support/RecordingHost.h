@@ -1,0 +1,117 @@
+// A host that writes down every call that reaches it, in one list, and fails where a test wants it to: pages with their
+// factory, the language and the call-back.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "forms/Container.h"
+#include "forms/Panel.h"
+#include "forms/TextBox.h"
+#include "hostobjects/IDialogCallBack.h"
+#include "hostobjects/ILanguage.h"
+#include "hostobjects/PropertyPage.h"
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::test {
+
+class CallLog {
+ public:
+  /// Writes the call down, and throws when the test wants it to fail.
+  void Call(const std::string& text) {
+    Calls.push_back(text);
+    const std::string name = text.substr(0, text.find('('));
+    if (Failing.contains(name)) throw RunTimeError(1001, name + " failed");
+  }
+
+  std::vector<std::string> Calls;
+  /// Names of the calls that fail, such as "Page.ApplyChanges".
+  std::set<std::string> Failing;
+};
+
+class PlainObject final : public HostObject {
+ public:
+  void* Query(Kind) override { return nullptr; }
+};
+
+/// One text field; what is typed there is dirty once it was saved or applied.
+class RecordingPage final : public PropertyPage {
+ public:
+  RecordingPage(CallLog& log, const PageSite& site);
+  ~RecordingPage() override { mLog.Calls.push_back("Page.Gone"); }
+
+  HostObject* Client() const override { return mClient; }
+  void Client(HostObject* value) override;
+  ILanguage* Language() const override { return mLanguage; }
+  void Language(ILanguage* value) override;
+  bool IsDirty() const override;
+  void IsDirty(bool value) override;
+  std::int32_t StartUpIndex() const override;
+  void StartUpIndex(std::int32_t value) override;
+  void RefreshContents() override { mLog.Call("Page.RefreshContents"); }
+  void SaveChanges() override { Write("Page.SaveChanges"); }
+  void DiscardChanges() override { mLog.Call("Page.DiscardChanges"); }
+  void ApplyChanges() override { Write("Page.ApplyChanges"); }
+
+ private:
+  void Write(const std::string& call);
+
+  CallLog& mLog;
+  HostObject* mClient = nullptr;
+  ILanguage* mLanguage = nullptr;
+  bool mDirty = false;
+  std::string mWritten;
+  Panel mPanel;
+  TextBox txtValue;
+};
+
+class RecordingPages final : public IPageFactory {
+ public:
+  explicit RecordingPages(CallLog& log) : mLog(log) {}
+  std::unique_ptr<PropertyPage> CreatePage(PageKind kind, const PageSite& site) override;
+
+ private:
+  CallLog& mLog;
+};
+
+class RecordingCallBack final : public IDialogCallBack {
+ public:
+  explicit RecordingCallBack(CallLog& log) : mLog(log) {}
+  void ApplyNotify(bool changed) override { Notify("ApplyNotify", changed); }
+  void CancelNotify(bool changed) override { Notify("CancelNotify", changed); }
+  void OKNotify(bool changed) override { Notify("OKNotify", changed); }
+  std::int32_t RegisterNotify() override {
+    mLog.Call("CallBack.RegisterNotify");
+    return 7;
+  }
+
+ private:
+  void Notify(const std::string& name, bool changed) {
+    mLog.Call("CallBack." + name + (changed ? "(True)" : "(False)"));
+  }
+
+  CallLog& mLog;
+};
+
+class RecordingLanguage final : public ILanguage {
+ public:
+  explicit RecordingLanguage(CallLog& log) : mLog(log) {}
+  std::int32_t EntryCount() override {
+    mLog.Call("Language.EntryCount");
+    return Entries;
+  }
+  /// The text given for the key, else the key between angle brackets; nothing for keys with an underscore in front.
+  std::string TranslateText(const std::string& key) override;
+  void TranslateForm(Form& form) override;
+
+  std::int32_t Entries = 10;
+  std::map<std::string, std::string> Texts;
+
+ private:
+  CallLog& mLog;
+};
+
+}  // namespace orx::test
