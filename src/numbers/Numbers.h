@@ -28,7 +28,8 @@ bool IsNumeric(std::string_view text, const Separators& separators = {});
 std::int32_t RoundToLong(double value);
 
 /// The shortest decimal text that reads back as the same double, with the locale's decimal separator: "0.5", "1E+20",
-/// "1.5E-07".
+/// "1.5E-07". Numbers from 0.0001 up to 15 digits are written without an exponent. What is not finite gives "1.#INF",
+/// "-1.#INF" or "1.#QNAN", which are no numbers for ToDouble.
 std::string ShortestText(double value, const Separators& separators = {});
 
 }  // namespace orx::numbers
