@@ -9,8 +9,8 @@ endif()
 add_library(orx_options INTERFACE)
 target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)
-  # These two report std::string of the compiler's own library when it is inlined (fixed in later releases).
-  target_compile_options(orx_options INTERFACE -Wno-array-bounds -Wno-restrict)
+  # These report std::string of the compiler's own library when it is inlined (fixed in later releases).
+  target_compile_options(orx_options INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
 endif()
 if(ORX_SANITIZE)
   target_compile_options(orx_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

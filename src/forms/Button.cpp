@@ -11,6 +11,8 @@ void Button::UserPress() {
   });
 }
 
-void Button::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void Button::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

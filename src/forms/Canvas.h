@@ -1,4 +1,5 @@
-// Drawings. A picture keeps what was drawn as a list of marks, and a desktop paints the list whenever the screen needs it.
+// Drawings. A picture keeps what was drawn as a list of marks, and a desktop paints the list whenever the screen needs
+// it.
 #pragma once
 
 #include <cstdint>

@@ -20,6 +20,8 @@ void CheckBox::UserToggle() {
   Changed(Aspect::Value);
 }
 
-void CheckBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void CheckBox::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

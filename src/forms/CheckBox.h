@@ -31,6 +31,8 @@ class CheckBox final : public Control {
 };
 
 /// The check state of a Boolean.
-inline CheckState CheckedIf(bool value) { return value ? CheckState::Checked : CheckState::Unchecked; }
+inline CheckState CheckedIf(bool value) {
+  return value ? CheckState::Checked : CheckState::Unchecked;
+}
 
 }  // namespace orx

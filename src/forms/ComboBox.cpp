@@ -81,6 +81,8 @@ void ComboBox::UserText(const std::string& text) {
   });
 }
 
-void ComboBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void ComboBox::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

@@ -6,7 +6,9 @@
 
 namespace orx {
 
-void Container::Remove(const Control& child) { std::erase(mChildren, &child); }
+void Container::Remove(const Control& child) {
+  std::erase(mChildren, &child);
+}
 
 std::vector<Control*> Container::All() const {
   std::vector<Control*> all;

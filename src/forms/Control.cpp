@@ -49,7 +49,9 @@ Control::~Control() {
   mParent.Remove(*this);
 }
 
-Form& Control::OwnerForm() const { return mParent.ContainingForm(); }
+Form& Control::OwnerForm() const {
+  return mParent.ContainingForm();
+}
 
 void Control::Changed(Aspect aspect) {
   if (mPeer) mPeer->Update(aspect);
@@ -67,9 +69,13 @@ void Control::Place(const Rect& value) {
   Changed(Aspect::Place);
 }
 
-void Control::Left(int value) { Place({value, Top(), mDesign.Place.Width, mDesign.Place.Height}); }
+void Control::Left(int value) {
+  Place({value, Top(), mDesign.Place.Width, mDesign.Place.Height});
+}
 
-void Control::Top(int value) { Place({Left(), value, mDesign.Place.Width, mDesign.Place.Height}); }
+void Control::Top(int value) {
+  Place({Left(), value, mDesign.Place.Width, mDesign.Place.Height});
+}
 
 void Control::Visible(bool value) {
   if (mDesign.Visible == value) return;
@@ -100,7 +106,9 @@ bool Control::IsReachable() const {
   return mDesign.Enabled && IsShown() && (!outer || outer->IsReachable());
 }
 
-bool Control::IsTabStop() const { return TakesFocus() && mDesign.TabStop && IsReachable(); }
+bool Control::IsTabStop() const {
+  return TakesFocus() && mDesign.TabStop && IsReachable();
+}
 
 void Control::SetFocus() {
   Form& form = OwnerForm();
@@ -111,7 +119,9 @@ void Control::SetFocus() {
   }
 }
 
-bool Control::HasFocus() const { return OwnerForm().ActiveControl() == this; }
+bool Control::HasFocus() const {
+  return OwnerForm().ActiveControl() == this;
+}
 
 std::string Control::AccessibleName() const {
   if (!mDesign.AccessibleName.empty()) return mDesign.AccessibleName;

@@ -22,9 +22,13 @@ std::string DescribeError(const std::exception_ptr& error) {
 
 Desktop::~Desktop() = default;
 
-int Desktop::ToPixels(int twips) const { return static_cast<int>(std::lround(twips * Scale() / kTwipsPerPixel)); }
+int Desktop::ToPixels(int twips) const {
+  return static_cast<int>(std::lround(twips * Scale() / kTwipsPerPixel));
+}
 
-int Desktop::ToTwips(int pixels) const { return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale())); }
+int Desktop::ToTwips(int pixels) const {
+  return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale()));
+}
 
 void Desktop::ShowMessage(const Message& message) {
   const Modal modal{nullptr, &message};
@@ -84,7 +88,9 @@ void Desktop::Retire(const Form& form, std::unique_ptr<FormWindow> window) {
     if (session->Shown == &form) session->Retired = std::move(window);
 }
 
-void Desktop::KeepOpen(std::shared_ptr<Form> form) { mOpenForms.push_back(std::move(form)); }
+void Desktop::KeepOpen(std::shared_ptr<Form> form) {
+  mOpenForms.push_back(std::move(form));
+}
 
 void Desktop::LeaveAct() {
   if (--mActs > 0) return;

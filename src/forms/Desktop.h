@@ -52,6 +52,9 @@ class Desktop {
   /// Lets paint and input events that wait be handled.
   virtual void ProcessPendingEvents() = 0;
 
+  /// Unloads the modeless forms that are still open. The destructor of a desktop calls it while windows can be closed.
+  void CloseOpenForms();
+
   /// For FormWindow::RunModal and DoShowMessage: the modal form or box is up and the user can act.
   void ModalIsRunning(const Modal& modal);
 
@@ -61,8 +64,6 @@ class Desktop {
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;
   virtual void DoShowHelp(const HelpRequest& request) = 0;
-  /// For the destructor of a desktop: unloads the forms that are still open while the platform can close windows.
-  void CloseOpenForms();
 
  private:
   friend class Form;

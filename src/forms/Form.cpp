@@ -8,9 +8,12 @@
 namespace orx {
 
 Form::Form(Desktop& desktop, std::string name, FormDesign design)
-    : mDesktop(desktop), mName(std::move(name)), mDesign(std::move(design)) {}
+    : mDesktop(desktop), mName(std::move(name)), mDesign(std::move(design)) {
+}
 
-Form::~Form() { DropWindow(); }
+Form::~Form() {
+  DropWindow();
+}
 
 void Form::Caption(const std::string& value) {
   mDesign.Caption = value;
@@ -23,9 +26,13 @@ void Form::Move(int left, int top) {
   if (mWindow) mWindow->UpdatePlace();
 }
 
-int Form::Width() const { return ShownClientSize().Width + mDesktop.Metrics(mDesign.Border).Frame.Width; }
+int Form::Width() const {
+  return ShownClientSize().Width + mDesktop.Metrics(mDesign.Border).Frame.Width;
+}
 
-int Form::Height() const { return ShownClientSize().Height + mDesktop.Metrics(mDesign.Border).Frame.Height; }
+int Form::Height() const {
+  return ShownClientSize().Height + mDesktop.Metrics(mDesign.Border).Frame.Height;
+}
 
 void Form::ClientSize(Size value) {
   if (value == mDesign.Client) return;

@@ -4,6 +4,8 @@
 
 namespace orx {
 
-void Frame::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void Frame::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

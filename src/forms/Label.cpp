@@ -4,6 +4,8 @@
 
 namespace orx {
 
-void Label::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void Label::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

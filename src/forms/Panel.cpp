@@ -4,6 +4,8 @@
 
 namespace orx {
 
-void Panel::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void Panel::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

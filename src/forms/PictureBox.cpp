@@ -35,8 +35,12 @@ Size PictureBox::PixelSize() const {
   return {desktop.ToPixels(Place().Width), desktop.ToPixels(Place().Height)};
 }
 
-void PictureBox::Refresh() { Changed(Aspect::Drawing); }
+void PictureBox::Refresh() {
+  Changed(Aspect::Drawing);
+}
 
-void PictureBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void PictureBox::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

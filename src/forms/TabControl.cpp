@@ -17,9 +17,12 @@ TabPage::TabPage(TabControl& owner, int index)
     : Panel(owner, owner.Name() + "Page" + std::to_string(index),
             {.Place = {TabControl::kBorder, TabControl::kStrip, owner.PageSize().Width, owner.PageSize().Height}}),
       mOwner(owner),
-      mIndex(index) {}
+      mIndex(index) {
+}
 
-bool TabPage::ShowsChildren() const { return mOwner.Tab() == mIndex; }
+bool TabPage::ShowsChildren() const {
+  return mOwner.Tab() == mIndex;
+}
 
 TabControl::TabControl(Container& parent, std::string name, Design design, std::vector<std::string> tabCaptions)
     : Control(parent, std::move(name), StripDesign(std::move(design), tabCaptions.size())),
@@ -27,7 +30,9 @@ TabControl::TabControl(Container& parent, std::string name, Design design, std::
   for (int tab = 0; tab < TabCount(); ++tab) mPages.push_back(std::make_unique<TabPage>(*this, tab));
 }
 
-Size TabControl::PageSize() const { return {Place().Width - 2 * kBorder, Place().Height - kStrip - kBorder}; }
+Size TabControl::PageSize() const {
+  return {Place().Width - 2 * kBorder, Place().Height - kStrip - kBorder};
+}
 
 void TabControl::TabCaption(int tab, const std::string& value) {
   mCaptions.at(static_cast<std::size_t>(tab)) = value;
@@ -51,6 +56,8 @@ void TabControl::UserSelect(int tab) {
   Changed(Aspect::Value);
 }
 
-void TabControl::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void TabControl::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

@@ -46,6 +46,8 @@ void TextBox::UserSelect(int selStart, int selLength) {
   mSelLength = selLength;
 }
 
-void TextBox::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void TextBox::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
 
 }  // namespace orx

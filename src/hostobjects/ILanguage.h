@@ -23,7 +23,9 @@ class ILanguage {
 };
 
 /// True when there is a language with entries.
-inline bool IsActive(ILanguage* language) { return language && language->EntryCount() > 0; }
+inline bool IsActive(ILanguage* language) {
+  return language && language->EntryCount() > 0;
+}
 
 /// The translation of `text` by an active language, else the text itself.
 inline std::string Translated(ILanguage* language, const std::string& text) {

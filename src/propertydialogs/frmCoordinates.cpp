@@ -21,6 +21,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmCoordinates::frmCoordinates(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {}
+frmCoordinates::frmCoordinates(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+}
 
 }  // namespace orx

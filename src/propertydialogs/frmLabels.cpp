@@ -21,6 +21,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {}
+frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+}
 
 }  // namespace orx

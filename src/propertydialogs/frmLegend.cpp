@@ -21,6 +21,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmLegend::frmLegend(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {}
+frmLegend::frmLegend(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+}
 
 }  // namespace orx

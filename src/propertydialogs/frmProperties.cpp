@@ -21,6 +21,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmProperties::frmProperties(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {}
+frmProperties::frmProperties(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+}
 
 }  // namespace orx

@@ -10,7 +10,9 @@
 namespace orx {
 namespace {
 
-bool IsBlank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }
+bool IsBlank(const std::string& text) {
+  return text.find_first_not_of(' ') == std::string::npos;
+}
 
 }  // namespace
 

@@ -16,7 +16,8 @@ void DialogForm::Language(ILanguage* value) {
 
 void DialogForm::TakeHelpNumber(const std::string& helpKey) {
   if (!mLanguageActive) return;
-  const std::optional<double> number = numbers::ToDouble(mLanguage->TranslateText(helpKey), OwnerDesktop().Separators());
+  const std::optional<double> number =
+      numbers::ToDouble(mLanguage->TranslateText(helpKey), OwnerDesktop().Separators());
   if (number && std::abs(*number) < std::numeric_limits<std::int32_t>::max())
     HelpContextId(numbers::RoundToLong(*number));
 }
@@ -27,6 +28,8 @@ void DialogForm::Translate() {
   Caption(mLanguage->TranslateText(Caption()));
 }
 
-void DialogForm::ShowHelp() { modMain::ShowHelpFinder(*this, modMain::HelpFile(), HelpContextId()); }
+void DialogForm::ShowHelp() {
+  modMain::ShowHelpFinder(*this, modMain::HelpFile(), HelpContextId());
+}
 
 }  // namespace orx

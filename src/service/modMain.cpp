@@ -16,9 +16,13 @@ std::string& HelpFileOfTheProcess() {
 
 }  // namespace
 
-const std::string& HelpFile() { return HelpFileOfTheProcess(); }
+const std::string& HelpFile() {
+  return HelpFileOfTheProcess();
+}
 
-void HelpFile(const std::string& value) { HelpFileOfTheProcess() = value; }
+void HelpFile(const std::string& value) {
+  HelpFileOfTheProcess() = value;
+}
 
 void DrawInsetFocusRect(PictureBox& box, std::int32_t inset) noexcept {
   ErrorTrap trap;
@@ -41,8 +45,8 @@ void SelectAllText(TextBox& box) noexcept {
 void ShowHelpFinder(Form& form, const std::string& helpFile, std::int32_t helpContextId) {
   Desktop& desktop = form.OwnerDesktop();
   if (helpFile.empty()) {
-    desktop.ShowMessage({"Unable to display Help. There is no Help associated with this project.", "Help",
-                         MessageIcon::Information});
+    desktop.ShowMessage(
+        {"Unable to display Help. There is no Help associated with this project.", "Help", MessageIcon::Information});
     return;
   }
   ErrorTrap trap;

@@ -62,8 +62,8 @@ TEST_F(Helpers, FocusRectSwitchesAutomaticRedrawOn) {
 }
 
 TEST_F(Helpers, HelpWithoutAHelpFileTellsTheUser) {
-  script.ExpectMessage({"Unable to display Help. There is no Help associated with this project.", "Help",
-                        MessageIcon::Information});
+  script.ExpectMessage(
+      {"Unable to display Help. There is no Help associated with this project.", "Help", MessageIcon::Information});
   modMain::ShowHelpFinder(*form, "", 12);
   EXPECT_TRUE(script.Helps.empty());
 }
@@ -92,7 +92,7 @@ struct PointCase {
 
 TEST(HelpersPointInRect, BoundsAreInclusive) {
   const PixelEdges edges{10, 20, 30, 40};
-  const PointCase cases[] = {{10, 20, true}, {30, 40, true},  {10, 40, true},  {30, 20, true},   {20, 30, true},
+  const PointCase cases[] = {{10, 20, true}, {30, 40, true},  {10, 40, true},  {30, 20, true},  {20, 30, true},
                              {9, 30, false}, {31, 30, false}, {20, 19, false}, {20, 41, false}, {-20, -30, false}};
   for (const PointCase& each : cases)
     EXPECT_EQ(each.Inside, modMain::PointInRect(each.X, each.Y, edges)) << each.X << "," << each.Y;

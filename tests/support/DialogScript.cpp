@@ -16,7 +16,9 @@ void DialogScript::ExpectForm(const std::string& name, FormAction action) {
   mExpected.push_back({name, std::move(action), {}});
 }
 
-void DialogScript::ExpectMessage(const Message& message) { mExpected.push_back({{}, nullptr, message}); }
+void DialogScript::ExpectMessage(const Message& message) {
+  mExpected.push_back({{}, nullptr, message});
+}
 
 void DialogScript::Verify() {
   for (const Expected& left : mExpected)

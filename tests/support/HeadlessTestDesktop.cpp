@@ -76,6 +76,8 @@ class HeadlessTestDesktop final : public TestDesktop {
 
 }  // namespace
 
-std::unique_ptr<TestDesktop> MakeTestDesktop() { return std::make_unique<HeadlessTestDesktop>(); }
+std::unique_ptr<TestDesktop> MakeTestDesktop() {
+  return std::make_unique<HeadlessTestDesktop>();
+}
 
 }  // namespace orx::test

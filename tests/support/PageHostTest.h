@@ -11,7 +11,10 @@ namespace orx::test {
 class PageHostTest : public DesktopTest {
  protected:
   PageHostTest() { modMain::HelpFile({}); }
-  ~PageHostTest() override { modMain::HelpFile({}); }
+  ~PageHostTest() override {
+    desktop().CloseOpenForms();
+    modMain::HelpFile({});
+  }
 
   template <class Kind>
   static Kind& Get(Form& form, const std::string& name) {

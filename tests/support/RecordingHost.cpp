@@ -7,7 +7,8 @@ namespace orx::test {
 RecordingPage::RecordingPage(CallLog& log, const PageSite& site)
     : mLog(log),
       mPanel(site.Parent, site.Name, {.Place = site.Place}),
-      txtValue(mPanel, "txtValue", {.Place = {120, 120, 2400, 330}, .AccessibleName = "Value"}) {}
+      txtValue(mPanel, "txtValue", {.Place = {120, 120, 2400, 330}, .AccessibleName = "Value"}) {
+}
 
 void RecordingPage::Client(HostObject* value) {
   mLog.Call(value ? "Page.Client(object)" : "Page.Client(none)");
@@ -47,6 +48,7 @@ void RecordingPage::Write(const std::string& call) {
 
 std::unique_ptr<PropertyPage> RecordingPages::CreatePage(PageKind kind, const PageSite& site) {
   mLog.Call(std::string("Pages.CreatePage(") + PageKindName(kind) + ", " + site.Name + ")");
+  if (Created) Created(site.Parent);
   return std::make_unique<RecordingPage>(mLog, site);
 }
 

@@ -2,6 +2,7 @@
 // factory, the language and the call-back.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -72,6 +73,9 @@ class RecordingPages final : public IPageFactory {
  public:
   explicit RecordingPages(CallLog& log) : mLog(log) {}
   std::unique_ptr<PropertyPage> CreatePage(PageKind kind, const PageSite& site) override;
+
+  /// Told of each page's parent.
+  std::function<void(Container&)> Created;
 
  private:
   CallLog& mLog;

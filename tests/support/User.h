@@ -66,6 +66,8 @@ inline constexpr KeyStroke kTab{Key::Tab, 0, false, false};
 inline constexpr KeyStroke kShiftTab{Key::Tab, 0, true, false};
 inline constexpr KeyStroke kEnter{Key::Enter, 0, false, false};
 inline constexpr KeyStroke kEscape{Key::Escape, 0, false, false};
-inline KeyStroke AltKey(char32_t letter) { return {Key::Character, letter, false, true}; }
+inline KeyStroke AltKey(char32_t letter) {
+  return {Key::Character, letter, false, true};
+}
 
 }  // namespace orx::test

@@ -37,7 +37,9 @@ class HeadlessWindow final : public FormWindow {
 
 }  // namespace
 
-HeadlessDesktop::~HeadlessDesktop() { CloseOpenForms(); }
+HeadlessDesktop::~HeadlessDesktop() {
+  CloseOpenForms();
+}
 
 ScreenMetrics HeadlessDesktop::Metrics(BorderStyle) const {
   return {mScreen, {0, 0, mScreen.Width, mScreen.Height}, kFrame};
