@@ -1,0 +1,57 @@
+#include "examples/maphost/Gallery.h"
+
+#include <iostream>
+#include <stdexcept>
+
+namespace maphost {
+namespace {
+
+/// Takes a picture of whatever opens, and closes it.
+class Photographer final : public orx::DesktopHook {
+ public:
+  Photographer(orx::qt::QtDesktop& desktop, std::filesystem::path folder)
+      : mDesktop(desktop), mFolder(std::move(folder)) {}
+
+  void Language(const std::string& suffix) { mSuffix = suffix; }
+
+  void Take(orx::Form& form) {
+    const std::filesystem::path file = mFolder / (form.Name() + mSuffix + ".png");
+    if (!mDesktop.SavePicture(form, file.string())) throw std::runtime_error("Cannot write " + file.string());
+    std::cout << file.string() << '\n';
+  }
+
+  void ModalRunning(const orx::Modal& modal) override {
+    if (!modal.ShownForm) return;
+    Take(*modal.ShownForm);
+    modal.ShownForm->UserClose();
+  }
+
+ private:
+  orx::qt::QtDesktop& mDesktop;
+  std::filesystem::path mFolder;
+  std::string mSuffix;
+};
+
+}  // namespace
+
+void WriteGallery(orx::qt::QtDesktop& desktop, orx::maplibrary::Map& map, const Languages& languages,
+                  const std::filesystem::path& folder) {
+  std::filesystem::create_directories(folder);
+  Photographer photographer(desktop, folder);
+  desktop.Hook(&photographer);
+  const auto window = std::make_shared<HostWindow>(desktop, map, languages);
+  window->Show(orx::ShowMode::Modeless);
+  for (int language = 0; language < languages.Count(); ++language) {
+    photographer.Language(language == 0 ? std::string() : "-" + std::to_string(language));
+    window->cboLanguage.UserPick(language);
+    desktop.ProcessPendingEvents();
+    photographer.Take(*window);
+    for (orx::Button* button :
+         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends})
+      button->UserPress();
+  }
+  window->UserClose();
+  desktop.Hook(nullptr);
+}
+
+}  // namespace maphost

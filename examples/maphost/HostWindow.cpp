@@ -1,0 +1,123 @@
+#include "examples/maphost/HostWindow.h"
+
+#include <algorithm>
+
+#include "maplibrary/DrawMap.h"
+
+namespace maphost {
+namespace {
+
+using orx::QueryKind;
+
+// Places in twips.
+constexpr int kMargin = 120;
+constexpr int kSideWidth = 3300;
+constexpr int kLogHeight = 1950;
+constexpr orx::Size kSmallest{9000, 6600};
+
+}  // namespace
+
+HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const Languages& languages)
+    : Form(desktop, "frmHost", {.Caption = "Map", .Client = {15600, 10800}, .Border = orx::BorderStyle::Sizable}),
+      mMap(map),
+      mLanguages(languages) {
+  cmdProperties.Click = [this] { ShowFor("Properties", &orx::CCommonMapDialogs::ShowProperties); };
+  cmdLabels.Click = [this] { ShowFor("Labels", &orx::CCommonMapDialogs::ShowLabels); };
+  cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
+  cmdLegends.Click = [this] { cmdLegends_Click(); };
+  cboLayer.Click = [this] { EnableDialogs(); };
+  cboLanguage.Click = [this] { cboLanguage_Click(); };
+}
+
+void HostWindow::Form_Load() {
+  mDialogs.CallBack(&mCallBack);
+  mDialogs.RegistryKey("OrvexMapHost");
+  ClientSize(ShownClientSize());
+  Center();
+  FillLayers();
+  FillLanguages();
+}
+
+void HostWindow::FillLayers() {
+  const int before = cboLayer.ListIndex();
+  mChoices = {{"Whole map", &mMap}};
+  for (std::int32_t i = 1; i <= mMap.LayerCount(); ++i) {
+    orx::HostObject* const layer = mMap.Layer(i);
+    mChoices.push_back({mMap.LayerName(i), layer});
+    auto* const inner = QueryKind<orx::IMap>(layer);
+    for (std::int32_t j = 1; inner && j <= inner->LayerCount(); ++j)
+      mChoices.push_back({mMap.LayerName(i) + " / " + inner->LayerName(j), inner->Layer(j)});
+  }
+  cboLayer.Clear();
+  for (const Choice& choice : mChoices) cboLayer.AddItem(choice.Name);
+  cboLayer.ListIndex(before < 0 ? 1 : before);
+}
+
+void HostWindow::FillLanguages() {
+  for (int i = 0; i < mLanguages.Count(); ++i) cboLanguage.AddItem(mLanguages.Name(i));
+  cboLanguage.ListIndex(0);
+}
+
+void HostWindow::EnableDialogs() {
+  orx::HostObject* const object = mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())).Object;
+  cmdProperties.Enabled(QueryKind<orx::ILayer>(object) != nullptr);
+  cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
+}
+
+void HostWindow::Form_Resize() {
+  const int width = std::max(ClientSize().Width, kSmallest.Width);
+  const int height = std::max(ClientSize().Height, kSmallest.Height);
+  const int side = width - kSideWidth - kMargin;
+  const int logTop = height - kMargin - kLogHeight;
+  pctMap.Place({kMargin, kMargin, side - 2 * kMargin, logTop - 3 * kMargin - 240});
+  lblLog.Place({kMargin, logTop - 300, 6000, 240});
+  txtLog.Place({kMargin, logTop, width - 2 * kMargin, kLogHeight});
+  int top = kMargin;
+  const auto stack = [&](orx::Control& control, int controlHeight, int gap) {
+    control.Place({side, top, kSideWidth, controlHeight});
+    top += controlHeight + gap;
+  };
+  stack(lblLayer, 240, 60);
+  stack(cboLayer, 360, 240);
+  for (orx::Button* button : {&cmdProperties, &cmdLabels, &cmdCoordinates, &cmdLegends}) stack(*button, 420, 120);
+  top += 120;
+  stack(chkModeless, 330, 360);
+  stack(lblLanguage, 240, 60);
+  stack(cboLanguage, 360, 0);
+  DrawMap();
+}
+
+void HostWindow::DrawMap() {
+  constexpr double kPixelsPerPoint = 96.0 / 72.0;
+  orx::maplibrary::DrawMap(mMap, pctMap.Drawing(), pctMap.PixelSize(), kPixelsPerPoint * OwnerDesktop().Scale());
+  pctMap.Refresh();
+}
+
+orx::ShowMode HostWindow::Mode() const {
+  return chkModeless.IsChecked() ? orx::ShowMode::Modeless : orx::ShowMode::Modal;
+}
+
+void HostWindow::ShowFor(const std::string& what, Member member) {
+  const Choice choice = mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex()));
+  const std::int32_t result = (mDialogs.*member)(choice.Object, {}, Mode(), {this, 0});
+  Report(what + " of " + choice.Name, result);
+}
+
+void HostWindow::cmdLegends_Click() {
+  Report("Legends", mDialogs.ShowLegends(&mMap, 0, {}, Mode(), {this, 0}));
+}
+
+void HostWindow::cboLanguage_Click() {
+  orx::ILanguage* const language = mLanguages.Language(cboLanguage.ListIndex());
+  mDialogs.Language(language);
+  mDesigned.Translate(*this, language);
+}
+
+void HostWindow::Report(const std::string& what, std::int32_t result) {
+  if (Mode() == orx::ShowMode::Modeless) return mLog.Write(what + ": open");
+  mLog.Write(what + (result != 0 ? ": changed (" : ": not changed (") + std::to_string(result) + ")");
+  FillLayers();
+  DrawMap();
+}
+
+}  // namespace maphost

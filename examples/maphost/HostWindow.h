@@ -1,0 +1,71 @@
+// The demo's window: a map, the choice of a layer, a button for each dialog, a log, and the choice of a language. It is
+// a form of the library itself, so the demo runs on every desktop.
+#pragma once
+
+#include "examples/maphost/HostLog.h"
+#include "examples/maphost/Languages.h"
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/ComboBox.h"
+#include "forms/Form.h"
+#include "forms/Label.h"
+#include "forms/PictureBox.h"
+#include "maplibrary/Map.h"
+#include "maplibrary/pages/PageFactory.h"
+#include "service/CCommonMapDialogs.h"
+
+namespace maphost {
+
+class HostWindow final : public orx::Form {
+ public:
+  /// The map and the languages must outlive the window.
+  HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const Languages& languages);
+
+  orx::PictureBox pctMap{*this, "pctMap", {.ToolTipText = "The map", .AccessibleName = "Map"}};
+  orx::Label lblLayer{*this, "lblLayer", {.Caption = "La&yer:"}};
+  orx::ComboBox cboLayer{*this, "cboLayer", {}};
+  orx::Button cmdProperties{*this, "cmdProperties", {.Caption = "&Properties..."}};
+  orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
+  orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
+  orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "L&egends..."}};
+  orx::CheckBox chkModeless{*this, "chkModeless", {.Caption = "&Keep dialogs open"}};
+  orx::Label lblLanguage{*this, "lblLanguage", {.Caption = "L&anguage:"}};
+  orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
+  orx::Label lblLog{*this, "lblLog", {.Caption = "Call-backs and &results:"}};
+  orx::TextBox txtLog{*this, "txtLog", {}, orx::TextLines::Multiple, true};
+
+ protected:
+  void Form_Load() override;
+  void Form_Resize() override;
+
+ private:
+  using Member = std::int32_t (orx::CCommonMapDialogs::*)(orx::HostObject*, const std::string&, orx::ShowMode,
+                                                          orx::OwnerWindow);
+  /// An entry of the layer list.
+  struct Choice {
+    std::string Name;
+    orx::HostObject* Object;
+  };
+
+  void FillLayers();
+  void FillLanguages();
+  void EnableDialogs();
+  void DrawMap();
+  orx::ShowMode Mode() const;
+  /// Shows a dialog for the chosen layer and writes its result down.
+  void ShowFor(const std::string& what, Member member);
+  void cmdLegends_Click();
+  void cboLanguage_Click();
+  void Report(const std::string& what, std::int32_t result);
+
+  orx::maplibrary::Map& mMap;
+  const Languages& mLanguages;
+  DesignedCaptions mDesigned{*this};
+  std::vector<Choice> mChoices;
+  orx::maplibrary::PageFactory mPages;
+  HostLog mLog{txtLog};
+  HostCallBack mCallBack{mLog, [this] { DrawMap(); }};
+  orx::CCommonMapDialogs mDialogs{OwnerDesktop(), mPages};
+};
+
+}  // namespace maphost
