@@ -84,9 +84,10 @@ TEST(NumbersToDouble, ExponentsWithEOrD) {
 }
 
 TEST(NumbersToDouble, NumbersBeyondADoubleAreRefused) {
+  const std::string manyNines(400, '9');
   ExpectReadings({{"1.7976931348623157E308", std::numeric_limits<double>::max()}});
-  ExpectNoNumbers({"1E309", "-1E309", "1.8E308", "1D99999999999999999999", std::string(400, '9'),
-                   std::string(400, '9') + "E-5", "0.0001E400"});
+  ExpectNoNumbers({"1E309", "-1E309", "1.8E308", "1D99999999999999999999", "0.0001E400"});
+  ExpectNoNumbers({manyNines, manyNines + "E-5"});
 }
 
 TEST(NumbersToDouble, NumbersTooSmallForADoubleAreZero) {
