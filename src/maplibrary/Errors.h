@@ -1,0 +1,21 @@
+// The numbers of the errors that the map library raises beside those of the dialogs.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::maplibrary {
+
+inline constexpr std::int32_t kErrorSubscript = 9;
+inline constexpr std::int32_t kErrorFileAccess = 75;
+inline constexpr std::int32_t kErrorInvalidValue = 380;
+
+/// Throws "Subscript out of range: ..." unless first <= index <= last. `what` names the counted things in singular.
+void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std::int32_t last);
+
+/// Throws "<name> must be a finite number." for infinity and NaN.
+void RequireFinite(const char* name, double value);
+
+}  // namespace orx::maplibrary
