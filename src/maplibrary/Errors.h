@@ -18,4 +18,10 @@ void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std:
 /// Throws "<name> must be a finite number." for infinity and NaN.
 void RequireFinite(const char* name, double value);
 
+/// The largest size of a symbol or text in points.
+inline constexpr double kMaxTextPoints = 1000;
+
+/// Throws "<name> must be from 0 to 1000 points." for any other size.
+void RequireSize(const char* name, double value);
+
 }  // namespace orx::maplibrary

@@ -1,6 +1,8 @@
 // Places and rectangles on the ground, in the map's own unit (degrees or metres), y upwards.
 #pragma once
 
+#include <cmath>
+
 namespace orx::maplibrary {
 
 struct GroundPoint {
@@ -18,8 +20,8 @@ struct GroundRect {
 
   double Width() const { return Right - Left; }
   double Height() const { return Top - Bottom; }
-  /// Without width or without height: nothing can be drawn in it.
-  bool IsEmpty() const { return !(Width() != 0 && Height() != 0); }
+  /// Without usable width or height (none, not finite, or too small to divide by): nothing can be drawn in it.
+  bool IsEmpty() const { return !std::isnormal(Width()) || !std::isnormal(Height()); }
   bool operator==(const GroundRect&) const = default;
 };
 

@@ -24,6 +24,7 @@ class LayerStack {
   bool MoveDown(std::int32_t index);
   void ReleaseRemoved() { mRemoved.clear(); }
 
+  const std::vector<std::unique_ptr<MapLayer>>& All() const { return mLayers; }
   /// Around all layers, the invisible ones too; empty when there is none.
   GroundRect Bounds() const;
 

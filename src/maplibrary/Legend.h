@@ -25,7 +25,7 @@ class Legend : public ILegend {
   bool Framed() const override { return mFramed; }
   void Framed(bool value) override { mFramed = value; }
   double TextSize() const override { return mTextSize; }
-  /// Throws RunTimeError unless the size is finite and not negative.
+  /// Throws RunTimeError unless the size is from 0 to 1000 points.
   void TextSize(double value) override;
 
  private:

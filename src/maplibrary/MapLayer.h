@@ -26,9 +26,17 @@ struct PlacedGrid {
   GroundRect Place;
 };
 
+class MapLayer;
+
+/// A peak with the layer or tile whose symbol and label mark it.
+struct MarkedPeak {
+  const MapLayer* Marker = nullptr;
+  Peak At;
+};
+
 /// The symbol stands on the highest point of the layer, the label beside the symbol. A symbol of size 0 is not drawn.
-/// Setting a side of the extent moves the layer on the ground. Sizes and angles throw RunTimeError when they are not
-/// finite or, for sizes, negative.
+/// Setting a side of the extent moves the layer on the ground. Angles throw RunTimeError unless finite, sizes
+/// unless from 0 to 1000 points.
 class MapLayer : public HostObject, public ILayer, public ILabels, public PlacedExtent {
  public:
   /// Answers for ILayer, ILabels and IExtent.
@@ -38,6 +46,8 @@ class MapLayer : public HostObject, public ILayer, public ILabels, public Placed
   virtual std::vector<PlacedGrid> Grids() const = 0;
   /// The highest point of what Grids gives; none when no cell has a value.
   std::optional<Peak> HighestPoint() const;
+  /// The peaks to mark, places as they stand on the map.
+  virtual std::vector<MarkedPeak> MarkedPeaks() const;
 
   std::string Name() const override { return mName; }
   void Name(const std::string& value) override { mName = value; }

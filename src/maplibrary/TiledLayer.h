@@ -19,6 +19,7 @@ class TiledLayer : public MapLayer, public IMap {
   /// Answers for IMap too.
   void* Query(Kind kind) override;
   std::vector<PlacedGrid> Grids() const override;
+  std::vector<MarkedPeak> MarkedPeaks() const override;
 
   std::int32_t LayerCount() override { return mTiles.Count(); }
   std::string LayerName(std::int32_t index) override { return mTiles.At(index).Name(); }
@@ -30,7 +31,7 @@ class TiledLayer : public MapLayer, public IMap {
   bool MoveLayerDown(std::int32_t index) override { return mTiles.MoveDown(index); }
   IExtent* Extent() override { return this; }
 
-  MapLayer& AddTile(std::unique_ptr<MapLayer> tile) { return mTiles.Add(std::move(tile)); }
+  MapLayer& AddTile(std::unique_ptr<maplibrary::Layer> tile) { return mTiles.Add(std::move(tile)); }
   const LayerStack& Tiles() const { return mTiles; }
   LayerStack& Tiles() { return mTiles; }
   /// Where a point or rectangle in the tiles' own coordinates stands on the map.
