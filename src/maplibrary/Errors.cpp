@@ -1,0 +1,26 @@
+#include "maplibrary/Errors.h"
+
+#include <cmath>
+
+namespace orx::maplibrary {
+
+void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std::int32_t last) {
+  if (index >= first && index <= last) return;
+  const std::string range =
+      last < first ? "there is none" : "give an index from " + std::to_string(first) + " to " + std::to_string(last);
+  throw RunTimeError(kErrorSubscript,
+                     std::string("Subscript out of range: ") + what + " " + std::to_string(index) + ", " + range + ".");
+}
+
+void RequireFinite(const char* name, double value) {
+  if (std::isfinite(value)) return;
+  throw RunTimeError(kErrorInvalidValue, std::string(name) + " must be a finite number.");
+}
+
+void RequireSize(const char* name, double value) {
+  if (value >= 0 && value <= kMaxTextPoints) return;
+  throw RunTimeError(kErrorInvalidValue, std::string(name) + " must be from 0 to " +
+                                             std::to_string(static_cast<int>(kMaxTextPoints)) + " points.");
+}
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,27 @@
+// The numbers of the errors that the map library raises beside those of the dialogs.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::maplibrary {
+
+inline constexpr std::int32_t kErrorSubscript = 9;
+inline constexpr std::int32_t kErrorFileAccess = 75;
+inline constexpr std::int32_t kErrorInvalidValue = 380;
+
+/// Throws "Subscript out of range: ..." unless first <= index <= last. `what` names the counted things in singular.
+void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std::int32_t last);
+
+/// Throws "<name> must be a finite number." for infinity and NaN.
+void RequireFinite(const char* name, double value);
+
+/// The largest size of a symbol or text in points.
+inline constexpr double kMaxTextPoints = 1000;
+
+/// Throws "<name> must be from 0 to 1000 points." for any other size.
+void RequireSize(const char* name, double value);
+
+}  // namespace orx::maplibrary

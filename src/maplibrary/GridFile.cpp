@@ -1,0 +1,30 @@
+#include "maplibrary/GridFile.h"
+
+#include "maplibrary/GridFields.h"
+#include "maplibrary/GridReaders.h"
+
+namespace orx::maplibrary {
+
+namespace {
+
+std::string ExtensionOf(const std::filesystem::path& path) {
+  const std::u8string extension = path.extension().u8string();
+  return UpperCase(std::string(extension.begin(), extension.end()));
+}
+
+}  // namespace
+
+bool IsGridFile(const std::string& path) {
+  const std::string extension = ExtensionOf(PathOf(path));
+  return extension == ".BIL" || extension == ".ASC";
+}
+
+GridData ReadGridFile(const std::string& path) {
+  const std::filesystem::path file = PathOf(path);
+  const std::string extension = ExtensionOf(file);
+  if (extension == ".BIL") return ReadBil(file);
+  if (extension == ".ASC") return ReadAsc(file);
+  FailFile(file, "unknown kind of file. Choose a grid with the extension .bil or .asc.");
+}
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,16 @@
+#include "maplibrary/Layer.h"
+
+#include "maplibrary/GridFile.h"
+
+namespace orx::maplibrary {
+
+Layer::Layer(std::string name, std::string source, std::shared_ptr<const GridData> grid)
+    : MapLayer(std::move(name), std::move(source)), mGrid(std::move(grid)) {
+}
+
+std::unique_ptr<Layer> ReadLayer(const std::string& path) {
+  auto grid = std::make_shared<const GridData>(ReadGridFile(path));
+  return std::make_unique<Layer>(FileStem(path), path, std::move(grid));
+}
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,31 @@
+// A layer of the embedded map that shows one grid.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "maplibrary/GridData.h"
+#include "maplibrary/MapLayer.h"
+
+namespace orx::maplibrary {
+
+/// Its extent is that of the grid until a side is set.
+class Layer : public MapLayer {
+ public:
+  /// `source` is the file that the grid came from, empty for none. `grid` must not be null.
+  Layer(std::string name, std::string source, std::shared_ptr<const GridData> grid);
+
+  const GridData& Grid() const { return *mGrid; }
+  std::vector<PlacedGrid> Grids() const override { return {{mGrid, Current()}}; }
+
+ protected:
+  GroundRect Natural() const override { return mGrid->Edges(); }
+
+ private:
+  std::shared_ptr<const GridData> mGrid;
+};
+
+/// Reads a grid file into a layer that is named after the file. Throws RunTimeError as ReadGridFile does.
+std::unique_ptr<Layer> ReadLayer(const std::string& path);
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,104 @@
+#include "maplibrary/RenderGrid.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "maplibrary/ColorRamp.h"
+
+namespace orx::maplibrary {
+
+namespace {
+
+/// Which cells along one axis the middle of a pixel lies between.
+struct AxisSample {
+  bool Inside = false;
+  std::int32_t Nearest = 0;
+  std::int32_t Before = 0;
+  std::int32_t Behind = 0;
+  double Share = 0;  // Of the cell behind.
+};
+
+/// `at` counts cells from the outer edge of the first one.
+AxisSample SampleAt(double at, std::int32_t count, Sampling sampling) {
+  AxisSample sample;
+  sample.Inside = at >= 0 && at < count;
+  if (!sample.Inside) return sample;
+  sample.Nearest = sample.Before = sample.Behind = static_cast<std::int32_t>(at);
+  if (sampling == Sampling::Nearest) return sample;
+  // Half a cell at the edges has a centre on one side only, and keeps its value.
+  const double center = std::floor(at - 0.5);
+  sample.Before = std::max(static_cast<std::int32_t>(center), 0);
+  sample.Behind = std::min(static_cast<std::int32_t>(center) + 1, count - 1);
+  sample.Share = at - 0.5 - center;
+  return sample;
+}
+
+/// The samples of `pixels` pixels that reach over the ground from `start` to `end`, for cells between two edges.
+std::vector<AxisSample> SamplesOf(int pixels, double start, double end, double firstEdge, double lastEdge,
+                                  std::int32_t count, Sampling sampling) {
+  std::vector<AxisSample> samples;
+  samples.reserve(static_cast<std::size_t>(pixels));
+  for (int i = 0; i < pixels; ++i) {
+    const double ground = start + (i + 0.5) / pixels * (end - start);
+    samples.push_back(SampleAt((ground - firstEdge) / (lastEdge - firstEdge) * count, count, sampling));
+  }
+  return samples;
+}
+
+double Mixed(double before, double behind, double share) {
+  return before + (behind - before) * share;
+}
+
+/// A missing neighbour makes the blend NaN; then the cell itself decides.
+double ValueAt(const GridData& grid, const AxisSample& row, const AxisSample& column) {
+  const double upper = Mixed(grid.At(row.Before, column.Before), grid.At(row.Before, column.Behind), column.Share);
+  const double lower = Mixed(grid.At(row.Behind, column.Before), grid.At(row.Behind, column.Behind), column.Share);
+  const double value = Mixed(upper, lower, row.Share);
+  return std::isnan(value) ? grid.At(row.Nearest, column.Nearest) : value;
+}
+
+}  // namespace
+
+void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed, const ValueRange& range,
+               Sampling sampling) {
+  if (window.IsEmpty() || placed.Place.IsEmpty()) return;
+  const GridData& grid = *placed.Grid;
+  const auto columns =
+      SamplesOf(image.Width, window.Left, window.Right, placed.Place.Left, placed.Place.Right, grid.Columns, sampling);
+  const auto rows =
+      SamplesOf(image.Height, window.Top, window.Bottom, placed.Place.Top, placed.Place.Bottom, grid.Rows, sampling);
+  std::uint8_t* pixel = image.Pixels.data();
+  for (const AxisSample& row : rows) {
+    for (const AxisSample& column : columns) {
+      std::uint8_t* const place = pixel;
+      pixel += 4;
+      if (!row.Inside || !column.Inside) continue;
+      const double value = ValueAt(grid, row, column);
+      if (std::isnan(value)) continue;
+      const Color color = ColorAt(ShareOf(value, range));
+      place[0] = color.Red;
+      place[1] = color.Green;
+      place[2] = color.Blue;
+      place[3] = 255;
+    }
+  }
+}
+
+Image BlankImage(Size size) {
+  Image image;
+  if (size.Width <= 0 || size.Height <= 0) return image;
+  image.Width = size.Width;
+  image.Height = size.Height;
+  image.Pixels.resize(static_cast<std::size_t>(size.Width) * static_cast<std::size_t>(size.Height) * 4);
+  return image;
+}
+
+Image RenderGrid(const GridData& grid, const GroundRect& window, Size size, Sampling sampling) {
+  Image image = BlankImage(size);
+  // The grid lives as long as this call; the pointer owns nothing.
+  const std::shared_ptr<const GridData> borrowed(std::shared_ptr<void>(), &grid);
+  PaintGrid(image, window, {borrowed, grid.Edges()}, RangeOf(grid).value_or(ValueRange()), sampling);
+  return image;
+}
+
+}  // namespace orx::maplibrary
