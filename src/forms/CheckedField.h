@@ -64,4 +64,38 @@ class CheckedField {
   std::string mShown;
 };
 
+/// A checked field for values of one type. A value that the program sets is taken as it is, without an event, and stays
+/// exactly that until the user enters another one.
+template <class Type>
+class ValueField : public CheckedField {
+ public:
+  using CheckedField::CheckedField;
+
+  /// The value last set or accepted.
+  const Type& Value() const { return mValue; }
+  void Value(const Type& value) {
+    Become(value);
+    ShowValue();
+  }
+  /// Empties the box, for a field that has no value at present; Value() is the type's own default.
+  void Clear() {
+    mValue = {};
+    mHasValue = false;
+    ShowValue();
+  }
+
+ protected:
+  /// For Take: makes an accepted value the field's.
+  void Become(const Type& value) {
+    mValue = value;
+    mHasValue = true;
+  }
+  virtual std::string TextOf(const Type& value) const = 0;
+  std::string ValueText() const final { return mHasValue ? TextOf(mValue) : std::string(); }
+
+ private:
+  Type mValue = {};
+  bool mHasValue = false;
+};
+
 }  // namespace orx

@@ -6,18 +6,6 @@
 
 namespace orx {
 
-void NumberField::Value(double value) {
-  mValue = value;
-  mHasValue = true;
-  ShowValue();
-}
-
-void NumberField::Clear() {
-  mValue = 0;
-  mHasValue = false;
-  ShowValue();
-}
-
 std::optional<Message> NumberField::Take(const std::string& text) {
   const bool hasRange =
       mRule.Minimum > std::numeric_limits<double>::lowest() || mRule.Maximum < std::numeric_limits<double>::max();
@@ -25,23 +13,21 @@ std::optional<Message> NumberField::Take(const std::string& text) {
   if (!value) {
     const char* const message = hasRange ? fieldtexts::kNoNumberInRange : fieldtexts::kNoNumber;
     return MakeMessage(fieldtexts::kInvalidNumber, message,
-                       {Name(), text, TextOf(mRule.Minimum), TextOf(mRule.Maximum)});
+                       {Name(), text, PlainText(mRule.Minimum), PlainText(mRule.Maximum)});
   }
   // Written so that a value which compares with nothing is refused too.
   if (!(*value >= mRule.Minimum && *value <= mRule.Maximum))
     return MakeMessage(fieldtexts::kWrongValue, fieldtexts::kOutOfRange,
-                       {Name(), TextOf(*value), TextOf(mRule.Minimum), TextOf(mRule.Maximum)});
-  mValue = *value;
-  mHasValue = true;
+                       {Name(), PlainText(*value), PlainText(mRule.Minimum), PlainText(mRule.Maximum)});
+  Become(*value);
   return std::nullopt;
 }
 
-std::string NumberField::ValueText() const {
-  if (!mHasValue) return {};
-  return mRule.Format ? mRule.Format(mValue) : TextOf(mValue);
+std::string NumberField::TextOf(const double& value) const {
+  return mRule.Format ? mRule.Format(value) : PlainText(value);
 }
 
-std::string NumberField::TextOf(double value) const {
+std::string NumberField::PlainText(double value) const {
   return numbers::ShortestText(value, Box().OwnerForm().OwnerDesktop().Separators());
 }
 

@@ -19,29 +19,19 @@ struct NumberRule {
   std::function<std::string(double)> Format = nullptr;
 };
 
-/// Reads numbers in the locale of the form's desktop. Only finite numbers are accepted; a number that the program sets
-/// is taken as it is, and stays until the user enters another one.
-class NumberField final : public CheckedField {
+/// Reads numbers in the locale of the form's desktop. Only finite numbers are accepted.
+class NumberField final : public ValueField<double> {
  public:
-  explicit NumberField(TextBox& box, NumberRule rule = {}) : CheckedField(box), mRule(std::move(rule)) {}
-
-  /// The number last set or accepted; 0 before.
-  double Value() const { return mValue; }
-  /// Shows a number, without an event.
-  void Value(double value);
-  /// Empties the box, for a field that has no value at present. Value() is 0.
-  void Clear();
+  explicit NumberField(TextBox& box, NumberRule rule = {}) : ValueField(box), mRule(std::move(rule)) {}
 
  protected:
   std::optional<Message> Take(const std::string& text) override;
-  std::string ValueText() const override;
+  std::string TextOf(const double& value) const override;
 
  private:
-  std::string TextOf(double value) const;
+  std::string PlainText(double value) const;
 
   NumberRule mRule;
-  double mValue = 0;
-  bool mHasValue = false;
 };
 
 /// Two number fields of which the first must be less than the second. The order is checked when the focus leaves the
