@@ -40,7 +40,7 @@ void LegendsPage::ForgetClient() {
 }
 
 void LegendsPage::ShowValues() {
-  if (std::exchange(mStartsUp, false)) mShown = static_cast<std::size_t>(StartUpIndex());
+  if (!mEdited.empty() && std::exchange(mStartsUp, false)) mShown = static_cast<std::size_t>(StartUpIndex());
   if (mShown >= mEdited.size()) mShown = 0;
   cboLegend.Clear();
   for (std::size_t i = 0; i < mEdited.size(); ++i) cboLegend.AddItem(Entry(i));

@@ -22,16 +22,25 @@ void PageBase::Language(ILanguage* value) {
 }
 
 void PageBase::RefreshContents() {
-  const bool isSupported = IsSupported();
-  if (isSupported) {
-    ReadClient();
-  } else {
-    ForgetClient();
-  }
-  mHasRead = isSupported;
+  // Until the client could be read there is nothing to edit, also when reading throws.
+  if (!mHasRead) ShowNothing();
+  if (!IsSupported()) return ShowNothing();
+  ReadClient();
+  mHasRead = true;
   WhileBusy([this] { ShowValues(); });
-  for (Control* const control : pnlPage.All()) control->Enabled(mHasRead);
-  if (mHasRead) EnableDependent();
+  EnableAll(true);
+  EnableDependent();
+}
+
+void PageBase::ShowNothing() {
+  mHasRead = false;
+  ForgetClient();
+  WhileBusy([this] { ShowValues(); });
+  EnableAll(false);
+}
+
+void PageBase::EnableAll(bool enabled) {
+  for (Control* const control : pnlPage.All()) control->Enabled(enabled);
 }
 
 void PageBase::SaveChanges() {
@@ -60,10 +69,6 @@ void PageBase::FillList(ComboBox& box, std::initializer_list<const char*> texts)
   TranslatedList list{&box, {texts.begin(), texts.end()}};
   for (const std::string& text : list.Texts) box.AddItem(text, box.ListCount());
   mLists.push_back(std::move(list));
-}
-
-void PageBase::Enable(std::initializer_list<Control*> controls, bool enabled) {
-  for (Control* const control : controls) control->Enabled(enabled);
 }
 
 }  // namespace orx::maplibrary

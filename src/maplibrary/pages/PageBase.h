@@ -81,8 +81,6 @@ class PageBase : public PropertyPage {
   void Watch(CheckedField& field);
   /// Fills a list with texts that the language translates; the entries are numbered from 0.
   void FillList(ComboBox& box, std::initializer_list<const char*> texts);
-  /// Enables several controls, or disables them.
-  static void Enable(std::initializer_list<Control*> controls, bool enabled);
 
   Form& OwnerForm() { return pnlPage.OwnerForm(); }
 
@@ -111,6 +109,8 @@ class PageBase : public PropertyPage {
     std::vector<std::string> Texts;
   };
 
+  void ShowNothing();
+  void EnableAll(bool enabled);
   bool WriteChecked();
 
   HostObject* mClient = nullptr;
