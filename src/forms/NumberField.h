@@ -1,0 +1,68 @@
+// A text field for a number, and two such fields that hold the ends of a span.
+#pragma once
+
+#include <functional>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "forms/CheckedField.h"
+
+namespace orx {
+
+/// What a number field accepts, both ends included, and how it shows its number.
+struct NumberRule {
+  double Minimum = std::numeric_limits<double>::lowest();
+  double Maximum = std::numeric_limits<double>::max();
+  /// How the number is shown; none: the shortest text that reads back as the same number. A format that rounds costs
+  /// nothing of the value: a field that is not edited stands for the exact number that it was given.
+  std::function<std::string(double)> Format = nullptr;
+};
+
+/// Reads numbers in the locale of the form's desktop. Only finite numbers are accepted.
+class NumberField final : public ValueField<double> {
+ public:
+  explicit NumberField(TextBox& box, NumberRule rule = {}) : ValueField(box), mRule(std::move(rule)) {}
+
+ protected:
+  std::optional<Message> Take(const std::string& text) override;
+  std::string TextOf(const double& value) const override;
+
+ private:
+  std::string PlainText(double value) const;
+
+  NumberRule mRule;
+};
+
+/// Two number fields of which the first must be less than the second. The order is checked when the focus leaves the
+/// pair, not on the way from one field to the other: so both ends can be typed one after the other, in any order, when
+/// a span moves past its old ends. A span in wrong order is refused like a wrong entry: a message names both values,
+/// both fields get back the numbers from before, and the focus returns to the field that it has left.
+/// It takes the Left event of both fields.
+class NumberSpan {
+ public:
+  NumberSpan(NumberField& lower, NumberField& upper);
+  NumberSpan(const NumberSpan&) = delete;
+  NumberSpan& operator=(const NumberSpan&) = delete;
+
+  /// Shows both numbers, without an event. Numbers in wrong order stay as they are until the user enters another one.
+  void Values(double lower, double upper);
+  /// Checks pending texts and the order at once, for a save. False when something was refused.
+  bool Check();
+  bool IsInOrder() const { return mLower.Value() < mUpper.Value(); }
+
+  /// Raised when an entry was accepted in one of the fields and when a span was put back.
+  Event<> Changed;
+
+ private:
+  void FieldLeft(NumberField& field);
+  bool CheckOrder(NumberField& focused);
+
+  NumberField& mLower;
+  NumberField& mUpper;
+  double mGoodLower = 0;
+  double mGoodUpper = 0;
+  bool mIsEdited = false;
+};
+
+}  // namespace orx

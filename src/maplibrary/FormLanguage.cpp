@@ -1,0 +1,17 @@
+#include "maplibrary/FormLanguage.h"
+
+#include "forms/Form.h"
+#include "forms/TabControl.h"
+
+namespace orx::maplibrary {
+
+void FormLanguage::TranslateForm(Form& form) {
+  for (Control* const control : form.All()) {
+    if (!control->Caption().empty()) control->Caption(TranslateText(control->Caption()));
+    if (!control->ToolTipText().empty()) control->ToolTipText(TranslateText(control->ToolTipText()));
+    if (auto* const tabs = dynamic_cast<TabControl*>(control))
+      for (int tab = 0; tab < tabs->TabCount(); ++tab) tabs->TabCaption(tab, TranslateText(tabs->TabCaption(tab)));
+  }
+}
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,64 @@
+#include "maplibrary/pages/CoordinatesPage.h"
+
+#include <cmath>
+
+#include "forms/Form.h"
+#include "hostobjects/IMap.h"
+
+namespace orx::maplibrary {
+
+CoordinatesPage::CoordinatesPage(const PageSite& site) : PageBase(site) {
+  for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) Watch(*field);
+  mHorizontal.Changed = [this] { ShowSizes(); };
+  mVertical.Changed = [this] { ShowSizes(); };
+}
+
+IExtent* CoordinatesPage::Extent() const {
+  if (IExtent* const extent = QueryKind<IExtent>(Client())) return extent;
+  IMap* const map = QueryKind<IMap>(Client());
+  return map ? map->Extent() : nullptr;
+}
+
+void CoordinatesPage::ReadClient() {
+  const IExtent& extent = *Extent();
+  mRead = Edges{extent.Left(), extent.Right(), extent.Bottom(), extent.Top()};
+}
+
+void CoordinatesPage::ShowValues() {
+  if (mRead) {
+    mHorizontal.Values(mRead->Left, mRead->Right);
+    mVertical.Values(mRead->Bottom, mRead->Top);
+  } else {
+    for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) field->Clear();
+  }
+  ShowSizes();
+}
+
+void CoordinatesPage::ShowSizes() {
+  const numbers::Separators separators = OwnerForm().OwnerDesktop().Separators();
+  const auto show = [&](TextBox& box, const NumberSpan& span, double size) {
+    const bool isSize = span.IsInOrder() && std::isfinite(size);
+    box.Text(isSize ? numbers::ShortestText(size, separators) : std::string());
+  };
+  show(txtWidth, mHorizontal, mRight.Value() - mLeft.Value());
+  show(txtHeight, mVertical, mTop.Value() - mBottom.Value());
+}
+
+void CoordinatesPage::WriteClient() {
+  IExtent& extent = *Extent();
+  Edges& read = *mRead;
+  const auto left = [&] { Write(read.Left, mLeft.Value(), [&](double value) { extent.Left(value); }); };
+  const auto right = [&] { Write(read.Right, mRight.Value(), [&](double value) { extent.Right(value); }); };
+  const auto bottom = [&] { Write(read.Bottom, mBottom.Value(), [&](double value) { extent.Bottom(value); }); };
+  const auto top = [&] { Write(read.Top, mTop.Value(), [&](double value) { extent.Top(value); }); };
+  // The edge in front goes first, so that the opposite one never passes it.
+  const auto inOrder = [](bool upperFirst, const auto& lower, const auto& upper) {
+    if (upperFirst) upper();
+    lower();
+    if (!upperFirst) upper();
+  };
+  inOrder(mLeft.Value() > read.Left, left, right);
+  inOrder(mBottom.Value() > read.Bottom, bottom, top);
+}
+
+}  // namespace orx::maplibrary

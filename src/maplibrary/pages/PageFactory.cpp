@@ -1,0 +1,24 @@
+#include "maplibrary/pages/PageFactory.h"
+
+#include "maplibrary/pages/CoordinatesPage.h"
+#include "maplibrary/pages/LabelPropertiesPage.h"
+#include "maplibrary/pages/LegendsPage.h"
+#include "maplibrary/pages/PropertiesPage.h"
+
+namespace orx::maplibrary {
+
+std::unique_ptr<PropertyPage> PageFactory::CreatePage(PageKind kind, const PageSite& site) {
+  switch (kind) {
+    case PageKind::Properties:
+      return std::make_unique<PropertiesPage>(site);
+    case PageKind::LabelProperties:
+      return std::make_unique<LabelPropertiesPage>(site);
+    case PageKind::Coordinates:
+      return std::make_unique<CoordinatesPage>(site);
+    case PageKind::Legends:
+      return std::make_unique<LegendsPage>(site);
+  }
+  return nullptr;
+}
+
+}  // namespace orx::maplibrary
