@@ -1,0 +1,74 @@
+#include "desktops/qt/Dialog.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "desktops/qt/Application.h"
+#include "desktops/qt/Text.h"
+#include "forms/Form.h"
+
+namespace orx::qt {
+
+Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
+  setObjectName(ToQt(form.Name()));
+  setFont(DialogFont());
+  // The end of the host's application is not for a dialog to decide.
+  setAttribute(Qt::WA_QuitOnClose, false);
+  Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  if (form.Border() == BorderStyle::Fixed) flags |= Qt::MSWindowsFixedSizeDialogHint;
+  setWindowFlags(flags);
+}
+
+void Dialog::Report(const std::function<void()>& act) {
+  if (mRetired || mQuiet > 0 || !mForm.Visible()) return;
+  ++mActs;
+  {
+    const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
+    act();
+  }
+  if (--mActs == 0 && mRetired) deleteLater();
+}
+
+bool Dialog::ReportKey(const QKeyEvent& event) {
+  const std::optional<KeyStroke> stroke = StrokeOf(event);
+  bool handled = false;
+  if (stroke) Report([&] { handled = mForm.UserKey(*stroke); });
+  return handled;
+}
+
+void Dialog::Retire() {
+  mRetired = true;
+  hide();
+  if (mActs == 0) deleteLater();
+}
+
+void Dialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Report([this] { mForm.UserClose(); });
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event) {
+  // Keys come here from a control that had no use for them, and the form has seen them there; only without a control
+  // they are new. The base class is passed by: it would close the dialog on Escape and press buttons on Enter.
+  event->ignore();
+  if ((!focusWidget() || focusWidget() == this) && ReportKey(*event)) event->accept();
+}
+
+void Dialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (mRetired || mForm.Border() == BorderStyle::Fixed || size() == mGround.WindowSize()) return;
+  const int width = size().width() - mGround.ExtraWidth();
+  const int height = size().height();
+  Report([&] { mForm.UserResize({mForm.OwnerDesktop().ToTwips(width), mForm.OwnerDesktop().ToTwips(height)}); });
+  if (!mRetired) mGround.Arrange();
+}
+
+void Dialog::moveEvent(QMoveEvent* event) {
+  QDialog::moveEvent(event);
+  if (mRetired) return;
+  const Desktop& desktop = mForm.OwnerDesktop();
+  if (x() == desktop.ToPixels(mForm.Left()) && y() == desktop.ToPixels(mForm.Top())) return;
+  Report([&] { mForm.UserMove(desktop.ToTwips(x()), desktop.ToTwips(y())); });
+}
+
+}  // namespace orx::qt

@@ -1,0 +1,56 @@
+// The native window of a form. It is the gate through which all that the user does reaches the form, and it stays in
+// memory while such an act runs, even when the act closes the form.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "desktops/qt/Surface.h"
+
+namespace orx::qt {
+
+class Dialog final : public QDialog {
+ public:
+  explicit Dialog(Form& form);
+
+  Form& Owner() const { return mForm; }
+  Surface& Ground() { return mGround; }
+
+  /// Runs `act`, which reports to the form. Does nothing while the program itself moves the widgets, nor when the form
+  /// is not shown. `act` and its surroundings may be gone when this returns.
+  void Report(const std::function<void()>& act);
+  /// Hands a key press to the form. True when it is dealt with.
+  bool ReportKey(const QKeyEvent& event);
+  /// Cuts the dialog off from its form and deletes it as soon as no event of it runs.
+  void Retire();
+
+  /// While one lives, what happens to the widgets is the program's doing and not reported.
+  class Quiet {
+   public:
+    explicit Quiet(Dialog& dialog) : mDialog(dialog) { ++mDialog.mQuiet; }
+    ~Quiet() { --mDialog.mQuiet; }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+   private:
+    Dialog& mDialog;
+  };
+
+  /// Escape and the default button are the form's business.
+  void reject() override {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+
+ private:
+  Form& mForm;
+  Surface mGround;
+  int mQuiet = 0;
+  int mActs = 0;
+  bool mRetired = false;
+};
+
+}  // namespace orx::qt

@@ -1,0 +1,131 @@
+#include "desktops/qt/DialogWindow.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <QWindow>
+
+#include "desktops/qt/Text.h"
+#include "forms/Form.h"
+
+namespace orx::qt {
+
+DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mMaker(*mDialog) {
+  MakePeers(form, nullptr);
+  // A label looks for the peer of its neighbour, so all are there before the first one shows anything.
+  for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
+  OrderTabs();
+  UpdateCaption();
+}
+
+DialogWindow::~DialogWindow() {
+  Abandon();
+}
+
+void DialogWindow::MakePeers(const Container& container, QWidget* parent) {
+  for (Control* const control : container.Children()) {
+    std::unique_ptr<Peer>& peer =
+        mPeers.emplace_back(mMaker.Make(*control, parent ? *parent : mDialog->Ground().HomeOf(*control)));
+    control->Peer(peer.get());
+    QWidget& widget = peer->Widget();
+    if (!parent) mDialog->Ground().Add(*control, widget);
+    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, &widget);
+  }
+}
+
+void DialogWindow::OrderTabs() const {
+  QWidget* before = nullptr;
+  for (const Control* const control : mForm.All()) {
+    if (!control->TakesFocus()) continue;
+    QWidget* const widget = &PeerOf(*control)->FocusWidget();
+    if (before) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+QWindow* DialogWindow::WindowOf(const OwnerWindow& owner) const {
+  if (owner.OwnerForm && owner.OwnerForm->Window()) {
+    const Dialog* const dialog = static_cast<DialogWindow*>(owner.OwnerForm->Window())->Native();
+    return dialog ? dialog->windowHandle() : nullptr;
+  }
+  if (owner.NativeHandle) {
+    for (QWindow* const window : QGuiApplication::allWindows())
+      if (window->handle() && window->winId() == owner.NativeHandle) return window;
+  }
+  // Without an owner the dialog stands before whatever the user works in; behind a modal window it could not be
+  // reached.
+  const QWidget* const modal = QApplication::activeModalWidget();
+  return modal && modal != mDialog ? modal->windowHandle() : nullptr;
+}
+
+void DialogWindow::Show(ShowMode mode, OwnerWindow owner) {
+  const Dialog::Quiet quiet(*mDialog);
+  mEnded = false;
+  mDialog->setWindowModality(mode == ShowMode::Modal ? Qt::ApplicationModal : Qt::NonModal);
+  UpdatePlace();
+  // The owner is no parent widget: Qt deletes a parent's dialogs with it, but here each form owns its window.
+  mDialog->winId();
+  mDialog->windowHandle()->setTransientParent(WindowOf(owner));
+  mDialog->show();
+  mDialog->activateWindow();
+}
+
+void DialogWindow::Hide() {
+  const Dialog::Quiet quiet(*mDialog);
+  mDialog->hide();
+}
+
+void DialogWindow::RunModal() {
+  if (mEnded) return;
+  Desktop& desktop = mForm.OwnerDesktop();
+  QTimer::singleShot(0, &mLoop, [this, &desktop] {
+    // Qt bears no exception that passes through its loops.
+    try {
+      if (!mEnded) desktop.ModalIsRunning({&mForm, nullptr});
+    } catch (...) {
+      mHookError = std::current_exception();
+      EndModal();
+    }
+  });
+  mLoop.exec();
+  // The host's application is about to end: the dialog goes as by its close box.
+  if (!mEnded) mForm.UserClose();
+  if (mHookError) std::rethrow_exception(std::exchange(mHookError, nullptr));
+}
+
+void DialogWindow::EndModal() {
+  mEnded = true;
+  mLoop.quit();
+}
+
+void DialogWindow::UpdateCaption() {
+  mDialog->setWindowTitle(ToQt(mForm.Caption()));
+}
+
+void DialogWindow::UpdatePlace() {
+  const Dialog::Quiet quiet(*mDialog);
+  const Desktop& desktop = mForm.OwnerDesktop();
+  const QSize size = mDialog->Ground().WindowSize();
+  if (mForm.Border() == BorderStyle::Fixed) {
+    mDialog->setFixedSize(size);
+  } else {
+    mDialog->resize(size);
+  }
+  mDialog->move(desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()));
+  mDialog->Ground().Arrange();
+}
+
+void DialogWindow::Repaint() {
+  mDialog->repaint();
+}
+
+std::uintptr_t DialogWindow::NativeHandle() const {
+  return mDialog->winId();
+}
+
+void DialogWindow::Abandon() {
+  if (!mDialog) return;
+  mPeers.clear();
+  std::exchange(mDialog, nullptr)->Retire();
+}
+
+}  // namespace orx::qt

@@ -1,0 +1,67 @@
+#include "desktops/qt/MessageBox.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+#include <exception>
+
+#include "desktops/qt/Application.h"
+#include "desktops/qt/Text.h"
+
+namespace orx::qt {
+namespace {
+
+QMessageBox::Icon NativeIcon(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::Critical:
+      return QMessageBox::Critical;
+    case MessageIcon::Question:
+      return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::Information:
+      return QMessageBox::Information;
+    case MessageIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+/// Puts the box before its owner's window. The owner is no parent widget, as the box must outlive it.
+void PutBefore(QMessageBox& box, QWindow* owner) {
+  if (!owner) return;
+  box.winId();
+  box.windowHandle()->setTransientParent(owner);
+  box.adjustSize();
+  box.move(owner->geometry().center() - box.rect().center());
+}
+
+}  // namespace
+
+void RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running) {
+  QMessageBox box(NativeIcon(message.Icon), ToQt(message.Title), ToQt(message.Text), QMessageBox::Ok);
+  box.setTextFormat(Qt::PlainText);
+  box.setFont(DialogFont());
+  box.setWindowModality(Qt::ApplicationModal);
+  box.setAttribute(Qt::WA_QuitOnClose, false);
+  const QWidget* const active = QApplication::activeWindow();
+  PutBefore(box, owner || !active ? owner : active->windowHandle());
+  std::exception_ptr error;
+  QTimer::singleShot(0, &box, [&] {
+    try {
+      running();
+    } catch (...) {
+      error = std::current_exception();
+      box.accept();
+    }
+  });
+  box.exec();
+  if (error) std::rethrow_exception(error);
+}
+
+QMessageBox* OpenMessageBox() {
+  return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+}  // namespace orx::qt

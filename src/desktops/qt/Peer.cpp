@@ -1,0 +1,107 @@
+#include "desktops/qt/Peer.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+
+#include "desktops/qt/Text.h"
+#include "forms/Form.h"
+
+namespace orx::qt {
+namespace {
+
+constexpr Aspect kAspects[] = {Aspect::Items,   Aspect::Text,    Aspect::Value,     Aspect::Selection,
+                               Aspect::Colors,  Aspect::Place,   Aspect::Enabled,   Aspect::Visible,
+                               Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible};
+
+/// True when the whole window or a popup got or lost the focus, so that nothing changes within the form.
+bool IsOutsideTheForm(Qt::FocusReason reason) {
+  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
+}  // namespace
+
+Peer::Peer(Control& control, Dialog& dialog, QWidget* widget, QWidget* focus)
+    : mControl(control), mDialog(dialog), mWidget(widget), mFocus(focus ? focus : widget) {
+  mWidget->setObjectName(ToQt(control.Name()));
+  mFocus->installEventFilter(this);
+}
+
+void Peer::Update(Aspect aspect) {
+  const Dialog::Quiet quiet(mDialog);
+  Mirror(aspect);
+}
+
+void Peer::UpdateAll() {
+  for (const Aspect aspect : kAspects) Update(aspect);
+}
+
+void Peer::TakeFocus() {
+  const Dialog::Quiet quiet(mDialog);
+  mFocus->setFocus(ReasonToFocus());
+  mDialog.Ground().Reveal(*mWidget);
+}
+
+void Peer::Mirror(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Place:
+      return MirrorPlace();
+    case Aspect::Visible:
+      mWidget->setVisible(mControl.Visible());
+      return ArrangeGround();
+    case Aspect::Enabled:
+      return mWidget->setEnabled(mControl.Enabled());
+    case Aspect::ToolTip:
+      return mWidget->setToolTip(PlainToolTip(mControl.ToolTipText()));
+    case Aspect::Text:
+    case Aspect::Accessible:
+      return mFocus->setAccessibleName(ToQt(mControl.AccessibleName()));
+    default:
+      return;
+  }
+}
+
+void Peer::MirrorPlace() {
+  mWidget->setGeometry(mDialog.Ground().PlaceOf(mControl));
+  ArrangeGround();
+}
+
+void Peer::ArrangeGround() {
+  if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+}
+
+void Peer::FocusCame(QObject& watched, QEvent& event) {
+  const Qt::FocusReason reason = static_cast<QFocusEvent&>(event).reason();
+  Dialog& dialog = mDialog;
+  QWidget& widget = *mWidget;
+  Control& control = mControl;
+  watched.event(&event);
+  if (IsOutsideTheForm(reason)) return;
+  dialog.Report([&] {
+    dialog.Ground().Reveal(widget);
+    dialog.Owner().UserFocus(control);
+  });
+}
+
+bool Peer::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // The press itself follows; no shortcut of Qt or of the host is to act on a dialog key.
+      if (!StrokeOf(static_cast<QKeyEvent&>(*event))) return false;
+      event->accept();
+      return true;
+    case QEvent::KeyPress:
+      return mDialog.ReportKey(static_cast<QKeyEvent&>(*event));
+    case QEvent::FocusIn:
+      FocusCame(*watched, *event);
+      return true;
+    case QEvent::Wheel:
+      // A turn of the wheel over a control that the user is not in scrolls the form and changes no value.
+      if (mControl.HasFocus()) return false;
+      event->ignore();
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace orx::qt

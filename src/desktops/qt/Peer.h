@@ -1,0 +1,55 @@
+// The base of all native mirrors: place, visibility, focus and the rest that widgets of every kind share.
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include "desktops/qt/Dialog.h"
+#include "forms/Control.h"
+
+namespace orx::qt {
+
+/// As a QObject it is the context of all its connections, which end with it. The widget belongs to its parent widget
+/// and may outlive the peer.
+class Peer : public QObject, public ControlPeer {
+ public:
+  /// `focus` is the widget that takes keys and the focus for the control; null: `widget` itself.
+  Peer(Control& control, Dialog& dialog, QWidget* widget, QWidget* focus = nullptr);
+
+  void Update(Aspect aspect) final;
+  void TakeFocus() final;
+  /// Brings all aspects up to the state of the control.
+  void UpdateAll();
+
+  QWidget& Widget() const { return *mWidget; }
+  QWidget& FocusWidget() const { return *mFocus; }
+
+ protected:
+  /// Mirrors one aspect; a kind of control handles its own and leaves the others to this.
+  virtual void Mirror(Aspect aspect);
+  /// The reason to give Qt for a focus that comes by the form's decision.
+  virtual Qt::FocusReason ReasonToFocus() const { return Qt::TabFocusReason; }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  Dialog& Window() const { return mDialog; }
+  void Report(const std::function<void()>& act) const { mDialog.Report(act); }
+
+ private:
+  void MirrorPlace();
+  /// Lets the ground of the form follow a control that stands on it.
+  void ArrangeGround();
+  /// Lets the widget have the event, then tells the form that the focus has come.
+  void FocusCame(QObject& watched, QEvent& event);
+
+  Control& mControl;
+  Dialog& mDialog;
+  QWidget* mWidget;
+  QWidget* mFocus;
+};
+
+/// The peer of a control, null while its form has no window.
+inline Peer* PeerOf(const Control& control) {
+  return static_cast<Peer*>(control.Peer());
+}
+
+}  // namespace orx::qt

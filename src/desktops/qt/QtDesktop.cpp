@@ -1,0 +1,145 @@
+#include "desktops/qt/QtDesktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QFontInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QScreen>
+#include <QStyle>
+#include <QUrl>
+#include <algorithm>
+#include <optional>
+
+#include "desktops/qt/Application.h"
+#include "desktops/qt/DialogWindow.h"
+#include "desktops/qt/MessageBox.h"
+#include "desktops/qt/Text.h"
+#include "forms/Form.h"
+
+namespace orx::qt {
+namespace {
+
+/// The font size, in points, for which the dialogs are drawn up.
+constexpr double kDesignPoints = 9;
+constexpr double kDesignDotsPerInch = 96;
+
+/// What the window manager adds to a dialog: seen on one that is shown, else what the style thinks of frames.
+QSize FrameSize(BorderStyle border) {
+  for (const QWidget* const window : QApplication::topLevelWidgets()) {
+    const auto* const dialog = dynamic_cast<const Dialog*>(window);
+    if (!dialog || !dialog->isVisible() || dialog->Owner().Border() != border) continue;
+    const QSize frame = dialog->frameGeometry().size() - dialog->size();
+    if (!frame.isNull()) return frame;
+  }
+  const QStyle& style = *QApplication::style();
+  const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+  return {2 * edge, 2 * edge + style.pixelMetric(QStyle::PM_TitleBarHeight)};
+}
+
+/// Deletes the dialogs that wait for it; without a running event loop nobody else does.
+void DeleteRetiredDialogs() {
+  for (QWidget* const window : QApplication::topLevelWidgets())
+    if (dynamic_cast<Dialog*>(window)) QCoreApplication::sendPostedEvents(window, QEvent::DeferredDelete);
+}
+
+bool Save(QWidget& window, const std::string& pngPath) {
+  return window.grab().save(ToQt(pngPath), "PNG");
+}
+
+}  // namespace
+
+struct QtDesktop::State {
+  std::optional<numbers::Separators> Separators;
+  std::optional<Rect> WorkArea;
+  bool PointerIsOurs = false;
+};
+
+QtDesktop::QtDesktop() : mState(std::make_unique<State>()) {
+  EnsureApplication();
+}
+
+QtDesktop::~QtDesktop() {
+  CloseOpenForms();
+  DoSetPointer(orx::Pointer::Default);
+  DeleteRetiredDialogs();
+}
+
+ScreenMetrics QtDesktop::Metrics(BorderStyle border) const {
+  const auto inTwips = [this](const QRect& place) {
+    return Rect{ToTwips(place.x()), ToTwips(place.y()), ToTwips(place.width()), ToTwips(place.height())};
+  };
+  ScreenMetrics metrics;
+  if (const QScreen* const screen = QGuiApplication::primaryScreen()) {
+    const Rect whole = inTwips(screen->geometry());
+    metrics.Screen = {whole.Width, whole.Height};
+    metrics.WorkArea = inTwips(screen->availableGeometry());
+  }
+  if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
+  const QSize frame = FrameSize(border);
+  metrics.Frame = {ToTwips(frame.width()), ToTwips(frame.height())};
+  return metrics;
+}
+
+double QtDesktop::Scale() const {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  const double dots = screen ? screen->logicalDotsPerInchY() : kDesignDotsPerInch;
+  return dots / kDesignDotsPerInch * std::max(1.0, QFontInfo(DialogFont()).pointSizeF() / kDesignPoints);
+}
+
+numbers::Separators QtDesktop::Separators() const {
+  if (mState->Separators) return *mState->Separators;
+  const QLocale locale = QLocale::system();
+  return {FromQt(locale.decimalPoint()), FromQt(locale.groupSeparator()), FromQt(locale.currencySymbol())};
+}
+
+void QtDesktop::Separators(const numbers::Separators& value) {
+  mState->Separators = value;
+}
+
+void QtDesktop::WorkArea(const Rect& value) {
+  mState->WorkArea = value;
+}
+
+void QtDesktop::ProcessPendingEvents() {
+  QCoreApplication::processEvents();
+}
+
+bool QtDesktop::SavePicture(const Form& form, const std::string& pngPath) const {
+  return form.Visible() && Save(*static_cast<DialogWindow*>(form.Window())->Native(), pngPath);
+}
+
+bool QtDesktop::SaveMessagePicture(const std::string& pngPath) const {
+  QMessageBox* const box = OpenMessageBox();
+  return box && Save(*box, pngPath);
+}
+
+std::unique_ptr<FormWindow> QtDesktop::OpenWindow(Form& form) {
+  return std::make_unique<DialogWindow>(form);
+}
+
+void QtDesktop::DoShowMessage(const Message& message, FormWindow* owner) {
+  const Dialog* const dialog = owner ? static_cast<DialogWindow*>(owner)->Native() : nullptr;
+  RunMessageBox(message, dialog ? dialog->windowHandle() : nullptr, [&] { ModalIsRunning({nullptr, &message}); });
+}
+
+void QtDesktop::DoBeep() {
+  QApplication::beep();
+}
+
+void QtDesktop::DoSetPointer(orx::Pointer value) {
+  // One override at most is this desktop's own; those of the host below it stay.
+  if (mState->PointerIsOurs) QGuiApplication::restoreOverrideCursor();
+  mState->PointerIsOurs = value != orx::Pointer::Default;
+  if (mState->PointerIsOurs)
+    QGuiApplication::setOverrideCursor(value == orx::Pointer::Hourglass ? Qt::WaitCursor : Qt::SizeVerCursor);
+}
+
+void QtDesktop::DoShowHelp(const HelpRequest& request) {
+  const QFileInfo file(ToQt(request.FileName));
+  if (file.isFile()) QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+}
+
+}  // namespace orx::qt

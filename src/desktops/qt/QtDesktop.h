@@ -1,0 +1,49 @@
+// The desktop of Linux and macOS: shows the dialogs as native Qt Widgets windows. Hosts include this header alone; it
+// needs no Qt headers.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "forms/Desktop.h"
+
+namespace orx::qt {
+
+/// Use it on the thread of the QApplication only. Dialogs take the application's font, at 9 points or more, and grow
+/// with it.
+class QtDesktop final : public Desktop {
+ public:
+  /// Uses the host's QApplication. When there is none, one is made that serves all desktops to come and stays until the
+  /// process ends. Throws std::logic_error when the host's application object is no QApplication.
+  QtDesktop();
+  /// Closes the forms that are still open.
+  ~QtDesktop() override;
+
+  ScreenMetrics Metrics(BorderStyle border) const override;
+  double Scale() const override;
+  numbers::Separators Separators() const override;
+  void ProcessPendingEvents() override;
+
+  /// Gives number separators in place of the locale's.
+  void Separators(const numbers::Separators& value);
+  /// Gives a part of the screen, in twips, to keep the dialogs in, in place of the screen's own work area.
+  void WorkArea(const Rect& value);
+
+  /// Writes a picture of a form that is shown, or of the message box that is open, without the frame of its window and
+  /// with all the pixels of the screen, as PNG file. False when nothing is shown or the file cannot be written.
+  bool SavePicture(const Form& form, const std::string& pngPath) const;
+  bool SaveMessagePicture(const std::string& pngPath) const;
+
+ protected:
+  std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
+  void DoShowMessage(const Message& message, FormWindow* owner) override;
+  void DoBeep() override;
+  void DoSetPointer(orx::Pointer value) override;
+  void DoShowHelp(const HelpRequest& request) override;
+
+ private:
+  struct State;
+  std::unique_ptr<State> mState;
+};
+
+}  // namespace orx::qt

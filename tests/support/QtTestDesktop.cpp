@@ -1,0 +1,198 @@
+// The user of the Qt desktop: sends real mouse and key events to the native widgets and reads those back.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
+
+#include "desktops/qt/MessageBox.h"
+#include "desktops/qt/Peer.h"
+#include "desktops/qt/QtDesktop.h"
+#include "desktops/qt/Text.h"
+#include "tests/support/User.h"
+
+namespace orx::test {
+namespace {
+
+using qt::FromQt;
+using qt::PeerOf;
+using qt::ToQt;
+
+template <class Widget>
+Widget* As(Control& control) {
+  return PeerOf(control) ? qobject_cast<Widget*>(&PeerOf(control)->Widget()) : nullptr;
+}
+
+QString Plain(const QString& caption) {
+  return ToQt(WithoutMnemonic(FromQt(caption)));
+}
+
+/// A window has to be active before it takes keys; not every platform activates it by itself.
+void Activate(QWidget& widget) {
+  QWidget& window = *widget.window();
+  if (window.isActiveWindow()) return;
+  window.activateWindow();
+  if (!QTest::qWaitForWindowActive(&window, 1000)) QApplication::setActiveWindow(&window);
+}
+
+/// Clicks through the window, as the mouse does: what covers the widget or is disabled gets in the way.
+void MouseClick(QWidget& widget, QPoint at) {
+  Activate(widget);
+  QWidget& window = *widget.window();
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, widget.mapTo(&window, at));
+}
+
+void MouseClick(QWidget& widget) {
+  MouseClick(widget, widget.rect().center());
+}
+
+/// True when the user finds the control on the screen; one that is scrolled away is brought into view.
+bool CanReach(Control& control) {
+  if (!PeerOf(control) || !PeerOf(control)->Widget().isVisible()) return false;
+  static_cast<qt::Dialog*>(PeerOf(control)->Widget().window())->Ground().Reveal(PeerOf(control)->Widget());
+  return true;
+}
+
+void TypeInto(QWidget& focused, const std::string& text) {
+  const QPointer<QWidget> widget(&focused);
+  QTest::keyClick(&focused, Qt::Key_A, Qt::ControlModifier);
+  if (text.empty()) QTest::keyClick(&focused, Qt::Key_Delete);
+  for (const char32_t character : ToQt(text).toUcs4())
+    if (widget) QTest::sendKeyEvent(QTest::Click, widget, Qt::Key(0), QString::fromUcs4(&character, 1), Qt::NoModifier);
+}
+
+Qt::Key NativeKey(const KeyStroke& stroke) {
+  switch (stroke.Key) {
+    case Key::Tab:
+      return stroke.Shift ? Qt::Key_Backtab : Qt::Key_Tab;
+    case Key::Enter:
+      return Qt::Key_Return;
+    case Key::Escape:
+      return Qt::Key_Escape;
+    case Key::Character:
+      break;
+  }
+  return static_cast<Qt::Key>(QChar::toUpper(stroke.Character));
+}
+
+class QtUser final : public User {
+ public:
+  void Click(Button& button) override {
+    if (CanReach(button)) MouseClick(*As<QPushButton>(button));
+  }
+
+  void Toggle(CheckBox& box) override {
+    // The box itself is at the left end; to the right of a short caption nothing reacts.
+    if (CanReach(box)) MouseClick(*As<QCheckBox>(box), {8, As<QCheckBox>(box)->height() / 2});
+  }
+
+  void ClickInto(Control& control) override {
+    if (!CanReach(control)) return;
+    auto* const combo = As<QComboBox>(control);
+    MouseClick(combo && combo->lineEdit() ? *combo->lineEdit() : PeerOf(control)->FocusWidget());
+    // A drop-down list opens on a click; the user looks and closes it again.
+    if (QWidget* const popup = QApplication::activePopupWidget()) QTest::keyClick(popup, Qt::Key_Escape);
+  }
+
+  void Type(TextBox& field, const std::string& text) override { ClickAndType(field, text); }
+  void Type(ComboBox& box, const std::string& text) override { ClickAndType(box, text); }
+
+  void Choose(ComboBox& box, int index) override {
+    if (!CanReach(box)) return;
+    QComboBox& combo = *As<QComboBox>(box);
+    MouseClick(combo, {combo.width() - 8, combo.height() / 2});
+    if (!combo.view()->isVisible()) return;
+    // A release right after the press that opened the list is not taken for a choice, but keys are.
+    QTest::keyClick(combo.view(), Qt::Key_Home);
+    for (int below = 0; below < index; ++below) QTest::keyClick(combo.view(), Qt::Key_Down);
+    QTest::keyClick(combo.view(), Qt::Key_Return);
+  }
+
+  void SelectTab(TabControl& tabs, int tab) override {
+    if (!CanReach(tabs)) return;
+    QTabBar& bar = *As<QTabWidget>(tabs)->tabBar();
+    MouseClick(bar, bar.tabRect(tab).center());
+  }
+
+  void Press(Form& form, const KeyStroke& stroke) override {
+    QWidget& dialog = WindowOf(form);
+    Activate(dialog);
+    Qt::KeyboardModifiers modifiers;
+    modifiers.setFlag(Qt::AltModifier, stroke.Alt);
+    modifiers.setFlag(Qt::ShiftModifier, stroke.Shift);
+    QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, NativeKey(stroke), modifiers);
+  }
+
+  void CloseBox(Form& form) override { WindowOf(form).close(); }
+
+  void AnswerMessage() override {
+    if (QMessageBox* const box = qt::OpenMessageBox()) MouseClick(*box->button(QMessageBox::Ok));
+  }
+
+  Seen See(Control& control) override {
+    if (!PeerOf(control)) return {};
+    QWidget& widget = PeerOf(control)->Widget();
+    Seen seen{widget.isVisible(), widget.isVisible() && widget.isEnabled(),
+              widget.window()->focusWidget() == &PeerOf(control)->FocusWidget(), FromQt(ShownText(control)), 0};
+    if (const auto* const box = As<QCheckBox>(control)) seen.Value = ShownState(box->checkState());
+    if (const auto* const combo = As<QComboBox>(control)) seen.Value = combo->currentIndex();
+    if (const auto* const tabs = As<QTabWidget>(control)) seen.Value = tabs->currentIndex();
+    return seen;
+  }
+
+  std::string SeeCaption(Form& form) override { return FromQt(WindowOf(form).windowTitle()); }
+
+ private:
+  static QWidget& WindowOf(Form& form) { return *QWidget::find(form.Window()->NativeHandle()); }
+
+  void ClickAndType(Control& control, const std::string& text) {
+    ClickInto(control);
+    if (PeerOf(control) && control.HasFocus()) TypeInto(PeerOf(control)->FocusWidget(), text);
+  }
+
+  static QString ShownText(Control& control) {
+    if (const auto* const field = As<QLineEdit>(control)) return field->text();
+    if (const auto* const field = As<QPlainTextEdit>(control)) return field->toPlainText();
+    if (const auto* const combo = As<QComboBox>(control)) return combo->currentText();
+    if (const auto* const tabs = As<QTabWidget>(control)) return Plain(tabs->tabText(tabs->currentIndex()));
+    if (const auto* const frame = As<QGroupBox>(control)) return Plain(frame->title());
+    if (const auto* const button = As<QAbstractButton>(control)) return Plain(button->text());
+    const auto* const label = As<QLabel>(control);
+    if (!label) return {};
+    // A label without a buddy shows its marks as they are.
+    return label->buddy() ? Plain(label->text()) : label->text();
+  }
+
+  static int ShownState(Qt::CheckState state) {
+    if (state == Qt::PartiallyChecked) return static_cast<int>(CheckState::Grayed);
+    return static_cast<int>(CheckedIf(state == Qt::Checked));
+  }
+};
+
+class QtTestDesktop final : public TestDesktop {
+ public:
+  Desktop& Get() override { return mDesktop; }
+  User& Person() override { return mUser; }
+  void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+
+ private:
+  qt::QtDesktop mDesktop;
+  QtUser mUser;
+};
+
+}  // namespace
+
+std::unique_ptr<TestDesktop> MakeTestDesktop() {
+  return std::make_unique<QtTestDesktop>();
+}
+
+}  // namespace orx::test
