@@ -84,8 +84,8 @@ void Desktop::EndModal(const Form& form) {
 }
 
 void Desktop::Retire(const Form& form, std::unique_ptr<FormWindow> window) {
-  for (Session* session : mSessions)
-    if (session->Shown == &form) session->Retired = std::move(window);
+  const auto session = std::ranges::find(mSessions, &form, &Session::Shown);
+  if (session != mSessions.end()) (*session)->Retired = std::move(window);
 }
 
 void Desktop::KeepOpen(std::shared_ptr<Form> form) {

@@ -40,7 +40,7 @@ void TabControl::TabCaption(int tab, const std::string& value) {
 }
 
 void TabControl::Tab(int tab) {
-  mPages.at(static_cast<std::size_t>(tab));
+  static_cast<void>(mPages.at(static_cast<std::size_t>(tab)));
   if (tab == mTab) return;
   const int before = mTab;
   mTab = tab;
