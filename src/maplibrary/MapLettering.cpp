@@ -9,7 +9,7 @@ namespace orx::maplibrary {
 
 namespace {
 
-/// Widths of the characters from ' ' to '~' in thousandths of the font size.
+/// Widths of the characters from ' ' to '~' in thousandths of the font size, in a narrow font.
 constexpr std::array<std::int16_t, 95> kWidths = {
     278, 278, 355, 556, 556, 889, 667, 191, 333, 333, 389, 584, 278, 333,  278, 278, 556, 556, 556,
     556, 556, 556, 556, 556, 556, 556, 278, 278, 584, 584, 584, 556, 1015, 667, 667, 722, 722, 667,
@@ -17,7 +17,10 @@ constexpr std::array<std::int16_t, 95> kWidths = {
     667, 611, 278, 278, 278, 469, 556, 333, 556, 556, 500, 556, 556, 278,  556, 556, 222, 222, 500,
     222, 833, 556, 556, 556, 556, 333, 500, 278, 556, 500, 722, 500, 500,  500, 334, 260, 334, 584};
 constexpr int kOtherWidth = 600;
-constexpr double kBoldFactor = 1.07;
+/// Fonts that stand in for one that is not installed run wider. A label is better a little far from its symbol than on
+/// top of it.
+constexpr double kWideFactor = 1.13;
+constexpr double kBoldFactor = 1.1;
 
 int WidthAt(unsigned char byte) {
   const bool isContinued = (byte & 0xC0) == 0x80;
@@ -36,7 +39,7 @@ int PixelOf(double value) {
 double Lettering::WidthOf(const std::string& text, const Font& font) const {
   double width = 0;
   for (const char c : text) width += WidthAt(static_cast<unsigned char>(c));
-  return width / 1000 * Pixels(font.Size) * (font.Bold ? kBoldFactor : 1.0);
+  return width / 1000 * Pixels(font.Size) * kWideFactor * (font.Bold ? kBoldFactor : 1.0);
 }
 
 void Lettering::Draw(const PixelPoint& center, const std::string& text, const Font& font, Color pen, double rotation) {

@@ -1,6 +1,7 @@
 #include "maplibrary/RenderGrid.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "maplibrary/ColorRamp.h"
@@ -45,6 +46,22 @@ std::vector<AxisSample> SamplesOf(int pixels, double start, double end, double f
   return samples;
 }
 
+/// The ramp in steps that are finer than its colours differ.
+class RampTable {
+ public:
+  explicit RampTable(const ValueRange& range) : mRange(range) {
+    for (std::size_t i = 0; i < mColors.size(); ++i) mColors[i] = ColorAt(static_cast<double>(i) / kSteps);
+  }
+  const Color& For(double value) const {
+    return mColors[static_cast<std::size_t>(ShareOf(value, mRange) * kSteps + 0.5)];
+  }
+
+ private:
+  static constexpr int kSteps = 2048;
+  ValueRange mRange;
+  std::array<Color, kSteps + 1> mColors;
+};
+
 double Mixed(double before, double behind, double share) {
   return before + (behind - before) * share;
 }
@@ -67,6 +84,7 @@ void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed,
       SamplesOf(image.Width, window.Left, window.Right, placed.Place.Left, placed.Place.Right, grid.Columns, sampling);
   const auto rows =
       SamplesOf(image.Height, window.Top, window.Bottom, placed.Place.Top, placed.Place.Bottom, grid.Rows, sampling);
+  const RampTable ramp(range);
   std::uint8_t* pixel = image.Pixels.data();
   for (const AxisSample& row : rows) {
     for (const AxisSample& column : columns) {
@@ -75,7 +93,7 @@ void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed,
       if (!row.Inside || !column.Inside) continue;
       const double value = ValueAt(grid, row, column);
       if (std::isnan(value)) continue;
-      const Color color = ColorAt(ShareOf(value, range));
+      const Color& color = ramp.For(value);
       place[0] = color.Red;
       place[1] = color.Green;
       place[2] = color.Blue;

@@ -10,7 +10,8 @@ std::unique_ptr<Map> MakeSampleMap(const std::string& path) {
   const auto grid = std::make_shared<const GridData>(ReadGridFile(path));
   auto map = std::make_unique<Map>(FileStem(path));
   map->Legend(0).Title("Elevation (m)");
-  map->AddLayer(std::make_unique<Layer>("Terrain", path, grid));
+  // The label of the whole terrain keeps clear of the tile labels, which stand on the right.
+  map->AddLayer(std::make_unique<Layer>("Terrain", path, grid)).Position(LabelPosition::Left);
   auto quarters = MakeQuarters("Quarters", path, *grid);
   // The tiles name their own peaks; a larger symbol without a label shows which of them is the highest.
   for (const auto& tile : quarters->Tiles().All()) tile->Content(LabelContent::NameAndValue);
