@@ -1,0 +1,166 @@
+// The pages in other languages: every text is translated, and mnemonics stay unique.
+#include <map>
+#include <set>
+
+#include "forms/FieldTexts.h"
+#include "maplibrary/PseudoLanguage.h"
+#include "maplibrary/TextLanguage.h"
+#include "maplibrary/pages/PageTexts.h"
+#include "tests/maplibrary/PagesTest.h"
+
+namespace orx::test {
+namespace {
+
+using maplibrary::PseudoLanguage;
+using maplibrary::TextLanguage;
+
+/// Asks a language, and keeps the keys that it has no text for.
+class CheckedLanguage final : public maplibrary::FormLanguage {
+ public:
+  explicit CheckedLanguage(TextLanguage& language) : mLanguage(language) {}
+  std::int32_t EntryCount() override { return mLanguage.EntryCount(); }
+  std::string TranslateText(const std::string& key) override {
+    if (!mLanguage.HasText(key) && !key.starts_with('_')) Missing.insert(key);
+    return mLanguage.TranslateText(key);
+  }
+
+  std::set<std::string> Missing;
+
+ private:
+  TextLanguage& mLanguage;
+};
+
+struct Dialog {
+  const char* Form;
+  std::int32_t (*Show)(CCommonMapDialogs& service, HostObject* client);
+};
+
+constexpr Dialog kDialogs[] = {
+    {"frmProperties", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowProperties(client); }},
+    {"frmLabels", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowLabels(client); }},
+    {"frmCoordinates", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowCoordinates(client); }},
+    {"frmLegend", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowLegends(client); }}};
+
+class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInterface<Dialog> {
+ protected:
+  MapLibraryLanguagePages() { legends.Legends.emplace_back(legends.Log, "Elevation"); }
+
+  /// Shows the dialog in that language, has `acts` look at it, and closes it with OK.
+  template <class Acts>
+  void Look(ILanguage* language, Acts acts) {
+    service.Language(language);
+    InDialog(GetParam().Form, acts);
+    const bool isLegends = std::string_view(GetParam().Form) == "frmLegend";
+    GetParam().Show(service, isLegends ? &legends : static_cast<HostObject*>(&layer));
+  }
+  /// The mnemonics of the form that are there more than once.
+  std::string DoubleMnemonics() {
+    std::map<char32_t, int> counts;
+    for (Control* control : form->All()) ++counts[control->Mnemonic()];
+    std::string doubles;
+    for (const auto& [letter, count] : counts)
+      if (letter && count > 1) doubles += static_cast<char>(letter);
+    return doubles;
+  }
+
+  RecordedLegends legends;
+  TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
+};
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, MapLibraryLanguagePages, testing::ValuesIn(kDialogs),
+                         [](const auto& dialog) { return dialog.param.Form; });
+
+TEST_P(MapLibraryLanguagePages, EveryTextIsInTheGermanFile) {
+  CheckedLanguage checked(german);
+  Look(&checked, [] {});
+  EXPECT_EQ(std::set<std::string>{}, checked.Missing);
+}
+
+TEST_P(MapLibraryLanguagePages, MnemonicsAreUniqueInEnglishGermanAndPseudo) {
+  PseudoLanguage pseudo;
+  for (ILanguage* language : std::initializer_list<ILanguage*>{nullptr, &german, &pseudo})
+    Look(language, [this] { EXPECT_EQ("", DoubleMnemonics()); });
+}
+
+TEST_P(MapLibraryLanguagePages, EveryInputHasItsNameInGerman) {
+  Look(&german, [this] {
+    for (Control* control : form->All())
+      EXPECT_TRUE(!control->IsTabStop() || !control->AccessibleName().empty()) << control->Name();
+  });
+}
+
+TEST_P(MapLibraryLanguagePages, TranslatingTwiceChangesNothing) {
+  PseudoLanguage pseudo;
+  for (ILanguage* language : std::initializer_list<ILanguage*>{&german, &pseudo})
+    Look(language, [this, language] {
+      std::vector<std::string> before, after;
+      for (Control* control : form->All()) before.push_back(control->Caption());
+      language->TranslateForm(*form);
+      for (Control* control : form->All()) after.push_back(control->Caption());
+      EXPECT_EQ(before, after);
+    });
+}
+
+class MapLibraryLanguageGerman : public PagesTest {
+ protected:
+  TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
+};
+
+TEST_F(MapLibraryLanguageGerman, HasTheTextsOfAllMessages) {
+  for (const char* text : fieldtexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
+  for (const char* text : maplibrary::pagetexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
+  EXPECT_TRUE(german.HasText("Unable to display Help. There is no Help associated with this project."));
+}
+
+TEST_F(MapLibraryLanguageGerman, KeepsThePlacesOfEachText) {
+  for (const auto& [key, text] : german.Texts())
+    for (const char* place : {"{1}", "{2}", "{3}", "{4}"})
+      EXPECT_EQ(key.find(place) != std::string::npos, text.find(place) != std::string::npos) << key;
+}
+
+TEST_F(MapLibraryLanguageGerman, HasAMnemonicWhereTheEnglishTextHasOne) {
+  for (const auto& [key, text] : german.Texts())
+    EXPECT_EQ(key.find('&') != std::string::npos, text.find('&') != std::string::npos) << key;
+}
+
+TEST_F(MapLibraryLanguageGerman, NoTranslationIsTheKeyOfAnother) {
+  for (const auto& [key, text] : german.Texts()) EXPECT_EQ(text, german.TranslateText(text)) << key;
+}
+
+TEST_F(MapLibraryLanguageGerman, ListsAndMessagesAreTranslated) {
+  service.Language(&german);
+  InDialog("frmLabels", [this] {
+    EXPECT_EQ("Darüber", Seen("cboPosition"));
+    EXPECT_EQ("Rot", Seen("cboColor"));
+    Type("txtSize", "0");
+    Press("cmdOK");
+  });
+  ExpectRefusal("Falscher Wert", "Größe: 0 ist nicht zulässig. Geben Sie eine Zahl von 1 bis 144 ein.");
+  service.ShowLabels(&layer);
+}
+
+TEST_F(MapLibraryLanguageGerman, ListsTurnBackToEnglishWithoutALanguage) {
+  const auto page = MakePage(PageKind::LabelProperties);
+  page->Page->Client(&layer);
+  page->Page->Language(&german);
+  page->Page->RefreshContents();
+  EXPECT_EQ("Darüber", Get<ComboBox>("cboPosition").Text());
+  page->Page->Language(nullptr);
+  EXPECT_EQ("Above", Get<ComboBox>("cboPosition").Text());
+  page->Page->SaveChanges();
+  EXPECT_EQ(Calls{}, layer.Log.Calls);
+}
+
+TEST_F(MapLibraryLanguageGerman, TabsAndToolTipsAreTranslated) {
+  service.Language(&german);
+  InDialog("frmProperties", [this] {
+    EXPECT_EQ("Ebeneneigenschaften", user.SeeCaption(*form));
+    EXPECT_EQ("Eigenschaften", Seen("ssTab"));
+    EXPECT_EQ("Vorschau", form->Find("pctSymbol")->ToolTipText());
+    EXPECT_EQ("/data/jacksboro.bil", form->Find("txtSource")->ToolTipText());
+  });
+  service.ShowProperties(&layer);
+}
+
+}  // namespace
+}  // namespace orx::test
