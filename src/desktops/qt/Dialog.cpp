@@ -31,9 +31,11 @@ void Dialog::Report(const std::function<void()>& act) {
 
 bool Dialog::ReportKey(const QKeyEvent& event) {
   const std::optional<KeyStroke> stroke = StrokeOf(event);
+  if (!stroke) return false;
   bool handled = false;
-  if (stroke) Report([&] { handled = mForm.UserKey(*stroke); });
-  return handled;
+  Report([&] { handled = mForm.UserKey(*stroke); });
+  // A letter with Alt is a command, though none may answer to it; Qt would type the letter.
+  return handled || stroke->Key == Key::Character;
 }
 
 void Dialog::Retire() {

@@ -26,14 +26,9 @@ namespace {
 constexpr double kDesignPoints = 9;
 constexpr double kDesignDotsPerInch = 96;
 
-/// What the window manager adds to a dialog: seen on one that is shown, else what the style thinks of frames.
-QSize FrameSize(BorderStyle border) {
-  for (const QWidget* const window : QApplication::topLevelWidgets()) {
-    const auto* const dialog = dynamic_cast<const Dialog*>(window);
-    if (!dialog || !dialog->isVisible() || dialog->Owner().Border() != border) continue;
-    const QSize frame = dialog->frameGeometry().size() - dialog->size();
-    if (!frame.isNull()) return frame;
-  }
+/// What the window manager adds to a dialog, as the style thinks of frames. The truth is known only when a window has
+/// been shown, and dialogs are placed before.
+QSize FrameSize() {
   const QStyle& style = *QApplication::style();
   const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
   return {2 * edge, 2 * edge + style.pixelMetric(QStyle::PM_TitleBarHeight)};
@@ -41,8 +36,10 @@ QSize FrameSize(BorderStyle border) {
 
 /// Deletes the dialogs that wait for it; without a running event loop nobody else does.
 void DeleteRetiredDialogs() {
+  std::vector<Dialog*> dialogs;
   for (QWidget* const window : QApplication::topLevelWidgets())
-    if (dynamic_cast<Dialog*>(window)) QCoreApplication::sendPostedEvents(window, QEvent::DeferredDelete);
+    if (auto* const dialog = dynamic_cast<Dialog*>(window)) dialogs.push_back(dialog);
+  for (Dialog* const dialog : dialogs) QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
 }
 
 bool Save(QWidget& window, const std::string& pngPath) {
@@ -67,7 +64,7 @@ QtDesktop::~QtDesktop() {
   DeleteRetiredDialogs();
 }
 
-ScreenMetrics QtDesktop::Metrics(BorderStyle border) const {
+ScreenMetrics QtDesktop::Metrics(BorderStyle) const {
   const auto inTwips = [this](const QRect& place) {
     return Rect{ToTwips(place.x()), ToTwips(place.y()), ToTwips(place.width()), ToTwips(place.height())};
   };
@@ -78,7 +75,7 @@ ScreenMetrics QtDesktop::Metrics(BorderStyle border) const {
     metrics.WorkArea = inTwips(screen->availableGeometry());
   }
   if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
-  const QSize frame = FrameSize(border);
+  const QSize frame = FrameSize();
   metrics.Frame = {ToTwips(frame.width()), ToTwips(frame.height())};
   return metrics;
 }

@@ -1,6 +1,7 @@
 #include "desktops/qt/Text.h"
 
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -9,6 +10,11 @@ namespace {
 
 bool IsPair(const QString& text, qsizetype at) {
   return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+}
+
+/// False where the platform has no mnemonics and Alt types further characters.
+bool HasMnemonics() {
+  return !QKeySequence::mnemonic("&A").isEmpty();
 }
 
 /// The letter of a press with Alt; 0 for a key without one.
@@ -44,7 +50,7 @@ QString PlainToolTip(const std::string& text) {
 std::optional<KeyStroke> StrokeOf(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-  if (modifiers == Qt::AltModifier) {
+  if (modifiers == Qt::AltModifier && HasMnemonics()) {
     const char32_t letter = LetterOf(event);
     if (letter == 0) return std::nullopt;
     return KeyStroke{Key::Character, letter, shift, true};
