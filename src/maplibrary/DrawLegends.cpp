@@ -1,4 +1,5 @@
 #include "maplibrary/DrawLegends.h"
+#include "maplibrary/CharacterText.h"
 
 #include <algorithm>
 #include <array>

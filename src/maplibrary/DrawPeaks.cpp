@@ -1,4 +1,5 @@
 #include "maplibrary/DrawPeaks.h"
+#include "maplibrary/CharacterText.h"
 
 #include <cmath>
 #include <numbers>

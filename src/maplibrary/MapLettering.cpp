@@ -57,17 +57,6 @@ void Lettering::DrawHaloed(const PixelPoint& center, const std::string& text, co
   Draw(center, text, font, pen, rotation);
 }
 
-std::string CharacterText(std::int32_t code) {
-  const auto c = static_cast<std::uint32_t>(code);
-  const auto byte = [](std::uint32_t value) { return static_cast<char>(value); };
-  const auto tail = [&](int shift) { return byte(0x80 | (c >> shift & 0x3F)); };
-  if (c < 0x20 || (c >= 0x7F && c < 0xA0)) return {};
-  if (c < 0x80) return {byte(c)};
-  if (c < 0x800) return {byte(0xC0 | c >> 6), tail(0)};
-  if (c < 0x10000) return {byte(0xE0 | c >> 12), tail(6), tail(0)};
-  return {byte(0xF0 | c >> 18), tail(12), tail(6), tail(0)};
-}
-
 std::string ValueText(double value) {
   const double hundreds = std::round(value * 100) / 100;
   const double shown = std::isfinite(hundreds) ? hundreds : value;

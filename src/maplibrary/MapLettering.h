@@ -1,7 +1,6 @@
-// Lettering on maps: estimated sizes of texts, characters as UTF-8, and texts with a light halo.
+// Lettering on maps: estimated sizes of texts, values as text, and texts with a light halo.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "forms/Canvas.h"
@@ -28,9 +27,6 @@ class Lettering {
   Canvas& mCanvas;
   double mPixelsPerPoint;
 };
-
-/// A Unicode code point as UTF-8; empty for control characters, which have no picture.
-std::string CharacterText(std::int32_t code);
 
 /// A measured value for people: two decimals at most, no trailing zeros, '.' as decimal point.
 std::string ValueText(double value);

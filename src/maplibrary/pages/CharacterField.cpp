@@ -5,6 +5,7 @@
 
 #include "forms/FieldTexts.h"
 #include "forms/TextBox.h"
+#include "maplibrary/CharacterText.h"
 #include "maplibrary/pages/PageTexts.h"
 
 namespace orx::maplibrary {
@@ -53,15 +54,6 @@ std::int32_t Decoded(std::string_view text) {
 }
 
 }  // namespace
-
-std::string CharacterText(std::int32_t code) {
-  if (!IsCharacter(code)) return {};
-  const auto tail = [&](int shift) { return static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
-  if (code < 0x80) return {static_cast<char>(code)};
-  if (code < 0x800) return {static_cast<char>(0xC0 | (code >> 6)), tail(0)};
-  if (code < 0x10000) return {static_cast<char>(0xE0 | (code >> 12)), tail(6), tail(0)};
-  return {static_cast<char>(0xF0 | (code >> 18)), tail(12), tail(6), tail(0)};
-}
 
 std::optional<std::int32_t> CharacterField::Parse(std::string_view text) const {
   if (CharacterCount(text) == 1) return Decoded(text);

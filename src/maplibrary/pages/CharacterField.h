@@ -22,7 +22,4 @@ class CharacterField final : public ValueField<std::int32_t> {
   std::optional<std::int32_t> Parse(std::string_view text) const;
 };
 
-/// The character of a code point in UTF-8; empty when it is none.
-std::string CharacterText(std::int32_t code);
-
 }  // namespace orx::maplibrary

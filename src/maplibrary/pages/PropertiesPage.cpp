@@ -1,4 +1,5 @@
 #include "maplibrary/pages/PropertiesPage.h"
+#include "maplibrary/CharacterText.h"
 
 #include "hostobjects/IMap.h"
 

@@ -1,7 +1,7 @@
 // The page for the extent of a layer or a map.
 #include <cmath>
 
-#include "tests/maplibrary/PagesTest.h"
+#include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {

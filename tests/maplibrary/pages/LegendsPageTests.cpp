@@ -1,5 +1,5 @@
 // The page for the legends of a map.
-#include "tests/maplibrary/PagesTest.h"
+#include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {

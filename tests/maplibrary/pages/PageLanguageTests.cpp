@@ -6,7 +6,7 @@
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
 #include "maplibrary/pages/PageTexts.h"
-#include "tests/maplibrary/PagesTest.h"
+#include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {

@@ -1,5 +1,5 @@
 // What all pages have in common: the client, what counts as changed, discarding, and clients that fail.
-#include "tests/maplibrary/PagesTest.h"
+#include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {

@@ -9,7 +9,7 @@
 #include "forms/PictureBox.h"
 #include "maplibrary/pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
-#include "tests/maplibrary/RecordedObjects.h"
+#include "tests/maplibrary/pages/RecordedObjects.h"
 #include "tests/support/DesktopTest.h"
 
 namespace orx::test {

@@ -1,0 +1,16 @@
+#include "maplibrary/CharacterText.h"
+
+namespace orx::maplibrary {
+
+std::string CharacterText(std::int32_t code) {
+  if (code < 0x20 || code > 0x10FFFF || (code >= 0x7F && code < 0xA0) || (code >= 0xD800 && code <= 0xDFFF)) return {};
+  const auto c = static_cast<std::uint32_t>(code);
+  const auto byte = [](std::uint32_t value) { return static_cast<char>(value); };
+  const auto tail = [&](int shift) { return byte(0x80 | (c >> shift & 0x3F)); };
+  if (c < 0x80) return {byte(c)};
+  if (c < 0x800) return {byte(0xC0 | c >> 6), tail(0)};
+  if (c < 0x10000) return {byte(0xE0 | c >> 12), tail(6), tail(0)};
+  return {byte(0xF0 | c >> 18), tail(12), tail(6), tail(0)};
+}
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,156 @@
+// What the native controls do beyond the scenarios that run on every desktop.
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QtTest>
+
+#include "tests/qt/QtTest.h"
+
+namespace orx::test {
+namespace {
+
+using QtControl = QtFormsTest;
+
+/// A form with a log, a note and a drawing.
+struct NoteForm final : Form {
+  explicit NoteForm(Desktop& desktop) : Form(desktop, "frmNotes", {.Caption = "Notes", .Client = {6000, 6000}}) {}
+  TextBox txtLog{*this, "txtLog", {.Place = {120, 120, 3000, 1200}}, TextLines::Multiple, true};
+  TextBox txtNote{*this, "txtNote", {.Place = {120, 1500, 3000, 1200}}, TextLines::Multiple};
+  Label lblPlain{*this, "lblPlain", {.Caption = "R && D <b>", .Place = {120, 3000, 3000, 300}}};
+  PictureBox pctDrawing{*this, "pctDrawing", {.Place = {120, 3600, 1500, 1500}}};
+};
+
+class QtNotes : public QtControl {
+ protected:
+  ~QtNotes() override { notes->Unload(); }
+  QColor PixelAt(int x, int y) { return Native<QWidget>(notes->pctDrawing).grab().toImage().pixelColor(x, y); }
+
+  std::shared_ptr<NoteForm> notes = std::make_shared<NoteForm>(desktop());
+};
+
+TEST_F(QtControl, LabelsUnderlineTheirMnemonicAndSpeakOfTheNextField) {
+  ShowForm();
+  const auto& label = Native<QLabel>(form->lblName);
+  EXPECT_EQ("&Name:", label.text());
+  EXPECT_EQ(&Native<QWidget>(form->txtName), label.buddy());
+}
+
+TEST_F(QtControl, AssistiveSoftwareReadsTheNames) {
+  ShowForm();
+  EXPECT_EQ("Name:", Native<QLineEdit>(form->txtName).accessibleName());
+  EXPECT_EQ("Kind", Native<QComboBox>(form->cboKind).accessibleName());
+  EXPECT_EQ("txtName", Native<QLineEdit>(form->txtName).objectName());
+}
+
+TEST_F(QtControl, TheSelectionOfTheUserIsCountedInCharacters) {
+  ShowForm();
+  form->txtName.Text("\U0001F30D\U0001F30D ab");
+  Native<QLineEdit>(form->txtName).setSelection(5, 2);
+  EXPECT_EQ(3, form->txtName.SelStart());
+  EXPECT_EQ(2, form->txtName.SelLength());
+}
+
+TEST_F(QtControl, TheSelectionOfTheProgramIsShown) {
+  ShowForm();
+  form->txtName.Text("\U0001F30Dabc");
+  form->txtName.SelStart(1);
+  form->txtName.SelLength(2);
+  EXPECT_EQ("ab", Native<QLineEdit>(form->txtName).selectedText());
+}
+
+TEST_F(QtControl, EscapeInAnOpenListClosesTheListOnly) {
+  ShowForm();
+  auto& combo = Native<QComboBox>(form->cboKind);
+  QTest::mouseClick(&combo, Qt::LeftButton);
+  ASSERT_TRUE(combo.view()->isVisible());
+  QTest::keyClick(combo.view(), Qt::Key_Escape);
+  EXPECT_FALSE(combo.view()->isVisible());
+  EXPECT_EQ(0, std::count(events.begin(), events.end(), "cmdCancel_Click"));
+}
+
+TEST_F(QtControl, ArrowKeysChooseInAClosedList) {
+  ShowForm();
+  form->cboKind.SetFocus();
+  events.clear();
+  QTest::keyClick(&Native<QComboBox>(form->cboKind), Qt::Key_Down);
+  EXPECT_EQ(0, form->cboKind.ListIndex());
+  EXPECT_EQ((Events{"cboKind_Click"}), NewEvents());
+}
+
+TEST_F(QtControl, ArrowKeysOnAButtonMoveTheFocusOfTheForm) {
+  ShowForm();
+  form->cmdOK.SetFocus();
+  events.clear();
+  QTest::keyClick(&Native<QWidget>(form->cmdOK), Qt::Key_Right);
+  EXPECT_EQ((Events{"cmdOK_LostFocus", "cmdCancel_GotFocus"}), NewEvents());
+}
+
+TEST_F(QtNotes, ALogShowsItsEndAndCannotBeTypedInto) {
+  notes->Show(ShowMode::Modeless);
+  std::string lines;
+  for (int line = 0; line < 50; ++line) lines += "line " + std::to_string(line) + "\n";
+  notes->txtLog.Text(lines);
+  const QScrollBar& bar = *Native<QPlainTextEdit>(notes->txtLog).verticalScrollBar();
+  EXPECT_GT(bar.maximum(), 0);
+  EXPECT_EQ(bar.maximum(), bar.value());
+  user.Type(notes->txtLog, "x");
+  EXPECT_EQ(lines, notes->txtLog.Text());
+  EXPECT_TRUE(notes->txtLog.HasFocus());
+}
+
+TEST_F(QtNotes, EnterBreaksALineWhereNoButtonTakesIt) {
+  notes->Show(ShowMode::Modeless);
+  user.Type(notes->txtNote, "one");
+  user.Press(*notes, kEnter);
+  EXPECT_EQ("one\n", notes->txtNote.Text());
+  EXPECT_EQ(4, notes->txtNote.SelStart());
+}
+
+TEST_F(QtNotes, LabelsShowPlainText) {
+  notes->Show(ShowMode::Modeless);
+  EXPECT_EQ("R & D <b>", Native<QLabel>(notes->lblPlain).text());
+  EXPECT_EQ(Qt::PlainText, Native<QLabel>(notes->lblPlain).textFormat());
+}
+
+TEST_F(QtNotes, DrawingsArePaintedMarkByMark) {
+  notes->Show(ShowMode::Modeless);
+  const auto pixel = std::make_shared<Image>(Image{1, 1, {0, 0, 255, 255}});
+  Canvas& canvas = notes->pctDrawing.Drawing();
+  canvas.Draw(FillMark{{0, 0, 40, 40}, {255, 0, 0}});
+  canvas.Draw(LineMark{{{0, 20}, {30, 20}}, {0, 255, 0}, 1});
+  canvas.Draw(ImageMark{{50, 50, 20, 20}, pixel});
+  notes->pctDrawing.Refresh();
+  const double ratio = DialogOf(*notes).devicePixelRatio();
+  const auto at = [&](int x, int y) { return PixelAt(static_cast<int>(x * ratio), static_cast<int>(y * ratio)); };
+  EXPECT_EQ(QColor(Qt::red), at(10, 10));
+  EXPECT_EQ(QColor(Qt::green), at(10, 20));
+  EXPECT_EQ(QColor(Qt::blue), at(60, 60));
+  EXPECT_EQ(QColor(Qt::white), at(45, 10));
+}
+
+TEST_F(QtNotes, WithoutAutomaticRedrawOnlyTheBackgroundIsPainted) {
+  notes->Show(ShowMode::Modeless);
+  notes->pctDrawing.Drawing().Draw(FillMark{{0, 0, 40, 40}, {255, 0, 0}});
+  notes->pctDrawing.BackColor({0, 0, 0});
+  notes->pctDrawing.AutoRedraw(false);
+  EXPECT_EQ(QColor(Qt::black), PixelAt(10, 10));
+}
+
+TEST_F(QtNotes, TextsAreDrawnAroundTheirCentreAndTurned) {
+  notes->Show(ShowMode::Modeless);
+  notes->pctDrawing.Drawing().Draw(TextMark{{50, 50}, "MMMM", {.Size = 12, .Bold = true}, {0, 0, 0}, 90});
+  const QImage image = Native<QWidget>(notes->pctDrawing).grab().toImage();
+  QRect inked;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixelColor(x, y).lightness() < 128) inked |= QRect(x, y, 1, 1);
+  EXPECT_GT(inked.height(), 2 * inked.width());
+  const QPoint off = inked.center() - QPointF(50, 50).toPoint() * image.devicePixelRatio();
+  EXPECT_LE(off.manhattanLength(), 8 * image.devicePixelRatio());
+}
+
+}  // namespace
+}  // namespace orx::test

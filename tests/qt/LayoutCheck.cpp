@@ -1,0 +1,158 @@
+#include "tests/qt/LayoutCheck.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyleOption>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "desktops/qt/Peer.h"
+#include "desktops/qt/Text.h"
+#include "forms/TabControl.h"
+
+namespace orx::test {
+namespace {
+
+/// The room that a text has, and the size that it needs.
+struct Fit {
+  QSize Room;
+  QSize Need;
+  bool Holds() const { return Need.width() <= Room.width() && Need.height() <= Room.height(); }
+};
+
+QSize TextSize(const QWidget& widget, const QString& text) {
+  return widget.fontMetrics().size(Qt::TextSingleLine | Qt::TextShowMnemonic, text);
+}
+
+template <class Option>
+Option OptionOf(const QWidget& widget) {
+  Option option;
+  option.initFrom(&widget);
+  return option;
+}
+
+QSize PartSize(const QWidget& widget, QStyle::SubElement part) {
+  const auto option = OptionOf<QStyleOptionButton>(widget);
+  return widget.style()->subElementRect(part, &option, &widget).size();
+}
+
+Fit LabelFit(const QLabel& label) {
+  if (!label.wordWrap()) return {label.size(), label.sizeHint()};
+  return {label.size(), {0, label.heightForWidth(label.width())}};
+}
+
+Fit ComboFit(const QComboBox& combo) {
+  auto option = OptionOf<QStyleOptionComboBox>(combo);
+  option.editable = combo.isEditable();
+  QSize need = TextSize(combo, combo.currentText());
+  for (int index = 0; index < combo.count(); ++index) need = need.expandedTo(TextSize(combo, combo.itemText(index)));
+  return {combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).size(),
+          need};
+}
+
+/// The part of a group box that its title takes.
+QRect TitlePlace(const QGroupBox& box) {
+  auto option = OptionOf<QStyleOptionGroupBox>(box);
+  option.text = box.title();
+  option.subControls = QStyle::SC_GroupBoxLabel | QStyle::SC_GroupBoxFrame;
+  option.textAlignment = Qt::AlignLeft;
+  return box.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &box);
+}
+
+/// The strip must leave the pages free and show all its tabs at once.
+Fit TabsFit(const QTabWidget& tabs, const Form& form) {
+  const QTabBar& bar = *tabs.tabBar();
+  QSize need(bar.sizeHint().width(), bar.height());
+  for (int tab = 0; tab < bar.count(); ++tab) need = need.expandedTo({0, TextSize(bar, bar.tabText(tab)).height()});
+  return {{tabs.width(), form.OwnerDesktop().ToPixels(TabControl::kStrip)}, need};
+}
+
+Fit FieldFit(const QLineEdit& field) {
+  const auto option = OptionOf<QStyleOptionFrame>(field);
+  const int frame = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+  return {{0, field.height() - 2 * frame}, {0, field.fontMetrics().height()}};
+}
+
+/// The fit of whatever text the widget shows.
+Fit TextFit(const QWidget& widget, const Form& form) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) return LabelFit(*label);
+  if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) return FieldFit(*field);
+  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return ComboFit(*combo);
+  if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) return TabsFit(*tabs, form);
+  if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
+    return {box->size() - QSize(TitlePlace(*box).left(), 0), TextSize(*box, box->title())};
+  if (const auto* box = qobject_cast<const QCheckBox*>(&widget))
+    return {PartSize(*box, QStyle::SE_CheckBoxContents), TextSize(*box, box->text())};
+  if (const auto* button = qobject_cast<const QPushButton*>(&widget))
+    return {PartSize(*button, QStyle::SE_PushButtonContents), TextSize(*button, button->text())};
+  return {};
+}
+
+class LayoutInspector {
+ public:
+  explicit LayoutInspector(const Form& form) : mForm(form) { Inspect(form, form.Name()); }
+
+  std::vector<std::string> Problems;
+
+ private:
+  static QWidget& WidgetOf(const Control& control) { return qt::PeerOf(control)->Widget(); }
+
+  static std::string Describe(QSize size) {
+    return std::to_string(size.width()) + " x " + std::to_string(size.height());
+  }
+
+  void Inspect(const Container& container, const std::string& path) {
+    std::vector<Control*> seen;
+    for (Control* const control : container.Children())
+      if (WidgetOf(*control).isVisible()) seen.push_back(control);
+    for (Control* const control : seen) {
+      const std::string name = path + "." + control->Name();
+      InspectText(*control, name);
+      InspectPlace(*control, name);
+      InspectNeighbours(*control, name, seen);
+      if (const Container* const inner = control->AsContainer()) Inspect(*inner, name);
+    }
+  }
+
+  void InspectText(const Control& control, const std::string& name) {
+    const Fit fit = TextFit(WidgetOf(control), mForm);
+    if (!fit.Holds())
+      Problems.push_back(name + ": text needs " + Describe(fit.Need) + " and has " + Describe(fit.Room));
+  }
+
+  void InspectPlace(const Control& control, const std::string& name) {
+    const QWidget& widget = WidgetOf(control);
+    const QWidget& parent = *widget.parentWidget();
+    if (!parent.rect().contains(widget.geometry())) Problems.push_back(name + ": stands outside of its parent");
+    const auto* const box = qobject_cast<const QGroupBox*>(&parent);
+    if (box && !box->title().isEmpty() && TitlePlace(*box).intersects(widget.geometry()))
+      Problems.push_back(name + ": covers the title of its frame");
+  }
+
+  void InspectNeighbours(const Control& control, const std::string& name, const std::vector<Control*>& seen) {
+    for (const Control* const other : seen) {
+      if (other == &control) return;
+      const QWidget& window = *WidgetOf(control).window();
+      const auto place = [&](const Control& each) {
+        return QRect(WidgetOf(each).mapTo(&window, QPoint()), WidgetOf(each).size());
+      };
+      // Pinned controls may cover what is scrolled away below them.
+      if (control.Pinned() == other->Pinned() && place(control).intersects(place(*other)))
+        Problems.push_back(name + ": stands upon " + other->Name());
+    }
+  }
+
+  const Form& mForm;
+};
+
+}  // namespace
+
+std::vector<std::string> LayoutProblems(const Form& form) {
+  return LayoutInspector(form).Problems;
+}
+
+}  // namespace orx::test

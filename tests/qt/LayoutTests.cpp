@@ -1,0 +1,56 @@
+// The layout checker itself, and that the controls of a well drawn form show all their text at every resolution.
+#include "tests/qt/LayoutCheck.h"
+#include "tests/qt/QtTest.h"
+
+namespace orx::test {
+namespace {
+
+using QtLayout = QtFormsTest;
+using Problems = std::vector<std::string>;
+
+TEST_F(QtLayout, AWellDrawnFormHasNoProblems) {
+  ShowForm();
+  EXPECT_EQ(Problems{}, LayoutProblems(*form));
+  user.SelectTab(form->ssTab, 1);
+  EXPECT_EQ(Problems{}, LayoutProblems(*form));
+}
+
+TEST_F(QtLayout, TextThatIsCutOffIsFound) {
+  ShowForm();
+  const std::string longText = "A text that is much too long for the place";
+  form->cmdOK.Caption(longText);
+  form->chkShow.Caption(longText);
+  form->lblName.Caption(longText);
+  form->fraFirst.Caption(longText);
+  form->cboKind.AddItem(longText);
+  form->ssTab.TabCaption(0, longText + longText);
+  const Problems found = LayoutProblems(*form);
+  ASSERT_EQ(6U, found.size()) << testing::PrintToString(found);
+  for (const std::string& problem : found) EXPECT_NE(std::string::npos, problem.find("text needs")) << problem;
+}
+
+TEST_F(QtLayout, AFieldThatIsTooLowIsFound) {
+  ShowForm();
+  form->txtSize.Place({3960, 120, 1200, 180});
+  ASSERT_EQ(1U, LayoutProblems(*form).size());
+  EXPECT_EQ(0U, LayoutProblems(*form)[0].find("frmSample.txtSize: text needs"));
+}
+
+TEST_F(QtLayout, ControlsOutsideOrUponOthersAreFound) {
+  ShowForm();
+  form->txtFirst.Left(2000);
+  form->txtSize.Left(3000);
+  EXPECT_EQ((Problems{"frmSample.txtSize: stands upon txtName",
+                      "frmSample.ssTab.ssTabPage0.fraFirst.txtFirst: stands outside of its parent"}),
+            LayoutProblems(*form));
+}
+
+TEST_F(QtLayout, AControlOnTheTitleOfItsFrameIsFound) {
+  ShowForm();
+  form->txtFirst.Top(30);
+  EXPECT_EQ((Problems{"frmSample.ssTab.ssTabPage0.fraFirst.txtFirst: covers the title of its frame"}),
+            LayoutProblems(*form));
+}
+
+}  // namespace
+}  // namespace orx::test

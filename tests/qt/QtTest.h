@@ -1,0 +1,33 @@
+// The fixture of the tests of the Qt desktop alone: the native window of a form, and what Qt knows of it.
+#pragma once
+
+#include <QCoreApplication>
+
+#include "desktops/qt/Dialog.h"
+#include "desktops/qt/Peer.h"
+#include "desktops/qt/QtDesktop.h"
+#include "tests/forms/SampleForm.h"
+
+namespace orx::test {
+
+class QtFormsTest : public FormsTest {
+ protected:
+  qt::QtDesktop& QtOnly() { return dynamic_cast<qt::QtDesktop&>(desktop()); }
+
+  static qt::Dialog& DialogOf(const Form& shown) {
+    return dynamic_cast<qt::Dialog&>(*QWidget::find(shown.Window()->NativeHandle()));
+  }
+
+  template <class Widget>
+  static Widget& Native(const Control& control) {
+    return dynamic_cast<Widget&>(qt::PeerOf(control)->Widget());
+  }
+
+  /// The place of a control's widget in its window, in pixels.
+  static QRect PlaceInWindow(const Control& control) {
+    const QWidget& widget = Native<QWidget>(control);
+    return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+  }
+};
+
+}  // namespace orx::test
