@@ -14,10 +14,10 @@ void CheckBox::Value(CheckState value) {
 
 void CheckBox::UserToggle() {
   OwnerForm().UserAct([this] {
+    // The native box has ticked itself already; it waits for what becomes of the click.
+    Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Value(CheckedIf(mValue == CheckState::Unchecked));
   });
-  // A dropped click leaves the native box ticked; this puts it right.
-  Changed(Aspect::Value);
 }
 
 void CheckBox::Accept(ControlVisitor& visitor) {

@@ -66,10 +66,10 @@ void ComboBox::Text(const std::string& value) {
 
 void ComboBox::UserPick(int index) {
   OwnerForm().UserAct([&] {
+    // The native box shows the entry already; it waits for what becomes of the choice.
+    Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) ListIndex(index);
   });
-  // A dropped choice leaves the native box at the entry picked; this puts it right.
-  Changed(Aspect::Value);
 }
 
 void ComboBox::UserText(const std::string& text) {

@@ -50,10 +50,10 @@ void TabControl::Tab(int tab) {
 
 void TabControl::UserSelect(int tab) {
   OwnerForm().UserAct([&] {
+    // The native strip has switched already; it waits for what becomes of the choice.
+    Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Tab(tab);
   });
-  // A dropped choice leaves the native strip at the tab picked; this puts it right.
-  Changed(Aspect::Value);
 }
 
 void TabControl::Accept(ControlVisitor& visitor) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -14,14 +15,13 @@
 
 namespace orx::maplibrary {
 
-/// A folder of its own for each test.
+/// A folder of its own for each test, also when the tests run twice at the same time.
 class GridFiles : public testing::Test {
  protected:
   GridFiles() {
     const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-    mFolder =
-        std::filesystem::temp_directory_path() / (std::string("orx_") + info->test_suite_name() + "_" + info->name());
-    std::filesystem::remove_all(mFolder);
+    mFolder = std::filesystem::temp_directory_path() / (std::string("orx_") + info->test_suite_name() + "_" +
+                                                        info->name() + "_" + std::to_string(std::random_device()()));
     std::filesystem::create_directories(mFolder);
   }
   ~GridFiles() override {

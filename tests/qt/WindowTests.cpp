@@ -60,7 +60,8 @@ TEST_F(QtWindow, AControlMayLetGoOfItsForm) {
   for (const bool byButton : {true, false}) {
     auto lone = std::make_shared<SampleForm>(desktop(), log);
     SampleForm& shown = *lone;
-    shown.cmdOK.Click = shown.chkShow.Click = [&shown] { shown.Unload(); };
+    shown.cmdOK.Click = [&shown] { shown.Unload(); };
+    shown.chkShow.Click = [&shown] { shown.Unload(); };
     lone->Show(ShowMode::Modeless);
     const std::weak_ptr<SampleForm> watch = std::exchange(lone, nullptr);
     if (byButton) user.Click(shown.cmdOK);
@@ -88,7 +89,7 @@ TEST_F(QtWindow, AFormMayBeUnloadedFromADialogThatItsOwnButtonOpened) {
 
 TEST_F(QtWindow, AnotherWindowThatBecomesActiveTakesNoFocusFromTheForm) {
   ShowForm();
-  QTest::qWaitForWindowActive(&DialogOf(*form));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&DialogOf(*form)));
   QWidget other;
   other.show();
   other.activateWindow();
