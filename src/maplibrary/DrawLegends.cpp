@@ -21,8 +21,10 @@ constexpr Color kInk = {40, 40, 40};
 constexpr Color kPaper = {255, 255, 255};
 constexpr Color kEdge = {120, 120, 120};
 
+/// Whole pixels; a text of endless length is as wide as any picture.
 int Ceiled(double length) {
-  return static_cast<int>(std::ceil(length));
+  constexpr double kFar = 1e6;
+  return static_cast<int>(std::ceil(std::min(length, kFar)));
 }
 
 void DrawBox(Canvas& canvas, const Rect& place, Color pen) {

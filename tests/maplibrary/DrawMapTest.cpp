@@ -57,6 +57,21 @@ TEST(MapLibraryDrawMap, ColoursReachOverAllVisibleLayers) {
   EXPECT_EQ(VisibleRange(Map()), std::nullopt);
 }
 
+TEST(MapLibraryDrawMap, ExtremeSettingsAreDrawnLikeOthers) {
+  const auto map = SmallMap();
+  map->Layer(1)->Place({-1e300, 1e300, -1e-300, 1e308});
+  map->Layer(2)->Place({1e308, -1e308, 5, 5});
+  map->Layer(3)->Place({3, -4, 2, -9});
+  map->Layer(3)->Name(std::string(2'000'000, 'W'));
+  map->Layer(3)->LabelFont({.Size = 1000});
+  map->Legend(1).TextSize(1000);
+  for (const GroundRect& window :
+       {GroundRect{-1e300, 1e300, 0, 1}, {-1e308, 1e308, 0, 1}, {0, 1, 0, 1e-300}, {3, -4, 2, -9}}) {
+    map->Extent()->Place(window);
+    EXPECT_TRUE(Drawing(*map).Shows("Layers")) << window.Left;
+  }
+}
+
 TEST(MapLibraryDrawPeaks, TheSymbolStandsOnTheHighestPoint) {
   const auto map = OneLayer();
   map->Layer(1)->SymbolFont("Symbols");
