@@ -2,8 +2,14 @@
 
 namespace orx::maplibrary {
 
+bool IsCharacter(std::int32_t code) {
+  const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
+  const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+  return !isControl && !isSurrogate && code <= 0x10FFFF;
+}
+
 std::string CharacterText(std::int32_t code) {
-  if (code < 0x20 || code > 0x10FFFF || (code >= 0x7F && code < 0xA0) || (code >= 0xD800 && code <= 0xDFFF)) return {};
+  if (!IsCharacter(code)) return {};
   const auto c = static_cast<std::uint32_t>(code);
   const auto byte = [](std::uint32_t value) { return static_cast<char>(value); };
   const auto tail = [&](int shift) { return byte(0x80 | (c >> shift & 0x3F)); };

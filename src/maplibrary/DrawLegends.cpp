@@ -1,5 +1,4 @@
 #include "maplibrary/DrawLegends.h"
-#include "maplibrary/CharacterText.h"
 
 #include <algorithm>
 #include <array>
@@ -7,6 +6,7 @@
 #include <map>
 #include <memory>
 
+#include "maplibrary/CharacterText.h"
 #include "maplibrary/ColorRamp.h"
 #include "maplibrary/DrawPeaks.h"
 

@@ -1,8 +1,9 @@
 #include "maplibrary/DrawPeaks.h"
-#include "maplibrary/CharacterText.h"
 
 #include <cmath>
 #include <numbers>
+
+#include "maplibrary/CharacterText.h"
 
 namespace orx::maplibrary {
 

@@ -11,18 +11,11 @@
 namespace orx::maplibrary {
 namespace {
 
-constexpr std::int32_t kBlank = 0x20;
-
-bool IsCharacter(std::int32_t code) {
-  const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-  return code >= kBlank && code <= 0x10FFFF && !isSurrogate;
-}
-
-/// False for what shows nothing, or only in a font of its own: controls, blanks and the private use areas.
+/// False for what shows nothing, or only in a font of its own: blanks and the private use areas.
 bool IsPlain(std::int32_t code) {
-  const bool isControl = code <= kBlank || (code >= 0x7F && code <= 0xA0);
+  const bool isBlank = code == 0x20 || code == 0xA0;
   const bool isPrivate = (code >= 0xE000 && code <= 0xF8FF) || code >= 0xF0000;
-  return IsCharacter(code) && !isControl && !isPrivate;
+  return IsCharacter(code) && !isBlank && !isPrivate;
 }
 
 std::string CodeText(std::int32_t code) {

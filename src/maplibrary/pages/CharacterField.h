@@ -9,7 +9,7 @@
 namespace orx::maplibrary {
 
 /// Accepts a character, its code in hexadecimal ("U+41") or with two or more digits in decimal ("65"), and the shown
-/// form with either part replaced. The value is the Unicode code point; codes start at the blank (32).
+/// form with either part replaced. The value is the Unicode code point; controls are refused.
 class CharacterField final : public ValueField<std::int32_t> {
  public:
   using ValueField::ValueField;

@@ -1,7 +1,7 @@
 #include "maplibrary/pages/PropertiesPage.h"
-#include "maplibrary/CharacterText.h"
 
 #include "hostobjects/IMap.h"
+#include "maplibrary/CharacterText.h"
 
 namespace orx::maplibrary {
 

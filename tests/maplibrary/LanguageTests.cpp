@@ -1,11 +1,13 @@
 // The languages of the map library: the text file and the pseudo-language.
+#include <gtest/gtest.h>
+
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
+#include "forms/TextBox.h"
+#include "hostobjects/RunTimeError.h"
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
-#include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {
