@@ -192,7 +192,18 @@ class QtTestDesktop final : public TestDesktop {
 }  // namespace
 
 std::unique_ptr<TestDesktop> MakeTestDesktop() {
+  // No window of a test is to appear on a developer's screen, unless he asks for it.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   return std::make_unique<QtTestDesktop>();
 }
 
 }  // namespace orx::test
+
+// Memory that the system's font configuration keeps for the life of the process is no leak of ours.
+extern "C" const char*
+__lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier,readability-identifier-naming)
+
+extern "C" const char*
+__lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier,readability-identifier-naming)
+  return "leak:libfontconfig\n";
+}
