@@ -81,7 +81,7 @@ TEST_F(QtControl, ArrowKeysChooseInAClosedList) {
 }
 
 TEST_F(QtControl, ArrowKeysOnAButtonMoveTheFocusOfTheForm) {
-  ShowForm();
+  ShowSettled();
   form->cmdOK.SetFocus();
   events.clear();
   QTest::keyClick(&Native<QWidget>(form->cmdOK), Qt::Key_Right);

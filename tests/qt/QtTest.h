@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QTest>
 
 #include "desktops/qt/Dialog.h"
 #include "desktops/qt/Peer.h"
@@ -13,6 +14,14 @@ namespace orx::test {
 class QtFormsTest : public FormsTest {
  protected:
   qt::QtDesktop& QtOnly() { return dynamic_cast<qt::QtDesktop&>(desktop()); }
+
+  /// Shows the form and waits until its window is active and everything in it is laid out.
+  void ShowSettled() {
+    ShowForm();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&DialogOf(*form)));
+    desktop().ProcessPendingEvents();
+    events.clear();
+  }
 
   static qt::Dialog& DialogOf(const Form& shown) {
     return dynamic_cast<qt::Dialog&>(*QWidget::find(shown.Window()->NativeHandle()));

@@ -15,14 +15,15 @@ class QtScroll : public QtFormsTest {
   void ShowOnLowScreen() {
     const int frame = desktop().Metrics(BorderStyle::Fixed).Frame.Height;
     QtOnly().WorkArea({0, 0, 12000, 3600 + frame});
-    ShowForm();
+    ShowSettled();
   }
 
   QScrollBar& Bar() { return *DialogOf(*form).findChild<QScrollArea*>()->verticalScrollBar(); }
 };
 
 TEST_F(QtScroll, AFormThatFitsShowsNoScrollBar) {
-  ShowForm();
+  QtOnly().WorkArea({0, 0, 30000, 30000});
+  ShowSettled();
   EXPECT_FALSE(Bar().isVisible());
   EXPECT_EQ(desktop().ToPixels(5400), DialogOf(*form).height());
   EXPECT_EQ(desktop().ToPixels(6000), DialogOf(*form).width());
@@ -76,7 +77,7 @@ TEST_F(QtScroll, TheWheelScrollsAndChangesNoValueOnTheWay) {
 
 TEST_F(QtScroll, ANarrowScreenScrollsSidewaysToo) {
   QtOnly().WorkArea({0, 0, 4500, 4500});
-  ShowForm();
+  ShowSettled();
   EXPECT_TRUE(DialogOf(*form).findChild<QScrollArea*>()->horizontalScrollBar()->isVisible());
   EXPECT_LE(PlaceInWindow(form->cmdCancel).right(), DialogOf(*form).width());
   EXPECT_GE(PlaceInWindow(form->cmdOK).left(), 0);
