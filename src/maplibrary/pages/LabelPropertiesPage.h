@@ -23,13 +23,13 @@ class LabelPropertiesPage final : public PageBase {
 
   CheckBox chkShowLabels{pnlPage, "chkShowLabels", {.Caption = "Show &labels", .Place = {120, 120, 5895, 255}}};
   Label lblContent{pnlPage, "lblContent", {.Caption = "Cont&ent:", .Place = {120, 555, 1620, 240}}};
-  ComboBox cboContent{pnlPage, "cboContent", {.Place = {1860, 495, 2280, 330}}};
+  ComboBox cboContent{pnlPage, "cboContent", {.Place = {1860, 495, 2370, 330}}};
   Label lblPosition{pnlPage, "lblPosition", {.Caption = "&Position:", .Place = {120, 975, 1620, 240}}};
-  ComboBox cboPosition{pnlPage, "cboPosition", {.Place = {1860, 915, 2280, 330}}};
+  ComboBox cboPosition{pnlPage, "cboPosition", {.Place = {1860, 915, 2370, 330}}};
   Label lblRotation{pnlPage, "lblRotation", {.Caption = "Ro&tation:", .Place = {120, 1395, 1620, 240}}};
   TextBox txtRotation{pnlPage, "txtRotation", {.Place = {1860, 1335, 1080, 330}}};
   Label lblDegrees{pnlPage, "lblDegrees", {.Caption = "degrees", .Place = {3030, 1395, 1200, 240}}};
-  PictureBox pctPreview{pnlPage, "pctPreview", {.Place = {4320, 495, 1695, 1170}, .ToolTipText = "Preview"}};
+  PictureBox pctPreview{pnlPage, "pctPreview", {.Place = {4350, 495, 1665, 1170}, .ToolTipText = "Preview"}};
 
   Frame fraFont{pnlPage, "fraFont", {.Caption = "Font", .Place = {120, 1785, 5895, 1635}}};
   Label lblFont{fraFont, "lblFont", {.Caption = "&Font:", .Place = {150, 390, 1500, 240}}};

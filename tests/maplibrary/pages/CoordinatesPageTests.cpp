@@ -86,6 +86,12 @@ TEST_F(MapLibraryPagesCoordinates, TheWidthIsBlankWhileTheEdgesAreNotInOrder) {
   });
 }
 
+TEST_F(MapLibraryPagesCoordinates, TheSizesAreFreeOfRoundingErrors) {
+  layer.Extent.HeldLeft = 0.1;
+  layer.Extent.HeldRight = 0.1 + 0.2;
+  AfterOK([this] { EXPECT_EQ("0.2", Seen("txtWidth")); });
+}
+
 TEST_F(MapLibraryPagesCoordinates, TheSizesCannotBeEdited) {
   AfterOK([this] {
     Type("txtWidth", "5");
