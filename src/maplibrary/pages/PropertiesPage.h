@@ -22,13 +22,13 @@ class PropertiesPage final : public PageBase {
  public:
   explicit PropertiesPage(const PageSite& site);
 
-  Label lblName{pnlPage, "lblName", {.Caption = "&Name:", .Place = {120, 180, 1620, 240}}};
-  TextBox txtName{pnlPage, "txtName", {.Place = {1860, 120, 4155, 330}}};
-  Label lblSource{pnlPage, "lblSource", {.Caption = "Source f&ile:", .Place = {120, 600, 1620, 240}}};
-  TextBox txtSource{pnlPage, "txtSource", {.Place = {1860, 540, 4155, 330}}, TextLines::Single, true};
-  CheckBox chkVisible{pnlPage, "chkVisible", {.Caption = "&Visible", .Place = {1860, 1005, 4155, 255}}};
+  Label lblName{Surface, "lblName", {.Caption = "&Name:", .Place = {120, 180, 1620, 240}}};
+  TextBox txtName{Surface, "txtName", {.Place = {1860, 120, 4155, 330}}};
+  Label lblSource{Surface, "lblSource", {.Caption = "Source f&ile:", .Place = {120, 600, 1620, 240}}};
+  TextBox txtSource{Surface, "txtSource", {.Place = {1860, 540, 4155, 330}}, TextLines::Single, true};
+  CheckBox chkVisible{Surface, "chkVisible", {.Caption = "&Visible", .Place = {1860, 1005, 4155, 255}}};
 
-  Frame fraSymbol{pnlPage, "fraSymbol", {.Caption = "Symbol", .Place = {120, 1440, 5895, 2655}}};
+  Frame fraSymbol{Surface, "fraSymbol", {.Caption = "Symbol", .Place = {120, 1440, 5895, 2655}}};
   Label lblFont{fraSymbol, "lblFont", {.Caption = "&Font:", .Place = {150, 420, 1500, 240}}};
   ComboBox cboFont{fraSymbol, "cboFont", {.Place = {1740, 360, 2280, 330}}, ComboStyle::Editable};
   Label lblCharacter{fraSymbol, "lblCharacter", {.Caption = "Cha&racter:", .Place = {150, 840, 1500, 240}}};

@@ -140,6 +140,19 @@ TEST_F(MapLibraryPagesCoordinates, ANumberThatIsNoneStaysWhileItIsNotEdited) {
   EXPECT_EQ(Calls{}, AfterOK([] {}));
 }
 
+TEST_F(MapLibraryPagesCoordinates, ASaveWithEdgesInWrongOrderWritesNothing) {
+  const auto page = MakePage(PageKind::Coordinates);
+  page->Page->Client(&layer);
+  page->Page->RefreshContents();
+  Field("txtLeft").Text("-90");
+  Field("txtTop").Text("30");
+  ExpectRefusal("Invalid range", "Bottom (36) must be less than Top (30).");
+  page->Page->SaveChanges();
+  EXPECT_EQ(Calls{}, layer.Log.Calls);
+  EXPECT_EQ("36.25", Field("txtTop").Text());
+  EXPECT_EQ("-90", Field("txtLeft").Text());
+}
+
 TEST_F(MapLibraryPagesCoordinates, TheExtentOfAMapIsEdited) {
   RecordedMap map;
   InDialog("frmCoordinates", [this] { Type("txtTop", "40"); });

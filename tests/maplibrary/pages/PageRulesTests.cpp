@@ -13,7 +13,7 @@ class MapLibraryPagesRules : public PagesTest {
   }
   /// A page with its client read, not shown.
   std::shared_ptr<PageForm> MakeFilled(PageKind kind) {
-    const auto made = MakePage(kind);
+    auto made = MakePage(kind);
     made->Page->Client(ClientOf(kind));
     made->Page->RefreshContents();
     return made;
