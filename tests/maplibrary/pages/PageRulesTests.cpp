@@ -77,7 +77,7 @@ TEST_P(MapLibraryPagesOfEachKind, SavingAFilledPageCallsNoSetter) {
 
 TEST_P(MapLibraryPagesOfEachKind, EachInputHasAnAccessibleName) {
   const auto page = MakePage(GetParam());
-  for (Control* control : page->ssTab.Page(0).All()) {
+  for (Control* control : page->Tabs.Page(0).All()) {
     if (!control->TakesFocus()) continue;
     const std::string name = control->AccessibleName();
     EXPECT_FALSE(name.empty()) << control->Name();
