@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <optional>
+#include <sstream>
 
 #include "hostobjects/RunTimeError.h"
 
@@ -74,8 +75,10 @@ void TextLanguage::Read(std::istream& stream, const std::string& name) {
   for (int number = 1; std::getline(stream, line); ++number) {
     if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
     const std::string fault = ReadLine(line);
-    if (!fault.empty())
-      throw RunTimeError(kErrorFileFormat, name + ", line " + std::to_string(number) + ": " + fault + ".");
+    if (fault.empty()) continue;
+    std::ostringstream description;
+    description << name << ", line " << number << ": " << fault << ".";
+    throw RunTimeError(kErrorFileFormat, description.str());
   }
 }
 

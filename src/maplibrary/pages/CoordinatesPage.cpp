@@ -1,11 +1,22 @@
 #include "maplibrary/pages/CoordinatesPage.h"
 
 #include <cmath>
+#include <cstdio>
 
 #include "forms/Form.h"
 #include "hostobjects/IMap.h"
 
 namespace orx::maplibrary {
+namespace {
+
+/// A difference of two edges carries their rounding errors in its last digits; people need not read them.
+double Readable(double size) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.12g", size);
+  return numbers::ToDouble(text).value_or(size);
+}
+
+}  // namespace
 
 CoordinatesPage::CoordinatesPage(const PageSite& site) : PageBase(site) {
   for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) Watch(*field);
@@ -38,7 +49,7 @@ void CoordinatesPage::ShowSizes() {
   const numbers::Separators separators = OwnerForm().OwnerDesktop().Separators();
   const auto show = [&](TextBox& box, const NumberSpan& span, double size) {
     const bool isSize = span.IsInOrder() && std::isfinite(size);
-    box.Text(isSize ? numbers::ShortestText(size, separators) : std::string());
+    box.Text(isSize ? numbers::ShortestText(Readable(size), separators) : std::string());
   };
   show(txtWidth, mHorizontal, mRight.Value() - mLeft.Value());
   show(txtHeight, mVertical, mTop.Value() - mBottom.Value());

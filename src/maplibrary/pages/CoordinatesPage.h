@@ -20,7 +20,7 @@ class CoordinatesPage final : public PageBase {
  public:
   explicit CoordinatesPage(const PageSite& site);
 
-  Frame fraHorizontal{pnlPage, "fraHorizontal", {.Caption = "West to east", .Place = {120, 120, 5895, 1725}}};
+  Frame fraHorizontal{Surface, "fraHorizontal", {.Caption = "West to east", .Place = {120, 120, 5895, 1725}}};
   Label lblLeft{fraHorizontal, "lblLeft", {.Caption = "&Left:", .Place = {150, 420, 1500, 240}}};
   TextBox txtLeft{fraHorizontal, "txtLeft", {.Place = {1740, 360, 3000, 330}}};
   Label lblRight{fraHorizontal, "lblRight", {.Caption = "&Right:", .Place = {150, 840, 1500, 240}}};
@@ -28,7 +28,7 @@ class CoordinatesPage final : public PageBase {
   Label lblWidth{fraHorizontal, "lblWidth", {.Caption = "Wi&dth:", .Place = {150, 1260, 1500, 240}}};
   TextBox txtWidth{fraHorizontal, "txtWidth", {.Place = {1740, 1200, 3000, 330}}, TextLines::Single, true};
 
-  Frame fraVertical{pnlPage, "fraVertical", {.Caption = "South to north", .Place = {120, 1965, 5895, 1725}}};
+  Frame fraVertical{Surface, "fraVertical", {.Caption = "South to north", .Place = {120, 1965, 5895, 1725}}};
   Label lblBottom{fraVertical, "lblBottom", {.Caption = "&Bottom:", .Place = {150, 420, 1500, 240}}};
   TextBox txtBottom{fraVertical, "txtBottom", {.Place = {1740, 360, 3000, 330}}};
   Label lblTop{fraVertical, "lblTop", {.Caption = "&Top:", .Place = {150, 840, 1500, 240}}};
@@ -37,7 +37,7 @@ class CoordinatesPage final : public PageBase {
   TextBox txtHeight{fraVertical, "txtHeight", {.Place = {1740, 1200, 3000, 330}}, TextLines::Single, true};
 
   Label lblUnit{
-      pnlPage,
+      Surface,
       "lblUnit",
       {.Caption = "All values are in the unit of the map: degrees or meters.", .Place = {120, 3825, 5895, 600}},
       Alignment::Left,

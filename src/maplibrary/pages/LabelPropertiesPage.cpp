@@ -79,7 +79,7 @@ void LabelPropertiesPage::ShowValues() {
 void LabelPropertiesPage::EnableDependent() {
   if (!mRead) return;
   const bool enabled = chkShowLabels.IsChecked();
-  for (Control* const control : pnlPage.All())
+  for (Control* const control : Surface.All())
     if (control != &chkShowLabels) control->Enabled(enabled);
 }
 

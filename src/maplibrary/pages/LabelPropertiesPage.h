@@ -21,17 +21,17 @@ class LabelPropertiesPage final : public PageBase {
  public:
   explicit LabelPropertiesPage(const PageSite& site);
 
-  CheckBox chkShowLabels{pnlPage, "chkShowLabels", {.Caption = "Show &labels", .Place = {120, 120, 5895, 255}}};
-  Label lblContent{pnlPage, "lblContent", {.Caption = "Cont&ent:", .Place = {120, 555, 1620, 240}}};
-  ComboBox cboContent{pnlPage, "cboContent", {.Place = {1860, 495, 2280, 330}}};
-  Label lblPosition{pnlPage, "lblPosition", {.Caption = "&Position:", .Place = {120, 975, 1620, 240}}};
-  ComboBox cboPosition{pnlPage, "cboPosition", {.Place = {1860, 915, 2280, 330}}};
-  Label lblRotation{pnlPage, "lblRotation", {.Caption = "Ro&tation:", .Place = {120, 1395, 1620, 240}}};
-  TextBox txtRotation{pnlPage, "txtRotation", {.Place = {1860, 1335, 1080, 330}}};
-  Label lblDegrees{pnlPage, "lblDegrees", {.Caption = "degrees", .Place = {3030, 1395, 1200, 240}}};
-  PictureBox pctPreview{pnlPage, "pctPreview", {.Place = {4320, 495, 1695, 1170}, .ToolTipText = "Preview"}};
+  CheckBox chkShowLabels{Surface, "chkShowLabels", {.Caption = "Show &labels", .Place = {120, 120, 5895, 255}}};
+  Label lblContent{Surface, "lblContent", {.Caption = "Cont&ent:", .Place = {120, 555, 1620, 240}}};
+  ComboBox cboContent{Surface, "cboContent", {.Place = {1860, 495, 2370, 330}}};
+  Label lblPosition{Surface, "lblPosition", {.Caption = "&Position:", .Place = {120, 975, 1620, 240}}};
+  ComboBox cboPosition{Surface, "cboPosition", {.Place = {1860, 915, 2370, 330}}};
+  Label lblRotation{Surface, "lblRotation", {.Caption = "Ro&tation:", .Place = {120, 1395, 1620, 240}}};
+  TextBox txtRotation{Surface, "txtRotation", {.Place = {1860, 1335, 1080, 330}}};
+  Label lblDegrees{Surface, "lblDegrees", {.Caption = "degrees", .Place = {3030, 1395, 1200, 240}}};
+  PictureBox pctPreview{Surface, "pctPreview", {.Place = {4350, 495, 1665, 1170}, .ToolTipText = "Preview"}};
 
-  Frame fraFont{pnlPage, "fraFont", {.Caption = "Font", .Place = {120, 1785, 5895, 1635}}};
+  Frame fraFont{Surface, "fraFont", {.Caption = "Font", .Place = {120, 1785, 5895, 1635}}};
   Label lblFont{fraFont, "lblFont", {.Caption = "&Font:", .Place = {150, 390, 1500, 240}}};
   ComboBox cboFont{fraFont, "cboFont", {.Place = {1740, 330, 4005, 330}}, ComboStyle::Editable};
   Label lblSize{fraFont, "lblSize", {.Caption = "&Size:", .Place = {150, 810, 1500, 240}}};
@@ -41,7 +41,7 @@ class LabelPropertiesPage final : public PageBase {
   CheckBox chkItalic{fraFont, "chkItalic", {.Caption = "&Italic", .Place = {2040, 1215, 1800, 255}}};
   CheckBox chkUnderline{fraFont, "chkUnderline", {.Caption = "&Underline", .Place = {3930, 1215, 1815, 255}}};
 
-  Frame fraColor{pnlPage, "fraColor", {.Caption = "Color", .Place = {120, 3540, 5895, 855}}};
+  Frame fraColor{Surface, "fraColor", {.Caption = "Color", .Place = {120, 3540, 5895, 855}}};
   Label lblColor{fraColor, "lblColor", {.Caption = "&Name:", .Place = {150, 420, 1000, 240}}};
   ComboBox cboColor{fraColor, "cboColor", {.Place = {1170, 360, 1800, 330}}};
   Label lblHex{fraColor, "lblHex", {.Caption = "He&x:", .Place = {3120, 420, 750, 240}}};

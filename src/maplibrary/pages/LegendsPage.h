@@ -25,10 +25,10 @@ class LegendsPage final : public PageBase {
   void Client(HostObject* value) override;
   using PageBase::Client;
 
-  Label lblLegend{pnlPage, "lblLegend", {.Caption = "&Legend:", .Place = {120, 180, 1620, 240}}};
-  ComboBox cboLegend{pnlPage, "cboLegend", {.Place = {1860, 120, 3855, 330}}};
+  Label lblLegend{Surface, "lblLegend", {.Caption = "&Legend:", .Place = {120, 180, 1620, 240}}};
+  ComboBox cboLegend{Surface, "cboLegend", {.Place = {1860, 120, 3855, 330}}};
 
-  Frame fraLegend{pnlPage, "fraLegend", {.Caption = "Selected legend", .Place = {120, 570, 5595, 2835}}};
+  Frame fraLegend{Surface, "fraLegend", {.Caption = "Selected legend", .Place = {120, 570, 5595, 2835}}};
   Label lblTitle{fraLegend, "lblTitle", {.Caption = "&Title:", .Place = {150, 420, 1500, 240}}};
   TextBox txtTitle{fraLegend, "txtTitle", {.Place = {1740, 360, 3705, 330}}};
   Label lblCorner{fraLegend, "lblCorner", {.Caption = "Co&rner:", .Place = {150, 840, 1500, 240}}};

@@ -6,7 +6,7 @@
 
 namespace orx::maplibrary {
 
-PageBase::PageBase(const PageSite& site) : pnlPage(site.Parent, site.Name, {.Place = site.Place}) {
+PageBase::PageBase(const PageSite& site) : Surface(site.Parent, site.Name, {.Place = site.Place}) {
 }
 
 void PageBase::Client(HostObject* value) {
@@ -40,7 +40,7 @@ void PageBase::ShowNothing() {
 }
 
 void PageBase::EnableAll(bool enabled) {
-  for (Control* const control : pnlPage.All()) control->Enabled(enabled);
+  for (Control* const control : Surface.All()) control->Enabled(enabled);
 }
 
 void PageBase::SaveChanges() {

@@ -38,7 +38,7 @@ class PageBase : public PropertyPage {
   void DiscardChanges() override { RefreshContents(); }
 
   /// The surface of the page.
-  Panel pnlPage;
+  Panel Surface;
 
  protected:
   explicit PageBase(const PageSite& site);
@@ -82,7 +82,7 @@ class PageBase : public PropertyPage {
   /// Fills a list with texts that the language translates; the entries are numbered from 0.
   void FillList(ComboBox& box, std::initializer_list<const char*> texts);
 
-  Form& OwnerForm() { return pnlPage.OwnerForm(); }
+  Form& OwnerForm() { return Surface.OwnerForm(); }
 
  private:
   class BusyScope {

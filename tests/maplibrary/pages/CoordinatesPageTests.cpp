@@ -86,6 +86,12 @@ TEST_F(MapLibraryPagesCoordinates, TheWidthIsBlankWhileTheEdgesAreNotInOrder) {
   });
 }
 
+TEST_F(MapLibraryPagesCoordinates, TheSizesAreFreeOfRoundingErrors) {
+  layer.Extent.HeldLeft = 0.1;
+  layer.Extent.HeldRight = 0.1 + 0.2;
+  AfterOK([this] { EXPECT_EQ("0.2", Seen("txtWidth")); });
+}
+
 TEST_F(MapLibraryPagesCoordinates, TheSizesCannotBeEdited) {
   AfterOK([this] {
     Type("txtWidth", "5");
@@ -132,6 +138,19 @@ TEST_F(MapLibraryPagesCoordinates, AnExtentThatIsNotInOrderStaysWhileItIsNotEdit
 TEST_F(MapLibraryPagesCoordinates, ANumberThatIsNoneStaysWhileItIsNotEdited) {
   layer.Extent.HeldLeft = std::nan("");
   EXPECT_EQ(Calls{}, AfterOK([] {}));
+}
+
+TEST_F(MapLibraryPagesCoordinates, ASaveWithEdgesInWrongOrderWritesNothing) {
+  const auto page = MakePage(PageKind::Coordinates);
+  page->Page->Client(&layer);
+  page->Page->RefreshContents();
+  Field("txtLeft").Text("-90");
+  Field("txtTop").Text("30");
+  ExpectRefusal("Invalid range", "Bottom (36) must be less than Top (30).");
+  page->Page->SaveChanges();
+  EXPECT_EQ(Calls{}, layer.Log.Calls);
+  EXPECT_EQ("36.25", Field("txtTop").Text());
+  EXPECT_EQ("-90", Field("txtLeft").Text());
 }
 
 TEST_F(MapLibraryPagesCoordinates, TheExtentOfAMapIsEdited) {

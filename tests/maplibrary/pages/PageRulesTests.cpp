@@ -13,7 +13,7 @@ class MapLibraryPagesRules : public PagesTest {
   }
   /// A page with its client read, not shown.
   std::shared_ptr<PageForm> MakeFilled(PageKind kind) {
-    const auto made = MakePage(kind);
+    auto made = MakePage(kind);
     made->Page->Client(ClientOf(kind));
     made->Page->RefreshContents();
     return made;
@@ -77,7 +77,7 @@ TEST_P(MapLibraryPagesOfEachKind, SavingAFilledPageCallsNoSetter) {
 
 TEST_P(MapLibraryPagesOfEachKind, EachInputHasAnAccessibleName) {
   const auto page = MakePage(GetParam());
-  for (Control* control : page->ssTab.Page(0).All()) {
+  for (Control* control : page->Tabs.Page(0).All()) {
     if (!control->TakesFocus()) continue;
     const std::string name = control->AccessibleName();
     EXPECT_FALSE(name.empty()) << control->Name();

@@ -20,9 +20,9 @@ using Calls = std::vector<std::string>;
 struct PageForm final : Form {
   PageForm(Desktop& desktop, PageKind kind)
       : Form(desktop, "frmPage", {.Caption = "Page", .Client = {6465, 5670}}),
-        Page(maplibrary::PageFactory().CreatePage(kind, {ssTab.Page(0), "Page1", {0, 0, 6135, 4545}})) {}
+        Page(maplibrary::PageFactory().CreatePage(kind, {Tabs.Page(0), "Page1", {0, 0, 6135, 4545}})) {}
 
-  TabControl ssTab{*this, "ssTab", {.Place = {120, 120, 6255, 4995}}, {"Page"}};
+  TabControl Tabs{*this, "ssTab", {.Place = {120, 120, 6255, 4995}}, {"Page"}};
   Button cmdOK{*this, "cmdOK", {.Caption = "&OK", .Place = {2340, 5220, 1275, 375}}, ButtonRole::Default};
   std::unique_ptr<PropertyPage> Page;
 };

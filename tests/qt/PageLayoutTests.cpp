@@ -1,0 +1,57 @@
+// The dialogs of the map library's pages show all their text, in every language and at every resolution.
+#include "maplibrary/PseudoLanguage.h"
+#include "maplibrary/TextLanguage.h"
+#include "tests/maplibrary/pages/PagesTest.h"
+#include "tests/qt/LayoutCheck.h"
+
+namespace orx::test {
+namespace {
+
+class QtPageLayout : public PagesTest {
+ protected:
+  QtPageLayout() { legends.Legends.emplace_back(legends.Log, "Elevation"); }
+
+  /// Shows the four dialogs and looks each over.
+  void ExpectAllTextShown(ILanguage* language) {
+    service.Language(language);
+    const auto look = [this] { EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*form)); };
+    InDialog("frmProperties", look);
+    service.ShowProperties(&layer);
+    InDialog("frmLabels", look);
+    service.ShowLabels(&layer);
+    InDialog("frmCoordinates", look);
+    service.ShowCoordinates(&layer);
+    InDialog("frmLegend", look);
+    service.ShowLegends(&legends);
+  }
+
+  RecordedLegends legends;
+};
+
+TEST_F(QtPageLayout, NothingIsCutOffInEnglish) {
+  ExpectAllTextShown(nullptr);
+}
+
+TEST_F(QtPageLayout, NothingIsCutOffInGerman) {
+  maplibrary::TextLanguage german(std::filesystem::path(ORX_DATA_DIR "/languages/de.txt"));
+  ExpectAllTextShown(&german);
+}
+
+TEST_F(QtPageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
+  maplibrary::PseudoLanguage pseudo;
+  ExpectAllTextShown(&pseudo);
+}
+
+TEST_F(QtPageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {
+  const auto page = MakePage(PageKind::Properties);
+  page->Page->CharacterRequested = [](CharacterRequest&) {};
+  page->Page->Client(&layer);
+  page->Page->RefreshContents();
+  maplibrary::PseudoLanguage().TranslateForm(*page);
+  page->Show(ShowMode::Modeless);
+  EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*page));
+  page->Unload();
+}
+
+}  // namespace
+}  // namespace orx::test
