@@ -1,0 +1,31 @@
+# What `cmake --install` gives: headers, libraries, a CMake package, pkg-config files, languages and sample data.
+include(CMakePackageConfigHelpers)
+
+set(ORX_INCLUDE ${CMAKE_INSTALL_INCLUDEDIR}/OrvexMapDialogs2)
+set(ORX_SHARE ${CMAKE_INSTALL_DATADIR}/OrvexMapDialogs2)
+set(ORX_PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/OrvexMapDialogs2)
+
+set(libraries orxMDlg orxMapLibrary)
+install(DIRECTORY src/ DESTINATION ${ORX_INCLUDE} FILES_MATCHING PATTERN "*.h" PATTERN "desktops/qt" EXCLUDE)
+if(TARGET orxMDlgQt)
+  list(APPEND libraries orxMDlgQt)
+  install(FILES src/desktops/qt/QtDesktop.h DESTINATION ${ORX_INCLUDE}/desktops/qt)
+endif()
+install(TARGETS ${libraries} EXPORT OrvexMapDialogs2Targets)
+install(EXPORT OrvexMapDialogs2Targets NAMESPACE OrvexMapDialogs2:: DESTINATION ${ORX_PACKAGE})
+install(DIRECTORY data/ DESTINATION ${ORX_SHARE})
+
+configure_package_config_file(cmake/OrvexMapDialogs2Config.cmake.in OrvexMapDialogs2Config.cmake
+  INSTALL_DESTINATION ${ORX_PACKAGE})
+write_basic_package_version_file(OrvexMapDialogs2ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2Config.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2ConfigVersion.cmake DESTINATION ${ORX_PACKAGE})
+
+# From the folder of the pkg-config files, so that an installation can be moved.
+file(RELATIVE_PATH ORX_PC_INCLUDE /p/${CMAKE_INSTALL_LIBDIR}/pkgconfig /p/${ORX_INCLUDE})
+configure_file(cmake/OrvexMapDialogs2.pc.in OrvexMapDialogs2.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+if(TARGET orxMDlgQt)
+  configure_file(cmake/OrvexMapDialogs2Qt.pc.in OrvexMapDialogs2Qt.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2Qt.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endif()
