@@ -1,0 +1,125 @@
+// The demo host as its user works with it: dialogs from its buttons, the map redrawn behind them, results, languages.
+#include "examples/maphost/HostWindow.h"
+
+#include "maplibrary/MapText.h"
+#include "maplibrary/SampleMap.h"
+#include "tests/support/DesktopTest.h"
+
+namespace orx::test {
+namespace {
+
+class ExamplesHost : public DesktopTest {
+ protected:
+  ExamplesHost() { window->Show(ShowMode::Modeless); }
+  ~ExamplesHost() override { desktop().CloseOpenForms(); }
+
+  template <class Kind>
+  static Kind& Get(Form& form, const std::string& name) {
+    return dynamic_cast<Kind&>(*form.Find(name));
+  }
+  static void Press(User& person, Form& form, const std::string& name) { person.Click(Get<Button>(form, name)); }
+  std::string LastLine() const {
+    const std::string& text = window->txtLog.Text();
+    return text.substr(text.rfind('\n') + 1);
+  }
+  const std::vector<Mark>& Drawn() const { return window->pctMap.Drawing().Marks(); }
+
+  std::unique_ptr<maplibrary::Map> map = maplibrary::MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil");
+  maphost::Languages languages{std::filesystem::path(ORX_DATA_DIR "/languages")};
+  std::shared_ptr<maphost::HostWindow> window = std::make_shared<maphost::HostWindow>(desktop(), *map, languages);
+};
+
+TEST_F(ExamplesHost, ListsTheMapItsLayersAndTheirTiles) {
+  std::vector<std::string> names;
+  for (int i = 0; i < window->cboLayer.ListCount(); ++i) names.push_back(window->cboLayer.List(i));
+  ASSERT_EQ(7U, names.size());
+  EXPECT_EQ((std::vector<std::string>{"Whole map", "Terrain", "Quarters"}),
+            (std::vector<std::string>{names.begin(), names.begin() + 3}));
+  EXPECT_TRUE(names[3].starts_with("Quarters / "));
+  EXPECT_EQ("Terrain", user.See(window->cboLayer).Text);
+}
+
+TEST_F(ExamplesHost, OKUntouchedInEveryDialogLeavesEveryBitOfTheMap) {
+  const std::string before = maplibrary::Serialise(*map);
+  for (int entry = 0; entry < window->cboLayer.ListCount(); ++entry) {
+    user.Choose(window->cboLayer, entry);
+    for (Button* button :
+         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends}) {
+      if (!button->Enabled()) continue;
+      const std::string form = button == &window->cmdLegends ? "frmLegend" : "frm" + button->Name().substr(3);
+      script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
+      user.Click(*button);
+      EXPECT_TRUE(LastLine().ends_with("not changed (0)")) << LastLine();
+      EXPECT_EQ(before, maplibrary::Serialise(*map)) << form << " of " << window->cboLayer.Text();
+    }
+  }
+}
+
+TEST_F(ExamplesHost, ApplyRedrawsTheMapBehindTheOpenDialog) {
+  script.ExpectForm("frmProperties", [&](Form& shown) {
+    const std::vector<Mark> before = Drawn();
+    user.Toggle(Get<CheckBox>(shown, "chkVisible"));
+    EXPECT_EQ(before, Drawn());
+    Press(user, shown, "cmdApply");
+    EXPECT_EQ("Call-back: Apply, changed", LastLine());
+    EXPECT_NE(before, Drawn());
+    EXPECT_TRUE(shown.Visible());
+    Press(user, shown, "cmdOK");
+  });
+  user.Click(window->cmdProperties);
+  EXPECT_EQ("Properties of Terrain: changed (-1)", LastLine());
+}
+
+TEST_F(ExamplesHost, ARenamedLayerIsListedUnderItsNewName) {
+  script.ExpectForm("frmProperties", [&](Form& shown) {
+    user.Type(Get<TextBox>(shown, "txtName"), "Hills");
+    Press(user, shown, "cmdOK");
+  });
+  user.Click(window->cmdProperties);
+  EXPECT_EQ("Hills", user.See(window->cboLayer).Text);
+}
+
+TEST_F(ExamplesHost, TheWholeMapHasCoordinatesAndLegendsOnly) {
+  user.Choose(window->cboLayer, 0);
+  EXPECT_FALSE(user.See(window->cmdProperties).Enabled);
+  EXPECT_FALSE(user.See(window->cmdLabels).Enabled);
+  EXPECT_TRUE(user.See(window->cmdCoordinates).Enabled);
+  EXPECT_TRUE(user.See(window->cmdLegends).Enabled);
+}
+
+TEST_F(ExamplesHost, DialogsKeptOpenReportToTheLogUntilTheyAreClosed) {
+  user.Toggle(window->chkModeless);
+  user.Click(window->cmdLabels);
+  EXPECT_EQ("Labels of Terrain: open", LastLine());
+  EXPECT_TRUE(window->Visible());
+}
+
+TEST_F(ExamplesHost, TheLanguageChangesTheWindowAndItsDialogsAndBack) {
+  user.Choose(window->cboLanguage, 1);
+  EXPECT_EQ("Eigenschaften...", user.See(window->cmdProperties).Text);
+  script.ExpectForm("frmProperties", [&](Form& shown) {
+    EXPECT_EQ("Ebeneneigenschaften", user.SeeCaption(shown));
+    user.CloseBox(shown);
+  });
+  user.Click(window->cmdProperties);
+  user.Choose(window->cboLanguage, 0);
+  EXPECT_EQ("Properties...", user.See(window->cmdProperties).Text);
+}
+
+TEST_F(ExamplesHost, EveryTextOfTheWindowIsTranslated) {
+  for (Control* control : window->All()) {
+    const std::string& caption = control->Caption();
+    if (caption.empty()) continue;
+    EXPECT_NE(caption, languages.Language(1)->TranslateText(caption)) << control->Name();
+  }
+}
+
+TEST_F(ExamplesHost, TheMapFillsTheWindowWhateverItsSize) {
+  const Rect before = window->pctMap.Place();
+  window->ClientSize({window->ClientSize().Width + 1500, window->ClientSize().Height + 1500});
+  EXPECT_EQ(before.Width + 1500, window->pctMap.Place().Width);
+  EXPECT_EQ(before.Height + 1500, window->pctMap.Place().Height);
+}
+
+}  // namespace
+}  // namespace orx::test
