@@ -1,0 +1,41 @@
+#include "benchmarks/RatioTable.h"
+
+#include <cstdio>
+
+namespace orx::bench {
+namespace {
+
+constexpr double kGoal = 1.25;
+
+}  // namespace
+
+void RatioTable::ReportRuns(const std::vector<Run>& runs) {
+  for (const Run& run : runs) {
+    if (run.error_occurred) {
+      std::printf("%s: %s\n", run.run_name.str().c_str(), run.error_message.c_str());
+      mHasFailed = true;
+    }
+    if (run.run_type != Run::RT_Aggregate || run.aggregate_name != "median") continue;
+    const std::string name = run.run_name.function_name;
+    const std::size_t slash = name.find('/');
+    mMedians[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedRealTime();
+  }
+}
+
+void RatioTable::Finalize() {
+  std::printf("%-22s %14s %14s %7s %7s  %-6s %14s\n", "", "ours (ns)", "bare (ns)", "ratio", "goal", "",
+              "headless (ns)");
+  for (const auto& [row, medians] : mMedians) {
+    const auto median = [&medians = medians](const char* of) {
+      const auto found = medians.find(of);
+      return found == medians.end() ? 0.0 : found->second;
+    };
+    const double ratio = median("ours") / median("bare");
+    std::printf("%-22s %14.0f %14.0f %7.2f %7.2f  %-6s", row.c_str(), median("ours"), median("bare"), ratio, kGoal,
+                ratio <= kGoal ? "met" : "missed");
+    if (medians.contains("headless")) std::printf(" %14.0f", median("headless"));
+    std::printf("\n");
+  }
+}
+
+}  // namespace orx::bench
