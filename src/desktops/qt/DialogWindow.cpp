@@ -13,6 +13,7 @@ DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)),
   MakePeers(form, nullptr);
   // A label looks for the peer of its neighbour, so all are there before the first one shows anything.
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
+  mDialog->Ground().Complete();
   OrderTabs();
   UpdateCaption();
 }

@@ -52,6 +52,10 @@ struct QtDesktop::State {
   std::optional<numbers::Separators> Separators;
   std::optional<Rect> WorkArea;
   bool PointerIsOurs = false;
+  /// The scale, and what it was worked out from: measuring a font takes longer than all else in placing a control.
+  double Scale = 1;
+  double Dots = 0;
+  QFont MeasuredFont;
 };
 
 QtDesktop::QtDesktop() : mState(std::make_unique<State>()) {
@@ -83,7 +87,13 @@ ScreenMetrics QtDesktop::Metrics(BorderStyle) const {
 double QtDesktop::Scale() const {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   const double dots = screen ? screen->logicalDotsPerInchY() : kDesignDotsPerInch;
-  return dots / kDesignDotsPerInch * std::max(1.0, QFontInfo(DialogFont()).pointSizeF() / kDesignPoints);
+  const QFont font = QApplication::font();
+  if (dots != mState->Dots || font != mState->MeasuredFont) {
+    mState->Scale = dots / kDesignDotsPerInch * std::max(1.0, QFontInfo(DialogFont()).pointSizeF() / kDesignPoints);
+    mState->Dots = dots;
+    mState->MeasuredFont = font;
+  }
+  return mState->Scale;
 }
 
 numbers::Separators QtDesktop::Separators() const {

@@ -91,6 +91,7 @@ QSize Surface::BodySize(int pinnedTop) const {
 }
 
 void Surface::Arrange() {
+  if (!mIsComplete) return;
   const QSize missing = Missing();
   const QSize window = WindowSize();
   const int pinnedTop = PinnedTop();

@@ -32,6 +32,8 @@ class Surface {
   QSize WindowSize() const;
   /// What of that size is the scroll bar.
   int ExtraWidth() const;
+  /// All controls have been added and have their widgets: from now on Arrange does its work.
+  void Complete() { mIsComplete = true; }
   /// Sets the scrolled area and the pinned controls to the form's present sizes.
   void Arrange();
   /// Scrolls until the widget can be seen.
@@ -54,6 +56,7 @@ class Surface {
   QScrollArea* mScroll;
   QWidget* mBody;
   std::vector<Standing> mStanding;
+  bool mIsComplete = false;
 };
 
 }  // namespace orx::qt
