@@ -33,7 +33,7 @@ using Open = void (*)(Host&);
 
 void OpenDialogs(benchmark::State& state, Desktop& desktop, Open open) {
   Host host(desktop);
-  for (auto _ : state) open(host);
+  while (state.KeepRunning()) open(host);
   desktop.Hook(nullptr);
   if (host.Shown < state.iterations()) state.SkipWithError("A dialog was not shown");
 }
@@ -43,7 +43,7 @@ void OpenBare(benchmark::State& state, Open open) {
   Host host(desktop);
   // The dialog is up while its bare likeness is measured, so that both have the same controls.
   host.Seen = [&](const Form& form) {
-    for (auto _ : state) ShowAndClose(*MakeBareDialog(form));
+    while (state.KeepRunning()) ShowAndClose(*MakeBareDialog(form));
   };
   open(host);
   desktop.Hook(nullptr);

@@ -53,7 +53,7 @@ class RampTable {
     for (std::size_t i = 0; i < mColors.size(); ++i) mColors[i] = ColorAt(static_cast<double>(i) / kSteps);
   }
   const Color& For(double value) const {
-    return mColors[static_cast<std::size_t>(ShareOf(value, mRange) * kSteps + 0.5)];
+    return mColors[static_cast<std::size_t>(std::lround(ShareOf(value, mRange) * kSteps))];
   }
 
  private:

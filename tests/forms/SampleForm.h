@@ -12,25 +12,25 @@ using Events = std::vector<std::string>;
 
 struct SampleForm final : Form {
   explicit SampleForm(Desktop& desktop, Events& log)
-      : Form(desktop, "frmSample", {.Caption = "Sample", .Client = {6000, 5400}}), events(log) {
+      : Form(desktop, "frmSample", {.Caption = "Sample", .Client = {6000, 5400}}), Log(log) {
     for (Control* control : All()) {
-      control->GotFocus = [this, control] { events.push_back(control->Name() + "_GotFocus"); };
-      control->LostFocus = [this, control] { events.push_back(control->Name() + "_LostFocus"); };
+      control->GotFocus = [this, control] { Log.push_back(control->Name() + "_GotFocus"); };
+      control->LostFocus = [this, control] { Log.push_back(control->Name() + "_LostFocus"); };
     }
-    txtName.Change = [this] { events.push_back("txtName_Change"); };
-    txtSize.Change = [this] { events.push_back("txtSize_Change"); };
-    chkShow.Click = [this] { events.push_back("chkShow_Click"); };
-    cboKind.Click = [this] { events.push_back("cboKind_Click"); };
-    cboFree.Click = [this] { events.push_back("cboFree_Click"); };
-    cboFree.Change = [this] { events.push_back("cboFree_Change"); };
-    ssTab.Click = [this](int before) { events.push_back("ssTab_Click(" + std::to_string(before) + ")"); };
-    cmdOK.Click = [this] { events.push_back("cmdOK_Click"); };
-    cmdCancel.Click = [this] { events.push_back("cmdCancel_Click"); };
+    txtName.Change = [this] { Log.push_back("txtName_Change"); };
+    txtSize.Change = [this] { Log.push_back("txtSize_Change"); };
+    chkShow.Click = [this] { Log.push_back("chkShow_Click"); };
+    cboKind.Click = [this] { Log.push_back("cboKind_Click"); };
+    cboFree.Click = [this] { Log.push_back("cboFree_Click"); };
+    cboFree.Change = [this] { Log.push_back("cboFree_Change"); };
+    ssTab.Click = [this](int before) { Log.push_back("ssTab_Click(" + std::to_string(before) + ")"); };
+    cmdOK.Click = [this] { Log.push_back("cmdOK_Click"); };
+    cmdCancel.Click = [this] { Log.push_back("cmdCancel_Click"); };
     for (const char* kind : {"Points", "Lines", "Areas"}) cboKind.AddItem(kind, 10 * cboKind.ListCount());
     for (const char* text : {"one", "two"}) cboFree.AddItem(text);
   }
 
-  Events& events;
+  Events& Log;
 
   Label lblName{*this, "lblName", {.Caption = "&Name:", .Place = {120, 120, 1200, 240}}};
   TextBox txtName{*this, "txtName", {.Place = {1440, 120, 2400, 330}}};

@@ -9,7 +9,7 @@ class PageHost : public PageHostTest {
   PageHost() { service.CallBack(&callBack); }
 
   /// Shows the layer properties; the user acts with an empty list of calls.
-  std::int32_t Show(std::function<void(Form&)> act) {
+  std::int32_t Show(const std::function<void(Form&)>& act) {
     script.ExpectForm("frmProperties", [this, act](Form& form) {
       log.Calls.clear();
       script.Pointers.clear();

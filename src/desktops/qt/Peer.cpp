@@ -54,10 +54,16 @@ void Peer::Mirror(Aspect aspect) {
       return mWidget->setToolTip(PlainToolTip(mControl.ToolTipText()));
     case Aspect::Text:
     case Aspect::Accessible:
-      return mFocus->setAccessibleName(ToQt(mControl.AccessibleName()));
+      return MirrorName();
     default:
       return;
   }
+}
+
+void Peer::MirrorName() {
+  // Assistive software is told of every name that is set, also of the same one.
+  const QString name = ToQt(mControl.AccessibleName());
+  if (name != mFocus->accessibleName()) mFocus->setAccessibleName(name);
 }
 
 void Peer::MirrorPlace() {

@@ -35,6 +35,7 @@ class Peer : public QObject, public ControlPeer {
   void Report(const std::function<void()>& act) const { mDialog.Report(act); }
 
  private:
+  void MirrorName();
   void MirrorPlace();
   /// Lets the ground of the form follow a control that stands on it.
   void ArrangeGround();
