@@ -23,7 +23,7 @@ constexpr std::array<Stop, 8> kStops = {{{0.00, 84, 142, 98},
                                          {1.00, 240, 236, 232}}};
 
 std::uint8_t Mixed(double from, double to, double share) {
-  return static_cast<std::uint8_t>(from + (to - from) * share + 0.5);
+  return static_cast<std::uint8_t>(std::lround(from + (to - from) * share));
 }
 
 }  // namespace

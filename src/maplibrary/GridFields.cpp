@@ -90,7 +90,7 @@ std::optional<double> GridFields::Number(const std::string& name) const {
 std::string GridFields::Choice(const std::string& name, const std::string& choices, const std::string& standard) const {
   const std::string* text = Find(name, false);
   if (!text) return standard;
-  const std::string value = UpperCase(*text);
+  std::string value = UpperCase(*text);
   std::istringstream words(choices);
   std::string list;
   for (std::string word; words >> word;) {

@@ -16,7 +16,8 @@ std::string Spoiled(std::string text, std::mt19937& random) {
   if (random() % 3 == 0) text.resize(below(text.size() + 1));
   for (std::size_t changes = below(6); changes > 0 && !text.empty(); --changes) {
     const std::size_t at = below(text.size());
-    static const std::string kLikely = "0123456789-+.eE \t\r\n\0\xFFNaI";
+    using std::string_view_literals::operator""sv;
+    constexpr std::string_view kLikely = "0123456789-+.eE \t\r\n\0\xFFNaI"sv;
     if (random() % 2 == 0) {
       text[at] = kLikely[below(kLikely.size())];
     } else {
