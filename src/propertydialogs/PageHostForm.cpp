@@ -12,14 +12,15 @@ Design ButtonDesign(const char* caption, int left, int top) {
 }  // namespace
 
 PageHostForm::PageHostForm(Desktop& desktop, IPageFactory& pages, const PageHostDesign& design)
-    : DialogForm(desktop, design.FormName, {.Caption = design.Caption, .Client = design.Client}),
+    : DialogForm(desktop, design.FormName, {.Caption = design.Caption, .Client = design.Layout.Client}),
       mHostDesign(design),
       mPages(pages),
-      ssTab(*this, "ssTab", {.Place = design.Tab}, {design.TabCaption}),
-      cmdHelp(*this, "cmdHelp", ButtonDesign("&Help", design.HelpLeft, design.ButtonTop)),
-      cmdOK(*this, "cmdOK", ButtonDesign("&OK", design.OKLeft, design.ButtonTop), ButtonRole::Default),
-      cmdCancel(*this, "cmdCancel", ButtonDesign("&Cancel", design.CancelLeft, design.ButtonTop), ButtonRole::Cancel),
-      cmdApply(*this, "cmdApply", ButtonDesign("&Apply", design.ApplyLeft, design.ButtonTop)) {
+      ssTab(*this, "ssTab", {.Place = design.Layout.Tab}, {design.TabCaption}),
+      cmdHelp(*this, "cmdHelp", ButtonDesign("&Help", design.Layout.HelpLeft, design.Layout.ButtonTop)),
+      cmdOK(*this, "cmdOK", ButtonDesign("&OK", design.Layout.OKLeft, design.Layout.ButtonTop), ButtonRole::Default),
+      cmdCancel(*this, "cmdCancel", ButtonDesign("&Cancel", design.Layout.CancelLeft, design.Layout.ButtonTop),
+                ButtonRole::Cancel),
+      cmdApply(*this, "cmdApply", ButtonDesign("&Apply", design.Layout.ApplyLeft, design.Layout.ButtonTop)) {
   cmdHelp.Click = [this] { ShowHelp(); };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { cmdCancel_Click(); };

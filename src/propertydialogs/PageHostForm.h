@@ -14,14 +14,8 @@
 
 namespace orx {
 
-/// What distinguishes one page-host dialog from the other. Places are in twips of the client area.
-struct PageHostDesign {
-  const char* FormName;
-  const char* Caption;
-  const char* TabCaption;
-  const char* HelpKey;
-  PageKind Page;
-  const char* PageName;
+/// Where everything stands in a page-host dialog, in twips of the client area.
+struct PageHostLayout {
   Size Client;
   Rect Tab;
   int ButtonTop;
@@ -29,6 +23,26 @@ struct PageHostDesign {
   int OKLeft;
   int CancelLeft;
   int ApplyLeft;
+};
+
+/// The layout of the dialogs for a layer.
+inline constexpr PageHostLayout kLayerLayout{.Client = {6465, 5670},
+                                             .Tab = {120, 120, 6255, 4995},
+                                             .ButtonTop = 5220,
+                                             .HelpLeft = 120,
+                                             .OKLeft = 2340,
+                                             .CancelLeft = 3720,
+                                             .ApplyLeft = 5100};
+
+/// What distinguishes one page-host dialog from the other.
+struct PageHostDesign {
+  const char* FormName;
+  const char* Caption;
+  const char* TabCaption;
+  const char* HelpKey;
+  PageKind Page;
+  const char* PageName;
+  PageHostLayout Layout = kLayerLayout;
 };
 
 class PageHostForm : public DialogForm {

@@ -10,13 +10,16 @@ constexpr PageHostDesign kDesign{
     .HelpKey = "_HelpMapLegend",
     .Page = PageKind::Legends,
     .PageName = "Legends1",
-    .Client = {6165, 4695},
-    .Tab = {120, 120, 5955, 3975},
-    .ButtonTop = 4200,
-    .HelpLeft = 120,
-    .OKLeft = 2040,
-    .CancelLeft = 3420,
-    .ApplyLeft = 4800,
+    .Layout =
+        {
+            .Client = {6165, 4695},
+            .Tab = {120, 120, 5955, 3975},
+            .ButtonTop = 4200,
+            .HelpLeft = 120,
+            .OKLeft = 2040,
+            .CancelLeft = 3420,
+            .ApplyLeft = 4800,
+        },
 };
 
 }  // namespace
