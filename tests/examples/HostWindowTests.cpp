@@ -43,8 +43,7 @@ TEST_F(ExamplesHost, OKUntouchedInEveryDialogLeavesEveryBitOfTheMap) {
   const std::string before = maplibrary::Serialise(*map);
   for (int entry = 0; entry < window->cboLayer.ListCount(); ++entry) {
     user.Choose(window->cboLayer, entry);
-    for (Button* button :
-         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends}) {
+    for (Button* button : {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends}) {
       if (!button->Enabled()) continue;
       const std::string form = button == &window->cmdLegends ? "frmLegend" : "frm" + button->Name().substr(3);
       script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
