@@ -8,11 +8,14 @@ namespace orx {
 /// What a button stands for in its form: Enter presses the default button, Escape the cancel button.
 enum class ButtonRole { Plain, Default, Cancel };
 
+/// A button that a user presses by mouse, Enter, Space or its mnemonic.
 class Button final : public Control {
  public:
+  /// As Control; the role is fixed.
   Button(Container& parent, std::string name, Design design, ButtonRole role = ButtonRole::Plain)
       : Control(parent, std::move(name), std::move(design)), mRole(role) {}
 
+  /// What Enter and Escape do with it.
   ButtonRole Role() const { return mRole; }
 
   /// Raised when the button is pressed by mouse, key or program.

@@ -59,11 +59,13 @@ struct FocusMark {
   bool operator==(const FocusMark&) const = default;
 };
 
+/// One piece of a drawing.
 using Mark = std::variant<FillMark, LineMark, TextMark, ImageMark, FocusMark>;
 
 /// What was drawn, oldest mark first. Places are in pixels from the upper left corner.
 class Canvas {
  public:
+  /// All marks, oldest first; Draw adds one, Clear removes them all.
   const std::vector<Mark>& Marks() const { return mMarks; }
   void Clear() { mMarks.clear(); }
   void Draw(Mark mark) { mMarks.push_back(std::move(mark)); }

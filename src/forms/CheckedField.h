@@ -21,11 +21,13 @@ class TextBox;
 /// does nothing.
 class CheckedField {
  public:
+  /// Takes the box over; nothing is selected or checked yet.
   explicit CheckedField(TextBox& box);
   virtual ~CheckedField() = default;
   CheckedField(const CheckedField&) = delete;
   CheckedField& operator=(const CheckedField&) = delete;
 
+  /// The text box that is watched.
   TextBox& Box() const { return mBox; }
   /// The name of the field in messages: its accessible name without a colon at the end.
   std::string Name() const;
@@ -69,6 +71,7 @@ class CheckedField {
 template <class Type>
 class ValueField : public CheckedField {
  public:
+  /// As CheckedField; the field has no value yet.
   using CheckedField::CheckedField;
 
   /// The value last set or accepted.

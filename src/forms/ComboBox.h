@@ -8,15 +8,20 @@
 
 namespace orx {
 
+/// Whether a user picks one of the entries, or may type any text as well.
 enum class ComboStyle { DropDownList, Editable };
 
+/// A list that drops down. Entries keep the order in which they were added.
 class ComboBox final : public Control {
  public:
+  /// As Control; the list is empty at first and the style is fixed.
   ComboBox(Container& parent, std::string name, Design design, ComboStyle style = ComboStyle::DropDownList)
       : Control(parent, std::move(name), std::move(design)), mStyle(style) {}
 
+  /// The style that was given when the box was made.
   ComboStyle Style() const { return mStyle; }
 
+  /// The number of entries.
   int ListCount() const { return static_cast<int>(mItems.size()); }
   /// The text and the number of an entry, by index from 0. An index outside the list throws std::out_of_range.
   const std::string& List(int index) const { return mItems.at(static_cast<std::size_t>(index)).Text; }

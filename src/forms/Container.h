@@ -17,12 +17,14 @@ class Container {
   Container(const Container&) = delete;
   Container& operator=(const Container&) = delete;
 
+  /// The controls that stand directly in here, never null, owned by their form or page.
   const std::vector<Control*>& Children() const { return mChildren; }
   /// The first control of that name here or below, null when there is none.
   Control* Find(std::string_view name) const;
   /// All controls here and below, each container before its children.
   std::vector<Control*> All() const;
 
+  /// The form that this is or stands in.
   virtual Form& ContainingForm() = 0;
   /// The control that this container is; null for a form.
   virtual Control* ContainerControl() = 0;

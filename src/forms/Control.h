@@ -52,6 +52,7 @@ class Control {
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
+  /// The name and the container that were given when the control was made.
   const std::string& Name() const { return mName; }
   Container& Parent() const { return mParent; }
   /// The form that the control stands in.
@@ -61,13 +62,17 @@ class Control {
   const std::string& Caption() const { return mDesign.Caption; }
   void Caption(const std::string& value);
 
+  /// The place in twips, from the upper left corner of the parent's client area.
   const Rect& Place() const { return mDesign.Place; }
   void Place(const Rect& value);
+  /// One edge, in twips; setting it moves the control.
   int Left() const { return mDesign.Place.Left; }
   void Left(int value);
   int Top() const { return mDesign.Place.Top; }
   void Top(int value);
 
+  /// Whether the control itself is visible and takes input, whatever it stands in; see IsShown and IsReachable. When
+  /// the focus can no longer stay, it goes to the next tab stop.
   bool Visible() const { return mDesign.Visible; }
   void Visible(bool value);
   bool Enabled() const { return mDesign.Enabled; }
@@ -77,8 +82,10 @@ class Control {
   /// True when the user can work with the control: shown and enabled, as all that it stands in.
   bool IsReachable() const;
 
+  /// The text that is shown while the mouse rests on the control; empty for none.
   const std::string& ToolTipText() const { return mDesign.ToolTipText; }
   void ToolTipText(const std::string& value);
+  /// Whether the control stays in reach at the bottom while the form scrolls.
   bool Pinned() const { return mDesign.Pinned; }
 
   /// What assistive software reads for the control: the designed name, else the caption without its mnemonic mark, else
@@ -93,6 +100,7 @@ class Control {
   virtual bool TakesFocus() const { return true; }
   /// Moves the focus here. Does nothing on a control that is not reachable while the form is shown.
   void SetFocus();
+  /// True when the focus is here. The form need not be the active window.
   bool HasFocus() const;
 
   /// Raised when the focus has come to the control, and when it has left for another control of the form.
@@ -103,6 +111,7 @@ class Control {
   virtual void UserMnemonic();
   /// The children when the control is a container, else null.
   virtual Container* AsContainer() { return nullptr; }
+  /// Calls the Visit of the control's kind.
   virtual void Accept(ControlVisitor& visitor) = 0;
 
   /// For desktops: the native mirror, null while the form has no window. The desktop owns it.
@@ -112,6 +121,7 @@ class Control {
  protected:
   /// Tells the native mirror, when there is one.
   void Changed(Aspect aspect);
+  /// The state that all kinds of controls share, as it is now.
   const Design& Drawn() const { return mDesign; }
 
  private:

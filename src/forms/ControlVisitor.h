@@ -14,9 +14,11 @@ class PictureBox;
 class TabControl;
 class TextBox;
 
+/// One member for each kind of control; Control::Accept calls the one that fits.
 class ControlVisitor {
  public:
   virtual ~ControlVisitor() = default;
+  /// Called with the control that was asked to accept.
   virtual void Visit(Button& control) = 0;
   virtual void Visit(CheckBox& control) = 0;
   virtual void Visit(ComboBox& control) = 0;

@@ -14,6 +14,7 @@
 
 namespace orx {
 
+/// Whether a user may size the window.
 enum class BorderStyle { Fixed, Sizable };
 
 /// The screen in twips: its size, the part not covered by task bars, and what a window's frame adds to the client area.
@@ -23,6 +24,8 @@ struct ScreenMetrics {
   Size Frame;
 };
 
+/// Shows forms and messages on one platform. A host makes one and uses it on its user-interface thread only; it
+/// outlives all forms that were made for it.
 class Desktop {
  public:
   Desktop() = default;
@@ -35,16 +38,20 @@ class Desktop {
 
   /// Shows a message box and returns when it has been answered. It belongs to the form that is shown on top.
   void ShowMessage(const Message& message);
+  /// Sounds the platform's warning signal.
   void Beep();
+  /// The pointer that was set last; Default at first.
   orx::Pointer Pointer() const { return mPointer; }
   /// Sets the mouse pointer of the whole screen.
   void Pointer(orx::Pointer value);
   /// Opens the platform's help engine.
   void ShowHelp(const HelpRequest& request);
 
+  /// The screen that dialogs open on, and the frame of a window with that border.
   virtual ScreenMetrics Metrics(BorderStyle border) const = 0;
   /// Pixels in 15 twips: 1 at 96 dpi, 1.5 at 144 dpi.
   virtual double Scale() const = 0;
+  /// Lengths converted by the scale, rounded to the nearest.
   int ToPixels(int twips) const;
   int ToTwips(int pixels) const;
   /// The separators of the user's locale.
@@ -59,8 +66,13 @@ class Desktop {
   void ModalIsRunning(const Modal& modal);
 
  protected:
+  /// Makes the native window of a form, not shown yet, with a peer for each of its controls. Never null; what it throws
+  /// comes out of Form::Show.
   virtual std::unique_ptr<FormWindow> OpenWindow(Form& form) = 0;
+  /// Shows a message box above the window `owner` (null: none), calls ModalIsRunning once it is up, and returns when it
+  /// was answered.
   virtual void DoShowMessage(const Message& message, FormWindow* owner) = 0;
+  /// What Beep, Pointer and ShowHelp do after the hook has heard of it.
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;
   virtual void DoShowHelp(const HelpRequest& request) = 0;

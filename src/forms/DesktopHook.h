@@ -16,15 +16,18 @@ struct Modal {
   const Message* ShownMessage = nullptr;
 };
 
+/// Derive from it, override what matters, and give it to Desktop::Hook.
 class DesktopHook {
  public:
   virtual ~DesktopHook() = default;
   /// A modal form or box is about to open.
   virtual void ModalOpening(const Modal&) {}
-  /// It is up and waits for the user; what is done here happens inside its modal loop.
+  /// It is up and waits for the user; what is done here happens inside its modal loop. What is thrown while a form is
+  /// up ends the loop and comes out of Form::Show.
   virtual void ModalRunning(const Modal&) {}
   /// It has closed.
   virtual void ModalClosed(const Modal&) {}
+  /// The desktop was told to show another mouse pointer, or to sound its signal.
   virtual void PointerChanged(Pointer) {}
   virtual void Beeped() {}
   /// True when the hook has dealt with the request, so that the platform's help engine is not asked.

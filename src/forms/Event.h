@@ -10,6 +10,7 @@ namespace orx {
 template <class... Args>
 class Event {
  public:
+  /// What an event runs.
   using Handler = std::function<void(Args...)>;
 
   Event() = default;
@@ -22,6 +23,7 @@ class Event {
     return *this;
   }
 
+  /// True when raising the event runs something.
   bool HasHandler() const { return static_cast<bool>(mHandler); }
 
   /// Runs the handler. What it throws travels to the caller.

@@ -11,9 +11,11 @@ namespace orx {
 /// field's name, {2} what was entered, {3} and {4} the ends of the allowed range.
 namespace fieldtexts {
 
+/// Titles of the messages.
 inline constexpr const char* kInvalidNumber = "Invalid number";
 inline constexpr const char* kWrongValue = "Wrong value";
 inline constexpr const char* kInvalidRange = "Invalid range";
+/// The messages: no number where any or one of a range is wanted, and a number outside the range.
 inline constexpr const char* kNoNumber = "{1}: \"{2}\" is not a number. Type a number.";
 inline constexpr const char* kNoNumberInRange = "{1}: \"{2}\" is not a number. Type a number from {3} to {4}.";
 inline constexpr const char* kOutOfRange = "{1}: {2} is not allowed. Type a number from {3} to {4}.";

@@ -27,15 +27,21 @@ struct FormDesign {
 /// All members are for the user-interface thread of the desktop.
 class Form : public Container, public std::enable_shared_from_this<Form> {
  public:
+  /// Draws an empty form up, neither loaded nor shown; the desktop must outlive it. `name` is the name by which tests
+  /// and automation find it.
   Form(Desktop& desktop, std::string name, FormDesign design);
   ~Form() override;
 
+  /// The name and the desktop that were given when the form was made.
   const std::string& Name() const { return mName; }
   Desktop& OwnerDesktop() const { return mDesktop; }
+  /// The title of the window, UTF-8.
   const std::string& Caption() const { return mDesign.Caption; }
   void Caption(const std::string& value);
+  /// The topic that Help opens; 0 for none of its own.
   std::int32_t HelpContextId() const { return mDesign.HelpContextId; }
   void HelpContextId(std::int32_t value) { mDesign.HelpContextId = value; }
+  /// Whether the user may size the window.
   BorderStyle Border() const { return mDesign.Border; }
 
   /// Place of the window with its frame, in twips from the upper left corner of the screen.
@@ -54,6 +60,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
   /// Runs Form_Load, once until the next Unload. What it throws travels; the form counts as loaded all the same.
   void Load();
+  /// True from Load to Unload.
   bool IsLoaded() const { return mLoaded; }
   /// Loads and shows the form. Modal: returns when it was hidden or unloaded, and throws what a handler let go; a form
   /// that is shown already throws std::logic_error. Modeless: returns at once.
@@ -64,6 +71,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Unload();
   /// Repaints the form.
   void Refresh();
+  /// True while the form is on the screen.
   bool Visible() const { return mVisible; }
 
   /// The control with the focus, null when none has it.

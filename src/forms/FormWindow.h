@@ -7,6 +7,7 @@
 
 namespace orx {
 
+/// Whether the user must close the dialog before going on, and the caller waits for it.
 enum class ShowMode { Modeless = 0, Modal = 1 };
 
 class Form;
@@ -24,14 +25,18 @@ class FormWindow {
   virtual ~FormWindow() = default;
   /// Shows the window at the form's place, its client area `Form::ShownClientSize` large.
   virtual void Show(ShowMode mode, OwnerWindow owner) = 0;
+  /// Takes the window from the screen; Show may follow.
   virtual void Hide() = 0;
   /// Runs the modal loop until EndModal; calls Desktop::ModalIsRunning once the user can act.
   virtual void RunModal() = 0;
+  /// Has the innermost RunModal of this window return; called from inside its loop.
   virtual void EndModal() = 0;
   /// Takes over the form's caption and place.
   virtual void UpdateCaption() = 0;
   virtual void UpdatePlace() = 0;
+  /// Paints the window and its controls anew.
   virtual void Repaint() = 0;
+  /// The handle that the platform's help engine and owned windows need; 0 when there is none.
   virtual std::uintptr_t NativeHandle() const = 0;
   /// The form lets the window go: neither the form nor its controls may be touched from now on, whatever native events
   /// still come. A modal loop that runs in the window lives to its end; the destructor follows later.

@@ -6,8 +6,10 @@
 
 namespace orx {
 
+/// Takes no focus itself; disabling it puts all its controls out of reach.
 class Frame final : public Control, public Container {
  public:
+  /// As Control.
   Frame(Container& parent, std::string name, Design design) : Control(parent, std::move(name), std::move(design)) {}
 
   bool TakesFocus() const override { return false; }

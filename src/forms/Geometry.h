@@ -6,12 +6,14 @@ namespace orx {
 /// Twips in one pixel of a screen with 96 dots per inch (1440 twips to the inch).
 inline constexpr int kTwipsPerPixel = 15;
 
+/// A point, counted to the right and down. The unit is that of the member that uses it.
 struct Point {
   int X = 0;
   int Y = 0;
   bool operator==(const Point&) const = default;
 };
 
+/// Width and height. The unit is that of the member that uses it.
 struct Size {
   int Width = 0;
   int Height = 0;
@@ -25,6 +27,7 @@ struct Rect {
   int Width = 0;
   int Height = 0;
 
+  /// The edges just outside the place.
   int Right() const { return Left + Width; }
   int Bottom() const { return Top + Height; }
   bool operator==(const Rect&) const = default;

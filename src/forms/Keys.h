@@ -3,6 +3,7 @@
 
 namespace orx {
 
+/// The key; Character stands for any letter or digit.
 enum class Key { Tab, Enter, Escape, Character };
 
 /// One key press. `Character` holds the letter when the key is Key::Character.

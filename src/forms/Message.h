@@ -5,6 +5,7 @@
 
 namespace orx {
 
+/// The picture beside the text.
 enum class MessageIcon { None, Critical, Question, Exclamation, Information };
 
 /// A message with one OK button.

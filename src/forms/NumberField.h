@@ -22,6 +22,7 @@ struct NumberRule {
 /// Reads numbers in the locale of the form's desktop. Only finite numbers are accepted.
 class NumberField final : public ValueField<double> {
  public:
+  /// Watches the box; the field has no value yet.
   explicit NumberField(TextBox& box, NumberRule rule = {}) : ValueField(box), mRule(std::move(rule)) {}
 
  protected:
@@ -41,6 +42,7 @@ class NumberField final : public ValueField<double> {
 /// It takes the Left event of both fields.
 class NumberSpan {
  public:
+  /// Takes over the Left events of both fields, which must live as long as the span.
   NumberSpan(NumberField& lower, NumberField& upper);
   NumberSpan(const NumberSpan&) = delete;
   NumberSpan& operator=(const NumberSpan&) = delete;
@@ -49,6 +51,7 @@ class NumberSpan {
   void Values(double lower, double upper);
   /// Checks pending texts and the order at once, for a save. False when something was refused.
   bool Check();
+  /// True when the lower value is less than the upper one; equal values are not in order.
   bool IsInOrder() const { return mLower.Value() < mUpper.Value(); }
 
   /// Raised when an entry was accepted in one of the fields and when a span was put back.

@@ -6,8 +6,10 @@
 
 namespace orx {
 
+/// Shows nothing of its own. Hiding or disabling it does so to all its controls.
 class Panel : public Control, public Container {
  public:
+  /// As Control.
   Panel(Container& parent, std::string name, Design design) : Control(parent, std::move(name), std::move(design)) {}
 
   bool TakesFocus() const override { return false; }

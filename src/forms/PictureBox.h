@@ -7,11 +7,14 @@
 
 namespace orx {
 
+/// Shows a drawing on a ground of one colour.
 class PictureBox final : public Control {
  public:
+  /// As Control; automatic redraw is on at first.
   PictureBox(Container& parent, std::string name, Design design, Color backColor = {255, 255, 255})
       : Control(parent, std::move(name), std::move(design)), mBackColor(backColor) {}
 
+  /// The ground that the drawing stands on; a new one repaints the box.
   Color BackColor() const { return mBackColor; }
   void BackColor(Color value);
 

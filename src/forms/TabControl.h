@@ -15,6 +15,7 @@ class TabControl;
 /// The page behind one tab. Its controls can be seen only while its tab is selected.
 class TabPage final : public Panel {
  public:
+  /// Made by its tab control.
   TabPage(TabControl& owner, int index);
   bool ShowsChildren() const override;
 
@@ -23,6 +24,7 @@ class TabPage final : public Panel {
   int mIndex;
 };
 
+/// Shows one of its pages at a time, the first one at the start.
 class TabControl final : public Control, public Container {
  public:
   /// Height of the tab strip and width of the border around a page, in twips.
@@ -32,6 +34,7 @@ class TabControl final : public Control, public Container {
   /// With one tab there is nothing to switch, so Tab does not stop at its strip.
   TabControl(Container& parent, std::string name, Design design, std::vector<std::string> tabCaptions);
 
+  /// The number of tabs, as given when the control was made.
   int TabCount() const { return static_cast<int>(mCaptions.size()); }
   /// The caption of a tab, by index from 0. An index outside the tabs throws std::out_of_range.
   const std::string& TabCaption(int tab) const { return mCaptions.at(static_cast<std::size_t>(tab)); }

@@ -5,10 +5,13 @@
 
 namespace orx {
 
+/// One line, or several with line breaks between them.
 enum class TextLines { Single, Multiple };
 
+/// A field that a user types into.
 class TextBox final : public Control {
  public:
+  /// As Control; the text is empty at first, lines and lock are fixed.
   TextBox(Container& parent, std::string name, Design design, TextLines lines = TextLines::Single, bool locked = false)
       : Control(parent, std::move(name), std::move(design)), mLines(lines), mLocked(locked) {}
 
@@ -17,6 +20,7 @@ class TextBox final : public Control {
   /// Sets the text and raises Change when it differs; the caret goes to the start.
   void Text(const std::string& value);
 
+  /// As given when the box was made.
   TextLines Lines() const { return mLines; }
   /// True when the user may read and copy the text but not change it.
   bool Locked() const { return mLocked; }

@@ -16,6 +16,7 @@ class ErrorTrap {
     }
   }
 
+  /// True when a step has failed since the start or the last Clear.
   bool IsPending() const { return mPending; }
   void Clear() { mPending = false; }
 

@@ -14,6 +14,8 @@ class IExtent {
  public:
   static constexpr Kind kKind = Kind::Extent;
   virtual ~IExtent() = default;
+  /// The edges. The library's page sets those that were changed, in an order in which left never passes right, nor
+  /// bottom top. A setter may throw to refuse a value.
   virtual double Left() const = 0;
   virtual void Left(double value) = 0;
   virtual double Right() const = 0;
@@ -29,6 +31,7 @@ class IMap {
  public:
   static constexpr Kind kKind = Kind::Map;
   virtual ~IMap() = default;
+  /// The layers: how many there are, and the name of one as the user sees it, UTF-8.
   virtual std::int32_t LayerCount() = 0;
   virtual std::string LayerName(std::int32_t index) = 0;
   /// The layer object; the map owns it.
@@ -49,6 +52,7 @@ class ILayers {
  public:
   static constexpr Kind kKind = Kind::Layers;
   virtual ~ILayers() = default;
+  /// The name of the collection, UTF-8.
   virtual std::string Name() = 0;
   /// The map that the collection belongs to.
   virtual HostObject* Map() = 0;
@@ -59,8 +63,10 @@ class ILayer {
  public:
   static constexpr Kind kKind = Kind::Layer;
   virtual ~ILayer() = default;
+  /// The name as the user sees it, UTF-8; the library's page refuses a blank one.
   virtual std::string Name() const = 0;
   virtual void Name(const std::string& value) = 0;
+  /// Whether the layer is drawn.
   virtual bool Visible() const = 0;
   virtual void Visible(bool value) = 0;
   /// The file that the layer was read from, for display; empty when there is none.
@@ -88,12 +94,14 @@ class ILabels {
  public:
   static constexpr Kind kKind = Kind::Labels;
   virtual ~ILabels() = default;
+  /// Whether the labels are drawn, what they say, and where they stand.
   virtual bool ShowLabels() const = 0;
   virtual void ShowLabels(bool value) = 0;
   virtual LabelContent Content() const = 0;
   virtual void Content(LabelContent value) = 0;
   virtual LabelPosition Position() const = 0;
   virtual void Position(LabelPosition value) = 0;
+  /// Font and colour of the text.
   virtual Font LabelFont() const = 0;
   virtual void LabelFont(const Font& value) = 0;
   virtual Color LabelColor() const = 0;
@@ -110,8 +118,10 @@ enum class LegendCorner { TopLeft = 0, TopRight = 1, BottomLeft = 2, BottomRight
 class ILegend {
  public:
   virtual ~ILegend() = default;
+  /// The heading of the legend, UTF-8.
   virtual std::string Title() const = 0;
   virtual void Title(const std::string& value) = 0;
+  /// Whether the legend is drawn, in which corner, and whether with a line around it.
   virtual bool Visible() const = 0;
   virtual void Visible(bool value) = 0;
   virtual LegendCorner Corner() const = 0;
@@ -128,6 +138,7 @@ class ILegends {
  public:
   static constexpr Kind kKind = Kind::Legends;
   virtual ~ILegends() = default;
+  /// The number of legends, and one of them; the map owns it.
   virtual std::int32_t LegendCount() = 0;
   virtual ILegend& Legend(std::int32_t index) = 0;
 };

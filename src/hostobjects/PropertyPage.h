@@ -62,6 +62,7 @@ class PropertyPage {
   bool mSelected = false;
 };
 
+/// The aspects of host objects that dialogs have pages for.
 enum class PageKind { Properties, LabelProperties, Coordinates, Legends };
 
 /// The name of a kind of page: "Properties", "LabelProperties", ...

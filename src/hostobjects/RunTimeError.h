@@ -10,9 +10,11 @@ namespace orx {
 /// A numbered error. `what()` is the description, UTF-8, fit to be shown to a user.
 class RunTimeError : public std::runtime_error {
  public:
+  /// `description` says what happened and what to do, naming the file, field or value.
   RunTimeError(std::int32_t number, const std::string& description)
       : std::runtime_error(description), mNumber(number) {}
 
+  /// One of the numbers below, or a number of the host's own.
   std::int32_t Number() const { return mNumber; }
 
  private:

@@ -28,6 +28,7 @@ namespace orx {
 /// They trap errors step by step: a step that fails is skipped, a result is always returned, and nothing is thrown.
 class CCommonMapDialogs {
  public:
+  /// Shows dialogs on `desktop` with pages made by `pages`; without language and call-back.
   CCommonMapDialogs(Desktop& desktop, IPageFactory& pages) : mDesktop(desktop), mPages(pages) {}
   CCommonMapDialogs(const CCommonMapDialogs&) = delete;
   CCommonMapDialogs& operator=(const CCommonMapDialogs&) = delete;

@@ -8,8 +8,10 @@
 
 namespace orx {
 
+/// The base of the library's dialogs.
 class DialogForm : public Form {
  public:
+  /// As Form; without a language.
   using Form::Form;
 
   /// The language, null for none. A plain pointer: nothing is counted, and unloading clears it.
