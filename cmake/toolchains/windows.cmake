@@ -1,0 +1,20 @@
+# Cross-compiles for Windows with mingw-w64; ORX_WINDOWS_CPU is x86_64 or i686. Programs run through Wine.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR ${ORX_WINDOWS_CPU})
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ORX_WINDOWS_CPU)
+set(ORX_WINDOWS_TRIPLET ${ORX_WINDOWS_CPU}-w64-mingw32)
+
+# The variants with POSIX threads have std::thread and std::mutex.
+set(CMAKE_CXX_COMPILER ${ORX_WINDOWS_TRIPLET}-g++-posix)
+set(CMAKE_C_COMPILER ${ORX_WINDOWS_TRIPLET}-gcc-posix)
+set(CMAKE_RC_COMPILER ${ORX_WINDOWS_TRIPLET}-windres)
+
+set(CMAKE_FIND_ROOT_PATH /usr/${ORX_WINDOWS_TRIPLET})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# Nothing of the compiler's has to travel with what is built here.
+set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
