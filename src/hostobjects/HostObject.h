@@ -1,6 +1,8 @@
 // What all objects that a host hands over have in common: they are asked for the interfaces they support by kind.
 #pragma once
 
+#include "hostobjects/Lent.h"
+
 namespace orx {
 
 /// The kinds of host objects that dialogs ask for. Each interface names its own as `kKind`.
@@ -8,9 +10,8 @@ enum class Kind { Map, Layers, Layer, Labels, Extent, Legends };
 
 /// The base of every object that a host hands to a dialog. The library uses such objects and never owns them: the host
 /// keeps them alive while a dialog that was given them is open.
-class HostObject {
+class HostObject : public Lent {
  public:
-  virtual ~HostObject() = default;
   /// The interface of that kind, as a pointer to exactly the interface class of the kind, or null when the object does
   /// not support it. Called by QueryKind only.
   virtual void* Query(Kind kind) = 0;

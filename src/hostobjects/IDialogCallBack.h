@@ -3,13 +3,14 @@
 
 #include <cstdint>
 
+#include "hostobjects/Lent.h"
+
 namespace orx {
 
 /// The members in their order of the interface. The library keeps a plain pointer to the call-back and never releases
 /// it. What a member throws ends the button press and reaches the service.
-class IDialogCallBack {
+class IDialogCallBack : public Lent {
  public:
-  virtual ~IDialogCallBack() = default;
   /// Apply was pressed and the page has written its values; `changed`: the object differs from how it was handed over.
   virtual void ApplyNotify(bool changed) = 0;
   virtual void CancelNotify(bool changed) = 0;

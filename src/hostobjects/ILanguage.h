@@ -4,14 +4,15 @@
 #include <cstdint>
 #include <string>
 
+#include "hostobjects/Lent.h"
+
 namespace orx {
 
 class Form;
 
 /// A language is active when it has entries. The library keeps plain pointers to languages and releases none.
-class ILanguage {
+class ILanguage : public Lent {
  public:
-  virtual ~ILanguage() = default;
   /// The number of texts; 0 means that nothing is translated.
   virtual std::int32_t EntryCount() = 0;
   /// The text for a key, UTF-8. A caption is its own key; a key without an entry gives the key for a caption, and an

@@ -29,11 +29,13 @@ PageHostForm::PageHostForm(Desktop& desktop, IPageFactory& pages, const PageHost
 
 void PageHostForm::RegisterCallBack(IDialogCallBack* callBack) {
   mCallBack = callBack;
+  Hold(callBack);
   if (mCallBack) mCallBack->RegisterNotify();
 }
 
 void PageHostForm::RegisterClient(HostObject* client, const std::string& registryKey) {
   mRegistryKey = registryKey;
+  Hold(client);
   Page().Client(client);
 }
 

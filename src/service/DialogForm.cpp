@@ -11,7 +11,17 @@ namespace orx {
 
 void DialogForm::Language(ILanguage* value) {
   mLanguage = value;
+  Hold(value);
   AskLanguage();
+}
+
+void DialogForm::Form_Unload() {
+  mLanguage = nullptr;
+  mHeld.clear();
+}
+
+void DialogForm::Hold(const Lent* lent) {
+  if (std::shared_ptr<const void> lifetime = lent ? lent->Lifetime() : nullptr) mHeld.push_back(std::move(lifetime));
 }
 
 void DialogForm::TakeHelpNumber(const std::string& helpKey) {

@@ -1,7 +1,9 @@
 // The frame that all dialogs share: the language with help number and captions, and the Help button.
 #pragma once
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "forms/Form.h"
 #include "hostobjects/ILanguage.h"
@@ -19,7 +21,9 @@ class DialogForm : public Form {
   void Language(ILanguage* value);
 
  protected:
-  void Form_Unload() override { mLanguage = nullptr; }
+  /// Holds on to what keeps a lent object usable, until the form is unloaded; null is nothing.
+  void Hold(const Lent* lent);
+  void Form_Unload() override;
 
   /// True when the language had entries when it was last asked, by Language or by AskLanguage.
   bool LanguageActive() const { return mLanguageActive; }
@@ -36,6 +40,7 @@ class DialogForm : public Form {
  private:
   ILanguage* mLanguage = nullptr;
   bool mLanguageActive = false;
+  std::vector<std::shared_ptr<const void>> mHeld;
 };
 
 }  // namespace orx

@@ -44,8 +44,9 @@ bool MayInclude(const std::string& from, const std::string& to) {
   const std::optional<int> fromFloor = FloorOf(from);
   const std::optional<int> toFloor = FloorOf(to);
   if (!fromFloor || !toFloor) return false;
-  if (from.starts_with("desktops/") || to.starts_with("desktops/"))
-    return FolderOf(from) == FolderOf(to) || (from.starts_with("desktops/") && *toFloor <= *FloorOf("forms/"));
+  if (from.starts_with("desktops/")) return FolderOf(from) == FolderOf(to) || *toFloor <= *FloorOf("forms/");
+  // The dialogs know no desktop, and neither does the map library; what puts all together does.
+  if (to.starts_with("desktops/")) return from.starts_with("com/");
   if (*fromFloor == *toFloor) return FolderOf(from) == FolderOf(to);
   return *toFloor < *fromFloor;
 }

@@ -40,6 +40,8 @@ TEST(ArchitectureRules, DesktopsKnowFormsAlone) {
   EXPECT_TRUE(Allowed("src/desktops/qt/Button.cpp", "forms/Button.h"));
   EXPECT_FALSE(Allowed("src/desktops/qt/Button.cpp", "hostobjects/IMap.h"));
   EXPECT_FALSE(Allowed("src/maplibrary/Layer.cpp", "desktops/qt/Button.h"));
+  EXPECT_TRUE(Allowed("src/com/Server.cpp", "desktops/win32/Win32Desktop.h"));
+  EXPECT_FALSE(Allowed("src/desktops/win32/Button.cpp", "com/Handles.h"));
 }
 
 TEST(ArchitectureRules, AFileOutsideTheTableIsABreach) {

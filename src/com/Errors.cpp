@@ -1,0 +1,95 @@
+#include "com/Errors.h"
+
+#include <new>
+
+#include "com/Handles.h"
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::com {
+namespace {
+
+/// Error numbers of the older Basic's kind have this in front, as error codes.
+constexpr HRESULT kAutomationErrors = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 0);
+constexpr std::int32_t kGreatestNumber = 0xFFFF;
+
+HRESULT CodeOf(std::int32_t number) {
+  if (number > 0 && number <= kGreatestNumber) return kAutomationErrors + number;
+  return number < 0 ? static_cast<HRESULT>(number) : E_FAIL;
+}
+
+std::int32_t NumberOf(HRESULT code) {
+  return (code & ~kGreatestNumber) == kAutomationErrors ? code & kGreatestNumber : code;
+}
+
+void LeaveErrorInfo(const char* source, const std::string& description) {
+  ComPtr<ICreateErrorInfo> made;
+  if (FAILED(CreateErrorInfo(made.Out()))) return;
+  made->SetDescription(Widened(description).data());
+  made->SetSource(Widened(std::string("OrvexMapDialogs2.") + source).data());
+  SetErrorInfo(0, made.As<IErrorInfo>().Get());
+}
+
+std::string SystemText(HRESULT code) {
+  wchar_t* text = nullptr;
+  const DWORD length =
+      FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                     nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+  std::string narrow = Narrowed({text, length});
+  LocalFree(text);
+  while (!narrow.empty() && (narrow.back() == '\n' || narrow.back() == '\r')) narrow.pop_back();
+  return narrow;
+}
+
+std::string TakeErrorInfo() {
+  ComPtr<IErrorInfo> info;
+  Bstr description;
+  if (GetErrorInfo(0, info.Out()) != S_OK || FAILED(info->GetDescription(description.Out()))) return {};
+  return description.Text();
+}
+
+std::string Hex(HRESULT code) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string text = "0x";
+  for (int shift = 28; shift >= 0; shift -= 4) text += kDigits[(static_cast<unsigned>(code) >> shift) & 0xFU];
+  return text;
+}
+
+}  // namespace
+
+HRESULT ReturnError(const char* source) noexcept {
+  HRESULT code = E_FAIL;
+  try {
+    std::string description;
+    try {
+      throw;
+    } catch (const RunTimeError& error) {
+      code = CodeOf(error.Number());
+      description = error.what();
+    } catch (const std::bad_alloc&) {
+      code = E_OUTOFMEMORY;
+      description = "Not enough memory.";
+    } catch (const std::exception& error) {
+      description = error.what();
+    } catch (...) {
+      description = "Unknown error.";
+    }
+    LeaveErrorInfo(source, description);
+  } catch (...) {
+    // Without memory for the description the code alone has to tell.
+    SetErrorInfo(0, nullptr);
+  }
+  return code;
+}
+
+void Check(HRESULT result, const std::string& what) {
+  if (SUCCEEDED(result)) return;
+  std::string description = TakeErrorInfo();
+  if (description.empty()) description = what + ": " + SystemText(result) + " (" + Hex(result) + ")";
+  ThrowError(result, description);
+}
+
+void ThrowError(HRESULT result, const std::string& description) {
+  throw RunTimeError(NumberOf(result), description);
+}
+
+}  // namespace orx::com

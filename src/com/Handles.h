@@ -1,0 +1,140 @@
+// What owns the system's automation handles: interface pointers, strings and variants. Nothing else in the component
+// server releases or frees them.
+#pragma once
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace orx::com {
+
+/// A counted reference to an interface.
+template <class Interface>
+class ComPtr {
+ public:
+  ComPtr() = default;
+  /// Adds a reference of its own.
+  explicit ComPtr(Interface* pointer) : mPointer(pointer) {
+    if (mPointer) mPointer->AddRef();
+  }
+  ComPtr(const ComPtr& other) : ComPtr(other.mPointer) {}
+  ComPtr(ComPtr&& other) noexcept : mPointer(std::exchange(other.mPointer, nullptr)) {}
+  ~ComPtr() { Reset(); }
+  ComPtr& operator=(ComPtr other) noexcept {
+    std::swap(mPointer, other.mPointer);
+    return *this;
+  }
+
+  /// Takes over a reference that somebody else has added.
+  static ComPtr Attach(Interface* pointer) {
+    ComPtr taken;
+    taken.mPointer = pointer;
+    return taken;
+  }
+  /// Gives the reference away to the caller.
+  Interface* Detach() { return std::exchange(mPointer, nullptr); }
+  void Reset() {
+    if (Interface* const gone = std::exchange(mPointer, nullptr)) gone->Release();
+  }
+
+  Interface* Get() const { return mPointer; }
+  Interface* operator->() const { return mPointer; }
+  explicit operator bool() const { return mPointer != nullptr; }
+
+  /// For functions that give an interface back through an argument.
+  Interface** Out() {
+    Reset();
+    return &mPointer;
+  }
+  void** OutVoid() { return reinterpret_cast<void**>(Out()); }
+
+  /// Another interface of the object, empty when it has none.
+  template <class Other>
+  ComPtr<Other> As(const IID& iid = __uuidof(Other)) const {
+    return mPointer ? ComPtr<Other>::From(mPointer, iid) : ComPtr<Other>();
+  }
+  /// The interface of any object, empty when there is no object or it has none.
+  static ComPtr From(IUnknown* object, const IID& iid = __uuidof(Interface)) {
+    ComPtr found;
+    if (object && FAILED(object->QueryInterface(iid, found.OutVoid()))) found.mPointer = nullptr;
+    return found;
+  }
+
+ private:
+  Interface* mPointer = nullptr;
+};
+
+/// UTF-8 to and from the system's UTF-16; what is no text on one side becomes the replacement character on the other.
+std::wstring Widened(std::string_view text);
+std::string Narrowed(std::wstring_view text);
+
+/// A string of the automation library. Empty and null are the same text.
+class Bstr {
+ public:
+  Bstr() = default;
+  explicit Bstr(std::string_view text);
+  Bstr(Bstr&& other) noexcept : mText(std::exchange(other.mText, nullptr)) {}
+  Bstr& operator=(Bstr&& other) noexcept {
+    std::swap(mText, other.mText);
+    return *this;
+  }
+  ~Bstr() { SysFreeString(mText); }
+
+  BSTR Get() const { return mText; }
+  BSTR Detach() { return std::exchange(mText, nullptr); }
+  BSTR* Out() {
+    SysFreeString(std::exchange(mText, nullptr));
+    return &mText;
+  }
+  std::string Text() const;
+
+ private:
+  BSTR mText = nullptr;
+};
+
+/// The text of a string that belongs to somebody else; null is the empty text.
+std::string TextOf(BSTR text);
+
+/// A variant that clears itself.
+class Variant : public VARIANT {
+ public:
+  Variant() { VariantInit(this); }
+  explicit Variant(std::int32_t value) : Variant() {
+    vt = VT_I4;
+    lVal = value;
+  }
+  explicit Variant(double value) : Variant() {
+    vt = VT_R8;
+    dblVal = value;
+  }
+  explicit Variant(bool value) : Variant() {
+    vt = VT_BOOL;
+    boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+  }
+  explicit Variant(std::string_view text) : Variant() {
+    bstrVal = Bstr(text).Detach();
+    vt = VT_BSTR;
+  }
+  explicit Variant(const char* text) : Variant(std::string_view(text)) {}
+  explicit Variant(IDispatch* object) : Variant() {
+    pdispVal = ComPtr<IDispatch>(object).Detach();
+    vt = VT_DISPATCH;
+  }
+  Variant(Variant&& other) noexcept : VARIANT(other) { VariantInit(&other); }
+  Variant& operator=(Variant&& other) noexcept {
+    std::swap(static_cast<VARIANT&>(*this), static_cast<VARIANT&>(other));
+    return *this;
+  }
+  ~Variant() { VariantClear(this); }
+
+  VARIANT* Out() {
+    VariantClear(this);
+    return this;
+  }
+};
+
+}  // namespace orx::com
