@@ -10,6 +10,7 @@
 #include "forms/DesktopHook.h"
 #include "forms/FormWindow.h"
 #include "forms/Geometry.h"
+#include "forms/SettingsStore.h"
 #include "numbers/Numbers.h"
 
 namespace orx {
@@ -56,6 +57,8 @@ class Desktop {
   int ToTwips(int pixels) const;
   /// The separators of the user's locale.
   virtual numbers::Separators Separators() const = 0;
+  /// Where settings are kept between runs; lives as long as the desktop.
+  virtual SettingsStore& Settings() = 0;
   /// Lets paint and input events that wait be handled.
   virtual void ProcessPendingEvents() = 0;
 

@@ -10,8 +10,10 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include "desktops/qt/MessageBox.h"
@@ -194,6 +196,9 @@ class QtTestDesktop final : public TestDesktop {
 std::unique_ptr<TestDesktop> MakeTestDesktop() {
   // No window of a test is to appear on a developer's screen, unless he asks for it.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Nor is a test to touch what the developer keeps in his settings.
+  static const QTemporaryDir settings;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
   return std::make_unique<QtTestDesktop>();
 }
 

@@ -1,6 +1,7 @@
 // A desktop without a screen, for tests and servers. Forms live in memory; whoever answers does so in the hook.
 #pragma once
 
+#include "desktops/headless/MemorySettings.h"
 #include "forms/Desktop.h"
 
 namespace orx::headless {
@@ -13,6 +14,7 @@ class HeadlessDesktop final : public Desktop {
   ScreenMetrics Metrics(BorderStyle border) const override;
   double Scale() const override { return 1; }
   numbers::Separators Separators() const override { return mSeparators; }
+  SettingsStore& Settings() override { return mSettings; }
   void ProcessPendingEvents() override {}
 
   /// The size of the screen in twips; 1920 x 1080 pixels unless set.
@@ -27,6 +29,7 @@ class HeadlessDesktop final : public Desktop {
   void DoShowHelp(const HelpRequest&) override {}
 
  private:
+  MemorySettings mSettings;
   numbers::Separators mSeparators;
   Size mScreen{1920 * kTwipsPerPixel, 1080 * kTwipsPerPixel};
 };

@@ -15,6 +15,7 @@
 
 #include "desktops/qt/Application.h"
 #include "desktops/qt/DialogWindow.h"
+#include "desktops/qt/FileSettings.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
@@ -49,6 +50,7 @@ bool Save(QWidget& window, const std::string& pngPath) {
 }  // namespace
 
 struct QtDesktop::State {
+  FileSettings Settings;
   std::optional<numbers::Separators> Separators;
   std::optional<Rect> WorkArea;
   bool PointerIsOurs = false;
@@ -108,6 +110,10 @@ void QtDesktop::Separators(const numbers::Separators& value) {
 
 void QtDesktop::WorkArea(const Rect& value) {
   mState->WorkArea = value;
+}
+
+SettingsStore& QtDesktop::Settings() {
+  return mState->Settings;
 }
 
 void QtDesktop::ProcessPendingEvents() {

@@ -22,6 +22,7 @@ class QtDesktop final : public Desktop {
   ScreenMetrics Metrics(BorderStyle border) const override;
   double Scale() const override;
   numbers::Separators Separators() const override;
+  SettingsStore& Settings() override;
   void ProcessPendingEvents() override;
 
   /// Gives number separators in place of the locale's.
