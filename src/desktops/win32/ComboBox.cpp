@@ -93,6 +93,12 @@ class ComboBoxPeer final : public Peer {
     if (missing != 0 && missing > -closed) Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), closed - frame + missing);
   }
 
+  LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
+    // Ctrl+A came to fields of the platform late.
+    if (message == WM_CHAR && wParam == 1 && IsEditable()) return SendMessageW(FocusWindow(), EM_SETSEL, 0, -1);
+    return Peer::OnMessage(window, message, wParam, lParam);
+  }
+
   void OnCommand(int code) override {
     switch (code) {
       case CBN_EDITCHANGE:
