@@ -18,7 +18,7 @@ HRESULT ConvertObject(const VARIANT& value, Variant& to) {
   }
   Variant number;
   const bool isZero = !IsNothing(value) && value.vt != VT_BSTR &&
-                      SUCCEEDED(VariantChangeType(&number, &value, 0, VT_I4)) && number.lVal == 0;
+                      SUCCEEDED(VariantChangeType(&number, const_cast<VARIANT*>(&value), 0, VT_I4)) && number.lVal == 0;
   if (!IsNothing(value) && !isZero) return DISP_E_TYPEMISMATCH;
   to.vt = VT_DISPATCH;
   to.pdispVal = nullptr;

@@ -62,6 +62,8 @@ class Desktop {
   /// Lets paint and input events that wait be handled.
   virtual void ProcessPendingEvents() = 0;
 
+  /// True while a modeless form is open.
+  bool HasOpenForms() const { return !mOpenForms.empty(); }
   /// Unloads the modeless forms that are still open. The destructor of a desktop calls it while windows can be closed.
   void CloseOpenForms();
 

@@ -1,0 +1,65 @@
+#include "com/AutomationObject.h"
+
+#include <OrvexMapDialogs2.h>
+
+#include <initializer_list>
+
+#include "com/Adapters.h"
+
+namespace orx::com {
+namespace {
+
+/// The object's own dispatch interface of the published kind, or the object itself when its members have the names by
+/// which that kind is known; empty when it is not of the kind.
+template <class Published>
+ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
+                         const char* unlike = nullptr) {
+  if (const auto published = object.As<Published>()) return ComPtr<IDispatch>(published.Get());
+  const LateBound named(object.Get());
+  for (const char* const member : members)
+    if (!named.Has(member)) return {};
+  return unlike && named.Has(unlike) ? ComPtr<IDispatch>() : object;
+}
+
+}  // namespace
+
+AutomationObject::View AutomationObject::MakeView(Kind kind) {
+  const auto as = [this]<class Adapter>(std::type_identity<Adapter>, const ComPtr<IDispatch>& object) {
+    if (!object) return View{};
+    auto adapter = std::make_shared<Adapter>(*this, object);
+    Adapter* const exact = adapter.get();
+    return View{std::move(adapter), exact};
+  };
+  switch (kind) {
+    case Kind::Map:
+      return as(std::type_identity<MapAdapter>(), ViewOf<::IMap>(mObject, {"LayerCount", "Layer"}));
+    case Kind::Layers:
+      return as(std::type_identity<LayersAdapter>(), ViewOf<::ILayers>(mObject, {"Map"}, "LayerCount"));
+    case Kind::Layer:
+      return as(std::type_identity<LayerAdapter>(), ViewOf<::ILayer>(mObject, {"SymbolFont"}));
+    case Kind::Labels:
+      return as(std::type_identity<LabelsAdapter>(), ViewOf<::ILabels>(mObject, {"ShowLabels"}));
+    case Kind::Extent:
+      return as(std::type_identity<ExtentAdapter>(), ViewOf<::IExtent>(mObject, {"Left", "Right", "Bottom", "Top"}));
+    case Kind::Legends:
+      return as(std::type_identity<LegendsAdapter>(), ViewOf<::ILegends>(mObject, {"LegendCount", "Legend"}));
+  }
+  return {};
+}
+
+void* AutomationObject::Query(Kind kind) {
+  const auto known = mViews.find(kind);
+  if (known != mViews.end()) return known->second.Interface;
+  return mViews.emplace(kind, MakeView(kind)).first->second.Interface;
+}
+
+AutomationObject* AutomationObject::Adopt(const ComPtr<IDispatch>& object) {
+  if (!object) return nullptr;
+  // The identity of an object is its IUnknown; the adapter's reference keeps it from being given to another.
+  const ComPtr<IUnknown> identity = object.As<IUnknown>();
+  std::shared_ptr<AutomationObject>& known = mAdopted[identity.Get()];
+  if (!known) known = std::make_shared<AutomationObject>(object.Get());
+  return known.get();
+}
+
+}  // namespace orx::com

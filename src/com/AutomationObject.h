@@ -1,0 +1,40 @@
+// A host's automation object as a host object of the library: it answers for kinds.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "com/Handles.h"
+#include "hostobjects/HostObject.h"
+
+namespace orx::com {
+
+/// Keeps a counted reference to the host's object, the interfaces that it was asked for, and the objects that those
+/// have given.
+class AutomationObject final : public HostObject, public std::enable_shared_from_this<AutomationObject> {
+ public:
+  explicit AutomationObject(IDispatch* object) : mObject(object) {}
+
+  IDispatch* Automation() const { return mObject.Get(); }
+  void* Query(Kind kind) override;
+  std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
+
+  /// The same host object for the same automation object, kept here; null for null.
+  AutomationObject* Adopt(const ComPtr<IDispatch>& object);
+
+ private:
+  struct View {
+    /// What lives as long as the view, and the pointer to exactly the interface of the kind.
+    std::shared_ptr<void> Owner;
+    void* Interface = nullptr;
+  };
+
+  View MakeView(Kind kind);
+
+  ComPtr<IDispatch> mObject;
+  std::map<Kind, View> mViews;
+  std::map<IUnknown*, std::shared_ptr<AutomationObject>> mAdopted;
+};
+
+}  // namespace orx::com

@@ -1,0 +1,21 @@
+#include "com/Colors.h"
+
+#include "com/Conversion.h"
+#include "com/Errors.h"
+
+namespace orx::com {
+
+Color ColorOf(const VARIANT& value) {
+  Variant number;
+  // Wider than a colour: languages differ in the sign that they give to a number with the highest bit.
+  Check(ConvertValue(value, VT_I8, LOCALE_USER_DEFAULT, number), "Color");
+  auto code = static_cast<std::uint32_t>(number.llVal);
+  if (code & 0x80000000U) code = GetSysColor(static_cast<int>(code & 0xFFU));
+  return {GetRValue(code), GetGValue(code), GetBValue(code)};
+}
+
+std::int32_t OleColorOf(Color color) {
+  return static_cast<std::int32_t>(RGB(color.Red, color.Green, color.Blue));
+}
+
+}  // namespace orx::com

@@ -1,0 +1,100 @@
+#include "com/HostAdapters.h"
+
+#include <OrvexMapDialogs2.h>
+
+#include "com/AutomationObject.h"
+#include "com/Conversion.h"
+#include "com/Errors.h"
+#include "com/FormObjects.h"
+#include "com/LateBound.h"
+
+namespace orx::com {
+namespace {
+
+/// Speaks to an object of which no reference is held between calls: each call holds one for its own time.
+template <class Published>
+class RawObject {
+ public:
+  explicit RawObject(IDispatch* object) : mObject(object) {}
+
+  IDispatch* Automation() const { return mObject; }
+  LateBound Members() const {
+    const ComPtr<IDispatch> object(mObject);
+    if (const auto published = object.template As<Published>()) return LateBound(published.Get());
+    return LateBound(mObject);
+  }
+
+ private:
+  IDispatch* mObject;
+};
+
+class LanguageAdapter final : public orx::ILanguage, public std::enable_shared_from_this<LanguageAdapter> {
+ public:
+  explicit LanguageAdapter(IDispatch* language) : mLanguage(language) {}
+
+  IDispatch* Automation() const { return mLanguage.Automation(); }
+  std::int32_t EntryCount() override { return mLanguage.Members().GetLong("EntryCount"); }
+
+  std::string TranslateText(const std::string& key) override {
+    Variant text;
+    Check(ConvertValue(mLanguage.Members().Call("TranslateText", Variant(key)), VT_BSTR, LOCALE_USER_DEFAULT, text),
+          "TranslateText");
+    return TextOf(text.bstrVal);
+  }
+
+  void TranslateForm(Form& form) override {
+    const LentForm lent(form);
+    mLanguage.Members().Call("TranslateForm", Variant(lent.Automation()));
+  }
+
+  std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
+
+ private:
+  RawObject<::ILanguage> mLanguage;
+};
+
+class CallBackAdapter final : public orx::IDialogCallBack, public std::enable_shared_from_this<CallBackAdapter> {
+ public:
+  explicit CallBackAdapter(IDispatch* callBack) : mCallBack(callBack) {}
+
+  void ApplyNotify(bool changed) override { mCallBack.Members().Call("ApplyNotify", Variant(changed)); }
+  void CancelNotify(bool changed) override { mCallBack.Members().Call("CancelNotify", Variant(changed)); }
+  void OKNotify(bool changed) override { mCallBack.Members().Call("OKNotify", Variant(changed)); }
+
+  std::int32_t RegisterNotify() override {
+    // What comes back means nothing to the dialogs, so that it may be nothing.
+    mCallBack.Members().Call("RegisterNotify");
+    return 0;
+  }
+
+  std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
+
+ private:
+  RawObject<::IDialogCallBack> mCallBack;
+};
+
+}  // namespace
+
+std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object) {
+  return object ? std::make_shared<AutomationObject>(object) : nullptr;
+}
+
+std::shared_ptr<orx::ILanguage> AdaptLanguage(IDispatch* language) {
+  return language ? std::make_shared<LanguageAdapter>(language) : nullptr;
+}
+
+std::shared_ptr<orx::IDialogCallBack> AdaptCallBack(IDispatch* callBack) {
+  return callBack ? std::make_shared<CallBackAdapter>(callBack) : nullptr;
+}
+
+IDispatch* AutomationOf(HostObject* object) {
+  const auto* const adapter = dynamic_cast<AutomationObject*>(object);
+  return adapter ? adapter->Automation() : nullptr;
+}
+
+IDispatch* AutomationOf(orx::ILanguage* language) {
+  const auto* const adapter = dynamic_cast<LanguageAdapter*>(language);
+  return adapter ? adapter->Automation() : nullptr;
+}
+
+}  // namespace orx::com

@@ -1,0 +1,79 @@
+// The creatable class CCommonMapDialogs: the service class behind its dual interface.
+#pragma once
+
+// The interfaces come first: their names are global there and the library's own ones are not.
+#include <OrvexMapDialogs2.h>
+
+#include <memory>
+
+#include "com/Dispatch.h"
+#include "com/HostAdapters.h"
+#include "com/Surroundings.h"
+#include "service/CCommonMapDialogs.h"
+
+namespace orx::com {
+
+class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDialogs> {
+ public:
+  MapDialogs();
+
+  HRESULT STDMETHODCALLTYPE get_RegistryKey(BSTR* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE put_RegistryKey(BSTR* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_CallBack(IDispatch** value) noexcept override;
+  HRESULT STDMETHODCALLTYPE putref_CallBack(IDispatch** value) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_Language(IDispatch** value) noexcept override;
+  HRESULT STDMETHODCALLTYPE putref_Language(IDispatch** value) noexcept override;
+  HRESULT STDMETHODCALLTYPE Show(IDispatch** mObj, long* mFlags, BSTR* mCaption, ::FormShowMode* mModal,
+                                 VARIANT* OwnerForm, long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowDataProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal,
+                                               VARIANT* OwnerForm, long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, ::FormShowMode* mModal,
+                                        VARIANT* OwnerForm, long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowDataClassify(IDispatch** mObj, double* mMinValue, double* mMaxValue,
+                                             ::ClassifyFlags flags, VARIANT_BOOL* IsDirty, BSTR* mCaption,
+                                             ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                             long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal,
+                                            VARIANT* OwnerForm, long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                           long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowLabels(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                       long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowCoordinates(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal,
+                                            VARIANT* OwnerForm, long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowGeoReference(IDispatch** mObj, ::CheckState* mKeepRatio, BSTR* mFormat, BSTR* mCaption,
+                                             VARIANT* OwnerForm, long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowCharacterSelection(BSTR* mFontName, long* mCharacter, double* mRotation,
+                                                   VARIANT_BOOL* mChanged, BSTR* mCaption, VARIANT* OwnerForm,
+                                                   long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMultiselect, long* mListIndex,
+                                              BSTR* mCaption, VARIANT_BOOL* mAskConfirmation,
+                                              BSTR* mConfirmationQuestion, SAFEARRAY** mSelected,
+                                              long* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowAddLayer(long hWnd, VARIANT_BOOL Multiselect, SAFEARRAY** Files,
+                                         VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowAddData(long hWnd, VARIANT_BOOL Multiselect, SAFEARRAY** Files,
+                                        VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowFileNotFound(BSTR FileName, BSTR* NewFileName, VARIANT_BOOL* CancelAll,
+                                             VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE ShowDataFileNotFound(BSTR FileName, BSTR* NewFileName, VARIANT_BOOL* CancelAll,
+                                                 VARIANT_BOOL* result) noexcept override;
+
+ private:
+  struct DialogCall;
+  /// Shows a property dialog: takes the arguments apart and gives the result back.
+  template <class Dialog>
+  HRESULT ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::FormShowMode* mModal, const VARIANT* OwnerForm,
+                     long* result, Dialog&& dialog) noexcept;
+
+  // The surroundings outlive the service, which uses them.
+  std::shared_ptr<Surroundings> mSurroundings;
+  orx::CCommonMapDialogs mService;
+  // Plain pointers to the host's objects, and what speaks to them. No reference is held.
+  IDispatch* mLanguage = nullptr;
+  IDispatch* mCallBack = nullptr;
+  std::shared_ptr<orx::ILanguage> mLanguageAdapter;
+  std::shared_ptr<orx::IDialogCallBack> mCallBackAdapter;
+};
+
+}  // namespace orx::com

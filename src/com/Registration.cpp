@@ -1,0 +1,179 @@
+#include "com/Registration.h"
+
+#include <OrvexMapDialogs2.h>
+
+#include <string>
+#include <vector>
+
+#include "com/Errors.h"
+#include "com/TypeLibrary.h"
+
+namespace orx::com {
+namespace {
+
+struct CreatableClass {
+  CLSID Id;
+  const wchar_t* ProgId;
+  const wchar_t* Description;
+};
+
+const CreatableClass kClasses[] = {
+    {__uuidof(::CCommonMapDialogs), L"OrvexMapDialogs2.CCommonMapDialogs", L"Dialogs for maps, layers and data"},
+    {__uuidof(::CCommonProgressDialog), L"OrvexMapDialogs2.CCommonProgressDialog",
+     L"Progress dialog for long operations"},
+};
+
+/// One text in the registry; an empty name is the key's own value.
+struct Entry {
+  std::wstring Key;
+  std::wstring Name;
+  std::wstring Text;
+};
+
+std::wstring TextOfGuid(const GUID& guid) {
+  wchar_t text[40] = {};
+  StringFromGUID2(guid, text, static_cast<int>(std::size(text)));
+  return text;
+}
+
+std::wstring ClassKey(const CreatableClass& made) {
+  return L"CLSID\\" + TextOfGuid(made.Id);
+}
+
+std::vector<Entry> EntriesOf(const CreatableClass& made) {
+  const std::wstring key = ClassKey(made);
+  const std::wstring progId = made.ProgId;
+  return {
+      {progId, L"", made.Description},
+      {progId + L"\\CLSID", L"", TextOfGuid(made.Id)},
+      {key, L"", made.Description},
+      {key + L"\\InprocServer32", L"", ModulePath()},
+      {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
+      {key + L"\\ProgID", L"", progId},
+      {key + L"\\TypeLib", L"", TextOfGuid(LIBID_OrvexMapDialogs2)},
+      {key + L"\\Version", L"", L"2.0"},
+      {key + L"\\Programmable", L"", L""},
+  };
+}
+
+/// The classes of all users or of the present one.
+class ClassesKey {
+ public:
+  explicit ClassesKey(RegisteredFor whom) {
+    const HKEY root = whom == RegisteredFor::AllUsers ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+    Check(HRESULT_FROM_WIN32(RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
+                                             &mKey, nullptr)),
+          "The registry's classes cannot be opened");
+  }
+  ~ClassesKey() { RegCloseKey(mKey); }
+  ClassesKey(const ClassesKey&) = delete;
+  ClassesKey& operator=(const ClassesKey&) = delete;
+
+  void Write(const Entry& entry) const {
+    HKEY key = nullptr;
+    LSTATUS status = RegCreateKeyExW(mKey, entry.Key.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &key, nullptr);
+    if (status == ERROR_SUCCESS) {
+      const auto bytes = static_cast<DWORD>((entry.Text.size() + 1) * sizeof(wchar_t));
+      status = RegSetValueExW(key, entry.Name.empty() ? nullptr : entry.Name.c_str(), 0, REG_SZ,
+                              reinterpret_cast<const BYTE*>(entry.Text.c_str()), bytes);
+      RegCloseKey(key);
+    }
+    Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(entry.Key) + "\" cannot be written");
+  }
+
+  void Remove(const std::wstring& key) const {
+    const LSTATUS status = RegDeleteTreeW(mKey, key.c_str());
+    if (status != ERROR_FILE_NOT_FOUND)
+      Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(key) + "\" cannot be removed");
+  }
+
+ private:
+  HKEY mKey = nullptr;
+};
+
+/// What carries calls of an interface to another thread: the automation library, which knows it from the type library.
+constexpr wchar_t kDualProxy[] = L"{00020424-0000-0000-C000-000000000046}";
+constexpr wchar_t kDispatchProxy[] = L"{00020420-0000-0000-C000-000000000046}";
+
+std::wstring LibraryKey() {
+  return L"TypeLib\\" + TextOfGuid(LIBID_OrvexMapDialogs2);
+}
+
+std::vector<Entry> LibraryEntries() {
+  const std::wstring version = LibraryKey() + L"\\2.0";
+  const std::wstring path = ModulePath();
+  return {
+      {version, L"", L"Orvex Map Dialogs 2"},
+      {version + (sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32"), L"", path},
+      {version + L"\\FLAGS", L"", L"0"},
+      {version + L"\\HELPDIR", L"", path.substr(0, path.find_last_of(L'\\'))},
+  };
+}
+
+struct PublishedInterface {
+  std::wstring Key;
+  std::wstring Name;
+  bool IsDual = false;
+};
+
+/// The interfaces of the type library.
+std::vector<PublishedInterface> PublishedInterfaces() {
+  const ComPtr<ITypeLib> library = LoadTypeLibrary();
+  std::vector<PublishedInterface> found;
+  for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
+    ComPtr<ITypeInfo> info;
+    TYPEATTR* attributes = nullptr;
+    Bstr name;
+    Check(library->GetTypeInfo(index, info.Out()), "The type library");
+    Check(info->GetTypeAttr(&attributes), "The type library");
+    const bool isInterface = attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE;
+    const bool isDual = (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0;
+    const std::wstring key = L"Interface\\" + TextOfGuid(attributes->guid);
+    info->ReleaseTypeAttr(attributes);
+    if (!isInterface) continue;
+    Check(info->GetDocumentation(MEMBERID_NIL, name.Out(), nullptr, nullptr, nullptr), "The type library");
+    found.push_back({key, Widened(name.Text()), isDual});
+  }
+  return found;
+}
+
+std::vector<Entry> EntriesOf(const PublishedInterface& published) {
+  const std::wstring library = TextOfGuid(LIBID_OrvexMapDialogs2);
+  return {
+      {published.Key, L"", published.Name},
+      {published.Key + L"\\ProxyStubClsid32", L"", published.IsDual ? kDualProxy : kDispatchProxy},
+      {published.Key + L"\\TypeLib", L"", library},
+      {published.Key + L"\\TypeLib", L"Version", L"2.0"},
+  };
+}
+
+void WriteAll(const ClassesKey& classes, const std::vector<Entry>& entries) {
+  for (const Entry& entry : entries) classes.Write(entry);
+}
+
+}  // namespace
+
+void Register(RegisteredFor whom) {
+  try {
+    const ClassesKey classes(whom);
+    WriteAll(classes, LibraryEntries());
+    for (const PublishedInterface& published : PublishedInterfaces()) WriteAll(classes, EntriesOf(published));
+    for (const CreatableClass& made : kClasses) WriteAll(classes, EntriesOf(made));
+  } catch (...) {
+    // Half a registration is worse than none. What it failed at is the error to tell.
+    static_cast<void>(Guarded("Registration", [&] { Unregister(whom); }));
+    throw;
+  }
+}
+
+void Unregister(RegisteredFor whom) {
+  const ClassesKey classes(whom);
+  for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
+  classes.Remove(LibraryKey());
+  for (const CreatableClass& made : kClasses) {
+    classes.Remove(made.ProgId);
+    classes.Remove(ClassKey(made));
+  }
+}
+
+}  // namespace orx::com

@@ -1,0 +1,64 @@
+// The entry points of the component's DLL.
+#include <windows.h>
+
+#include <olectl.h>
+
+#include <string_view>
+
+#include "com/ClassFactory.h"
+#include "com/Errors.h"
+#include "com/Module.h"
+#include "com/Registration.h"
+#include "com/Surroundings.h"
+
+namespace {
+
+using orx::com::Guarded;
+using orx::com::RegisteredFor;
+
+constexpr char kSource[] = "Registration";
+
+bool IsDenied(HRESULT result) {
+  return result == E_ACCESSDENIED || result == TYPE_E_REGISTRYACCESS;
+}
+
+/// For all users, or for the present one where the user may not do more.
+template <class Action>
+HRESULT ForAllOrUser(Action action) {
+  const HRESULT all = Guarded(kSource, [&] { action(RegisteredFor::AllUsers); });
+  return IsDenied(all) ? Guarded(kSource, [&] { action(RegisteredFor::User); }) : all;
+}
+
+}  // namespace
+
+STDAPI DllRegisterServer() {
+  return ForAllOrUser(orx::com::Register);
+}
+
+STDAPI DllUnregisterServer() {
+  // Both, as the one or the other may have been registered.
+  const HRESULT user = Guarded(kSource, [] { orx::com::Unregister(RegisteredFor::User); });
+  const HRESULT all = Guarded(kSource, [] { orx::com::Unregister(RegisteredFor::AllUsers); });
+  return FAILED(all) && !IsDenied(all) ? all : user;
+}
+
+STDAPI DllInstall(BOOL install, LPCWSTR whom) {
+  const std::wstring_view words = whom ? whom : L"";
+  if (!words.empty() && words != L"user") return E_INVALIDARG;
+  if (words.empty()) return install ? DllRegisterServer() : DllUnregisterServer();
+  return Guarded(
+      kSource, [&] { install ? orx::com::Register(RegisteredFor::User) : orx::com::Unregister(RegisteredFor::User); });
+}
+
+STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, LPVOID* factory) {
+  return orx::com::GetClassFactory(classId, iid, factory);
+}
+
+STDAPI DllCanUnloadNow() {
+  HRESULT answer = S_FALSE;
+  const HRESULT asked = Guarded("Server", [&] {
+    const bool stillOpen = orx::com::Surroundings::StillOpen();
+    answer = orx::com::ModuleUse::Count() == 0 && !stillOpen ? S_OK : S_FALSE;
+  });
+  return FAILED(asked) ? S_FALSE : answer;
+}
