@@ -85,12 +85,29 @@ HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, cons
   return FAILED(result) ? result : arguments.WriteBack();
 }
 
+/// An index behind a property that takes none is meant for the collection that it gives.
+HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const FunctionDescription& member) {
+  Variant collection;
+  DISPPARAMS none = {};
+  HRESULT result = CallMember(info, instance,
+                              {call.Member, call.Locale, call.Flags, &none, &collection, call.Error, nullptr}, member);
+  if (FAILED(result)) return result;
+  if (collection.vt != VT_DISPATCH || !collection.pdispVal) return DISP_E_BADPARAMCOUNT;
+  return collection.pdispVal->Invoke(DISPID_VALUE, IID_NULL, call.Locale, call.Flags, call.Parameters, call.Result,
+                                     call.Error, call.WrongArgument);
+}
+
+bool AsksForItem(const MemberCall& call, const FunctionDescription& member) {
+  return member->invkind == INVOKE_PROPERTYGET && member->cParams == 0 && call.Parameters->cArgs > 0;
+}
+
 }  // namespace
 
 HRESULT InvokeMember(ITypeInfo& info, void* instance, const MemberCall& call) {
   for (const INVOKEKIND kind : KindsFor(call.Flags))
     if (const FunctionDescription member = FindMember(info, call.Member, kind))
-      return CallMember(info, instance, call, member);
+      return AsksForItem(call, member) ? CallItem(info, instance, call, member)
+                                       : CallMember(info, instance, call, member);
   return DISP_E_MEMBERNOTFOUND;
 }
 

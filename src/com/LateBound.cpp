@@ -159,15 +159,9 @@ Variant LateBound::Call(const std::string& name, VARIANT* arguments, UINT count)
   Variant result;
   std::string description;
   HRESULT code = TryInvoke(member, DISPATCH_METHOD, parameters, &result, description);
-  // Some languages know functions only as what can be read as well.
-  if (FAILED(code) && description.empty() && code != E_FAIL) {
-    std::string second;
-    const HRESULT again = TryInvoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, &result, second);
-    if (SUCCEEDED(again) || !second.empty()) {
-      code = again;
-      description = second;
-    }
-  }
+  // Some languages know functions only as what can be read as well. Nothing was run when they say so.
+  if (code == DISP_E_MEMBERNOTFOUND)
+    code = TryInvoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, &result, description);
   if (FAILED(code) && !description.empty()) ThrowError(code, description);
   Check(code, name);
   return result;
