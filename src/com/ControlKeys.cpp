@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <iterator>
 #include <vector>
 
 namespace orx::com {
@@ -68,8 +69,7 @@ bool IsDialogKey(const MSG& message) {
 }  // namespace
 
 bool HasFocusInside(HWND area) {
-  const HWND focus = GetFocus();
-  return focus && (focus == area || IsChild(area, focus));
+  return IsChild(area, GetFocus()) != FALSE;
 }
 
 void FocusInside(HWND area, bool backwards) {

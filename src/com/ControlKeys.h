@@ -5,7 +5,7 @@
 
 namespace orx::com {
 
-/// True when the keyboard focus is in the window or below it.
+/// True when the keyboard focus is below the window; in the window itself nobody would see the keys.
 bool HasFocusInside(HWND area);
 
 /// Gives the focus to the first child window with a tab stop, to the last one when going backwards; without any to the
