@@ -1,0 +1,219 @@
+#include "com/Arguments.h"
+
+#include "com/Conversion.h"
+
+namespace orx::com {
+namespace {
+
+VARTYPE UserType(ITypeInfo& info, HREFTYPE reference);
+
+VARTYPE PlainType(ITypeInfo& info, const TYPEDESC& type) {
+  switch (type.vt) {
+    case VT_USERDEFINED:
+      return UserType(info, type.hreftype);
+    case VT_INT:
+      return VT_I4;
+    case VT_UINT:
+      return VT_UI4;
+    case VT_PTR:
+      // A pointer to a described interface.
+      return PlainType(info, *type.lptdesc);
+    default:
+      return type.vt;
+  }
+}
+
+class TypeAttributes {
+ public:
+  explicit TypeAttributes(ITypeInfo& info) : mInfo(info) {
+    if (FAILED(mInfo.GetTypeAttr(&mAttributes))) mAttributes = nullptr;
+  }
+  ~TypeAttributes() {
+    if (mAttributes) mInfo.ReleaseTypeAttr(mAttributes);
+  }
+  TypeAttributes(const TypeAttributes&) = delete;
+  TypeAttributes& operator=(const TypeAttributes&) = delete;
+  const TYPEATTR* Get() const { return mAttributes; }
+
+ private:
+  ITypeInfo& mInfo;
+  TYPEATTR* mAttributes = nullptr;
+};
+
+VARTYPE UserType(ITypeInfo& info, HREFTYPE reference) {
+  ComPtr<ITypeInfo> described;
+  if (FAILED(info.GetRefTypeInfo(reference, described.Out()))) return VT_I4;
+  const TypeAttributes attributes(*described.Get());
+  if (!attributes.Get()) return VT_I4;
+  switch (attributes.Get()->typekind) {
+    case TKIND_ALIAS:
+      return PlainType(*described.Get(), attributes.Get()->tdescAlias);
+    case TKIND_DISPATCH:
+    case TKIND_INTERFACE:
+    case TKIND_COCLASS:
+      return VT_DISPATCH;
+    default:
+      return VT_I4;
+  }
+}
+
+/// Moves a value of exactly that type to where a typed reference points.
+void StoreBehind(VARIANT& reference, Variant& value) {
+  Variant before;
+  before.vt = value.vt;
+  switch (value.vt) {
+    case VT_BSTR:
+      before.bstrVal = std::exchange(*reference.pbstrVal, value.bstrVal);
+      value.bstrVal = nullptr;
+      break;
+    case VT_DISPATCH:
+      before.pdispVal = std::exchange(*reference.ppdispVal, value.pdispVal);
+      value.pdispVal = nullptr;
+      break;
+    case VT_R8:
+      *reference.pdblVal = value.dblVal;
+      break;
+    case VT_BOOL:
+      *reference.pboolVal = value.boolVal;
+      break;
+    case VT_I2:
+      *reference.piVal = value.iVal;
+      break;
+    case VT_I4:
+      *reference.plVal = value.lVal;
+      break;
+    default:
+      break;
+  }
+}
+
+bool IsInterface(ITypeInfo& info, const TYPEDESC& type) {
+  return type.vt == VT_USERDEFINED && UserType(info, type.hreftype) == VT_DISPATCH;
+}
+
+}  // namespace
+
+Parameter ParameterOf(ITypeInfo& info, const ELEMDESC& description) {
+  Parameter parameter;
+  const PARAMDESC& notes = description.paramdesc;
+  const TYPEDESC* type = &description.tdesc;
+  if (type->vt == VT_PTR && !IsInterface(info, *type->lptdesc)) {
+    parameter.IsByReference = true;
+    type = type->lptdesc;
+  }
+  if (type->vt == VT_SAFEARRAY) {
+    parameter.IsArray = true;
+    type = type->lptdesc;
+  }
+  parameter.Type = PlainType(info, *type);
+  parameter.IsOut = (notes.wParamFlags & (PARAMFLAG_FIN | PARAMFLAG_FOUT)) == PARAMFLAG_FOUT;
+  parameter.IsOptional = (notes.wParamFlags & (PARAMFLAG_FOPT | PARAMFLAG_FHASDEFAULT)) != 0;
+  if ((notes.wParamFlags & PARAMFLAG_FHASDEFAULT) && notes.pparamdescex)
+    parameter.Default = &notes.pparamdescex->varDefaultValue;
+  return parameter;
+}
+
+HRESULT Arguments::Fit(const std::vector<Parameter>& parameters, UINT& wrong) {
+  if (mGiven.size() > parameters.size()) return DISP_E_BADPARAMCOUNT;
+  mGiven.resize(parameters.size());
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const HRESULT result = FitOne(parameters[i], mGiven[i]);
+    wrong = static_cast<UINT>(i);
+    if (FAILED(result)) return result;
+  }
+  return S_OK;
+}
+
+HRESULT Arguments::FitOne(const Parameter& parameter, VARIANT* given) {
+  const bool isVariable = given && given->vt == (VT_BYREF | VT_VARIANT);
+  VARIANT* const value = ValueBehind(given);
+  if (parameter.Type == VT_VARIANT && !parameter.IsArray) return FitVariant(parameter, value);
+  const auto exact = static_cast<VARTYPE>(VT_BYREF | (parameter.IsArray ? VT_ARRAY : 0) | parameter.Type);
+  if (parameter.IsByReference && value && value->vt == exact) {
+    mFitted.push_back(*value);
+    return S_OK;
+  }
+  auto& temporary = *mTemporaries.emplace_back(std::make_unique<Temporary>());
+  temporary.What = parameter;
+  if (value && (isVariable || (value->vt & VT_BYREF))) temporary.Origin = value;
+  HRESULT result = S_OK;
+  if (!value || IsMissing(*value)) {
+    result = FillMissing(parameter, temporary.Value);
+  } else if (parameter.IsArray) {
+    result = ConvertArray(parameter.IsOut ? Variant() : *value, parameter.Type, mLocale, temporary.Value);
+  } else {
+    result = ConvertValue(parameter.IsOut ? Variant() : *value, parameter.Type, mLocale, temporary.Value);
+  }
+  if (SUCCEEDED(result)) HandOver(temporary);
+  return result;
+}
+
+HRESULT Arguments::FitVariant(const Parameter& parameter, VARIANT* given) {
+  VARIANT fitted;
+  VariantInit(&fitted);
+  if (given && parameter.IsByReference) {
+    fitted.vt = VT_BYREF | VT_VARIANT;
+    fitted.pvarVal = given;
+  } else if (given) {
+    fitted = *given;
+  } else {
+    if (!parameter.IsOptional) return DISP_E_PARAMNOTOPTIONAL;
+    auto& temporary = *mTemporaries.emplace_back(std::make_unique<Temporary>());
+    temporary.What = parameter;
+    temporary.Value.vt = VT_ERROR;
+    temporary.Value.scode = DISP_E_PARAMNOTFOUND;
+    fitted = temporary.Value;
+    if (parameter.IsByReference) {
+      fitted.vt = VT_BYREF | VT_VARIANT;
+      fitted.pvarVal = &temporary.Value;
+    }
+  }
+  mFitted.push_back(fitted);
+  return S_OK;
+}
+
+HRESULT Arguments::FillMissing(const Parameter& parameter, Variant& value) const {
+  if (!parameter.IsOptional) return DISP_E_PARAMNOTOPTIONAL;
+  const Variant empty;
+  const VARIANT& from = parameter.Default ? *parameter.Default : empty;
+  if (parameter.IsArray) return ConvertArray(from, parameter.Type, mLocale, value);
+  return ConvertValue(from, parameter.Type, mLocale, value);
+}
+
+void Arguments::HandOver(Temporary& temporary) {
+  VARIANT fitted = temporary.Value;
+  if (temporary.What.IsByReference) {
+    fitted.vt = static_cast<VARTYPE>(VT_BYREF | temporary.Value.vt);
+    // All plain values start at the same place of a variant.
+    fitted.byref = &temporary.Value.byref;
+  }
+  mFitted.push_back(fitted);
+}
+
+HRESULT Arguments::WriteBack() {
+  for (const std::unique_ptr<Temporary>& temporary : mTemporaries) {
+    if (!temporary->Origin || !temporary->What.IsByReference) continue;
+    VARIANT& origin = *temporary->Origin;
+    Variant result;
+    HRESULT code = S_OK;
+    if (temporary->What.IsArray) {
+      // Script hosts read arrays of variants only.
+      code = ToScriptArray(temporary->Value, result);
+    } else {
+      result = std::move(temporary->Value);
+    }
+    if (SUCCEEDED(code) && !(origin.vt & VT_BYREF)) {
+      VariantClear(&origin);
+      static_cast<VARIANT&>(origin) = result;
+      VariantInit(&result);
+    } else if (SUCCEEDED(code) && !(origin.vt & VT_ARRAY)) {
+      Variant converted;
+      code = ConvertValue(result, static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), mLocale, converted);
+      if (SUCCEEDED(code)) StoreBehind(origin, converted);
+    }
+    if (FAILED(code)) return code;
+  }
+  return S_OK;
+}
+
+}  // namespace orx::com

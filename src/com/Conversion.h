@@ -1,0 +1,25 @@
+// Values between what script hosts send and what members take.
+#pragma once
+
+#include "com/Handles.h"
+
+namespace orx::com {
+
+/// Follows references to variants down to the variant that holds the value.
+VARIANT* ValueBehind(VARIANT* given);
+
+/// True for an argument that was left out.
+bool IsMissing(const VARIANT& given);
+
+/// Converts to a plain type (VT_I4, VT_BSTR, VT_DISPATCH, ...). Empty and Null become zero, the empty text, no object;
+/// a number that is zero stands for no object as well. The error code of the system when there is no way.
+HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to);
+
+/// Converts to an array of a plain type, element by element: from arrays of any type, from script objects with
+/// `length`, from Empty (no elements) and from a single value.
+HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to);
+
+/// The array as script hosts can read it: of variants. Its lower bound is kept.
+HRESULT ToScriptArray(const VARIANT& from, Variant& to);
+
+}  // namespace orx::com

@@ -1,0 +1,81 @@
+// The base of all objects of the component server that hosts call: their dual interface by slots, by number and by
+// name, and rich error information.
+#pragma once
+
+#include "com/Counted.h"
+#include "com/Errors.h"
+#include "com/Invoke.h"
+#include "com/Module.h"
+#include "com/TypeLibrary.h"
+
+namespace orx::com {
+
+/// An object with one dual interface of the type library. While it lives the module stays loaded.
+template <class Interface, class... Others>
+class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
+ public:
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
+    if (!count) return E_POINTER;
+    *count = 1;
+    return S_OK;
+  }
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override {
+    if (!info) return E_POINTER;
+    *info = nullptr;
+    if (index != 0) return DISP_E_BADINDEX;
+    return Guarded("Object", [&] { *info = ComPtr<ITypeInfo>(Description()).Detach(); });
+  }
+
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
+                                          DISPID* members) noexcept override {
+    if (!names || !members) return E_POINTER;
+    HRESULT found = S_OK;
+    const HRESULT result = Guarded("Object", [&] { found = DispGetIDsOfNames(Description(), names, count, members); });
+    return FAILED(result) ? result : found;
+  }
+
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID locale, WORD flags, DISPPARAMS* parameters,
+                                   VARIANT* result, EXCEPINFO* error, UINT* wrongArgument) noexcept override {
+    if (!parameters) return E_POINTER;
+    HRESULT invoked = S_OK;
+    const HRESULT done = Guarded("Object", [&] {
+      invoked = InvokeMember(*Description(), static_cast<Interface*>(this),
+                             {member, locale, flags, parameters, result, error, wrongArgument});
+    });
+    return FAILED(done) ? done : invoked;
+  }
+
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override {
+    return IsEqualIID(iid, __uuidof(Interface)) || IsEqualIID(iid, IID_IDispatch) ? S_OK : S_FALSE;
+  }
+
+ protected:
+  void* Find(REFIID iid) noexcept override {
+    if (IsEqualIID(iid, IID_IDispatch)) return static_cast<IDispatch*>(static_cast<Interface*>(this));
+    return Counted<Interface, ISupportErrorInfo, Others...>::Find(iid);
+  }
+
+ private:
+  /// What the type library says of the interface; loaded when it is first asked for.
+  ITypeInfo* Description() {
+    if (!mDescription) mDescription = TypeInfoOf(__uuidof(Interface));
+    return mDescription.Get();
+  }
+
+  ModuleUse mUse;
+  ComPtr<ITypeInfo> mDescription;
+};
+
+/// A creatable class with that default interface.
+template <class Class, class Interface>
+class ClassObject : public DispatchObject<Interface, IProvideClassInfo> {
+ public:
+  HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override {
+    if (!info) return E_POINTER;
+    *info = nullptr;
+    return Guarded("Object", [&] { *info = TypeInfoOf(__uuidof(Class)).Detach(); });
+  }
+};
+
+}  // namespace orx::com

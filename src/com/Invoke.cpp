@@ -1,0 +1,97 @@
+#include "com/Invoke.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "com/Arguments.h"
+
+namespace orx::com {
+namespace {
+
+class FunctionDescription {
+ public:
+  FunctionDescription(ITypeInfo& info, UINT index) : mInfo(info) {
+    if (FAILED(mInfo.GetFuncDesc(index, &mDescription))) mDescription = nullptr;
+  }
+  FunctionDescription(FunctionDescription&& other) noexcept
+      : mInfo(other.mInfo), mDescription(std::exchange(other.mDescription, nullptr)) {}
+  ~FunctionDescription() {
+    if (mDescription) mInfo.ReleaseFuncDesc(mDescription);
+  }
+  FunctionDescription& operator=(FunctionDescription&&) = delete;
+
+  explicit operator bool() const { return mDescription != nullptr; }
+  const FUNCDESC* operator->() const { return mDescription; }
+
+ private:
+  ITypeInfo& mInfo;
+  FUNCDESC* mDescription = nullptr;
+};
+
+/// The kinds of members that flags may stand for, in the order in which they are looked for. Script hosts do not tell
+/// methods from properties that are read, nor values from objects that are set.
+std::vector<INVOKEKIND> KindsFor(WORD flags) {
+  if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
+    if (flags & DISPATCH_PROPERTYPUTREF) return {INVOKE_PROPERTYPUTREF, INVOKE_PROPERTYPUT};
+    return {INVOKE_PROPERTYPUT, INVOKE_PROPERTYPUTREF};
+  }
+  if (flags == DISPATCH_PROPERTYGET) return {INVOKE_PROPERTYGET};
+  return {INVOKE_FUNC, INVOKE_PROPERTYGET};
+}
+
+/// Members are looked for one by one: not all systems count those that the interface inherits when asked by number.
+FunctionDescription FindMember(ITypeInfo& info, DISPID member, INVOKEKIND kind) {
+  for (UINT index = 0;; ++index) {
+    FunctionDescription found(info, index);
+    if (!found || (found->memid == member && found->invkind == kind)) return found;
+  }
+}
+
+/// The given arguments in the order of the parameters.
+HRESULT InOrder(const DISPPARAMS& given, std::size_t parameters, bool isPut, std::vector<VARIANT*>& ordered) {
+  ordered.assign(std::max<std::size_t>(parameters, given.cArgs - given.cNamedArgs), nullptr);
+  for (UINT i = 0; i < given.cNamedArgs; ++i) {
+    const DISPID name = given.rgdispidNamedArgs[i];
+    const std::size_t at = name == DISPID_PROPERTYPUT && isPut ? parameters - 1 : static_cast<std::size_t>(name);
+    if (name != DISPID_PROPERTYPUT && (name < 0 || at >= parameters)) return DISP_E_PARAMNOTFOUND;
+    ordered[at] = &given.rgvarg[i];
+  }
+  // What has no name stands behind, the last argument first.
+  for (UINT i = given.cNamedArgs; i < given.cArgs; ++i) ordered[given.cArgs - 1 - i] = &given.rgvarg[i];
+  return S_OK;
+}
+
+HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, const FunctionDescription& member) {
+  const bool isPut = (member->invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF)) != 0;
+  std::vector<Parameter> parameters;
+  for (SHORT i = 0; i < member->cParams; ++i) parameters.push_back(ParameterOf(info, member->lprgelemdescParam[i]));
+  std::vector<VARIANT*> ordered;
+  HRESULT result = InOrder(*call.Parameters, parameters.size(), isPut, ordered);
+  if (FAILED(result)) return result;
+  Arguments arguments(std::move(ordered), call.Locale);
+  UINT wrong = 0;
+  result = arguments.Fit(parameters, wrong);
+  if (FAILED(result)) {
+    if (call.WrongArgument)
+      *call.WrongArgument = call.Parameters->cArgs > wrong ? call.Parameters->cArgs - 1 - wrong : 0;
+    return result;
+  }
+  std::vector<VARIANT> reversed = arguments.Fitted();
+  std::reverse(reversed.begin(), reversed.end());
+  DISPID put = DISPID_PROPERTYPUT;
+  DISPPARAMS handed = {reversed.data(), isPut ? &put : nullptr, static_cast<UINT>(reversed.size()), isPut ? 1U : 0U};
+  result = info.Invoke(instance, member->memid, static_cast<WORD>(member->invkind), &handed, call.Result, call.Error,
+                       call.WrongArgument);
+  return FAILED(result) ? result : arguments.WriteBack();
+}
+
+}  // namespace
+
+HRESULT InvokeMember(ITypeInfo& info, void* instance, const MemberCall& call) {
+  for (const INVOKEKIND kind : KindsFor(call.Flags))
+    if (const FunctionDescription member = FindMember(info, call.Member, kind))
+      return CallMember(info, instance, call, member);
+  return DISP_E_MEMBERNOTFOUND;
+}
+
+}  // namespace orx::com

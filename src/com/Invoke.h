@@ -1,0 +1,24 @@
+// Calls of members by number, as script hosts make them, for objects whose dual interface the type library describes.
+#pragma once
+
+#include "com/Handles.h"
+
+namespace orx::com {
+
+/// One call of a member, in the terms of IDispatch::Invoke.
+struct MemberCall {
+  DISPID Member;
+  LCID Locale;
+  WORD Flags;
+  DISPPARAMS* Parameters;
+  VARIANT* Result;
+  EXCEPINFO* Error;
+  UINT* WrongArgument;
+};
+
+/// Fits the arguments, calls the member of `instance` (a pointer to the described interface) and gives results back.
+/// More generous than the system's own: variables may be sent for typed by-reference parameters, arguments may be left
+/// out where the type library says so, arrays may consist of variants.
+HRESULT InvokeMember(ITypeInfo& info, void* instance, const MemberCall& call);
+
+}  // namespace orx::com

@@ -1,0 +1,23 @@
+// The type library that the module carries.
+#pragma once
+
+#include <string>
+
+#include "com/Handles.h"
+
+namespace orx::com {
+
+/// Loads the type library from the module's resources, or from `path` when one is given. Throws RunTimeError with the
+/// path and the reason.
+ComPtr<ITypeLib> LoadTypeLibrary(const std::wstring& path = {});
+
+/// The description of an interface or class of the type library. Throws as LoadTypeLibrary.
+ComPtr<ITypeInfo> TypeInfoOf(const GUID& guid);
+
+/// The path of the module that this code is in.
+std::wstring ModulePath();
+
+/// For tests: the file that takes the place of the module's type library; empty: the module's own again.
+void TypeLibraryPath(const std::wstring& path);
+
+}  // namespace orx::com

@@ -1,0 +1,225 @@
+#include "desktops/win32/Dialog.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "desktops/win32/Fonts.h"
+#include "desktops/win32/Peer.h"
+#include "desktops/win32/Pointers.h"
+#include "desktops/win32/Text.h"
+#include "desktops/win32/WindowClasses.h"
+#include "forms/Form.h"
+
+namespace orx::win32 {
+
+Dialog* Dialog::Around(HWND window) {
+  const HWND root = window ? GetAncestor(window, GA_ROOT) : nullptr;
+  if (!root || reinterpret_cast<WNDPROC>(GetClassLongPtrW(root, GCLP_WNDPROC)) != &Dialog::WindowProc) return nullptr;
+  return reinterpret_cast<Dialog*>(GetWindowLongPtrW(root, GWLP_USERDATA));
+}
+
+Dialog::Dialog(Form& form) : mForm(form), mFont(MakeDialogFont()), mGround(form) {
+  mWindow = CreateWindowExW(Style() & WS_THICKFRAME ? WS_EX_CONTROLPARENT : WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME,
+                            WindowClasses::kDialog, L"", Style(), 0, 0, 0, 0, nullptr, nullptr, ThisModule(), nullptr);
+  SetWindowLongPtrW(mWindow, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  mGround.Open(mWindow);
+}
+
+Dialog::~Dialog() {
+  SetWindowLongPtrW(mWindow, GWLP_USERDATA, 0);
+  DestroyWindow(mWindow);
+}
+
+DWORD Dialog::Style() const {
+  const DWORD border = mForm.Border() == BorderStyle::Sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX : 0;
+  return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | border;
+}
+
+void Dialog::Report(const std::function<void()>& act) {
+  if (mRetired || mQuiet > 0 || !mForm.Visible()) return;
+  const Busy busy(*this);
+  const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
+  act();
+}
+
+bool Dialog::ReportKey(const MSG& message) {
+  const Busy busy(*this);
+  if (mRetired) return false;
+  Control* const active = mForm.ActiveControl();
+  Peer* const peer = active ? PeerOf(*active) : nullptr;
+  if (peer && peer->WantsKey(message)) return false;
+  const std::optional<KeyStroke> stroke = StrokeOf(message);
+  if (!stroke) return false;
+  bool handled = false;
+  Report([&] { handled = mForm.UserKey(*stroke); });
+  // The platform would sound its signal for a dialog key that has nothing to do in a field of one line.
+  return handled || (stroke->Key != Key::Character && !(peer && peer->TakesReturn()));
+}
+
+void Dialog::Defer(MSG& message) {
+  mDeferred.push_back(message);
+  message.hwnd = mWindow;
+  message.message = kDeferredKey;
+}
+
+void Dialog::Redeliver() {
+  if (mDeferred.empty()) return;
+  const MSG message = mDeferred.front();
+  mDeferred.erase(mDeferred.begin());
+  if (ReportKey(message)) return;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
+void Dialog::FocusActive() {
+  Control* const active = mRetired ? nullptr : mForm.ActiveControl();
+  if (!active || !PeerOf(*active) || GetActiveWindow() != mWindow) return;
+  const Quiet quiet(*this);
+  SetFocus(PeerOf(*active)->FocusWindow());
+}
+
+void Dialog::UpdateCaption() {
+  SetWindowTextW(mWindow, Widened(mForm.Caption()).c_str());
+}
+
+void Dialog::UpdatePlace() {
+  const Quiet quiet(*this);
+  const Desktop& desktop = mForm.OwnerDesktop();
+  const SIZE client = mGround.WindowSize();
+  RECT frame = {0, 0, client.cx, client.cy};
+  AdjustWindowRectEx(&frame, Style(), FALSE, static_cast<DWORD>(GetWindowLongPtrW(mWindow, GWL_EXSTYLE)));
+  SetWindowPos(mWindow, nullptr, desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()),
+               frame.right - frame.left, frame.bottom - frame.top, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOOWNERZORDER);
+  mGround.Arrange();
+}
+
+void Dialog::Show(ShowMode mode, HWND owner) {
+  const Quiet quiet(*this);
+  mActiveBefore = GetActiveWindow();
+  SetWindowLongPtrW(mWindow, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+  if (mode == ShowMode::Modal) {
+    const auto disable = [](HWND window, LPARAM self) -> BOOL {
+      auto& dialog = *reinterpret_cast<Dialog*>(self);
+      if (window == dialog.mWindow || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+      EnableWindow(window, FALSE);
+      dialog.mDisabled.push_back(window);
+      return TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
+    // The owner may belong to another thread.
+    if (owner && IsWindowEnabled(owner)) disable(owner, reinterpret_cast<LPARAM>(this));
+  } else {
+    mHook.emplace();
+  }
+  ShowWindow(mWindow, SW_SHOW);
+  SetForegroundWindow(mWindow);
+  SetActiveWindow(mWindow);
+  UpdateWindow(mWindow);
+}
+
+void Dialog::Hide() {
+  const Quiet quiet(*this);
+  mHook.reset();
+  // While they are disabled, the platform would look for a window of another program to activate.
+  for (const HWND window : mDisabled) EnableWindow(window, TRUE);
+  mDisabled.clear();
+  const bool wasActive = GetActiveWindow() == mWindow;
+  ShowWindow(mWindow, SW_HIDE);
+  if (wasActive && mActiveBefore && IsWindow(mActiveBefore) && IsWindowVisible(mActiveBefore))
+    SetActiveWindow(mActiveBefore);
+}
+
+void Dialog::ToolTip(HWND tool, const std::string& text) {
+  if (!mToolTips && text.empty()) return;
+  if (!mToolTips)
+    mToolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
+                                0, 0, mWindow, nullptr, ThisModule(), nullptr);
+  std::wstring wide = Widened(text);
+  TTTOOLINFOW info = {};
+  info.cbSize = TTTOOLINFOW_V2_SIZE;
+  info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  info.hwnd = mWindow;
+  info.uId = reinterpret_cast<UINT_PTR>(tool);
+  info.lpszText = wide.data();
+  SendMessageW(mToolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+  if (!text.empty()) SendMessageW(mToolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+void Dialog::Retire() {
+  Hide();
+  mRetired = true;
+  mGround.Abandon();
+  if (mDepth == 0) delete this;
+}
+
+void Dialog::Sized() {
+  if (IsIconic(mWindow) || mForm.Border() == BorderStyle::Fixed) return;
+  RECT client;
+  GetClientRect(mWindow, &client);
+  const SIZE known = mGround.WindowSize();
+  if (client.right == known.cx && client.bottom == known.cy) return;
+  const Desktop& desktop = mForm.OwnerDesktop();
+  const Size size{desktop.ToTwips(static_cast<int>(client.right) - mGround.ExtraWidth()),
+                  desktop.ToTwips(static_cast<int>(client.bottom))};
+  Report([&] { mForm.UserResize(size); });
+  if (!mRetired) mGround.Arrange();
+}
+
+void Dialog::Moved() {
+  if (IsIconic(mWindow)) return;
+  RECT place;
+  GetWindowRect(mWindow, &place);
+  const Desktop& desktop = mForm.OwnerDesktop();
+  if (place.left == desktop.ToPixels(mForm.Left()) && place.top == desktop.ToPixels(mForm.Top())) return;
+  Report([&] {
+    mForm.UserMove(desktop.ToTwips(static_cast<int>(place.left)), desktop.ToTwips(static_cast<int>(place.top)));
+  });
+}
+
+bool Dialog::ShowPointer() const {
+  const HCURSOR pointer = CursorOf(mForm.OwnerDesktop().Pointer());
+  if (pointer) SetCursor(pointer);
+  return pointer != nullptr;
+}
+
+LRESULT CALLBACK Dialog::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* const self = reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (!self || self->mRetired) return DefWindowProcW(window, message, wParam, lParam);
+  const Busy busy(*self);
+  return self->Handle(message, wParam, lParam);
+}
+
+LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (Reflect(message, wParam, lParam)) return 0;
+  switch (message) {
+    case WM_CLOSE:
+      Report([this] { mForm.UserClose(); });
+      return 0;
+    case WM_SETFOCUS:
+      FocusActive();
+      return 0;
+    case WM_SIZE:
+      Sized();
+      return 0;
+    case WM_MOVE:
+      Moved();
+      return 0;
+    case WM_SETCURSOR:
+      if (ShowPointer()) return TRUE;
+      break;
+    case WM_MOUSEWHEEL:
+      mGround.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      return 0;
+    case kDeferredKey:
+      Redeliver();
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcW(mWindow, message, wParam, lParam);
+}
+
+}  // namespace orx::win32

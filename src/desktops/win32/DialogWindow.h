@@ -1,0 +1,43 @@
+// The window of a form: the dialog, the peers of all controls, and the modal loop.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "desktops/win32/Peers.h"
+#include "desktops/win32/WindowClasses.h"
+#include "forms/FormWindow.h"
+
+namespace orx::win32 {
+
+class DialogWindow final : public FormWindow {
+ public:
+  explicit DialogWindow(Form& form);
+  ~DialogWindow() override;
+
+  void Show(ShowMode mode, OwnerWindow owner) override;
+  void Hide() override;
+  void RunModal() override;
+  void EndModal() override;
+  void UpdateCaption() override;
+  void UpdatePlace() override;
+  void Repaint() override;
+  std::uintptr_t NativeHandle() const override;
+  void Abandon() override;
+
+ private:
+  void MakePeers(const Container& container, HWND parent);
+  int IdOf(const Control& control);
+  /// The host's or the form's window behind this one, null when there is none.
+  HWND WindowOf(const OwnerWindow& owner) const;
+
+  WindowClasses mClasses;
+  Form& mForm;
+  Dialog* mDialog;
+  PeerMaker mMaker;
+  std::vector<std::unique_ptr<Peer>> mPeers;
+  int mNextId;
+  bool mEnded = false;
+};
+
+}  // namespace orx::win32

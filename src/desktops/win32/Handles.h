@@ -1,0 +1,73 @@
+// What owns the platform's handles. Nothing else in this desktop deletes or frees them.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <type_traits>
+
+namespace orx::win32 {
+
+/// Deletes fonts, brushes, pens and bitmaps.
+struct GdiDeleter {
+  void operator()(HGDIOBJ object) const { DeleteObject(object); }
+};
+
+template <class Handle>
+using GdiObject = std::unique_ptr<std::remove_pointer_t<Handle>, GdiDeleter>;
+
+/// Selects an object into a device context for a while.
+class Selection {
+ public:
+  Selection(HDC context, HGDIOBJ object) : mContext(context), mBefore(SelectObject(context, object)) {}
+  ~Selection() { SelectObject(mContext, mBefore); }
+  Selection(const Selection&) = delete;
+  Selection& operator=(const Selection&) = delete;
+
+ private:
+  HDC mContext;
+  HGDIOBJ mBefore;
+};
+
+/// A device context in memory that draws on a bitmap of that size, in the colours of `like`.
+class MemoryContext {
+ public:
+  MemoryContext(HDC like, int width, int height)
+      : mContext(CreateCompatibleDC(like)),
+        mBitmap(CreateCompatibleBitmap(like, width, height)),
+        mSelection(std::make_unique<Selection>(mContext, mBitmap.get())) {}
+  ~MemoryContext() {
+    mSelection.reset();
+    DeleteDC(mContext);
+  }
+  MemoryContext(const MemoryContext&) = delete;
+  MemoryContext& operator=(const MemoryContext&) = delete;
+
+  HDC Get() const { return mContext; }
+  HBITMAP Bitmap() const { return mBitmap.get(); }
+
+ private:
+  HDC mContext;
+  GdiObject<HBITMAP> mBitmap;
+  std::unique_ptr<Selection> mSelection;
+};
+
+/// The device context of a window or of the screen (null).
+class WindowContext {
+ public:
+  explicit WindowContext(HWND window) : mWindow(window), mContext(GetDC(window)) {}
+  ~WindowContext() { ReleaseDC(mWindow, mContext); }
+  WindowContext(const WindowContext&) = delete;
+  WindowContext& operator=(const WindowContext&) = delete;
+
+  HDC Get() const { return mContext; }
+
+ private:
+  HWND mWindow;
+  HDC mContext;
+};
+
+/// The module that this code is in: the component's DLL, or the program that it is linked with.
+HINSTANCE ThisModule();
+
+}  // namespace orx::win32

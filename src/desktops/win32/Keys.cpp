@@ -1,0 +1,67 @@
+#include "desktops/win32/Keys.h"
+
+#include "desktops/win32/Dialog.h"
+
+namespace orx::win32 {
+namespace {
+
+bool IsDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+LRESULT CALLBACK SeeMessage(int code, WPARAM removed, LPARAM data) {
+  auto& message = *reinterpret_cast<MSG*>(data);
+  if (code == HC_ACTION && removed == PM_REMOVE && StrokeOf(message)) {
+    if (Dialog* const dialog = Dialog::Around(message.hwnd)) dialog->Defer(message);
+  }
+  return CallNextHookEx(nullptr, code, removed, data);
+}
+
+}  // namespace
+
+std::optional<KeyStroke> StrokeOf(const MSG& message) {
+  const bool shift = IsDown(VK_SHIFT);
+  if (message.message == WM_SYSCHAR && message.wParam != L' ' && !IsDown(VK_CONTROL)) {
+    auto letter = static_cast<wchar_t>(message.wParam);
+    CharLowerBuffW(&letter, 1);
+    return KeyStroke{Key::Character, letter, shift, true};
+  }
+  if (message.message != WM_KEYDOWN || IsDown(VK_CONTROL)) return std::nullopt;
+  switch (message.wParam) {
+    case VK_TAB:
+      return KeyStroke{Key::Tab, 0, shift, false};
+    case VK_RETURN:
+      return KeyStroke{Key::Enter, 0, shift, false};
+    case VK_ESCAPE:
+      return KeyStroke{Key::Escape, 0, shift, false};
+    default:
+      return std::nullopt;
+  }
+}
+
+KeyHook::KeyHook() : mHook(SetWindowsHookExW(WH_GETMESSAGE, SeeMessage, nullptr, GetCurrentThreadId())) {
+}
+
+KeyHook::~KeyHook() {
+  if (mHook) UnhookWindowsHookEx(mHook);
+}
+
+bool DealWithKey(const MSG& message) {
+  if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
+  Dialog* const dialog = Dialog::Around(message.hwnd);
+  return dialog && dialog->ReportKey(message);
+}
+
+bool HandleOneMessage(MSG& message) {
+  if (message.message == WM_QUIT) {
+    PostQuitMessage(static_cast<int>(message.wParam));
+    return false;
+  }
+  if (!DealWithKey(message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return true;
+}
+
+}  // namespace orx::win32

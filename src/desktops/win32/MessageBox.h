@@ -1,0 +1,19 @@
+// The native message box.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+#include "forms/Message.h"
+
+namespace orx::win32 {
+
+/// Shows a box before `owner` (null: none), runs `running` once the box is up, and returns when it was answered. What
+/// `running` throws closes the box and comes out of here.
+void RunMessageBox(const Message& message, HWND owner, const std::function<void()>& running);
+
+/// The box of this thread that is open, null when there is none.
+HWND OpenMessageBox();
+
+}  // namespace orx::win32

@@ -1,0 +1,155 @@
+#include "desktops/win32/Peer.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "desktops/win32/Accessible.h"
+#include "desktops/win32/Text.h"
+#include "desktops/win32/WindowClasses.h"
+#include "forms/Form.h"
+
+namespace orx::win32 {
+namespace {
+
+constexpr Aspect kAspects[] = {Aspect::Items,   Aspect::Text,    Aspect::Value,     Aspect::Selection,
+                               Aspect::Colors,  Aspect::Place,   Aspect::Enabled,   Aspect::Visible,
+                               Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible};
+
+/// The window property that holds a control's name: an atom of the global table, which other programs can read.
+constexpr wchar_t kNameProperty[] = L"ControlName";
+
+}  // namespace
+
+Peer::Peer(Control& control, Dialog& dialog, HWND window, HWND focus)
+    : mControl(control),
+      mDialog(dialog),
+      mWindow(window),
+      mFocus(focus ? focus : window),
+      mName(GlobalAddAtomW(Widened(control.Name()).c_str())) {
+  SetPropW(mWindow, kNameProperty, reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(mName)));
+  SendMessageW(mWindow, WM_SETFONT, reinterpret_cast<WPARAM>(dialog.Face()), FALSE);
+  SetWindowSubclass(mWindow, &Peer::SubclassProc, 0, reinterpret_cast<DWORD_PTR>(this));
+  if (mFocus != mWindow) SetWindowSubclass(mFocus, &Peer::SubclassProc, 0, reinterpret_cast<DWORD_PTR>(this));
+}
+
+Peer::~Peer() {
+  RemoveWindowSubclass(mWindow, &Peer::SubclassProc, 0);
+  if (mFocus != mWindow) RemoveWindowSubclass(mFocus, &Peer::SubclassProc, 0);
+  RemovePropW(mWindow, kNameProperty);
+  GlobalDeleteAtom(mName);
+}
+
+LRESULT CALLBACK Peer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR peer) {
+  auto& self = *reinterpret_cast<Peer*>(peer);
+  const Dialog::Busy busy(self.mDialog);
+  return self.OnMessage(window, message, wParam, lParam);
+}
+
+LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case kChildCommand:
+      OnCommand(static_cast<int>(wParam));
+      return 0;
+    case kChildNotify:
+      OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+      return 0;
+    case WM_SETFOCUS: {
+      Dialog& dialog = mDialog;
+      const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+      if (!dialog.IsRetired()) FocusCame();
+      return result;
+    }
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      // The press must not move the focus by itself: the field that loses it may refuse.
+      if (mControl.TakesFocus() && !FocusIsGranted()) return 0;
+      break;
+    case WM_MOUSEWHEEL:
+      // A turn of the wheel over a control that the user is not in scrolls the form and changes no value.
+      if (mControl.HasFocus()) break;
+      mDialog.Ground().Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      return 0;
+    default:
+      break;
+  }
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+bool Peer::FocusIsGranted() {
+  bool granted = false;
+  Dialog& dialog = mDialog;
+  Control& control = mControl;
+  Report([&] { control.OwnerForm().UserAct([&] { granted = control.OwnerForm().MoveFocus(control); }); });
+  return granted && !dialog.IsRetired();
+}
+
+void Peer::FocusCame() {
+  Control& control = mControl;
+  Report([&] {
+    mDialog.Ground().Reveal(mWindow);
+    control.OwnerForm().UserFocus(control);
+  });
+}
+
+void Peer::Update(Aspect aspect) {
+  const Dialog::Quiet quiet(mDialog);
+  Mirror(aspect);
+}
+
+void Peer::UpdateAll() {
+  for (const Aspect aspect : kAspects) Update(aspect);
+}
+
+void Peer::TakeFocus() {
+  const Dialog::Quiet quiet(mDialog);
+  // A window that is not the active one takes the focus when it becomes that.
+  if (GetActiveWindow() == mDialog.Window()) FocusNative();
+  mDialog.Ground().Reveal(mWindow);
+}
+
+SIZE Peer::PixelSize() const {
+  const RECT place = mDialog.Ground().PlaceOf(mControl);
+  return {place.right - place.left, place.bottom - place.top};
+}
+
+void Peer::ShowText(HWND window, const std::string& text) {
+  const std::wstring wide = Widened(text);
+  std::wstring shown(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  shown.resize(static_cast<std::size_t>(GetWindowTextW(window, shown.data(), static_cast<int>(shown.size()))));
+  if (wide != shown) SetWindowTextW(window, wide.c_str());
+}
+
+void Peer::Mirror(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Place:
+      return MirrorPlace();
+    case Aspect::Visible:
+      ShowWindow(mWindow, mControl.Visible() ? SW_SHOWNA : SW_HIDE);
+      if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+      return;
+    case Aspect::Enabled:
+      EnableWindow(mWindow, mControl.Enabled());
+      return;
+    case Aspect::ToolTip:
+      return mDialog.ToolTip(mFocus, mControl.ToolTipText());
+    case Aspect::Accessible:
+      return MirrorName();
+    default:
+      return;
+  }
+}
+
+void Peer::MirrorName() {
+  // A caption is the window's text, which is its name already.
+  if (mControl.Caption().empty()) SetAccessibleName(mFocus, mControl.AccessibleName());
+}
+
+void Peer::MirrorPlace() {
+  const RECT place = mDialog.Ground().PlaceOf(mControl);
+  SetWindowPos(mWindow, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+               SWP_NOACTIVATE | SWP_NOZORDER);
+  if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+}
+
+}  // namespace orx::win32

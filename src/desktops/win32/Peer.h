@@ -1,0 +1,79 @@
+// The base of all native mirrors: place, visibility, focus, name and the rest that windows of every kind share.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "desktops/win32/Dialog.h"
+#include "forms/Control.h"
+
+namespace orx::win32 {
+
+/// Sees the messages of its window before the window does. The window belongs to its parent window and may outlive the
+/// peer.
+class Peer : public ControlPeer {
+ public:
+  /// `focus` is the window that takes keys and the focus for the control; null: `window` itself.
+  Peer(Control& control, Dialog& dialog, HWND window, HWND focus = nullptr);
+  ~Peer() override;
+  Peer(const Peer&) = delete;
+  Peer& operator=(const Peer&) = delete;
+
+  void Update(Aspect aspect) final;
+  void TakeFocus() final;
+  /// Brings all aspects up to the state of the control.
+  void UpdateAll();
+
+  HWND Window() const { return mWindow; }
+  HWND FocusWindow() const { return mFocus; }
+  /// The window that the controls in this one stand in.
+  virtual HWND Inside() const { return mWindow; }
+
+  /// True for key messages that belong to the control whatever they mean to the dialog.
+  virtual bool WantsKey(const MSG&) { return false; }
+  /// True when a line break can be typed here, should the form have no use for Enter.
+  virtual bool TakesReturn() const { return false; }
+
+ protected:
+  /// Mirrors one aspect; a kind of control handles its own and leaves the others to this.
+  virtual void Mirror(Aspect aspect);
+  /// Deals with a message of the window or of the focus window. After the form was told of something, this object and
+  /// the form may be gone; see Dialog::IsRetired.
+  virtual LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  /// The window's notifications, by their codes.
+  virtual void OnCommand(int) {}
+  virtual void OnNotify(const NMHDR&) {}
+  /// What SetFocus does; by default the focus window takes the focus.
+  virtual void FocusNative() { SetFocus(mFocus); }
+
+  Dialog& Owner() const { return mDialog; }
+  void Report(const std::function<void()>& act) const { mDialog.Report(act); }
+  /// The width and height of the control's place in pixels.
+  SIZE PixelSize() const;
+  /// Sets the text of a window when it differs.
+  static void ShowText(HWND window, const std::string& text);
+  /// Asks the form for the focus. False when the field that would lose it keeps it.
+  bool FocusIsGranted();
+
+ private:
+  static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                       DWORD_PTR peer);
+  void FocusCame();
+  void MirrorPlace();
+  void MirrorName();
+
+  Control& mControl;
+  Dialog& mDialog;
+  HWND mWindow;
+  HWND mFocus;
+  ATOM mName;
+};
+
+/// The peer of a control, null while its form has no window.
+inline Peer* PeerOf(const Control& control) {
+  return static_cast<Peer*>(control.Peer());
+}
+
+}  // namespace orx::win32

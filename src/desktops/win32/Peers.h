@@ -1,0 +1,68 @@
+// The native mirror of each kind of control, one function a kind, each in the file named after the kind.
+#pragma once
+
+#include <memory>
+
+#include "desktops/win32/Peer.h"
+#include "forms/ControlVisitor.h"
+
+namespace orx::win32 {
+
+/// Where and with which control id a window is to be made.
+struct WindowSite {
+  HWND Parent;
+  int Id;
+};
+
+/// Makes a child window of one of the system's classes or of this desktop's.
+HWND MakeWindow(const wchar_t* className, DWORD style, const WindowSite& site, DWORD extendedStyle = 0);
+/// Makes an empty child window that its peer draws or that holds controls.
+HWND MakePane(DWORD style, const WindowSite& site);
+
+/// Makes the peer of a control with a new window. The window shows nothing of the control yet: call UpdateAll when the
+/// peers of all controls are there.
+std::unique_ptr<Peer> MakePeer(Button& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(CheckBox& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(ComboBox& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(Frame& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(Label& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(NativeArea& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSite& site);
+
+/// Makes the peer of a control of any kind.
+class PeerMaker final : public ControlVisitor {
+ public:
+  explicit PeerMaker(Dialog& dialog) : mDialog(dialog) {}
+
+  std::unique_ptr<Peer> Make(Control& control, const WindowSite& site) {
+    mSite = site;
+    control.Accept(*this);
+    return std::move(mMade);
+  }
+
+  void Visit(Button& control) override { Take(control); }
+  void Visit(CheckBox& control) override { Take(control); }
+  void Visit(ComboBox& control) override { Take(control); }
+  void Visit(Frame& control) override { Take(control); }
+  void Visit(Label& control) override { Take(control); }
+  void Visit(NativeArea& control) override { Take(control); }
+  void Visit(Panel& control) override { Take(control); }
+  void Visit(PictureBox& control) override { Take(control); }
+  void Visit(TabControl& control) override { Take(control); }
+  void Visit(TextBox& control) override { Take(control); }
+
+ private:
+  template <class Kind>
+  void Take(Kind& control) {
+    mMade = MakePeer(control, mDialog, mSite);
+  }
+
+  Dialog& mDialog;
+  WindowSite mSite = {};
+  std::unique_ptr<Peer> mMade;
+};
+
+}  // namespace orx::win32

@@ -1,0 +1,51 @@
+#include "forms/PictureBox.h"
+
+#include "desktops/win32/CanvasPainter.h"
+#include "desktops/win32/Peers.h"
+
+namespace orx::win32 {
+namespace {
+
+class PicturePeer final : public Peer {
+ public:
+  PicturePeer(PictureBox& control, Dialog& dialog, HWND window) : Peer(control, dialog, window), mControl(control) {}
+
+ private:
+  void Mirror(Aspect aspect) override {
+    if (aspect == Aspect::Colors || aspect == Aspect::Drawing) InvalidateRect(Window(), nullptr, FALSE);
+    Peer::Mirror(aspect);
+    if (aspect != Aspect::Place) return;
+    // Drawings fill exactly the size that the control tells.
+    const Size size = mControl.PixelSize();
+    SetWindowPos(Window(), nullptr, 0, 0, size.Width, size.Height, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOMOVE);
+  }
+
+  LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_ERASEBKGND) return TRUE;
+    if (message != WM_PAINT) return Peer::OnMessage(window, message, wParam, lParam);
+    PAINTSTRUCT paint;
+    const HDC screen = BeginPaint(window, &paint);
+    Paint(screen);
+    EndPaint(window, &paint);
+    return 0;
+  }
+
+  void Paint(HDC screen) const {
+    RECT all;
+    GetClientRect(Window(), &all);
+    const MemoryContext buffer(screen, all.right, all.bottom);
+    FillWith(buffer.Get(), all, mControl.BackColor());
+    if (mControl.AutoRedraw()) PaintCanvas(buffer.Get(), mControl.Drawing());
+    BitBlt(screen, 0, 0, all.right, all.bottom, buffer.Get(), 0, 0, SRCCOPY);
+  }
+
+  PictureBox& mControl;
+};
+
+}  // namespace
+
+std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site) {
+  return std::make_unique<PicturePeer>(control, dialog, MakePane(0, site));
+}
+
+}  // namespace orx::win32

@@ -1,0 +1,152 @@
+#include "desktops/win32/Win32Desktop.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <optional>
+
+#include "desktops/win32/DialogWindow.h"
+#include "desktops/win32/Fonts.h"
+#include "desktops/win32/GuestScope.h"
+#include "desktops/win32/MessageBox.h"
+#include "desktops/win32/Picture.h"
+#include "desktops/win32/Pointers.h"
+#include "desktops/win32/RegistrySettings.h"
+#include "desktops/win32/Text.h"
+#include "forms/Form.h"
+
+namespace orx::win32 {
+namespace {
+
+/// The font size, in points, and the resolution for which the dialogs are drawn up.
+constexpr double kDesignPoints = 9;
+constexpr double kDesignDotsPerInch = 96;
+
+std::string LocaleText(LCTYPE what) {
+  wchar_t text[16] = {};
+  GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, what, text, static_cast<int>(std::size(text)));
+  return Narrowed(text);
+}
+
+/// What the frame adds to a client area.
+SIZE FrameSize(BorderStyle border) {
+  RECT frame = {};
+  const bool isFixed = border == BorderStyle::Fixed;
+  AdjustWindowRectEx(&frame, WS_POPUP | WS_CAPTION | WS_SYSMENU | (isFixed ? 0 : WS_THICKFRAME), FALSE,
+                     isFixed ? WS_EX_DLGMODALFRAME : 0);
+  return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+/// The help engine takes the file's name in 8 bits.
+void AskHelpEngine(const HelpRequest& request) {
+  const std::wstring wide = Widened(request.FileName);
+  const int length = WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);
+  std::string file(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, file.data(), length, nullptr, nullptr);
+  WinHelpA(reinterpret_cast<HWND>(request.WindowHandle), file.c_str(), static_cast<UINT>(request.Command),
+           static_cast<ULONG_PTR>(request.ContextId));
+}
+
+double MeasureScale() {
+  const GuestScope guest;
+  return SystemDpi() / kDesignDotsPerInch * (DialogFontPoints() / kDesignPoints);
+}
+
+}  // namespace
+
+struct Win32Desktop::State {
+  RegistrySettings Settings;
+  std::optional<numbers::Separators> Separators;
+  std::optional<Rect> WorkArea;
+  std::function<void(const HelpRequest&)> HelpEngine = AskHelpEngine;
+  double Scale = MeasureScale();
+};
+
+Win32Desktop::Win32Desktop() : mState(std::make_unique<State>()) {
+}
+
+Win32Desktop::~Win32Desktop() {
+  CloseOpenForms();
+}
+
+ScreenMetrics Win32Desktop::Metrics(BorderStyle border) const {
+  const GuestScope guest;
+  RECT area = {};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+  const auto twips = [this](LONG pixels) { return ToTwips(static_cast<int>(pixels)); };
+  ScreenMetrics metrics;
+  metrics.Screen = {twips(GetSystemMetrics(SM_CXSCREEN)), twips(GetSystemMetrics(SM_CYSCREEN))};
+  metrics.WorkArea = {twips(area.left), twips(area.top), twips(area.right - area.left), twips(area.bottom - area.top)};
+  if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
+  const SIZE frame = FrameSize(border);
+  metrics.Frame = {twips(frame.cx), twips(frame.cy)};
+  return metrics;
+}
+
+double Win32Desktop::Scale() const {
+  return mState->Scale;
+}
+
+numbers::Separators Win32Desktop::Separators() const {
+  if (mState->Separators) return *mState->Separators;
+  return {LocaleText(LOCALE_SDECIMAL), LocaleText(LOCALE_STHOUSAND), LocaleText(LOCALE_SCURRENCY)};
+}
+
+void Win32Desktop::Separators(const numbers::Separators& value) {
+  mState->Separators = value;
+}
+
+SettingsStore& Win32Desktop::Settings() {
+  return mState->Settings;
+}
+
+void Win32Desktop::WorkArea(const Rect& value) {
+  mState->WorkArea = value;
+}
+
+void Win32Desktop::HelpEngine(std::function<void(const HelpRequest&)> engine) {
+  mState->HelpEngine = std::move(engine);
+}
+
+void Win32Desktop::ProcessPendingEvents() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+    if (!HandleOneMessage(message)) return;
+}
+
+bool Win32Desktop::SavePicture(const Form& form, const std::string& pngPath) const {
+  return form.Visible() && win32::SavePicture(reinterpret_cast<HWND>(form.Window()->NativeHandle()), pngPath);
+}
+
+bool Win32Desktop::SaveMessagePicture(const std::string& pngPath) const {
+  return win32::SavePicture(OpenMessageBox(), pngPath);
+}
+
+std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
+  const GuestScope guest;
+  INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
+  InitCommonControlsEx(&controls);
+  return std::make_unique<DialogWindow>(form);
+}
+
+void Win32Desktop::DoShowMessage(const Message& message, FormWindow* owner) {
+  const GuestScope guest;
+  const HWND window = owner ? reinterpret_cast<HWND>(owner->NativeHandle()) : GetActiveWindow();
+  RunMessageBox(message, window, [&] { ModalIsRunning({nullptr, &message}); });
+}
+
+void Win32Desktop::DoBeep() {
+  MessageBeep(MB_OK);
+}
+
+void Win32Desktop::DoSetPointer(orx::Pointer value) {
+  // Default comes back with the next move of the mouse, but a user who waits does not move it.
+  SetCursor(value == orx::Pointer::Default ? LoadCursorW(nullptr, IDC_ARROW) : CursorOf(value));
+}
+
+void Win32Desktop::DoShowHelp(const HelpRequest& request) {
+  mState->HelpEngine(request);
+}
+
+}  // namespace orx::win32

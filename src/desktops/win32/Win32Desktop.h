@@ -1,0 +1,52 @@
+// The desktop of Windows: shows the dialogs as native windows. Hosts include this header alone; it needs no headers of
+// the platform.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "forms/Desktop.h"
+
+namespace orx::win32 {
+
+/// Use it on one thread only, which has a message queue. It is a guest there: the look of the common controls and the
+/// awareness of the screen's dpi are taken for the time of a call and given back. Dialogs take the user's font for
+/// messages, at 9 points or more, and grow with it and with the system's dpi.
+class Win32Desktop final : public Desktop {
+ public:
+  Win32Desktop();
+  /// Closes the forms that are still open.
+  ~Win32Desktop() override;
+
+  ScreenMetrics Metrics(BorderStyle border) const override;
+  double Scale() const override;
+  numbers::Separators Separators() const override;
+  SettingsStore& Settings() override;
+  void ProcessPendingEvents() override;
+
+  /// Gives number separators in place of the locale's.
+  void Separators(const numbers::Separators& value);
+  /// Gives a part of the screen, in twips, to keep the dialogs in, in place of the screen's own work area.
+  void WorkArea(const Rect& value);
+  /// Gives a function in place of the platform's help engine.
+  void HelpEngine(std::function<void(const HelpRequest&)> engine);
+
+  /// Writes a picture of a form that is shown, or of the message box that is open, without the frame of its window, as
+  /// PNG file. False when nothing is shown or the file cannot be written.
+  bool SavePicture(const Form& form, const std::string& pngPath) const;
+  bool SaveMessagePicture(const std::string& pngPath) const;
+
+ protected:
+  std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
+  void DoShowMessage(const Message& message, FormWindow* owner) override;
+  void DoBeep() override;
+  void DoSetPointer(orx::Pointer value) override;
+  void DoShowHelp(const HelpRequest& request) override;
+
+ private:
+  struct State;
+  std::unique_ptr<State> mState;
+};
+
+}  // namespace orx::win32

@@ -1,0 +1,53 @@
+#include "desktops/win32/WindowClasses.h"
+
+#include "desktops/win32/Dialog.h"
+
+namespace orx::win32 {
+namespace {
+
+/// Dialogs of several threads share the classes.
+volatile LONG theUsers = 0;
+
+LRESULT CALLBACK PaneProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (Reflect(message, wParam, lParam)) return 0;
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void Register(const wchar_t* name, WNDPROC proc) {
+  WNDCLASSEXW made = {};
+  made.cbSize = sizeof(made);
+  made.lpszClassName = name;
+  made.lpfnWndProc = proc;
+  made.hInstance = ThisModule();
+  made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  made.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  RegisterClassExW(&made);
+}
+
+}  // namespace
+
+WindowClasses::WindowClasses() {
+  if (InterlockedIncrement(&theUsers) > 1) return;
+  Register(kDialog, &Dialog::WindowProc);
+  Register(kPane, &PaneProc);
+}
+
+WindowClasses::~WindowClasses() {
+  if (InterlockedDecrement(&theUsers) > 0) return;
+  UnregisterClassW(kDialog, ThisModule());
+  UnregisterClassW(kPane, ThisModule());
+}
+
+bool Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_COMMAND && lParam != 0) {
+    SendMessageW(reinterpret_cast<HWND>(lParam), kChildCommand, HIWORD(wParam), 0);
+    return true;
+  }
+  if (message == WM_NOTIFY) {
+    SendMessageW(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, kChildNotify, 0, lParam);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace orx::win32

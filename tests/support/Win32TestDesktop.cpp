@@ -1,0 +1,248 @@
+// The user of the Windows desktop: sends real mouse and key messages to the native windows and reads those back.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "desktops/win32/MessageBox.h"
+#include "desktops/win32/Peer.h"
+#include "desktops/win32/Text.h"
+#include "desktops/win32/Win32Desktop.h"
+#include "tests/support/User.h"
+
+namespace orx::test {
+namespace {
+
+using win32::Narrowed;
+using win32::PeerOf;
+using win32::Widened;
+
+std::wstring TextOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+HWND WindowOf(Form& form) {
+  return form.Window() ? reinterpret_cast<HWND>(form.Window()->NativeHandle()) : nullptr;
+}
+
+class Win32User final : public User {
+ public:
+  explicit Win32User(win32::Win32Desktop& desktop) : mDesktop(desktop) {}
+
+  void Click(Button& button) override {
+    if (CanReach(button)) MouseClick(PeerOf(button)->Window());
+  }
+
+  void Toggle(CheckBox& box) override {
+    // The box itself is at the left end.
+    if (CanReach(box)) MouseClickAt(PeerOf(box)->Window(), {8, HeightOf(PeerOf(box)->Window()) / 2});
+  }
+
+  void ClickInto(Control& control) override {
+    if (!CanReach(control)) return;
+    const HWND window = PeerOf(control)->FocusWindow();
+    MouseClick(window);
+    // A drop-down list opens on a click; the user looks and closes it again.
+    if (PeerOf(control) && SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0)) KeyTo(window, VK_ESCAPE);
+  }
+
+  void Type(TextBox& field, const std::string& text) override { ClickAndType(field, text); }
+  void Type(ComboBox& box, const std::string& text) override { ClickAndType(box, text); }
+
+  void Choose(ComboBox& box, int index) override {
+    if (!CanReach(box)) return;
+    const HWND combo = PeerOf(box)->Window();
+    RECT client;
+    GetClientRect(combo, &client);
+    MouseClickAt(combo, {client.right - 8, client.bottom / 2});
+    if (!PeerOf(box) || !SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0)) return;
+    const HWND focus = PeerOf(box)->FocusWindow();
+    // From the first entry on, whatever was selected.
+    SendMessageW(combo, CB_SETCURSEL, 0, 0);
+    for (int below = 0; below < index; ++below) KeyTo(focus, VK_DOWN);
+    KeyTo(focus, VK_RETURN);
+  }
+
+  void SelectTab(TabControl& tabs, int tab) override {
+    if (!CanReach(tabs)) return;
+    RECT place = {};
+    SendMessageW(PeerOf(tabs)->Window(), TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&place));
+    MouseClickAt(PeerOf(tabs)->Window(), {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+  }
+
+  void Press(Form& form, const KeyStroke& stroke) override {
+    if (!WindowOf(form)) return;
+    Activate(WindowOf(form));
+    HWND focus = GetFocus();
+    if (!focus || GetAncestor(focus, GA_ROOT) != WindowOf(form)) focus = WindowOf(form);
+    if (stroke.Shift) HoldShift(true);
+    switch (stroke.Key) {
+      case Key::Tab:
+        KeyTo(focus, VK_TAB);
+        break;
+      case Key::Enter:
+        KeyTo(focus, VK_RETURN);
+        break;
+      case Key::Escape:
+        KeyTo(focus, VK_ESCAPE);
+        break;
+      case Key::Character:
+        PostMessageW(focus, stroke.Alt ? WM_SYSCHAR : WM_CHAR, static_cast<WPARAM>(stroke.Character),
+                     stroke.Alt ? kAltDown : 1);
+        break;
+    }
+    mDesktop.ProcessPendingEvents();
+    if (stroke.Shift) HoldShift(false);
+  }
+
+  void CloseBox(Form& form) override {
+    if (!WindowOf(form)) return;
+    PostMessageW(WindowOf(form), WM_SYSCOMMAND, SC_CLOSE, 0);
+    mDesktop.ProcessPendingEvents();
+  }
+
+  void AnswerMessage() override {
+    const HWND box = win32::OpenMessageBox();
+    if (const HWND button = box ? FindWindowExW(box, nullptr, L"BUTTON", nullptr) : nullptr) MouseClick(button);
+  }
+
+  Seen See(Control& control) override {
+    if (!PeerOf(control)) return {};
+    const HWND window = PeerOf(control)->Window();
+    const bool visible = IsWindowVisible(window);
+    Seen seen{visible, visible && IsReallyEnabled(window), HasNativeFocus(control), ShownText(control), 0};
+    if (dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, BM_GETCHECK, 0, 0));
+    if (dynamic_cast<ComboBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
+    if (dynamic_cast<TabControl*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, TCM_GETCURSEL, 0, 0));
+    return seen;
+  }
+
+  std::string SeeCaption(Form& form) override { return Narrowed(TextOf(WindowOf(form))); }
+
+ private:
+  static constexpr LPARAM kAltDown = (LPARAM{1} << 29) | 1;
+
+  static LONG HeightOf(HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    return client.bottom;
+  }
+
+  /// A window has to be active before it takes keys.
+  static void Activate(HWND window) {
+    const HWND root = GetAncestor(window, GA_ROOT);
+    if (GetActiveWindow() != root && IsWindowEnabled(root)) SetActiveWindow(root);
+  }
+
+  /// True when the user finds the control on the screen; one that is scrolled away is brought into view.
+  static bool CanReach(Control& control) {
+    if (!PeerOf(control) || !IsWindowVisible(PeerOf(control)->Window())) return false;
+    win32::Dialog::Around(PeerOf(control)->Window())->Ground().Reveal(PeerOf(control)->Window());
+    return true;
+  }
+
+  void MouseClick(HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    MouseClickAt(window, {client.right / 2, client.bottom / 2});
+  }
+
+  /// Clicks through the top window, as the mouse does: what covers the window or is disabled gets in the way.
+  void MouseClickAt(HWND window, POINT at) {
+    Activate(window);
+    const HWND root = GetAncestor(window, GA_ROOT);
+    POINT place = at;
+    MapWindowPoints(window, root, &place, 1);
+    const HWND hit = WindowAt(root, place);
+    if (!hit || !IsReallyEnabled(hit)) return;
+    MapWindowPoints(root, hit, &place, 1);
+    const LPARAM where = MAKELPARAM(place.x, place.y);
+    PostMessageW(hit, WM_LBUTTONDOWN, MK_LBUTTON, where);
+    mDesktop.ProcessPendingEvents();
+    if (IsWindow(hit)) PostMessageW(hit, WM_LBUTTONUP, 0, where);
+    mDesktop.ProcessPendingEvents();
+  }
+
+  /// The innermost visible window at a point of `outer` that takes the mouse.
+  static HWND WindowAt(HWND outer, POINT place) {
+    const HWND inner = ChildWindowFromPointEx(outer, place, CWP_SKIPINVISIBLE);
+    if (!inner || inner == outer) return outer;
+    MapWindowPoints(outer, inner, &place, 1);
+    return WindowAt(inner, place);
+  }
+
+  static bool IsReallyEnabled(HWND window) {
+    for (HWND at = window; at; at = GetAncestor(at, GA_PARENT)) {
+      if (!IsWindowEnabled(at)) return false;
+      if (GetAncestor(at, GA_ROOT) == at) return true;
+    }
+    return true;
+  }
+
+  void KeyTo(HWND window, WPARAM key) {
+    PostMessageW(window, WM_KEYDOWN, key, 1);
+    PostMessageW(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+    mDesktop.ProcessPendingEvents();
+  }
+
+  static void HoldShift(bool down) {
+    BYTE keys[256] = {};
+    GetKeyboardState(keys);
+    keys[VK_SHIFT] = down ? 0x80 : 0;
+    SetKeyboardState(keys);
+  }
+
+  void ClickAndType(Control& control, const std::string& text) {
+    ClickInto(control);
+    if (!PeerOf(control) || !control.HasFocus()) return;
+    const HWND field = PeerOf(control)->FocusWindow();
+    PostMessageW(field, WM_CHAR, 1, 1);  // Ctrl+A
+    if (text.empty()) PostMessageW(field, WM_KEYDOWN, VK_DELETE, 1);
+    for (const wchar_t unit : Widened(text)) PostMessageW(field, WM_CHAR, unit, 1);
+    mDesktop.ProcessPendingEvents();
+  }
+
+  static bool HasNativeFocus(Control& control) { return GetFocus() == PeerOf(control)->FocusWindow(); }
+
+  static std::string ShownText(Control& control) {
+    const HWND window = PeerOf(control)->Window();
+    if (dynamic_cast<TextBox*>(&control)) return win32::FromNativeLines(TextOf(window));
+    if (dynamic_cast<ComboBox*>(&control)) return Narrowed(TextOf(window));
+    if (dynamic_cast<TabControl*>(&control)) return WithoutMnemonic(ShownTab(window));
+    return WithoutMnemonic(Narrowed(TextOf(window)));
+  }
+
+  static std::string ShownTab(HWND tabs) {
+    wchar_t text[200] = {};
+    TCITEMW item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    item.cchTextMax = static_cast<int>(std::size(text));
+    SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0)),
+                 reinterpret_cast<LPARAM>(&item));
+    return Narrowed(text);
+  }
+
+  win32::Win32Desktop& mDesktop;
+};
+
+class Win32TestDesktop final : public TestDesktop {
+ public:
+  Desktop& Get() override { return mDesktop; }
+  User& Person() override { return mUser; }
+  void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+
+ private:
+  win32::Win32Desktop mDesktop;
+  Win32User mUser{mDesktop};
+};
+
+}  // namespace
+
+std::unique_ptr<TestDesktop> MakeTestDesktop() {
+  return std::make_unique<Win32TestDesktop>();
+}
+
+}  // namespace orx::test
