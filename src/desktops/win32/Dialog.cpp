@@ -50,7 +50,8 @@ bool Dialog::ReportKey(const MSG& message) {
   if (mRetired) return false;
   Control* const active = mForm.ActiveControl();
   Peer* const peer = active ? PeerOf(*active) : nullptr;
-  if (peer && peer->WantsKey(message)) return false;
+  if (peer && peer->UsesKey(message)) return true;
+  if (mRetired || (peer && peer->WantsKey(message))) return false;
   const std::optional<KeyStroke> stroke = StrokeOf(message);
   if (!stroke) return false;
   bool handled = false;
@@ -77,8 +78,7 @@ void Dialog::Redeliver() {
 void Dialog::FocusActive() {
   Control* const active = mRetired ? nullptr : mForm.ActiveControl();
   if (!active || !PeerOf(*active) || GetActiveWindow() != mWindow) return;
-  const Quiet quiet(*this);
-  SetFocus(PeerOf(*active)->FocusWindow());
+  PeerOf(*active)->TakeFocus();
 }
 
 void Dialog::UpdateCaption() {

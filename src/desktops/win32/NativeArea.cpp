@@ -26,7 +26,7 @@ class NativeAreaPeer final : public Peer {
     }
   }
 
-  bool WantsKey(const MSG& message) override {
+  bool UsesKey(const MSG& message) override {
     if (!mControl.FilterKey || !IsChild(Window(), message.hwnd)) return false;
     MSG seen = message;
     return mControl.FilterKey(&seen);

@@ -33,6 +33,8 @@ class Peer : public ControlPeer {
 
   /// True for key messages that belong to the control whatever they mean to the dialog.
   virtual bool WantsKey(const MSG&) { return false; }
+  /// Deals with a key message in place of the window that it is for. False when the message goes on.
+  virtual bool UsesKey(const MSG&) { return false; }
   /// True when a line break can be typed here, should the form have no use for Enter.
   virtual bool TakesReturn() const { return false; }
 

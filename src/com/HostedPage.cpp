@@ -1,0 +1,78 @@
+#include "com/HostedPage.h"
+
+#include "com/Errors.h"
+#include "com/HostAdapters.h"
+#include "forms/Form.h"
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::com {
+namespace {
+
+ComPtr<IDispatch> MembersOf(const HostedControl& control) {
+  auto members = ComPtr<IDispatch>::From(&control.Object());
+  if (!members) ThrowError(E_NOINTERFACE, "The control has no automation members.");
+  return members;
+}
+
+/// Says in the page's place why it is not there.
+void ShowReason(HWND area, const std::string& reason) {
+  RECT place;
+  GetClientRect(area, &place);
+  const HWND text = CreateWindowExW(0, L"STATIC", Widened(reason).c_str(), WS_CHILD | WS_VISIBLE | SS_NOPREFIX, 0, 0,
+                                    place.right, place.bottom, area, nullptr, nullptr, nullptr);
+  SendMessageW(text, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+}
+
+}  // namespace
+
+HostedPage::HostedPage(const PageSite& site, const std::string& progId, const CLSID& control)
+    : mProgId(progId),
+      mControl(control),
+      mMembers(MembersOf(mControl).Get()),
+      mArea(site.Parent, site.Name, {.Place = site.Place}) {
+  mEvents = PageEvents::Connect(mControl.Object(), *this);
+  HandleArea();
+}
+
+HostedPage::~HostedPage() {
+  if (mEvents) mEvents->Disconnect();
+}
+
+void HostedPage::HandleArea() {
+  mArea.Opened = [this](std::uintptr_t window) { Open(reinterpret_cast<HWND>(window)); };
+  mArea.Closing = [this] { mControl.Close(); };
+  mArea.Sized = [this](Size) { mControl.Fit(); };
+  mArea.FocusEnters = [this] { mControl.EnterFocus(); };
+  mArea.LostFocus = [this] { mControl.LeaveFocus(); };
+  mArea.FilterKey = [this](void* message) { return mControl.FilterKey(*static_cast<MSG*>(message)); };
+  mControl.FocusCameByItself = [this] { mArea.OwnerForm().UserFocus(mArea); };
+}
+
+void HostedPage::Open(HWND area) {
+  try {
+    mControl.Open(area);
+  } catch (const RunTimeError& error) {
+    // The dialog is on its way to the screen with its buttons, and the page's members answer.
+    ShowReason(area, "The page control " + mProgId + " does not show itself. " + error.what());
+  }
+}
+
+void HostedPage::Client(HostObject* value) {
+  const ComPtr<IDispatch> object = AutomationOf(value);
+  if (value && !object)
+    ThrowError(E_NOINTERFACE, "The page control " + mProgId + " cannot edit this object: it is no automation object.");
+  mMembers.Put("Client", Variant(object.Get()));
+  mClient = value;
+}
+
+void HostedPage::Language(ILanguage* value) {
+  mMembers.Put("Language", Variant(AutomationOf(value).Get()));
+  mLanguage = value;
+}
+
+void HostedPage::Selected(bool value) {
+  if (mMembers.Has("Selected")) mMembers.Put("Selected", Variant(value));
+  PropertyPage::Selected(value);
+}
+
+}  // namespace orx::com

@@ -1,0 +1,46 @@
+// Hears the events of a page control and raises them as the page's own.
+#pragma once
+
+#include <windows.h>
+
+#include <ocidl.h>
+
+#include "com/Counted.h"
+#include "com/SourceInterface.h"
+
+namespace orx {
+class PropertyPage;
+}
+
+namespace orx::com {
+
+struct PageEvent;
+
+/// The receiving end of _IMapPropertyPageEvents, or of a control's own event interface with events of the same names.
+/// What a handler throws goes back to the control as an error code with description.
+class PageEvents final : public Counted<IDispatch> {
+ public:
+  /// Connects the control's events with those of the page. Empty when the control raises none that the page knows.
+  static ComPtr<PageEvents> Connect(IUnknown& control, PropertyPage& page);
+  /// Ends the connection; to be called before the page goes.
+  void Disconnect() noexcept;
+
+  PageEvents(PropertyPage& page, SourceInterface source) : mPage(&page), mSource(std::move(source)) {}
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given, VARIANT* result,
+                                   EXCEPINFO* exception, UINT* wrong) noexcept override;
+
+ private:
+  void* Find(REFIID iid) noexcept override;
+  const PageEvent* EventOf(DISPID id) const;
+
+  PropertyPage* mPage;
+  SourceInterface mSource;
+  ComPtr<IConnectionPoint> mPoint;
+  DWORD mCookie = 0;
+};
+
+}  // namespace orx::com
