@@ -5,6 +5,7 @@
 #include <map>
 #include <mutex>
 
+#include "com/PageControls.h"
 #include "desktops/win32/Win32Desktop.h"
 #include "maplibrary/pages/PageFactory.h"
 
@@ -25,7 +26,8 @@ class ThreadSurroundings final : public Surroundings {
 
  private:
   // The pages of open dialogs go with the desktop, which is why it goes first.
-  maplibrary::PageFactory mPages;
+  maplibrary::PageFactory mEmbedded;
+  PageControlFactory mPages{mEmbedded};
   std::unique_ptr<Desktop> mScreen;
 };
 
