@@ -58,15 +58,15 @@ void HostedPage::Open(HWND area) {
 }
 
 void HostedPage::Client(HostObject* value) {
-  const ComPtr<IDispatch> object = AutomationOf(value);
+  IDispatch* const object = AutomationOf(value);
   if (value && !object)
     ThrowError(E_NOINTERFACE, "The page control " + mProgId + " cannot edit this object: it is no automation object.");
-  mMembers.Put("Client", Variant(object.Get()));
+  mMembers.Put("Client", Variant(object));
   mClient = value;
 }
 
 void HostedPage::Language(ILanguage* value) {
-  mMembers.Put("Language", Variant(AutomationOf(value).Get()));
+  mMembers.Put("Language", Variant(AutomationOf(value)));
   mLanguage = value;
 }
 
