@@ -6,13 +6,14 @@ if(NOT TARGET GTest::gtest)
   add_library(GTest::gtest ALIAS gtest)
 endif()
 
-set(ORX_WINE_FOLDER ${CMAKE_SOURCE_DIR}/build/wine CACHE PATH "The folder of the Wine prefixes that the tests use")
+set(ORX_WINE_FOLDER ${CMAKE_BINARY_DIR}/wine CACHE PATH "The folder of the Wine prefixes that the tests use")
 
-# orx_add_windows_test(TARGET LABEL PREFIX [VARIABLE=VALUE]): the whole program is one test, as starting one for each
-# case takes longer than most cases. What it prints is counted by ./check.
-function(orx_add_windows_test target label prefix)
-  string(REGEX REPLACE "\\.$" "" name ${prefix})
-  add_test(NAME windows.${name}.${target} COMMAND ${CMAKE_SOURCE_DIR}/tools/wine-run $<TARGET_FILE:${target}>)
-  set_tests_properties(windows.${name}.${target} PROPERTIES LABELS ${label} TIMEOUT 300
+# orx_add_windows_test(TARGET LABELS PREFIX [VARIABLE=VALUE]): the whole program is one test, as starting one for each
+# case takes longer than most cases. ./check counts the cases by what the program prints.
+function(orx_add_windows_test target labels prefix)
+  set(name windows.${prefix}${target})
+  set(run ${CMAKE_SOURCE_DIR}/tools/wine-run)
+  add_test(NAME ${name} COMMAND ${run} $<TARGET_FILE:${target}> --gtest_brief=1)
+  set_tests_properties(${name} PROPERTIES LABELS "${labels}" TIMEOUT 300
     ENVIRONMENT "ORX_WINE_FOLDER=${ORX_WINE_FOLDER};${ARGN}")
 endfunction()
