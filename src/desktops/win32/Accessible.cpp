@@ -4,20 +4,37 @@
 // After initguid.h, so that the identifiers are defined here.
 #include <oleacc.h>
 
+#include <memory>
+
 #include "desktops/win32/Text.h"
 
 namespace orx::win32 {
+namespace {
 
-void SetAccessibleName(HWND window, const std::string& name) {
-  if (name.empty()) return;
+struct Releaser {
+  void operator()(IUnknown* object) const { object->Release(); }
+};
+
+/// Null on a thread that has not initialised COM, which is not for a guest to do.
+std::unique_ptr<IAccPropServices, Releaser> Services() {
   IAccPropServices* services = nullptr;
-  // Fails on a thread that has not initialised COM, which is not for a guest to do.
-  if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
-                              reinterpret_cast<void**>(&services))))
-    return;
-  services->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
-                           Widened(name).c_str());
-  services->Release();
+  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                   reinterpret_cast<void**>(&services));
+  return std::unique_ptr<IAccPropServices, Releaser>(services);
+}
+
+}  // namespace
+
+bool SetAccessibleName(HWND window, const std::string& name) {
+  if (name.empty()) return false;
+  const auto services = Services();
+  return services && SUCCEEDED(services->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                                        PROPID_ACC_NAME, Widened(name).c_str()));
+}
+
+void ForgetAccessibleName(HWND window) {
+  if (const auto services = Services())
+    services->ClearHwndProps(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &PROPID_ACC_NAME, 1);
 }
 
 }  // namespace orx::win32

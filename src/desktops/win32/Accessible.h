@@ -7,7 +7,9 @@
 
 namespace orx::win32 {
 
-/// Gives a window a name. Does nothing for an empty name, and where the system has no such service.
-void SetAccessibleName(HWND window, const std::string& name);
+/// Gives a window a name. Does nothing and returns false for an empty name, and where the system has no such service.
+bool SetAccessibleName(HWND window, const std::string& name);
+/// Takes the name back; the platform keeps it beyond the life of the window.
+void ForgetAccessibleName(HWND window);
 
 }  // namespace orx::win32

@@ -16,6 +16,8 @@ class ButtonPeer final : public Peer {
     Peer::Mirror(aspect);
   }
 
+  bool LeavesArrowKeys() const override { return true; }
+
   void OnCommand(int code) override {
     Button& control = mControl;
     if (code == BN_CLICKED) Report([&] { control.UserPress(); });

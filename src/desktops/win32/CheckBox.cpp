@@ -17,6 +17,8 @@ class CheckBoxPeer final : public Peer {
     Peer::Mirror(aspect);
   }
 
+  bool LeavesArrowKeys() const override { return true; }
+
   void OnCommand(int code) override {
     CheckBox& control = mControl;
     if (code == BN_CLICKED) Report([&] { control.UserToggle(); });

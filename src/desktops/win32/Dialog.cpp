@@ -10,7 +10,6 @@
 #include "desktops/win32/Peer.h"
 #include "desktops/win32/Pointers.h"
 #include "desktops/win32/Text.h"
-#include "desktops/win32/WindowClasses.h"
 #include "forms/Form.h"
 
 namespace orx::win32 {
@@ -30,7 +29,20 @@ Dialog::Dialog(Form& form) : mForm(form), mFont(MakeDialogFont()), mGround(form)
 
 Dialog::~Dialog() {
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, 0);
+  if (mDestroyed) return;
+  ReleaseOwned();
   DestroyWindow(mWindow);
+}
+
+void Dialog::ReleaseOwned() const {
+  // The platform destroys the windows that a window owns with it, but here each form has its own life.
+  const auto release = [](HWND window, LPARAM self) -> BOOL {
+    const auto owner = reinterpret_cast<const Dialog*>(self)->mWindow;
+    if (GetWindow(window, GW_OWNER) == owner && Around(window))
+      SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(GetWindow(owner, GW_OWNER)));
+    return TRUE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), release, reinterpret_cast<LPARAM>(this));
 }
 
 DWORD Dialog::Style() const {
@@ -48,16 +60,27 @@ void Dialog::Report(const std::function<void()>& act) {
 bool Dialog::ReportKey(const MSG& message) {
   const Busy busy(*this);
   if (mRetired) return false;
+  if (!NoticeFocus()) return true;
   Control* const active = mForm.ActiveControl();
   Peer* const peer = active ? PeerOf(*active) : nullptr;
   if (peer && peer->UsesKey(message)) return true;
   if (mRetired || (peer && peer->WantsKey(message))) return false;
-  const std::optional<KeyStroke> stroke = StrokeOf(message);
+  const std::optional<KeyStroke> stroke =
+      peer && peer->LeavesArrowKeys() && ArrowStrokeOf(message) ? ArrowStrokeOf(message) : StrokeOf(message);
   if (!stroke) return false;
   bool handled = false;
   Report([&] { handled = mForm.UserKey(*stroke); });
   // The platform would sound its signal for a dialog key that has nothing to do in a field of one line.
   return handled || (stroke->Key != Key::Character && !(peer && peer->TakesReturn()));
+}
+
+bool Dialog::NoticeFocus() {
+  // Windows of somebody else tell nobody here that they have taken the focus.
+  const HWND focus = GetFocus();
+  const Peer* const holder = Peer::Holding(focus);
+  if (!holder || !holder->HoldsForeignWindows() || holder->Subject().HasFocus()) return true;
+  Report([&] { mForm.UserFocus(const_cast<Control&>(holder->Subject())); });
+  return !mRetired && GetFocus() == focus;
 }
 
 void Dialog::Defer(MSG& message) {
@@ -76,9 +99,9 @@ void Dialog::Redeliver() {
 }
 
 void Dialog::FocusActive() {
-  Control* const active = mRetired ? nullptr : mForm.ActiveControl();
-  if (!active || !PeerOf(*active) || GetActiveWindow() != mWindow) return;
-  PeerOf(*active)->TakeFocus();
+  const Control* const active = mRetired ? nullptr : mForm.ActiveControl();
+  if (!active || !active->IsReachable() || !PeerOf(*active) || GetActiveWindow() != mWindow) return;
+  PeerOf(*active)->RestoreFocus(mLastFocus);
 }
 
 void Dialog::UpdateCaption() {
@@ -101,16 +124,7 @@ void Dialog::Show(ShowMode mode, HWND owner) {
   mActiveBefore = GetActiveWindow();
   SetWindowLongPtrW(mWindow, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
   if (mode == ShowMode::Modal) {
-    const auto disable = [](HWND window, LPARAM self) -> BOOL {
-      auto& dialog = *reinterpret_cast<Dialog*>(self);
-      if (window == dialog.mWindow || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-      EnableWindow(window, FALSE);
-      dialog.mDisabled.push_back(window);
-      return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
-    // The owner may belong to another thread.
-    if (owner && IsWindowEnabled(owner)) disable(owner, reinterpret_cast<LPARAM>(this));
+    mBarrier.emplace(mWindow, owner);
   } else {
     mHook.emplace();
   }
@@ -124,12 +138,13 @@ void Dialog::Hide() {
   const Quiet quiet(*this);
   mHook.reset();
   // While they are disabled, the platform would look for a window of another program to activate.
-  for (const HWND window : mDisabled) EnableWindow(window, TRUE);
-  mDisabled.clear();
+  mBarrier.reset();
   const bool wasActive = GetActiveWindow() == mWindow;
   ShowWindow(mWindow, SW_HIDE);
   if (wasActive && mActiveBefore && IsWindow(mActiveBefore) && IsWindowVisible(mActiveBefore))
     SetActiveWindow(mActiveBefore);
+  // A hidden window is to outlive the one that it stood before.
+  if (!mDestroyed) SetWindowLongPtrW(mWindow, GWLP_HWNDPARENT, 0);
 }
 
 void Dialog::ToolTip(HWND tool, const std::string& text) {
@@ -179,6 +194,17 @@ void Dialog::Moved() {
   });
 }
 
+void Dialog::WatchActivation(bool isActive) {
+  if (isActive || !IsChild(mWindow, GetFocus())) return;
+  mLastFocus = GetFocus();
+}
+
+void Dialog::Destroyed() {
+  // By the host, together with the window that this one stood before: the form goes as by its close box.
+  mDestroyed = true;
+  Report([this] { mForm.UserClose(); });
+}
+
 bool Dialog::ShowPointer() const {
   const HCURSOR pointer = CursorOf(mForm.OwnerDesktop().Pointer());
   if (pointer) SetCursor(pointer);
@@ -198,6 +224,12 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       Report([this] { mForm.UserClose(); });
       return 0;
+    case WM_DESTROY:
+      Destroyed();
+      return 0;
+    case WM_ACTIVATE:
+      WatchActivation(LOWORD(wParam) != WA_INACTIVE);
+      break;
     case WM_SETFOCUS:
       FocusActive();
       return 0;

@@ -8,9 +8,11 @@
 #include <optional>
 #include <vector>
 
+#include "desktops/win32/Barrier.h"
 #include "desktops/win32/Ground.h"
 #include "desktops/win32/Handles.h"
 #include "desktops/win32/Keys.h"
+#include "desktops/win32/WindowClasses.h"
 #include "forms/FormWindow.h"
 
 namespace orx::win32 {
@@ -85,24 +87,32 @@ class Dialog {
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   friend class WindowClasses;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void WatchActivation(bool isActive);
+  void Destroyed();
+  void ReleaseOwned() const;
+  bool NoticeFocus();
   void Sized();
   void Moved();
   bool ShowPointer() const;
   void Redeliver();
   DWORD Style() const;
 
+  /// First, so that it goes last: the classes are unregistered after the window is destroyed.
+  WindowClasses mClasses;
   Form& mForm;
   GdiObject<HFONT> mFont;
   HWND mWindow = nullptr;
   win32::Ground mGround;
   HWND mToolTips = nullptr;
   HWND mActiveBefore = nullptr;
-  std::vector<HWND> mDisabled;
+  HWND mLastFocus = nullptr;
+  std::optional<Barrier> mBarrier;
   std::optional<KeyHook> mHook;
   std::vector<MSG> mDeferred;
   int mQuiet = 0;
   int mDepth = 0;
   bool mRetired = false;
+  bool mDestroyed = false;
 };
 
 }  // namespace orx::win32

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "desktops/win32/Peers.h"
-#include "desktops/win32/WindowClasses.h"
 #include "forms/FormWindow.h"
 
 namespace orx::win32 {
@@ -31,7 +30,6 @@ class DialogWindow final : public FormWindow {
   /// The host's or the form's window behind this one, null when there is none.
   HWND WindowOf(const OwnerWindow& owner) const;
 
-  WindowClasses mClasses;
   Form& mForm;
   Dialog* mDialog;
   PeerMaker mMaker;

@@ -1,9 +1,5 @@
 #include "desktops/win32/Ground.h"
 
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include <algorithm>
 
 #include "desktops/win32/Handles.h"
@@ -30,16 +26,12 @@ SIZE SizeOf(HWND window) {
 
 }  // namespace
 
-Ground::~Ground() {
-  if (mPane) RemoveWindowSubclass(mPane, &Ground::PaneProc, 0);
-}
-
 void Ground::Open(HWND dialog) {
   mDialog = dialog;
   mPane = CreateWindowExW(WS_EX_CONTROLPARENT, WindowClasses::kPane, L"",
                           WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0, dialog, nullptr,
                           ThisModule(), nullptr);
-  SetWindowSubclass(mPane, &Ground::PaneProc, 0, reinterpret_cast<DWORD_PTR>(this));
+  mSubclass.emplace(mPane, &Ground::PaneProc, this);
 }
 
 void Ground::Abandon() {
@@ -52,9 +44,8 @@ LRESULT CALLBACK Ground::PaneProc(HWND window, UINT message, WPARAM wParam, LPAR
   if (self.mIsComplete) {
     if (message == WM_VSCROLL) self.ScrollBy(SB_VERT, LOWORD(wParam));
     if (message == WM_HSCROLL) self.ScrollBy(SB_HORZ, LOWORD(wParam));
-    if (message == WM_MOUSEWHEEL) self.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
   }
-  return DefSubclassProc(window, message, wParam, lParam);
+  return Subclass::CallNext(window, message, wParam, lParam);
 }
 
 HWND Ground::HomeOf(const Control& control) const {
@@ -119,9 +110,7 @@ void Ground::Arrange() {
   const int height =
       scrollsDown ? std::max(0, PinnedTop() - static_cast<int>(missing.cy)) : static_cast<int>(window.cy);
   SetWindowPos(mPane, HWND_BOTTOM, 0, 0, window.cx, height, SWP_NOACTIVATE);
-  const SIZE body = BodySize();
-  SetBar(SB_HORZ, body.cx, missing.cx > 0 ? SizeOf(mPane).cx : body.cx);
-  SetBar(SB_VERT, body.cy, scrollsDown ? SizeOf(mPane).cy : body.cy);
+  SetBars({window.cx, height});
   ScrollTo(mOffset);
   for (const Standing& standing : mStanding) {
     if (!StandsPinned(*standing.Control)) continue;
@@ -129,6 +118,15 @@ void Ground::Arrange() {
     SetWindowPos(standing.Window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOACTIVATE | SWP_NOZORDER);
   }
+}
+
+void Ground::SetBars(SIZE pane) {
+  const SIZE body = BodySize();
+  const bool scrollsDown = Missing().cy > 0;
+  const LONG width = pane.cx - (scrollsDown ? GetSystemMetrics(SM_CXVSCROLL) : 0);
+  const LONG height = pane.cy - (body.cx > width ? GetSystemMetrics(SM_CYHSCROLL) : 0);
+  SetBar(SB_HORZ, static_cast<int>(body.cx), static_cast<int>(std::min(width, body.cx)));
+  SetBar(SB_VERT, static_cast<int>(body.cy), static_cast<int>(scrollsDown ? height : body.cy));
 }
 
 void Ground::SetBar(int bar, int whole, int seen) {

@@ -4,7 +4,10 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <vector>
+
+#include "desktops/win32/Subclass.h"
 
 namespace orx {
 class Control;
@@ -16,7 +19,6 @@ namespace orx::win32 {
 class Ground {
  public:
   explicit Ground(const Form& form) : mForm(form) {}
-  ~Ground();
   Ground(const Ground&) = delete;
   Ground& operator=(const Ground&) = delete;
 
@@ -58,6 +60,7 @@ class Ground {
   int PinnedTop() const;
   SIZE BodySize() const;
   void SetBar(int bar, int whole, int seen);
+  void SetBars(SIZE pane);
   void ScrollBy(int bar, UINT code);
   void ScrollTo(POINT offset);
 
@@ -66,6 +69,7 @@ class Ground {
   HWND mPane = nullptr;
   POINT mOffset = {};
   std::vector<Standing> mStanding;
+  std::optional<Subclass> mSubclass;
   bool mIsComplete = false;
 };
 

@@ -52,10 +52,12 @@ class MemoryContext {
   std::unique_ptr<Selection> mSelection;
 };
 
-/// The device context of a window or of the screen (null).
+/// The device context of a window, its children included unless the flags of GetDCEx say otherwise, or of the screen
+/// (null).
 class WindowContext {
  public:
-  explicit WindowContext(HWND window) : mWindow(window), mContext(GetDC(window)) {}
+  explicit WindowContext(HWND window, DWORD flags = 0)
+      : mWindow(window), mContext(GetDCEx(window, nullptr, DCX_CACHE | flags)) {}
   ~WindowContext() { ReleaseDC(mWindow, mContext); }
   WindowContext(const WindowContext&) = delete;
   WindowContext& operator=(const WindowContext&) = delete;

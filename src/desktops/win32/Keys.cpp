@@ -11,7 +11,7 @@ bool IsDown(int key) {
 
 LRESULT CALLBACK SeeMessage(int code, WPARAM removed, LPARAM data) {
   auto& message = *reinterpret_cast<MSG*>(data);
-  if (code == HC_ACTION && removed == PM_REMOVE && StrokeOf(message)) {
+  if (code == HC_ACTION && (removed & PM_REMOVE) != 0 && (StrokeOf(message) || ArrowStrokeOf(message))) {
     if (Dialog* const dialog = Dialog::Around(message.hwnd)) dialog->Defer(message);
   }
   return CallNextHookEx(nullptr, code, removed, data);
@@ -37,6 +37,14 @@ std::optional<KeyStroke> StrokeOf(const MSG& message) {
     default:
       return std::nullopt;
   }
+}
+
+std::optional<KeyStroke> ArrowStrokeOf(const MSG& message) {
+  if (message.message != WM_KEYDOWN) return std::nullopt;
+  const bool back = message.wParam == VK_LEFT || message.wParam == VK_UP;
+  const bool forth = message.wParam == VK_RIGHT || message.wParam == VK_DOWN;
+  if (!back && !forth) return std::nullopt;
+  return KeyStroke{Key::Tab, 0, back, false};
 }
 
 KeyHook::KeyHook() : mHook(SetWindowsHookExW(WH_GETMESSAGE, SeeMessage, nullptr, GetCurrentThreadId())) {

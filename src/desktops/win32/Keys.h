@@ -11,6 +11,8 @@ namespace orx::win32 {
 
 /// The dialog key that the message brings, none for all other messages.
 std::optional<KeyStroke> StrokeOf(const MSG& message);
+/// The same for arrow keys, which move the focus where a control has no use for them.
+std::optional<KeyStroke> ArrowStrokeOf(const MSG& message);
 
 /// While one lives, the thread's messages are seen before the host dispatches them, so that the keys of modeless
 /// dialogs work in its loop. What is found there is handed to the dialog as a message of its own.

@@ -1,8 +1,11 @@
 #include "desktops/win32/MessageBox.h"
 
 #include <exception>
+#include <optional>
+#include <string_view>
 #include <utility>
 
+#include "desktops/win32/Barrier.h"
 #include "desktops/win32/Text.h"
 
 namespace orx::win32 {
@@ -22,6 +25,13 @@ UINT IconOf(MessageIcon icon) {
       break;
   }
   return 0;
+}
+
+/// The platform's boxes are dialogs of the predefined class.
+bool IsBox(HWND window) {
+  wchar_t name[16] = {};
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  return std::wstring_view(name) == L"#32770";
 }
 
 /// One box from its opening to its end; boxes can stand one upon the other.
@@ -46,7 +56,7 @@ class Session {
  private:
   static LRESULT CALLBACK SeeWindow(int code, WPARAM wParam, LPARAM lParam) {
     Session& self = *theInnermost;
-    if (code == HCBT_ACTIVATE && !self.mBox) {
+    if (code == HCBT_ACTIVATE && !self.mBox && IsBox(reinterpret_cast<HWND>(wParam))) {
       self.mBox = reinterpret_cast<HWND>(wParam);
       self.Unhook();
       // The box is not up yet; its loop runs the timer when it is.
@@ -86,6 +96,9 @@ thread_local Session* Session::theInnermost = nullptr;
 
 void RunMessageBox(const Message& message, HWND owner, const std::function<void()>& running) {
   const Session session(running);
+  // The platform itself disables the owner alone; without one it disables all windows of the thread.
+  std::optional<Barrier> barrier;
+  if (owner) barrier.emplace(owner);
   const UINT kind = MB_OK | IconOf(message.Icon) | (owner ? MB_APPLMODAL : MB_TASKMODAL) | MB_SETFOREGROUND;
   MessageBoxW(owner, Widened(message.Text).c_str(), Widened(message.Title).c_str(), kind);
   session.Rethrow();

@@ -32,6 +32,14 @@ class NativeAreaPeer final : public Peer {
     return mControl.FilterKey(&seen);
   }
 
+  bool HoldsForeignWindows() const override { return true; }
+
+  LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
+    // Comes up from the window under the mouse before that takes the focus: the field that loses it may refuse.
+    if (message == WM_MOUSEACTIVATE && !mControl.HasFocus() && !FocusIsGranted()) return MA_ACTIVATEANDEAT;
+    return Peer::OnMessage(window, message, wParam, lParam);
+  }
+
   void FocusNative() override {
     if (mControl.FocusEnters.HasHandler()) return mControl.FocusEnters.Raise();
     Peer::FocusNative();

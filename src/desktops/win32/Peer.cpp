@@ -1,9 +1,5 @@
 #include "desktops/win32/Peer.h"
 
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include "desktops/win32/Accessible.h"
 #include "desktops/win32/Text.h"
 #include "desktops/win32/WindowClasses.h"
@@ -26,18 +22,23 @@ Peer::Peer(Control& control, Dialog& dialog, HWND window, HWND focus)
       mDialog(dialog),
       mWindow(window),
       mFocus(focus ? focus : window),
+      mSubclass(mWindow, &Peer::SubclassProc, this),
+      mFocusSubclass(mFocus != mWindow ? mFocus : nullptr, &Peer::SubclassProc, this),
       mName(GlobalAddAtomW(Widened(control.Name()).c_str())) {
   SetPropW(mWindow, kNameProperty, reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(mName)));
   SendMessageW(mWindow, WM_SETFONT, reinterpret_cast<WPARAM>(dialog.Face()), FALSE);
-  SetWindowSubclass(mWindow, &Peer::SubclassProc, 0, reinterpret_cast<DWORD_PTR>(this));
-  if (mFocus != mWindow) SetWindowSubclass(mFocus, &Peer::SubclassProc, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 Peer::~Peer() {
-  RemoveWindowSubclass(mWindow, &Peer::SubclassProc, 0);
-  if (mFocus != mWindow) RemoveWindowSubclass(mFocus, &Peer::SubclassProc, 0);
+  if (mIsAnnotated) ForgetAccessibleName(mFocus);
   RemovePropW(mWindow, kNameProperty);
   GlobalDeleteAtom(mName);
+}
+
+Peer* Peer::Holding(HWND window) {
+  for (HWND at = window; at; at = GetAncestor(at, GA_PARENT))
+    if (void* const peer = Subclass::SelfOf(at, &Peer::SubclassProc)) return static_cast<Peer*>(peer);
+  return nullptr;
 }
 
 LRESULT CALLBACK Peer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR peer) {
@@ -56,7 +57,7 @@ LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
       return 0;
     case WM_SETFOCUS: {
       Dialog& dialog = mDialog;
-      const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+      const LRESULT result = Subclass::CallNext(window, message, wParam, lParam);
       if (!dialog.IsRetired()) FocusCame();
       return result;
     }
@@ -73,7 +74,7 @@ LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     default:
       break;
   }
-  return DefSubclassProc(window, message, wParam, lParam);
+  return Subclass::CallNext(window, message, wParam, lParam);
 }
 
 bool Peer::FocusIsGranted() {
@@ -95,6 +96,22 @@ void Peer::FocusCame() {
 void Peer::Update(Aspect aspect) {
   const Dialog::Quiet quiet(mDialog);
   Mirror(aspect);
+  if (aspect == Aspect::Visible || aspect == Aspect::Enabled) KeepFocus();
+}
+
+void Peer::KeepFocus() const {
+  // The form sends the focus to another control, if there is one; without any focus the keys would be lost.
+  if (GetActiveWindow() != mDialog.Window() || IsWindowVisible(GetFocus())) return;
+  SetFocus(mDialog.Window());
+}
+
+void Peer::RestoreFocus(HWND last) {
+  const Dialog::Quiet quiet(mDialog);
+  if (IsChild(mWindow, last)) {
+    SetFocus(last);
+  } else {
+    FocusNative();
+  }
 }
 
 void Peer::UpdateAll() {
@@ -142,7 +159,7 @@ void Peer::Mirror(Aspect aspect) {
 
 void Peer::MirrorName() {
   // A caption is the window's text, which is its name already.
-  if (mControl.Caption().empty()) SetAccessibleName(mFocus, mControl.AccessibleName());
+  if (mControl.Caption().empty()) mIsAnnotated = SetAccessibleName(mFocus, mControl.AccessibleName());
 }
 
 void Peer::MirrorPlace() {

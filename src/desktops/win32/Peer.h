@@ -7,6 +7,7 @@
 #include <string>
 
 #include "desktops/win32/Dialog.h"
+#include "desktops/win32/Subclass.h"
 #include "forms/Control.h"
 
 namespace orx::win32 {
@@ -26,15 +27,22 @@ class Peer : public ControlPeer {
   /// Brings all aspects up to the state of the control.
   void UpdateAll();
 
+  /// The peer whose window that is or that it stands in, null when there is none.
+  static Peer* Holding(HWND window);
+  /// Gives the focus back when the dialog becomes the active window; `last` had it before.
+  void RestoreFocus(HWND last);
+
+  const Control& Subject() const { return mControl; }
   HWND Window() const { return mWindow; }
   HWND FocusWindow() const { return mFocus; }
-  /// The window that the controls in this one stand in.
-  virtual HWND Inside() const { return mWindow; }
-
   /// True for key messages that belong to the control whatever they mean to the dialog.
   virtual bool WantsKey(const MSG&) { return false; }
   /// Deals with a key message in place of the window that it is for. False when the message goes on.
   virtual bool UsesKey(const MSG&) { return false; }
+  /// True when arrow keys mean nothing to the control, so that they move the focus.
+  virtual bool LeavesArrowKeys() const { return false; }
+  /// True when windows that nobody here knows of stand in this one and may take the focus on their own.
+  virtual bool HoldsForeignWindows() const { return false; }
   /// True when a line break can be typed here, should the form have no use for Enter.
   virtual bool TakesReturn() const { return false; }
 
@@ -65,12 +73,16 @@ class Peer : public ControlPeer {
   void FocusCame();
   void MirrorPlace();
   void MirrorName();
+  void KeepFocus() const;
 
   Control& mControl;
   Dialog& mDialog;
   HWND mWindow;
   HWND mFocus;
+  Subclass mSubclass;
+  Subclass mFocusSubclass;
   ATOM mName;
+  bool mIsAnnotated = false;
 };
 
 /// The peer of a control, null while its form has no window.

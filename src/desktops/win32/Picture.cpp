@@ -41,9 +41,11 @@ bool SavePicture(HWND window, const std::string& pngPath) {
   if (!window || !IsWindowVisible(window)) return false;
   RECT client;
   GetClientRect(window, &client);
+  // The window's own surface is complete, whatever stands before it on the screen.
+  RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   const WindowContext screen(window);
   const MemoryContext buffer(screen.Get(), client.right, client.bottom);
-  if (!PrintWindow(window, buffer.Get(), PW_CLIENTONLY)) return false;
+  if (!BitBlt(buffer.Get(), 0, 0, client.right, client.bottom, screen.Get(), 0, 0, SRCCOPY)) return false;
   const Imaging imaging;
   Gdiplus::Bitmap picture(buffer.Bitmap(), nullptr);
   return picture.Save(Widened(pngPath).c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;

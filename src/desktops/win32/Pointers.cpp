@@ -14,4 +14,18 @@ HCURSOR CursorOf(Pointer pointer) {
   return nullptr;
 }
 
+void ShowPointer(Pointer pointer) {
+  if (const HCURSOR cursor = CursorOf(pointer)) {
+    SetCursor(cursor);
+    return;
+  }
+  // The window would be asked with the next move of the mouse, but a user who waits does not move it.
+  POINT place = {};
+  GetCursorPos(&place);
+  const HWND window = WindowFromPoint(place);
+  if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return;
+  const LRESULT part = SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(place.x, place.y));
+  SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window), MAKELPARAM(part, WM_MOUSEMOVE));
+}
+
 }  // namespace orx::win32

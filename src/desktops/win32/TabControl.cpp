@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include "desktops/win32/Handles.h"
 #include "desktops/win32/Peers.h"
 #include "desktops/win32/Text.h"
 #include "forms/Desktop.h"
@@ -11,6 +12,9 @@
 
 namespace orx::win32 {
 namespace {
+
+/// What of the space between a page and the line around it is free of the line in every look, in pixels.
+constexpr int kRim = 2;
 
 class TabControlPeer final : public Peer {
  public:
@@ -53,6 +57,26 @@ class TabControlPeer final : public Peer {
     if (Send(TCM_GETCURSEL) != mControl.Tab()) Send(TCM_SETCURSEL, static_cast<WPARAM>(mControl.Tab()));
     for (int tab = 0; tab < mControl.TabCount(); ++tab)
       if (ControlPeer* const page = mControl.Page(tab).Peer()) page->Update(Aspect::Visible);
+  }
+
+  LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
+    const LRESULT result = Peer::OnMessage(window, message, wParam, lParam);
+    if (message == WM_PAINT) PaintRim(window);
+    return result;
+  }
+
+  /// The pages have the colour of the dialog; between them and the line around them some looks show another one.
+  static void PaintRim(HWND window) {
+    RECT body;
+    GetClientRect(window, &body);
+    SendMessageW(window, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&body));
+    // To the right and below, the line stands further inside.
+    body.left -= kRim;
+    body.top -= kRim;
+    body.right += kRim / 2;
+    body.bottom += kRim / 2;
+    const WindowContext context(window, DCX_CLIPCHILDREN);
+    FillRect(context.Get(), &body, GetSysColorBrush(COLOR_BTNFACE));
   }
 
   void OnNotify(const NMHDR& notice) override {

@@ -1,9 +1,5 @@
 #include "forms/TextBox.h"
 
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include "desktops/win32/Peers.h"
 #include "desktops/win32/Text.h"
 
@@ -80,7 +76,8 @@ class TextBoxPeer final : public Peer {
 
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSite& site) {
   DWORD style = WS_TABSTOP | (control.Locked() ? ES_READONLY : 0);
-  style |= control.Lines() == TextLines::Multiple ? ES_MULTILINE | ES_WANTRETURN | WS_VSCROLL : ES_AUTOHSCROLL;
+  style |= control.Lines() == TextLines::Multiple ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL
+                                                  : ES_AUTOHSCROLL;
   return std::make_unique<TextBoxPeer>(control, dialog, MakeWindow(L"EDIT", style, site, WS_EX_CLIENTEDGE));
 }
 

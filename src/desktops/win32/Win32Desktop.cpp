@@ -141,8 +141,7 @@ void Win32Desktop::DoBeep() {
 }
 
 void Win32Desktop::DoSetPointer(orx::Pointer value) {
-  // Default comes back with the next move of the mouse, but a user who waits does not move it.
-  SetCursor(value == orx::Pointer::Default ? LoadCursorW(nullptr, IDC_ARROW) : CursorOf(value));
+  ShowPointer(value);
 }
 
 void Win32Desktop::DoShowHelp(const HelpRequest& request) {

@@ -1,12 +1,15 @@
 #include "desktops/win32/WindowClasses.h"
 
+#include <mutex>
+
 #include "desktops/win32/Dialog.h"
 
 namespace orx::win32 {
 namespace {
 
 /// Dialogs of several threads share the classes.
-volatile LONG theUsers = 0;
+std::mutex theLock;
+int theUsers = 0;
 
 LRESULT CALLBACK PaneProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (Reflect(message, wParam, lParam)) return 0;
@@ -27,13 +30,15 @@ void Register(const wchar_t* name, WNDPROC proc) {
 }  // namespace
 
 WindowClasses::WindowClasses() {
-  if (InterlockedIncrement(&theUsers) > 1) return;
+  const std::lock_guard lock(theLock);
+  if (++theUsers > 1) return;
   Register(kDialog, &Dialog::WindowProc);
   Register(kPane, &PaneProc);
 }
 
 WindowClasses::~WindowClasses() {
-  if (InterlockedDecrement(&theUsers) > 0) return;
+  const std::lock_guard lock(theLock);
+  if (--theUsers > 0) return;
   UnregisterClassW(kDialog, ThisModule());
   UnregisterClassW(kPane, ThisModule());
 }
