@@ -31,8 +31,8 @@ void TakeFocus(HWND window) {
 bool WalkOn(HWND area, bool backwards) {
   const std::vector<HWND> stops = TabStops(area);
   const HWND focus = GetFocus();
-  const auto at = std::find_if(stops.begin(), stops.end(),
-                               [focus](HWND stop) { return stop == focus || IsChild(stop, focus); });
+  const auto at =
+      std::find_if(stops.begin(), stops.end(), [focus](HWND stop) { return stop == focus || IsChild(stop, focus); });
   if (at == stops.end()) return false;
   if (backwards ? at == stops.begin() : at + 1 == stops.end()) return false;
   TakeFocus(backwards ? *(at - 1) : *(at + 1));
@@ -49,8 +49,7 @@ bool Wants(const MSG& message) {
   // A text field of several lines claims every key, and leaves Tab and Escape to the dialog's window procedure.
   if (IsManyLined(message.hwnd))
     return message.wParam == VK_RETURN && (GetWindowLongPtrW(message.hwnd, GWL_STYLE) & ES_WANTRETURN) != 0;
-  const LRESULT code =
-      SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+  const LRESULT code = SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
   return (code & DLGC_WANTALLKEYS) != 0 || (message.wParam == VK_TAB && (code & DLGC_WANTTAB) != 0);
 }
 

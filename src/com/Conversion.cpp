@@ -95,12 +95,16 @@ HRESULT FromArray(SAFEARRAY* from, VARTYPE fromElement, VARTYPE element, LCID lo
   return S_OK;
 }
 
+/// As such objects may be sparse, any length costs the script nothing, but an array of it has to be made here.
+constexpr std::int32_t kLongestScriptArray = 10'000'000;
+
 /// The arrays of some script languages are objects with the members "length", "0", "1", ...
 HRESULT FromScriptObject(IDispatch* from, VARTYPE element, LCID locale, Variant& to) {
   const LateBound object(from);
   if (!object.Has("length")) return DISP_E_TYPEMISMATCH;
   const std::int32_t count = object.GetLong("length");
   if (count < 0) return DISP_E_TYPEMISMATCH;
+  if (count > kLongestScriptArray) return E_OUTOFMEMORY;
   Array made(element, 0, static_cast<ULONG>(count));
   if (!made.Get()) return E_OUTOFMEMORY;
   for (LONG index = 0; index < count; ++index) {

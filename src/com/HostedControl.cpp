@@ -60,12 +60,7 @@ void HostedControl::Open(HWND area) {
   GetClientRect(area, &place);
   SIZEL extent = Himetric(place);
   mControl->SetExtent(DVASPECT_CONTENT, &extent);
-  try {
-    Check(Do(OLEIVERB_INPLACEACTIVATE, nullptr), "The control cannot be shown");
-  } catch (...) {
-    mArea = nullptr;
-    throw;
-  }
+  Check(Do(OLEIVERB_INPLACEACTIVATE, nullptr), "The control cannot be shown");
   Fit();
 }
 
@@ -87,6 +82,7 @@ void HostedControl::Fit() noexcept {
 }
 
 void HostedControl::FocusCame() {
+  mLastFocus = GetFocus();
   if (!mEntering && FocusCameByItself) FocusCameByItself();
 }
 
@@ -96,17 +92,20 @@ void HostedControl::EnterFocus() noexcept {
   const bool backwards = GetKeyState(VK_SHIFT) < 0;
   MSG tab = {mArea, WM_KEYDOWN, VK_TAB, 0, static_cast<DWORD>(GetMessageTime()), {}};
   Do(OLEIVERB_UIACTIVATE, GetKeyState(VK_TAB) < 0 ? &tab : nullptr);
+  if (mLastFocus && IsChild(mArea, mLastFocus)) SetFocus(mLastFocus);
   if (!HasFocusInside(mArea)) FocusInside(mArea, backwards);
   mEntering = false;
 }
 
 void HostedControl::LeaveFocus() noexcept {
+  mLastFocus = nullptr;
   const auto control = mArea ? mControl.As<IOleInPlaceObject>() : ComPtr<IOleInPlaceObject>();
   if (control) control->UIDeactivate();
 }
 
 bool HostedControl::FilterKey(MSG& message) noexcept {
   if (!mArea) return false;
+  mLastFocus = message.hwnd;
   // Both stay alive while a key closes the dialog.
   const ComPtr<IOleObject> control = mControl;
   auto active = mSite->Frame().Active();

@@ -23,14 +23,16 @@ class HostedControl final : private ISiteOwner {
 
   IUnknown& Object() const { return *mControl.Get(); }
 
-  /// Shows the control all over the client area of the window. Throws RunTimeError when the control does not come up.
+  /// Shows the control all over the client area of the window. Throws RunTimeError when the control does not come up;
+  /// the window is the control's all the same, until Close.
   void Open(HWND area);
   /// Takes the control out of its window, which is about to go. The control lives on and may be opened again.
   void Close() noexcept;
   /// The window was sized: fits the control to it.
   void Fit() noexcept;
 
-  /// Brings the focus into the control; from behind when Shift+Tab has led here.
+  /// Brings the focus into the control: to where it was when only the dialog was left since; from behind when Shift+Tab
+  /// has led here.
   void EnterFocus() noexcept;
   /// The focus has left the control for another of the dialog.
   void LeaveFocus() noexcept;
@@ -49,6 +51,7 @@ class HostedControl final : private ISiteOwner {
   ComPtr<ControlSite> mSite;
   ComPtr<IOleObject> mControl;
   HWND mArea = nullptr;
+  HWND mLastFocus = nullptr;
   bool mEntering = false;
 };
 

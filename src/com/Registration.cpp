@@ -11,6 +11,8 @@
 namespace orx::com {
 namespace {
 
+constexpr char kSource[] = "Registration";
+
 struct CreatableClass {
   CLSID Id;
   const wchar_t* ProgId;
@@ -147,33 +149,44 @@ std::vector<Entry> EntriesOf(const PublishedInterface& published) {
   };
 }
 
+bool IsDenied(HRESULT result) {
+  return result == E_ACCESSDENIED || result == TYPE_E_REGISTRYACCESS;
+}
+
 void WriteAll(const ClassesKey& classes, const std::vector<Entry>& entries) {
   for (const Entry& entry : entries) classes.Write(entry);
 }
 
 }  // namespace
 
+HRESULT ForAllOrUser(const std::function<void(RegisteredFor)>& action) noexcept {
+  const HRESULT all = Guarded(kSource, [&] { action(RegisteredFor::AllUsers); });
+  return IsDenied(all) ? Guarded(kSource, [&] { action(RegisteredFor::User); }) : all;
+}
+
 void Register(RegisteredFor whom) {
+  const std::vector<PublishedInterface> interfaces = PublishedInterfaces();
   try {
     const ClassesKey classes(whom);
     WriteAll(classes, LibraryEntries());
-    for (const PublishedInterface& published : PublishedInterfaces()) WriteAll(classes, EntriesOf(published));
+    for (const PublishedInterface& published : interfaces) WriteAll(classes, EntriesOf(published));
     for (const CreatableClass& made : kClasses) WriteAll(classes, EntriesOf(made));
   } catch (...) {
     // Half a registration is worse than none. What it failed at is the error to tell.
-    static_cast<void>(Guarded("Registration", [&] { Unregister(whom); }));
+    static_cast<void>(Guarded(kSource, [&] { Unregister(whom); }));
     throw;
   }
 }
 
 void Unregister(RegisteredFor whom) {
   const ClassesKey classes(whom);
-  for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
   classes.Remove(LibraryKey());
   for (const CreatableClass& made : kClasses) {
     classes.Remove(made.ProgId);
     classes.Remove(ClassKey(made));
   }
+  // Last, as it needs the type library, which may be damaged.
+  for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
 }
 
 }  // namespace orx::com

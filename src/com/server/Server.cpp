@@ -18,28 +18,17 @@ using orx::com::RegisteredFor;
 
 constexpr char kSource[] = "Registration";
 
-bool IsDenied(HRESULT result) {
-  return result == E_ACCESSDENIED || result == TYPE_E_REGISTRYACCESS;
-}
-
-/// For all users, or for the present one where the user may not do more.
-template <class Action>
-HRESULT ForAllOrUser(Action action) {
-  const HRESULT all = Guarded(kSource, [&] { action(RegisteredFor::AllUsers); });
-  return IsDenied(all) ? Guarded(kSource, [&] { action(RegisteredFor::User); }) : all;
-}
-
 }  // namespace
 
 STDAPI DllRegisterServer() {
-  return ForAllOrUser(orx::com::Register);
+  return orx::com::ForAllOrUser(orx::com::Register);
 }
 
 STDAPI DllUnregisterServer() {
   // Both, as the one or the other may have been registered.
   const HRESULT user = Guarded(kSource, [] { orx::com::Unregister(RegisteredFor::User); });
-  const HRESULT all = Guarded(kSource, [] { orx::com::Unregister(RegisteredFor::AllUsers); });
-  return FAILED(all) && !IsDenied(all) ? all : user;
+  const HRESULT all = orx::com::ForAllOrUser(orx::com::Unregister);
+  return FAILED(all) ? all : user;
 }
 
 STDAPI DllInstall(BOOL install, LPCWSTR whom) {

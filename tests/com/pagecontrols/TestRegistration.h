@@ -8,7 +8,7 @@
 #include <string>
 
 #include "com/Counted.h"
-#include "tests/com/TestPageControl.h"
+#include "tests/com/pagecontrols/TestPageControl.h"
 
 namespace orx::test {
 
@@ -21,7 +21,8 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
-/// Writes a ProgID with the class of the test control below the user's classes, and takes it away.
+/// Writes a ProgID with the class of the test control below the user's classes, and takes it away. Where the system
+/// does not look there (Wine before version 9) it stands below the machine's.
 class RegisteredProgId {
  public:
   explicit RegisteredProgId(const std::string& progId);
@@ -30,7 +31,10 @@ class RegisteredProgId {
   RegisteredProgId& operator=(const RegisteredProgId&) = delete;
 
  private:
+  void Write(HKEY root);
+
   std::wstring mKey;
+  HKEY mRoot = HKEY_CURRENT_USER;
 };
 
 /// While one lives, the class of the test control can be made in this process.

@@ -1,6 +1,6 @@
 // The window of the test control, and how it comes to stand in its container.
 #include "com/Errors.h"
-#include "tests/com/TestPageControl.h"
+#include "tests/com/pagecontrols/TestPageControl.h"
 
 namespace orx::test {
 namespace {
@@ -86,7 +86,8 @@ HRESULT TestPageControl::InPlaceDeactivate() noexcept {
 }
 
 HRESULT TestPageControl::SetObjectRects(const RECT* place, const RECT*) noexcept {
-  if (mWindow) MoveWindow(mWindow, place->left, place->top, place->right - place->left, place->bottom - place->top, TRUE);
+  if (mWindow)
+    MoveWindow(mWindow, place->left, place->top, place->right - place->left, place->bottom - place->top, TRUE);
   return S_OK;
 }
 

@@ -1,4 +1,4 @@
-#include "tests/com/TestPageControl.h"
+#include "tests/com/pagecontrols/TestPageControl.h"
 
 #include <iterator>
 
@@ -7,9 +7,9 @@
 namespace orx::test {
 namespace {
 
-constexpr const wchar_t* kMembers[] = {L"Client",          L"Language",    L"IsDirty",        L"StartUpIndex",
-                                       L"RefreshContents", L"SaveChanges", L"DiscardChanges", L"ApplyChanges",
-                                       L"Selected"};
+constexpr const wchar_t* kMembers[] = {L"Client",         L"Language",        L"IsDirty",
+                                       L"StartUpIndex",   L"RefreshContents", L"SaveChanges",
+                                       L"DiscardChanges", L"ApplyChanges",    L"Selected"};
 enum Member : DISPID { kClient, kLanguage, kIsDirty, kStartUpIndex, kRefresh, kSave, kDiscard, kApply, kSelected };
 
 std::wstring TextOfWindow(HWND window) {
@@ -55,6 +55,7 @@ TestPageControl::~TestPageControl() {
   if (mWindow) DestroyWindow(mWindow);
   if (mState.Last == this) mState.Last = nullptr;
   --mState.Alive;
+  mState.Log.Calls.push_back("Page.Gone");
 }
 
 void* TestPageControl::Find(REFIID iid) noexcept {
@@ -109,20 +110,20 @@ void TestPageControl::Run(DISPID member, WORD flags, const DISPPARAMS& given, VA
   const auto object = [&] { return given.rgvarg[0].vt == VT_DISPATCH ? given.rgvarg[0].pdispVal : nullptr; };
   switch (member) {
     case kClient:
-      mState.Log.Call(name + (object() ? "(object)" : "(Nothing)"));
+      mState.Log.Call(name + (object() ? "(object)" : "(none)"));
       mClient = com::ComPtr<IDispatch>(object());
       return;
     case kLanguage:
-      return mState.Log.Call(name + (object() ? "(object)" : "(Nothing)"));
+      return mState.Log.Call(name + (object() ? "(object)" : "(none)"));
     case kIsDirty:
-      mState.Log.Call(name);
       if (puts) mDirty = given.rgvarg[0].boolVal != VARIANT_FALSE;
-      if (!puts && result) static_cast<VARIANT&>(*result) = com::Variant(mDirty);
+      mState.Log.Call(name + (!puts ? "" : mDirty ? "(True)" : "(False)"));
+      if (!puts && result) *result = com::Variant(mDirty);
       return;
     case kStartUpIndex:
       mState.Log.Call(name + (puts ? "(" + std::to_string(given.rgvarg[0].lVal) + ")" : ""));
       if (puts) mStartUpIndex = given.rgvarg[0].lVal;
-      if (!puts && result) static_cast<VARIANT&>(*result) = com::Variant(mStartUpIndex);
+      if (!puts && result) *result = com::Variant(mStartUpIndex);
       return;
     case kRefresh:
       mState.Log.Call(name);

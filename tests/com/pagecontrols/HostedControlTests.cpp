@@ -8,7 +8,7 @@
 #include "com/ControlKeys.h"
 #include "com/HostedControl.h"
 #include "hostobjects/RunTimeError.h"
-#include "tests/com/TestRegistration.h"
+#include "tests/com/pagecontrols/TestRegistration.h"
 
 namespace orx::test {
 namespace {
@@ -42,10 +42,10 @@ class HostedControlTest : public testing::Test {
   const Apartment mApartment;
   PageControlState mState;
   const RegisteredClass mClass{mState};
-  const HWND mFrame = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr,
-                                      nullptr, nullptr);
-  const HWND mArea = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 10, 10, 300, 200, mFrame, nullptr,
-                                     nullptr, nullptr);
+  const HWND mFrame =
+      CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr, nullptr, nullptr);
+  const HWND mArea =
+      CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 10, 10, 300, 200, mFrame, nullptr, nullptr, nullptr);
   std::optional<com::HostedControl> mControl;
 };
 
@@ -79,7 +79,8 @@ TEST_F(HostedControlTest, NothingOfTheControlStaysBehind) {
   mControl->EnterFocus();
   mControl.reset();
   EXPECT_EQ(0, mState.Alive);
-  EXPECT_EQ((std::vector<std::string>{"Control.Activate", "Control.Deactivate", "Control.Close"}), mState.Log.Calls);
+  EXPECT_EQ((std::vector<std::string>{"Control.Activate", "Control.Deactivate", "Control.Close", "Page.Gone"}),
+            mState.Log.Calls);
 }
 
 TEST_F(HostedControlTest, TabWalksThroughTheChildrenAndOutAtTheEnds) {

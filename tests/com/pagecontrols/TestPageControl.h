@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "com/Counted.h"
-#include "tests/com/TestConnectionPoint.h"
+#include "tests/com/pagecontrols/TestConnectionPoint.h"
 #include "tests/support/RecordingHost.h"
 
 namespace orx::test {
@@ -32,9 +32,8 @@ struct PageControlState {
   com::ComPtr<ITypeInfo> ClassInfo;
 };
 
-class TestPageControl final
-    : public com::Counted<IDispatch, IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject, IPersistStreamInit,
-                          IConnectionPointContainer, IProvideClassInfo> {
+class TestPageControl final : public com::Counted<IDispatch, IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject,
+                                                  IPersistStreamInit, IConnectionPointContainer, IProvideClassInfo> {
  public:
   explicit TestPageControl(PageControlState& state);
 

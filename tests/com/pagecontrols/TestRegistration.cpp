@@ -1,4 +1,4 @@
-#include "tests/com/TestRegistration.h"
+#include "tests/com/pagecontrols/TestRegistration.h"
 
 #include "com/Errors.h"
 
@@ -27,15 +27,24 @@ class Factory final : public com::Counted<IClassFactory> {
 }  // namespace
 
 RegisteredProgId::RegisteredProgId(const std::string& progId) : mKey(L"Software\\Classes\\" + com::Widened(progId)) {
+  Write(HKEY_CURRENT_USER);
+  CLSID found;
+  if (SUCCEEDED(CLSIDFromProgID(com::Widened(progId).c_str(), &found))) return;
+  RegDeleteTreeW(HKEY_CURRENT_USER, mKey.c_str());
+  Write(HKEY_LOCAL_MACHINE);
+}
+
+void RegisteredProgId::Write(HKEY root) {
+  mRoot = root;
   wchar_t text[40] = {};
   const int length = StringFromGUID2(kTestPageControl, text, 40);
-  const LSTATUS result = RegSetKeyValueW(HKEY_CURRENT_USER, (mKey + L"\\CLSID").c_str(), nullptr, REG_SZ, text,
+  const LSTATUS result = RegSetKeyValueW(root, (mKey + L"\\CLSID").c_str(), nullptr, REG_SZ, text,
                                          static_cast<DWORD>(length) * sizeof(wchar_t));
-  com::Check(HRESULT_FROM_WIN32(static_cast<DWORD>(result)), progId);
+  com::Check(HRESULT_FROM_WIN32(static_cast<DWORD>(result)), com::Narrowed(mKey));
 }
 
 RegisteredProgId::~RegisteredProgId() {
-  RegDeleteTreeW(HKEY_CURRENT_USER, mKey.c_str());
+  RegDeleteTreeW(mRoot, mKey.c_str());
 }
 
 RegisteredClass::RegisteredClass(PageControlState& state) {

@@ -1,0 +1,72 @@
+// Members whose dialogs are not built yet: they say so. A dialog that comes takes its line out of this table.
+#include "com/ProgressDialog.h"
+#include "tests/com/support/MapDialogsTest.h"
+
+namespace orx::com::test {
+namespace {
+
+struct Missing {
+  const char* Name;
+  HRESULT (*Call)(::_CCommonMapDialogs& dialogs);
+};
+
+constexpr Missing kMissingDialogs[] = {
+    {"Show", [](auto& d) { return d.Show(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
+    {"ShowDataProperties", [](auto& d) { return d.ShowDataProperties(nullptr, nullptr, nullptr, nullptr, nullptr); }},
+    {"ShowDataClassify",
+     [](auto& d) {
+       return d.ShowDataClassify(nullptr, nullptr, nullptr, ::ClassifyNone, nullptr, nullptr, nullptr, nullptr,
+                                 nullptr);
+     }},
+    {"ShowDataOptions", [](auto& d) { return d.ShowDataOptions(nullptr, nullptr, nullptr, nullptr, nullptr); }},
+    {"ShowGeoReference",
+     [](auto& d) { return d.ShowGeoReference(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
+    {"ShowCharacterSelection",
+     [](auto& d) { return d.ShowCharacterSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
+    {"ShowListSelection",
+     [](auto& d) {
+       return d.ShowListSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
+     }},
+    {"ShowAddLayer", [](auto& d) { return d.ShowAddLayer(0, VARIANT_FALSE, nullptr, nullptr); }},
+    {"ShowAddData", [](auto& d) { return d.ShowAddData(0, VARIANT_FALSE, nullptr, nullptr); }},
+    {"ShowFileNotFound", [](auto& d) { return d.ShowFileNotFound(nullptr, nullptr, nullptr, nullptr); }},
+    {"ShowDataFileNotFound", [](auto& d) { return d.ShowDataFileNotFound(nullptr, nullptr, nullptr, nullptr); }},
+};
+
+struct MissingProgress {
+  const char* Name;
+  HRESULT (*Call)(::_CCommonProgressDialog& dialog);
+};
+
+constexpr MissingProgress kMissingProgress[] = {
+    {"Init", [](auto& d) { return d.Init(nullptr, nullptr, nullptr); }},
+    {"CancelAction", [](auto& d) { return d.get_CancelAction(nullptr); }},
+    {"Value", [](auto& d) { return d.get_Value(nullptr); }},
+    {"Value", [](auto& d) { return d.put_Value(1); }},
+    {"Caption", [](auto& d) { return d.get_Caption(nullptr); }},
+    {"Caption", [](auto& d) { return d.put_Caption(nullptr); }},
+    {"Message", [](auto& d) { return d.get_Message(nullptr); }},
+    {"Message", [](auto& d) { return d.put_Message(nullptr); }},
+    {"Show", [](auto& d) { return d.Show(nullptr); }},
+    {"Hide", [](auto& d) { return d.Hide(); }},
+    {"Refresh", [](auto& d) { return d.Refresh(); }},
+};
+
+using NotBuilt = MapDialogsTest;
+
+TEST_F(NotBuilt, MapDialogsSayWhichDialogIsMissing) {
+  for (const Missing& missing : kMissingDialogs) {
+    EXPECT_EQ(missing.Call(*dialogs.Get()), E_NOTIMPL) << missing.Name;
+  }
+  EXPECT_TRUE(Shown.empty());
+}
+
+TEST_F(NotBuilt, TheProgressDialogSaysThatItIsMissing) {
+  const auto progress = MakeCounted<ProgressDialog>();
+  for (const MissingProgress& missing : kMissingProgress) {
+    EXPECT_EQ(missing.Call(*progress.Get()), E_NOTIMPL) << missing.Name;
+  }
+}
+
+}  // namespace
+}  // namespace orx::com::test

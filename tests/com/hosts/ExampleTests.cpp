@@ -1,0 +1,85 @@
+// The examples, run from outside with their dialogs operated as automation tools do it.
+#include "tests/com/hosts/HostTest.h"
+
+namespace orx::com::test {
+namespace {
+
+/// The scripts end with this code; hosts that give up on a script end with zero.
+constexpr int kDone = 9;
+
+std::string Lines(std::initializer_list<const char*> lines) {
+  std::string text;
+  for (const char* const line : lines) text += std::string(line) + "\r\n";
+  return text;
+}
+
+using Examples = HostTest;
+
+TEST_F(Examples, AScriptEditsItsLayer) {
+  Program script(Script(L"layer.vbs"));
+  const HWND properties = script.WaitForWindow(L"Eigenschaften");
+  ASSERT_TRUE(properties) << script.Output();
+  const HWND name = ControlNamed(properties, L"txtName");
+  ASSERT_TRUE(name);
+  SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Hills"));
+  Click(ControlNamed(properties, L"cmdApply"));
+  Click(ControlNamed(properties, L"cmdOK"));
+  const HWND labels = script.WaitForWindow(L"Labels of a script");
+  ASSERT_TRUE(labels) << script.Output();
+  Click(ControlNamed(labels, L"cmdCancel"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"Apply: True", "OK: True", "Properties: -1 Hills 12", "Cancel: False",
+                                    "Labels: 0 False 9", "DONE"}));
+}
+
+TEST_F(Examples, TheScriptsLanguageTranslatesTheDialog) {
+  Program script(Script(L"layer.vbs"));
+  const HWND properties = script.WaitForWindow(L"Eigenschaften");
+  ASSERT_TRUE(properties) << script.Output();
+  wchar_t text[50] = {};
+  SendMessageW(ControlNamed(properties, L"cmdCancel"), WM_GETTEXT, 50, reinterpret_cast<LPARAM>(text));
+  EXPECT_STREQ(text, L"&Abbrechen");
+}
+
+TEST_F(Examples, AScriptInTheOtherLanguageEditsItsLayer) {
+  Program script(Script(L"layer.js"));
+  const HWND properties = script.WaitForWindow(L"Layer of a script");
+  ASSERT_TRUE(properties) << script.Output();
+  SendMessageW(ControlNamed(properties, L"txtName"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Hills"));
+  Click(ControlNamed(properties, L"cmdOK"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"OK: true", "Properties: -1 Hills", "DONE"}));
+}
+
+TEST_F(Examples, AScriptEditsTheExtentAndTheLegendsOfItsMap) {
+  Program script(Script(L"map.vbs"));
+  const HWND extent = script.WaitForWindow(L"Extent of a script");
+  ASSERT_TRUE(extent) << script.Output();
+  SendMessageW(ControlNamed(extent, L"txtLeft"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"250"));
+  Click(ControlNamed(extent, L"cmdOK"));
+  const HWND legends = script.WaitForWindow(L"Legends of a script");
+  ASSERT_TRUE(legends) << script.Output();
+  Click(ControlNamed(legends, L"cmdOK"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"Extent: -1 250 1000", "Legends: 0 Places", "DONE"}));
+}
+
+TEST_F(Examples, ACompiledHostEditsItsLayerByTheTypeLibrary) {
+  Program host(L"\"" + PathOf(ORX_COMHOST) + L"\"");
+  const HWND properties = host.WaitForWindow(L"Layer of a C++ host");
+  ASSERT_TRUE(properties) << host.Output();
+  SendMessageW(ControlNamed(properties, L"txtName"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Hills"));
+  Click(ControlNamed(properties, L"cmdApply"));
+  Click(ControlNamed(properties, L"cmdOK"));
+  EXPECT_EQ(host.Wait(), 0);
+  EXPECT_EQ(host.Output(), Lines({"Hills: changed", "OK 1, Apply 1, Cancel 0"}));
+}
+
+TEST(ExamplesWithoutRegistration, TheCompiledHostSaysWhatToDo) {
+  Program host(L"\"" + PathOf(ORX_COMHOST) + L"\"");
+  EXPECT_EQ(host.Wait(), 1);
+  EXPECT_NE(host.Output().find("regsvr32 orxMDlg.dll"), std::string::npos) << host.Output();
+}
+
+}  // namespace
+}  // namespace orx::com::test

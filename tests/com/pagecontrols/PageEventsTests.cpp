@@ -1,0 +1,146 @@
+// Events of a page control, answered by the page's dialog.
+#include <gtest/gtest.h>
+
+#include <OrvexMapDialogs2.h>
+
+#include "com/PageControls.h"
+#include "tests/com/pagecontrols/TestRegistration.h"
+#include "tests/com/pagecontrols/TestTypeLibrary.h"
+#include "tests/support/DesktopTest.h"
+
+namespace orx::test {
+namespace {
+
+// {1B7D6C52-7C1E-4B8E-8F0B-5B1E7D6A1C11}
+const IID kOwnEvents = {0x1b7d6c52, 0x7c1e, 0x4b8e, {0x8f, 0x0b, 0x5b, 0x1e, 0x7d, 0x6a, 0x1c, 0x11}};
+
+class PageEventsTest : public DesktopTest {
+ protected:
+  PageEventsTest() { state.Source = __uuidof(_IMapPropertyPageEvents); }
+
+  PropertyPage& Page() {
+    if (!page) page = pages.CreatePage(PageKind::Properties, {*form, "Properties1", {0, 0, 3000, 3000}});
+    return *page;
+  }
+  TestPageControl& Control() { return *state.Last; }
+
+  const Apartment apartment;
+  PageControlState state;
+  const RegisteredClass registeredClass{state};
+  const RegisteredProgId registered{"OrvexMapControls.Properties"};
+  RecordingPages embedded{state.Log};
+  com::PageControlFactory pages{embedded};
+  std::shared_ptr<Form> form = std::make_shared<Form>(desktop(), "Form", FormDesign{});
+  std::unique_ptr<PropertyPage> page;
+};
+
+/// The arguments of CharacterRequested, passed by reference.
+struct CharacterArguments {
+  CharacterArguments() = default;
+  ~CharacterArguments() { SysFreeString(Font); }
+  CharacterArguments(const CharacterArguments&) = delete;
+  CharacterArguments& operator=(const CharacterArguments&) = delete;
+
+  BSTR Font = com::Bstr("Symbol").Detach();
+  LONG Character = 65;
+  double Rotation = 10;
+  VARIANT_BOOL Changed = VARIANT_FALSE;
+
+  std::vector<VARIANTARG> ByReference() {
+    std::vector<VARIANTARG> arguments(4);
+    arguments[0].vt = VT_BYREF | VT_BSTR;
+    arguments[0].pbstrVal = &Font;
+    arguments[1].vt = VT_BYREF | VT_I4;
+    arguments[1].plVal = &Character;
+    arguments[2].vt = VT_BYREF | VT_R8;
+    arguments[2].pdblVal = &Rotation;
+    arguments[3].vt = VT_BYREF | VT_BOOL;
+    arguments[3].pboolVal = &Changed;
+    return arguments;
+  }
+};
+
+TEST_F(PageEventsTest, ACharacterRequestIsAnsweredThroughItsArguments) {
+  Page().CharacterRequested = [](CharacterRequest& request) {
+    EXPECT_EQ("Symbol", request.FontName);
+    EXPECT_EQ(65, request.Character);
+    EXPECT_EQ(10, request.Rotation);
+    request = {"Wingdings", 0x2713, 45, true};
+  };
+  CharacterArguments arguments;
+  EXPECT_EQ(S_OK, Control().Raise(1, arguments.ByReference()));
+  EXPECT_EQ("Wingdings", com::TextOf(arguments.Font));
+  EXPECT_EQ(0x2713, arguments.Character);
+  EXPECT_EQ(45, arguments.Rotation);
+  EXPECT_EQ(VARIANT_TRUE, arguments.Changed);
+}
+
+TEST_F(PageEventsTest, ARequestThatNobodyHandlesLeavesItsArgumentsAsTheyAre) {
+  Page();
+  CharacterArguments arguments;
+  EXPECT_EQ(S_OK, Control().Raise(1, arguments.ByReference()));
+  EXPECT_EQ(65, arguments.Character);
+  EXPECT_EQ(VARIANT_FALSE, arguments.Changed);
+}
+
+TEST_F(PageEventsTest, AChangedNameReachesThePage) {
+  std::string changed;
+  Page().NameChanged = [&](const std::string& name) { changed = name; };
+  const com::Variant name("Relief");
+  EXPECT_EQ(S_OK, Control().Raise(2, {name}));
+  EXPECT_EQ("Relief", changed);
+}
+
+TEST_F(PageEventsTest, EventsThatThePageDoesNotKnowAreRefused) {
+  Page();
+  EXPECT_EQ(DISP_E_MEMBERNOTFOUND, Control().Raise(99, {}));
+}
+
+TEST_F(PageEventsTest, WhatAHandlerThrowsComesBackAsErrorWithDescription) {
+  Page().NameChanged = [](const std::string&) { throw RunTimeError(1001, "This name is taken."); };
+  const com::Variant name("Relief");
+  EXCEPINFO exception = {};
+  EXPECT_EQ(DISP_E_EXCEPTION, Control().Raise(2, {name}, &exception));
+  EXPECT_EQ(static_cast<HRESULT>(0x800A0000 + 1001), exception.scode);
+  EXPECT_EQ("This name is taken.", com::TextOf(exception.bstrDescription));
+  SysFreeString(exception.bstrDescription);
+  SysFreeString(exception.bstrSource);
+}
+
+TEST_F(PageEventsTest, WithoutRoomForADescriptionTheCodeItselfComesBack) {
+  Page().NameChanged = [](const std::string&) { throw RunTimeError(1001, "This name is taken."); };
+  const com::Variant name("Relief");
+  EXPECT_EQ(static_cast<HRESULT>(0x800A0000 + 1001), Control().Raise(2, {name}));
+  com::ComPtr<IErrorInfo> info;
+  com::Bstr description;
+  ASSERT_EQ(S_OK, GetErrorInfo(0, info.Out()));
+  info->GetDescription(description.Out());
+  EXPECT_EQ("This name is taken.", description.Text());
+}
+
+TEST_F(PageEventsTest, EventsOfAnInterfaceOfItsOwnAreKnownByTheirNames) {
+  state.Source = kOwnEvents;
+  state.ClassInfo = DescribeClass(kOwnEvents, {"namechanged", 77});
+  std::string changed;
+  Page().NameChanged = [&](const std::string& name) { changed = name; };
+  const com::Variant name("Relief");
+  EXPECT_EQ(DISP_E_MEMBERNOTFOUND, Control().Raise(2, {name}));
+  EXPECT_EQ(S_OK, Control().Raise(77, {name}));
+  EXPECT_EQ("Relief", changed);
+}
+
+TEST_F(PageEventsTest, AControlWithoutKnownEventsServesAllTheSame) {
+  state.Source = kOwnEvents;
+  Page().RefreshContents();
+  EXPECT_EQ(S_FALSE, Control().Raise(2, {}));
+}
+
+TEST_F(PageEventsTest, NobodyListensWhenThePageIsGone) {
+  Page();
+  const com::ComPtr<TestPageControl> control(&Control());
+  page.reset();
+  EXPECT_EQ(S_FALSE, control->Raise(2, {}));
+}
+
+}  // namespace
+}  // namespace orx::test

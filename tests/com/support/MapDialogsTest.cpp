@@ -1,0 +1,47 @@
+#include "tests/com/support/MapDialogsTest.h"
+
+#include "desktops/headless/HeadlessDesktop.h"
+
+namespace orx::com::test {
+
+MapDialogsTest::MapDialogsTest() {
+  Surroundings::DesktopMaker([this] {
+    auto made = std::make_unique<headless::HeadlessDesktop>();
+    made->Hook(this);
+    return made;
+  });
+  dialogs = Create();
+}
+
+MapDialogsTest::~MapDialogsTest() {
+  dialogs.Reset();
+  Surroundings::DesktopMaker({});
+}
+
+void MapDialogsTest::ModalRunning(const Modal& modal) {
+  if (!modal.ShownForm) return;
+  Shown.push_back(modal.ShownForm->Name() + ": " + modal.ShownForm->Caption());
+  if (Answer) Answer(*modal.ShownForm);
+  if (modal.ShownForm->Visible()) modal.ShownForm->UserClose();
+}
+
+HRESULT MapDialogsTest::ShowProperties(IDispatch* object, VARIANT* owner) {
+  return dialogs->ShowProperties(&object, nullptr, nullptr, owner, &Result);
+}
+
+ComPtr<ScriptObject> LanguageOf(std::int32_t entries, const char* text) {
+  std::map<std::string, Variant> fields;
+  fields.emplace("EntryCount", Variant(entries));
+  fields.emplace("TranslateText", Variant(text));
+  fields.emplace("TranslateForm", Variant());
+  return MakeCounted<ScriptObject>(std::move(fields));
+}
+
+std::string TakenErrorText() {
+  ComPtr<IErrorInfo> info;
+  Bstr text;
+  if (GetErrorInfo(0, info.Out()) == S_OK) info->GetDescription(text.Out());
+  return text.Text();
+}
+
+}  // namespace orx::com::test

@@ -1,0 +1,70 @@
+// Objects as script languages make them: members by name alone, each language in its own manner.
+#pragma once
+
+#include <dispex.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "com/Counted.h"
+
+namespace orx::com::test {
+
+/// How an object tells the numbers of its members.
+enum class Naming {
+  Plain,
+  /// GetIDsOfNames is not there; names are asked by IDispatchEx.
+  ExtendedOnly
+};
+
+/// An object with fields. Letters of either case are different, as in the stricter languages.
+class ScriptObject final : public Counted<IDispatchEx> {
+ public:
+  explicit ScriptObject(std::map<std::string, Variant> fields = {}, Naming naming = Naming::Plain);
+
+  /// An array as the languages without real ones have it: "length", "0", "1", ...
+  static ComPtr<ScriptObject> ArrayOf(const std::vector<std::string>& elements);
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                                   EXCEPINFO*, UINT*) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetDispID(BSTR name, DWORD, DISPID* id) noexcept override;
+  HRESULT STDMETHODCALLTYPE InvokeEx(DISPID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
+                                     IServiceProvider*) noexcept override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE DeleteMemberByName(BSTR, DWORD) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE DeleteMemberByDispID(DISPID) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetMemberProperties(DISPID, DWORD, DWORD*) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetMemberName(DISPID, BSTR*) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetNextDispID(DWORD, DISPID, DISPID*) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetNameSpaceParent(IUnknown**) noexcept override { return E_NOTIMPL; }
+
+  /// Names of the fields that were read, in order.
+  std::vector<std::string> Read;
+
+ protected:
+  void* Find(REFIID iid) noexcept override;
+
+ private:
+  DISPID NumberOf(const std::string& name) const;
+
+  std::map<std::string, Variant> mFields;
+  Naming mNaming;
+};
+
+/// An object without members by name or number.
+class PlainObject final : public Counted<IUnknown> {};
+
+/// The number of references of an object.
+template <class Object>
+ULONG ReferencesOf(Object* object) {
+  object->AddRef();
+  return object->Release();
+}
+
+}  // namespace orx::com::test
