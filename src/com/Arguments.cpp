@@ -1,5 +1,7 @@
 #include "com/Arguments.h"
 
+#include <algorithm>
+
 #include "com/Conversion.h"
 
 namespace orx::com {
@@ -57,34 +59,43 @@ VARTYPE UserType(ITypeInfo& info, HREFTYPE reference) {
   }
 }
 
-/// Moves a value of exactly that type to where a typed reference points.
-void StoreBehind(VARIANT& reference, Variant& value) {
-  Variant before;
-  before.vt = value.vt;
-  switch (value.vt) {
-    case VT_BSTR:
-      before.bstrVal = std::exchange(*reference.pbstrVal, value.bstrVal);
-      value.bstrVal = nullptr;
-      break;
-    case VT_DISPATCH:
-      before.pdispVal = std::exchange(*reference.ppdispVal, value.pdispVal);
-      value.pdispVal = nullptr;
-      break;
-    case VT_R8:
-      *reference.pdblVal = value.dblVal;
-      break;
-    case VT_BOOL:
-      *reference.pboolVal = value.boolVal;
-      break;
+/// The bytes of a value of that type inside a variant.
+std::size_t SizeOf(VARTYPE type) {
+  switch (type) {
+    case VT_I1:
+    case VT_UI1:
+      return 1;
     case VT_I2:
-      *reference.piVal = value.iVal;
-      break;
+    case VT_UI2:
+    case VT_BOOL:
+      return 2;
     case VT_I4:
-      *reference.plVal = value.lVal;
-      break;
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_R4:
+    case VT_ERROR:
+      return 4;
+    case VT_I8:
+    case VT_UI8:
+    case VT_R8:
+    case VT_DATE:
+    case VT_CY:
+      return 8;
+    case VT_BSTR:
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+      return sizeof(void*);
     default:
-      break;
+      return 0;
   }
+}
+
+/// Moves a value to where a typed reference of exactly that type points.
+void StoreBehind(VARIANT& reference, Variant& value) {
+  // What was there goes with the value, which is cleared.
+  auto* const there = static_cast<unsigned char*>(reference.byref);
+  std::swap_ranges(there, there + SizeOf(value.vt), reinterpret_cast<unsigned char*>(&value.llVal));
 }
 
 bool IsInterface(ITypeInfo& info, const TYPEDESC& type) {

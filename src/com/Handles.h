@@ -10,6 +10,8 @@
 #include <string_view>
 #include <utility>
 
+#include "desktops/win32/Text.h"
+
 namespace orx::com {
 
 /// A counted reference to an interface.
@@ -68,9 +70,8 @@ class ComPtr {
   Interface* mPointer = nullptr;
 };
 
-/// UTF-8 to and from the system's UTF-16; what is no text on one side becomes the replacement character on the other.
-std::wstring Widened(std::string_view text);
-std::string Narrowed(std::wstring_view text);
+using win32::Narrowed;
+using win32::Widened;
 
 /// A string of the automation library. Empty and null are the same text.
 class Bstr {

@@ -1,5 +1,7 @@
 #include "com/OwnerArgument.h"
 
+#include <cmath>
+
 #include "com/Conversion.h"
 #include "com/LateBound.h"
 #include "hostobjects/RunTimeError.h"
@@ -14,6 +16,10 @@ constexpr char kExplanation[] =
 
 std::uintptr_t HandleOf(const VARIANT& number) {
   Variant handle;
+  Variant exact;
+  if (number.vt == VT_BOOL || FAILED(ConvertValue(number, VT_R8, LOCALE_INVARIANT, exact)) ||
+      exact.dblVal != std::trunc(exact.dblVal))
+    throw RunTimeError(kTypeMismatch, kExplanation);
   // Handles of 64-bit programs fit 32 bits, but their sign is extended by some and not by others.
   if (FAILED(ConvertValue(number, VT_I8, LOCALE_INVARIANT, handle))) throw RunTimeError(kTypeMismatch, kExplanation);
   return static_cast<std::uintptr_t>(static_cast<std::intptr_t>(static_cast<std::int32_t>(handle.llVal)));
