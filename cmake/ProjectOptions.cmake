@@ -17,6 +17,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # These report std::string of the compiler's own library when it is inlined (fixed in later releases).
   target_compile_options(orx_options INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
 endif()
+if(WIN32)
+  target_compile_definitions(orx_options INTERFACE
+    UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+endif()
 if(ORX_SANITIZE)
   target_compile_options(orx_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(orx_options INTERFACE -fsanitize=address,undefined)

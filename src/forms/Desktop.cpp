@@ -72,6 +72,8 @@ void Desktop::RunModal(Form& form) {
     form.Window()->RunModal();
   } catch (...) {
     session.Error = std::current_exception();
+    // Its owner would stay out of reach.
+    form.Hide();
   }
   std::erase(mSessions, &session);
   if (mHook) mHook->ModalClosed(modal);

@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QtTest>
 
-#include "tests/qt/QtTest.h"
+#include "tests/forms/SampleForm.h"
 
 namespace orx::test {
 namespace {

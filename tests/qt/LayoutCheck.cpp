@@ -1,4 +1,4 @@
-#include "tests/qt/LayoutCheck.h"
+#include "tests/layout/LayoutCheck.h"
 
 #include <QCheckBox>
 #include <QComboBox>

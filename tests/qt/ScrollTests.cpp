@@ -3,8 +3,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "tests/qt/LayoutCheck.h"
-#include "tests/qt/QtTest.h"
+#include "tests/layout/LayoutCheck.h"
+#include "tests/forms/SampleForm.h"
 
 namespace orx::test {
 namespace {

@@ -75,22 +75,29 @@ class MarkPainter {
   }
 
   void operator()(const TextMark& mark) const {
-    const GdiObject<HFONT> font = MakeFont(mark.Face);
-    const Selection selection(mContext, font.get());
+    const std::wstring text = Widened(mark.Text);
+    const auto length = static_cast<int>(text.size());
+    SIZE size = {};
+    TEXTMETRICW font = {};
+    {
+      // Measured before it is turned: turned texts have extents of their own.
+      const GdiObject<HFONT> upright = MakeFont(mark.Face);
+      const Selection selection(mContext, upright.get());
+      GetTextExtentPoint32W(mContext, text.c_str(), length, &size);
+      GetTextMetricsW(mContext, &font);
+    }
+    const GdiObject<HFONT> turned = MakeFont(mark.Face, mark.Rotation);
+    const Selection selection(mContext, turned.get());
     SetTextColor(mContext, ColorOf(mark.Pen));
     SetBkMode(mContext, TRANSPARENT);
-    SetGraphicsMode(mContext, GM_ADVANCED);
+    SetTextAlign(mContext, TA_LEFT | TA_BASELINE);
+    // The start of the base line, seen from the centre; the screen's y axis points down.
+    const double right = -size.cx / 2.0;
+    const double down = font.tmAscent - size.cy / 2.0;
     const double angle = mark.Rotation * std::numbers::pi / 180;
-    const auto cosine = static_cast<float>(std::cos(angle));
-    const auto sine = static_cast<float>(std::sin(angle));
-    const XFORM turn = {
-        cosine, -sine, sine, cosine, static_cast<float>(mark.Center.X), static_cast<float>(mark.Center.Y)};
-    SetWorldTransform(mContext, &turn);
-    const std::wstring text = Widened(mark.Text);
-    SIZE size = {};
-    GetTextExtentPoint32W(mContext, text.c_str(), static_cast<int>(text.size()), &size);
-    TextOutW(mContext, static_cast<int>(-size.cx / 2), static_cast<int>(-size.cy / 2), text.c_str(),
-             static_cast<int>(text.size()));
+    const double x = mark.Center.X + right * std::cos(angle) + down * std::sin(angle);
+    const double y = mark.Center.Y - right * std::sin(angle) + down * std::cos(angle);
+    TextOutW(mContext, static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y)), text.c_str(), length);
   }
 
   void operator()(const ImageMark& mark) const {

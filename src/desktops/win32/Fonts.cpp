@@ -41,7 +41,7 @@ double DialogFontPoints() {
   return std::max(kLeastPoints, PointsOf(MessageFont()));
 }
 
-GdiObject<HFONT> MakeFont(const Font& face) {
+GdiObject<HFONT> MakeFont(const Font& face, double rotation) {
   LOGFONTW font = MessageFont();
   if (!face.Name.empty()) {
     font = {};
@@ -50,6 +50,7 @@ GdiObject<HFONT> MakeFont(const Font& face) {
   }
   font.lfHeight = HeightOf(face.Size);
   font.lfWidth = 0;
+  font.lfEscapement = font.lfOrientation = std::lround(rotation * 10);
   font.lfWeight = face.Bold ? FW_BOLD : FW_NORMAL;
   font.lfItalic = face.Italic;
   font.lfUnderline = face.Underline;

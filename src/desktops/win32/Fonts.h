@@ -10,7 +10,8 @@ namespace orx::win32 {
 GdiObject<HFONT> MakeDialogFont();
 /// Its size in points; at least 9.
 double DialogFontPoints();
-/// A font of drawings, turned by no angle; an empty name stands for the dialog font's.
-GdiObject<HFONT> MakeFont(const Font& face);
+/// A font of drawings; an empty name stands for the dialog font's. Its lines run at the angle, in degrees
+/// counterclockwise.
+GdiObject<HFONT> MakeFont(const Font& face, double rotation = 0);
 
 }  // namespace orx::win32

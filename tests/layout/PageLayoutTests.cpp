@@ -2,14 +2,14 @@
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
-#include "tests/qt/LayoutCheck.h"
+#include "tests/layout/LayoutCheck.h"
 
 namespace orx::test {
 namespace {
 
-class QtPageLayout : public PagesTest {
+class PageLayout : public PagesTest {
  protected:
-  QtPageLayout() { legends.Legends.emplace_back(legends.Log, "Elevation"); }
+  PageLayout() { legends.Legends.emplace_back(legends.Log, "Elevation"); }
 
   /// Shows the four dialogs and looks each over.
   void ExpectAllTextShown(ILanguage* language) {
@@ -28,21 +28,21 @@ class QtPageLayout : public PagesTest {
   RecordedLegends legends;
 };
 
-TEST_F(QtPageLayout, NothingIsCutOffInEnglish) {
+TEST_F(PageLayout, NothingIsCutOffInEnglish) {
   ExpectAllTextShown(nullptr);
 }
 
-TEST_F(QtPageLayout, NothingIsCutOffInGerman) {
+TEST_F(PageLayout, NothingIsCutOffInGerman) {
   maplibrary::TextLanguage german(std::filesystem::path(ORX_DATA_DIR "/languages/de.txt"));
   ExpectAllTextShown(&german);
 }
 
-TEST_F(QtPageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
+TEST_F(PageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
   maplibrary::PseudoLanguage pseudo;
   ExpectAllTextShown(&pseudo);
 }
 
-TEST_F(QtPageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {
+TEST_F(PageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {
   const auto page = MakePage(PageKind::Properties);
   page->Page->CharacterRequested = [](CharacterRequest&) {};
   page->Page->Client(&layer);

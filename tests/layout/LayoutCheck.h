@@ -1,4 +1,4 @@
-// Looks over a form that is shown on the Qt desktop: is any text cut off, does anything stand outside of what it stands
+// Looks over a form that is shown: is any text cut off, does anything stand outside of what it stands
 // in, or upon its neighbour? Meant for every dialog, at every screen resolution.
 #pragma once
 

@@ -1,21 +1,21 @@
 // The layout checker itself, and that the controls of a well drawn form show all their text at every resolution.
-#include "tests/qt/LayoutCheck.h"
-#include "tests/qt/QtTest.h"
+#include "tests/layout/LayoutCheck.h"
+#include "tests/forms/SampleForm.h"
 
 namespace orx::test {
 namespace {
 
-using QtLayout = QtFormsTest;
+using Layout = FormsTest;
 using Problems = std::vector<std::string>;
 
-TEST_F(QtLayout, AWellDrawnFormHasNoProblems) {
+TEST_F(Layout, AWellDrawnFormHasNoProblems) {
   ShowForm();
   EXPECT_EQ(Problems{}, LayoutProblems(*form));
   user.SelectTab(form->ssTab, 1);
   EXPECT_EQ(Problems{}, LayoutProblems(*form));
 }
 
-TEST_F(QtLayout, TextThatIsCutOffIsFound) {
+TEST_F(Layout, TextThatIsCutOffIsFound) {
   ShowForm();
   const std::string longText = "A text that is much too long for the place";
   form->cmdOK.Caption(longText);
@@ -29,14 +29,14 @@ TEST_F(QtLayout, TextThatIsCutOffIsFound) {
   for (const std::string& problem : found) EXPECT_NE(std::string::npos, problem.find("text needs")) << problem;
 }
 
-TEST_F(QtLayout, AFieldThatIsTooLowIsFound) {
+TEST_F(Layout, AFieldThatIsTooLowIsFound) {
   ShowForm();
   form->txtSize.Place({3960, 120, 1200, 180});
   ASSERT_EQ(1U, LayoutProblems(*form).size());
   EXPECT_EQ(0U, LayoutProblems(*form)[0].find("frmSample.txtSize: text needs"));
 }
 
-TEST_F(QtLayout, ControlsOutsideOrUponOthersAreFound) {
+TEST_F(Layout, ControlsOutsideOrUponOthersAreFound) {
   ShowForm();
   form->txtFirst.Left(2000);
   form->txtSize.Left(3000);
@@ -45,7 +45,7 @@ TEST_F(QtLayout, ControlsOutsideOrUponOthersAreFound) {
             LayoutProblems(*form));
 }
 
-TEST_F(QtLayout, AControlOnTheTitleOfItsFrameIsFound) {
+TEST_F(Layout, AControlOnTheTitleOfItsFrameIsFound) {
   ShowForm();
   form->txtFirst.Top(30);
   EXPECT_EQ((Problems{"frmSample.ssTab.ssTabPage0.fraFirst.txtFirst: covers the title of its frame"}),

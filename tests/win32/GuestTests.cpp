@@ -1,0 +1,109 @@
+// The desktop is a guest in its host's process: what it takes for a call it gives back.
+#include <set>
+
+#include "tests/win32/Win32Test.h"
+
+namespace orx::test {
+namespace {
+
+/// The thread's surroundings that a dialog borrows.
+struct Borrowed {
+  HANDLE Look = nullptr;
+  void* DpiContext = nullptr;
+  int Objects = 0;
+  std::set<HWND> Windows;
+
+  static Borrowed Now() {
+    Borrowed now;
+    GetCurrentActCtx(&now.Look);
+    if (now.Look) ReleaseActCtx(now.Look);
+    now.DpiContext = GetThreadDpiAwarenessContext();
+    now.Objects = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    const auto note = [](HWND window, LPARAM windows) -> BOOL {
+      reinterpret_cast<std::set<HWND>*>(windows)->insert(window);
+      return TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), note, reinterpret_cast<LPARAM>(&now.Windows));
+    return now;
+  }
+
+  bool operator==(const Borrowed&) const = default;
+};
+
+class Win32Guest : public Win32FormsTest {
+ protected:
+  void ShowOnce(ShowMode mode) {
+    Events log;
+    const auto lone = std::make_shared<SampleForm>(desktop(), log);
+    if (mode == ShowMode::Modal)
+      script.ExpectForm("frmSample", [&](Form& shown) { user.CloseBox(shown); });
+    lone->Show(mode);
+    lone->Unload();
+  }
+};
+
+TEST_F(Win32Guest, NothingIsLeftBehindByADialog) {
+  for (const ShowMode mode : {ShowMode::Modal, ShowMode::Modeless}) {
+    ShowOnce(mode);  // What the platform makes once stays.
+    const Borrowed before = Borrowed::Now();
+    ShowOnce(mode);
+    EXPECT_TRUE(before == Borrowed::Now());
+  }
+}
+
+TEST_F(Win32Guest, NothingIsLeftBehindByAMessage) {
+  const auto show = [&] {
+    script.ExpectMessage({"Text", "Title", MessageIcon::Information});
+    desktop().ShowMessage({"Text", "Title", MessageIcon::Information});
+  };
+  show();
+  const Borrowed before = Borrowed::Now();
+  show();
+  EXPECT_TRUE(before == Borrowed::Now());
+}
+
+TEST_F(Win32Guest, TheDialogsHaveTheLookOfTheirOwnManifest) {
+  HANDLE outside = nullptr;
+  GetCurrentActCtx(&outside);
+  script.ExpectForm("frmSample", [&](Form& shown) {
+    HANDLE inside = nullptr;
+    GetCurrentActCtx(&inside);
+    EXPECT_NE(inside, outside);
+    ReleaseActCtx(inside);
+    user.CloseBox(shown);
+  });
+  form->Show();
+  if (outside) ReleaseActCtx(outside);
+}
+
+TEST_F(Win32Guest, DialogsAreMeasuredInTheDotsOfTheSystem) {
+  const int dpi = static_cast<int>(GetDpiForSystem());
+  EXPECT_DOUBLE_EQ(desktop().Scale(), dpi / 96.0);
+  ShowForm();
+  RECT client;
+  GetClientRect(WindowOf(*form), &client);
+  EXPECT_EQ(client.right, 400 * dpi / 96);
+}
+
+TEST_F(Win32Guest, TheWindowClassesGoWithTheLastDialog) {
+  const auto known = [] {
+    WNDCLASSEXW found = {};
+    found.cbSize = sizeof(found);
+    return GetClassInfoExW(win32::ThisModule(), win32::WindowClasses::kDialog, &found) != 0;
+  };
+  EXPECT_FALSE(known());
+  ShowForm();
+  EXPECT_TRUE(known());
+  form->Unload();
+  EXPECT_FALSE(known());
+}
+
+TEST_F(Win32Guest, AfterManyDialogsNothingHasGrown) {
+  ShowOnce(ShowMode::Modeless);
+  const int before = Borrowed::Now().Objects;
+  for (int round = 0; round < 30; ++round) ShowOnce(ShowMode::Modeless);
+  EXPECT_EQ(Borrowed::Now().Objects, before);
+}
+
+}  // namespace
+}  // namespace orx::test
