@@ -9,8 +9,7 @@ namespace {
 /// Takes a picture of whatever opens, and closes it.
 class Photographer final : public orx::DesktopHook {
  public:
-  Photographer(orx::qt::QtDesktop& desktop, std::filesystem::path folder)
-      : mDesktop(desktop), mFolder(std::move(folder)) {}
+  Photographer(NativeDesktop& desktop, std::filesystem::path folder) : mDesktop(desktop), mFolder(std::move(folder)) {}
 
   void Language(const std::string& suffix) { mSuffix = suffix; }
 
@@ -27,14 +26,14 @@ class Photographer final : public orx::DesktopHook {
   }
 
  private:
-  orx::qt::QtDesktop& mDesktop;
+  NativeDesktop& mDesktop;
   std::filesystem::path mFolder;
   std::string mSuffix;
 };
 
 }  // namespace
 
-void WriteGallery(orx::qt::QtDesktop& desktop, orx::maplibrary::Map& map, const Languages& languages,
+void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Languages& languages,
                   const std::filesystem::path& folder) {
   std::filesystem::create_directories(folder);
   Photographer photographer(desktop, folder);

@@ -30,7 +30,7 @@ std::optional<Options> ReadOptions(int argc, char** argv) {
 }
 
 void Run(const Options& options) {
-  orx::qt::QtDesktop desktop;
+  maphost::NativeDesktop desktop;
   const auto map = orx::maplibrary::MakeSampleMap(options.Grid);
   const maphost::Languages languages(std::filesystem::path(options.Grid).parent_path() / "languages");
   if (options.Gallery) return maphost::WriteGallery(desktop, *map, languages, *options.Gallery);

@@ -2,6 +2,10 @@
 // name, and rich error information.
 #pragma once
 
+#include <windows.h>
+
+#include <ocidl.h>
+
 #include "com/Counted.h"
 #include "com/Errors.h"
 #include "com/Invoke.h"

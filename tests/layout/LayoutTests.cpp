@@ -1,6 +1,6 @@
 // The layout checker itself, and that the controls of a well drawn form show all their text at every resolution.
-#include "tests/layout/LayoutCheck.h"
 #include "tests/forms/SampleForm.h"
+#include "tests/layout/LayoutCheck.h"
 
 namespace orx::test {
 namespace {

@@ -1,8 +1,8 @@
 // The dialogs of the map library's pages show all their text, in every language and at every resolution.
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
-#include "tests/maplibrary/pages/PagesTest.h"
 #include "tests/layout/LayoutCheck.h"
+#include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {

@@ -19,12 +19,13 @@ struct Borrowed {
     if (now.Look) ReleaseActCtx(now.Look);
     now.DpiContext = GetThreadDpiAwarenessContext();
     now.Objects = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
-    const auto note = [](HWND window, LPARAM windows) -> BOOL {
-      reinterpret_cast<std::set<HWND>*>(windows)->insert(window);
-      return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), note, reinterpret_cast<LPARAM>(&now.Windows));
+    EnumThreadWindows(GetCurrentThreadId(), &Borrowed::Note, reinterpret_cast<LPARAM>(&now.Windows));
     return now;
+  }
+
+  static BOOL CALLBACK Note(HWND window, LPARAM windows) {
+    reinterpret_cast<std::set<HWND>*>(windows)->insert(window);
+    return TRUE;
   }
 
   bool operator==(const Borrowed&) const = default;
@@ -35,8 +36,7 @@ class Win32Guest : public Win32FormsTest {
   void ShowOnce(ShowMode mode) {
     Events log;
     const auto lone = std::make_shared<SampleForm>(desktop(), log);
-    if (mode == ShowMode::Modal)
-      script.ExpectForm("frmSample", [&](Form& shown) { user.CloseBox(shown); });
+    if (mode == ShowMode::Modal) script.ExpectForm("frmSample", [&](Form& shown) { user.CloseBox(shown); });
     lone->Show(mode);
     lone->Unload();
   }

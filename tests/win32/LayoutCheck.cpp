@@ -104,8 +104,7 @@ Fit TabsFit(const TabControl& tabs, const Form& form) {
     RECT place = {};
     SendMessageW(window, TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&place));
     const SIZE text = TextSize(window, tabs.TabCaption(tab));
-    need = {std::max(need.cx, std::max(place.right, place.left + text.cx)),
-            std::max({need.cy, place.bottom, text.cy})};
+    need = {std::max(need.cx, std::max(place.right, place.left + text.cx)), std::max({need.cy, place.bottom, text.cy})};
   }
   return {{ClientSize(window).cx, form.OwnerDesktop().ToPixels(TabControl::kStrip)}, need};
 }

@@ -17,8 +17,8 @@ class Win32Names : public Win32FormsTest {
 TEST_F(Win32Names, ControlsAreNumberedInTheOrderOfTheirDesignFromAHundredOn) {
   ShowForm();
   // Controls of containers follow their container; the pages of the tab control are containers of their own.
-  const Control* const designed[] = {&form->lblName, &form->txtName, &form->txtSize,       &form->chkShow,
-                                     &form->cboKind, &form->cboFree, &form->ssTab,         &form->ssTab.Page(0),
+  const Control* const designed[] = {&form->lblName,  &form->txtName,  &form->txtSize,       &form->chkShow,
+                                     &form->cboKind,  &form->cboFree,  &form->ssTab,         &form->ssTab.Page(0),
                                      &form->fraFirst, &form->txtFirst, &form->ssTab.Page(1), &form->pctSecond,
                                      &form->txtSecond};
   int id = 100;

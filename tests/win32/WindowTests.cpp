@@ -36,8 +36,7 @@ TEST_F(Win32Window, AModalFormDisablesTheOtherWindowsOfItsThread) {
 
 TEST_F(Win32Window, AControlInAWindowStandsForTheWholeWindowAsOwner) {
   const HostWindow host;
-  const HWND child =
-      CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, host.Get(), nullptr, nullptr, nullptr);
+  const HWND child = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, host.Get(), nullptr, nullptr, nullptr);
   form->Show(ShowMode::Modeless, {nullptr, reinterpret_cast<std::uintptr_t>(child)});
   EXPECT_EQ(host.Get(), GetWindow(WindowOf(*form), GW_OWNER));
 }

@@ -30,19 +30,16 @@ Dialog::Dialog(Form& form) : mForm(form), mFont(MakeDialogFont()), mGround(form)
 Dialog::~Dialog() {
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, 0);
   if (mDestroyed) return;
-  ReleaseOwned();
+  // The platform destroys the windows that a window owns with it, but here each form has its own life.
+  EnumThreadWindows(GetCurrentThreadId(), &Dialog::ReleaseFrom, reinterpret_cast<LPARAM>(mWindow));
   DestroyWindow(mWindow);
 }
 
-void Dialog::ReleaseOwned() const {
-  // The platform destroys the windows that a window owns with it, but here each form has its own life.
-  const auto release = [](HWND window, LPARAM self) -> BOOL {
-    const auto owner = reinterpret_cast<const Dialog*>(self)->mWindow;
-    if (GetWindow(window, GW_OWNER) == owner && Around(window))
-      SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(GetWindow(owner, GW_OWNER)));
-    return TRUE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), release, reinterpret_cast<LPARAM>(this));
+BOOL CALLBACK Dialog::ReleaseFrom(HWND window, LPARAM owner) {
+  const auto gone = reinterpret_cast<HWND>(owner);
+  if (GetWindow(window, GW_OWNER) == gone && Around(window))
+    SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(GetWindow(gone, GW_OWNER)));
+  return TRUE;
 }
 
 DWORD Dialog::Style() const {

@@ -89,7 +89,8 @@ class Dialog {
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void WatchActivation(bool isActive);
   void Destroyed();
-  void ReleaseOwned() const;
+  /// Hands a window that `owner` owns on to the owner of that.
+  static BOOL CALLBACK ReleaseFrom(HWND window, LPARAM owner);
   bool NoticeFocus();
   void Sized();
   void Moved();

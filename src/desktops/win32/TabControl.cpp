@@ -72,7 +72,6 @@ class TabControlPeer final : public Peer {
     SendMessageW(window, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&body));
     // To the right and below, the line stands further inside.
     body.left -= kRim;
-    body.top -= kRim;
     body.right += kRim / 2;
     body.bottom += kRim / 2;
     const WindowContext context(window, DCX_CLIPCHILDREN);
