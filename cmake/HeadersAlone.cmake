@@ -23,3 +23,4 @@ target_include_directories(headers_alone PRIVATE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(headers_alone PRIVATE -O0 -g0)
 target_link_libraries(headers_alone PRIVATE orx_options $<TARGET_NAME_IF_EXISTS:orxMDlgCom>
   $<TARGET_NAME_IF_EXISTS:Qt6::Widgets>)
+set_target_properties(headers_alone PROPERTIES UNITY_BUILD OFF)

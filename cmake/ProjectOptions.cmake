@@ -11,6 +11,9 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   endif()
 endif()
 
+# Presets that are built beside the native one compile several sources at once, in a third of the time.
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)
+
 add_library(orx_options INTERFACE)
 target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)

@@ -9,7 +9,7 @@
 namespace orx::com {
 namespace {
 
-constexpr char kSource[] = "ControlSite";
+constexpr char kSiteSource[] = "ControlSite";
 
 HRESULT GiveWindow(const ISiteOwner* owner, HWND* window) {
   if (!window) return E_POINTER;
@@ -109,7 +109,7 @@ HRESULT ControlSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWin
 
 HRESULT ControlSite::OnPosRectChange(const RECT*) noexcept {
   // The dialog decides on the place: the answer is the one that the control has.
-  return Guarded(kSource, [this] {
+  return Guarded(kSiteSource, [this] {
     if (mOwner) mOwner->PlaceAsked();
   });
 }
@@ -124,7 +124,7 @@ HRESULT ControlSite::TransformCoords(POINTL*, POINTF*, DWORD) noexcept {
 }
 
 HRESULT ControlSite::OnFocus(BOOL came) noexcept {
-  return Guarded(kSource, [this, came] {
+  return Guarded(kSiteSource, [this, came] {
     if (came && mOwner) mOwner->FocusCame();
   });
 }

@@ -14,19 +14,19 @@
 namespace orx::com {
 namespace {
 
-constexpr char kSource[] = "DialogForm";
+constexpr char kFormSource[] = "DialogForm";
 /// "Subscript out of range" and "Object unavailable", in the numbers of the older Basic.
 constexpr std::int32_t kOutOfRange = 9;
 constexpr std::int32_t kUnavailable = 398;
 
 HRESULT GiveText(BSTR* value, const std::function<std::string()>& text) noexcept {
   if (!value) return E_POINTER;
-  return Guarded(kSource, [&] { *value = Bstr(text()).Detach(); });
+  return Guarded(kFormSource, [&] { *value = Bstr(text()).Detach(); });
 }
 
 HRESULT GiveNumber(long* value, const std::function<int()>& number) noexcept {
   if (!value) return E_POINTER;
-  return Guarded(kSource, [&] { *value = number(); });
+  return Guarded(kFormSource, [&] { *value = number(); });
 }
 
 }  // namespace
@@ -51,13 +51,13 @@ class ControlObject final : public DispatchObject<::IDialogControl> {
     return GiveText(value, [this] { return Get().Caption(); });
   }
   HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override {
-    return Guarded(kSource, [&] { Get().Caption(TextOf(value)); });
+    return Guarded(kFormSource, [&] { Get().Caption(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_ToolTipText(BSTR* value) noexcept override {
     return GiveText(value, [this] { return Get().ToolTipText(); });
   }
   HRESULT STDMETHODCALLTYPE put_ToolTipText(BSTR value) noexcept override {
-    return Guarded(kSource, [&] { Get().ToolTipText(TextOf(value)); });
+    return Guarded(kFormSource, [&] { Get().ToolTipText(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_TabCount(long* value) noexcept override {
     return GiveNumber(value, [this] {
@@ -69,7 +69,7 @@ class ControlObject final : public DispatchObject<::IDialogControl> {
     return GiveText(value, [&] { return Tabs(index).TabCaption(index); });
   }
   HRESULT STDMETHODCALLTYPE put_TabCaption(long index, BSTR value) noexcept override {
-    return Guarded(kSource, [&] { Tabs(index).TabCaption(index, TextOf(value)); });
+    return Guarded(kFormSource, [&] { Tabs(index).TabCaption(index, TextOf(value)); });
   }
 
  private:
@@ -99,7 +99,7 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
   HRESULT STDMETHODCALLTYPE get_Item(VARIANT index, IDispatch** value) noexcept override {
     if (!value) return E_POINTER;
     *value = nullptr;
-    return Guarded(kSource, [&] { *value = Item(index).Detach(); });
+    return Guarded(kFormSource, [&] { *value = Item(index).Detach(); });
   }
 
   HRESULT STDMETHODCALLTYPE get__NewEnum(IUnknown** value) noexcept override;
@@ -142,7 +142,7 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
     if (!values) return E_POINTER;
     ULONG done = 0;
-    const HRESULT result = Guarded(kSource, [&] {
+    const HRESULT result = Guarded(kFormSource, [&] {
       for (; done < count && mNext < mCount; ++done, ++mNext) {
         values[done].vt = VT_DISPATCH;
         values[done].pdispVal = mControls->ByNumber(static_cast<long>(mNext)).Detach();
@@ -163,7 +163,8 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
   }
   HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) noexcept override {
     if (!copy) return E_POINTER;
-    return Guarded(kSource, [&] { *copy = MakeCounted<ControlsEnumerator>(*mControls.Get(), mCount, mNext).Detach(); });
+    return Guarded(kFormSource,
+                   [&] { *copy = MakeCounted<ControlsEnumerator>(*mControls.Get(), mCount, mNext).Detach(); });
   }
 
  private:
@@ -175,7 +176,7 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
 HRESULT ControlsObject::get__NewEnum(IUnknown** value) noexcept {
   if (!value) return E_POINTER;
   *value = nullptr;
-  return Guarded(kSource, [&] {
+  return Guarded(kFormSource, [&] {
     const auto count = static_cast<ULONG>(mLoan->Get().All().size());
     *value = MakeCounted<ControlsEnumerator>(*this, count, 0U).Detach();
   });
@@ -192,12 +193,12 @@ class FormObject final : public DispatchObject<::IDialogForm> {
     return GiveText(value, [this] { return mLoan->Get().Caption(); });
   }
   HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override {
-    return Guarded(kSource, [&] { mLoan->Get().Caption(TextOf(value)); });
+    return Guarded(kFormSource, [&] { mLoan->Get().Caption(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_Controls(IDispatch** value) noexcept override {
     if (!value) return E_POINTER;
     *value = nullptr;
-    return Guarded(kSource, [&] {
+    return Guarded(kFormSource, [&] {
       mLoan->Get();
       *value = MakeCounted<ControlsObject>(mLoan).Detach();
     });

@@ -5,7 +5,7 @@
 namespace orx::com {
 namespace {
 
-constexpr char kSource[] = "CCommonMapDialogs";
+constexpr char kDialogsSource[] = "CCommonMapDialogs";
 
 HRESULT GiveReference(IDispatch* object, IDispatch** value) {
   if (!value) return E_POINTER;
@@ -28,12 +28,12 @@ MapDialogs::MapDialogs()
 
 HRESULT MapDialogs::get_RegistryKey(BSTR* value) noexcept {
   if (!value) return E_POINTER;
-  return Guarded(kSource, [&] { *value = Bstr(mService.RegistryKey()).Detach(); });
+  return Guarded(kDialogsSource, [&] { *value = Bstr(mService.RegistryKey()).Detach(); });
 }
 
 HRESULT MapDialogs::put_RegistryKey(BSTR* value) noexcept {
   if (!value) return E_POINTER;
-  return Guarded(kSource, [&] { mService.RegistryKey(TextOf(*value)); });
+  return Guarded(kDialogsSource, [&] { mService.RegistryKey(TextOf(*value)); });
 }
 
 HRESULT MapDialogs::get_CallBack(IDispatch** value) noexcept {
@@ -41,7 +41,7 @@ HRESULT MapDialogs::get_CallBack(IDispatch** value) noexcept {
 }
 
 HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
-  return Guarded(kSource, [&] {
+  return Guarded(kDialogsSource, [&] {
     IDispatch* const callBack = value ? *value : nullptr;
     auto adapter = AdaptCallBack(callBack);
     mService.CallBack(adapter.get());
@@ -55,7 +55,7 @@ HRESULT MapDialogs::get_Language(IDispatch** value) noexcept {
 }
 
 HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
-  return Guarded(kSource, [&] {
+  return Guarded(kDialogsSource, [&] {
     IDispatch* const language = value ? *value : nullptr;
     // The old adapter lives until the service has the new one, whatever the new language throws when it is asked.
     const auto before = std::exchange(mLanguageAdapter, AdaptLanguage(language));
@@ -71,7 +71,7 @@ HRESULT MapDialogs::ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::F
   *result = 0;
   // A host may let go of the service from within a call.
   const ComPtr<IUnknown> keep(static_cast<::_CCommonMapDialogs*>(this));
-  return Guarded(kSource, [&] {
+  return Guarded(kDialogsSource, [&] {
     const std::shared_ptr<HostObject> client = AdaptHostObject(*mObj);
     const bool isModeless = mModal && *mModal == ::ShowModeless;
     *result = dialog(DialogCall{client.get(), mCaption ? TextOf(*mCaption) : std::string(),

@@ -11,7 +11,7 @@
 namespace orx::com {
 namespace {
 
-constexpr char kSource[] = "Registration";
+constexpr char kRegistrationSource[] = "Registration";
 
 struct CreatableClass {
   CLSID Id;
@@ -160,8 +160,8 @@ void WriteAll(const ClassesKey& classes, const std::vector<Entry>& entries) {
 }  // namespace
 
 HRESULT ForAllOrUser(const std::function<void(RegisteredFor)>& action) noexcept {
-  const HRESULT all = Guarded(kSource, [&] { action(RegisteredFor::AllUsers); });
-  return IsDenied(all) ? Guarded(kSource, [&] { action(RegisteredFor::User); }) : all;
+  const HRESULT all = Guarded(kRegistrationSource, [&] { action(RegisteredFor::AllUsers); });
+  return IsDenied(all) ? Guarded(kRegistrationSource, [&] { action(RegisteredFor::User); }) : all;
 }
 
 void Register(RegisteredFor whom) {
@@ -173,7 +173,7 @@ void Register(RegisteredFor whom) {
     for (const CreatableClass& made : kClasses) WriteAll(classes, EntriesOf(made));
   } catch (...) {
     // Half a registration is worse than none. What it failed at is the error to tell.
-    static_cast<void>(Guarded(kSource, [&] { Unregister(whom); }));
+    static_cast<void>(Guarded(kRegistrationSource, [&] { Unregister(whom); }));
     throw;
   }
 }

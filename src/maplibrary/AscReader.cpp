@@ -62,7 +62,7 @@ double FirstCenter(const GridFields& fields, const std::string& axis, double cel
   return fields.Coordinate(axis + "LLCORNER") + cellSize / 2;
 }
 
-GridData FrameFrom(const GridFields& fields) {
+GridData AscFrame(const GridFields& fields) {
   GridData grid;
   grid.Columns = static_cast<std::int32_t>(fields.Whole("NCOLS", 1, kMaxGridSide));
   grid.Rows = static_cast<std::int32_t>(fields.Whole("NROWS", 1, kMaxGridSide));
@@ -103,7 +103,7 @@ GridData ReadAsc(const fs::path& path) {
   const std::string text = ReadText(path, kMaxTextBytes);
   Words words(text);
   const GridFields fields = ReadFields(path, words);
-  GridData grid = FrameFrom(fields);
+  GridData grid = AscFrame(fields);
   ReadValues(path, words, grid);
   return grid;
 }

@@ -8,6 +8,7 @@
 #include "maplibrary/GridFields.h"
 #include "maplibrary/GridFile.h"
 #include "maplibrary/GridReaders.h"
+#include "maplibrary/Trimmed.h"
 
 namespace orx::maplibrary {
 
@@ -30,13 +31,6 @@ struct CellLayout {
   std::int64_t RowBytes = 0;
 };
 
-std::string Trimmed(const std::string& text) {
-  constexpr const char* kBlanks = " \t\r\v\f";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 fs::path HeaderOf(const fs::path& path) {
   fs::path header = fs::path(path).replace_extension(".hdr");
   const fs::path capitals = fs::path(path).replace_extension(".HDR");
@@ -48,9 +42,9 @@ GridFields ReadHeader(const fs::path& path) {
   GridFields fields(path);
   std::istringstream lines(ReadText(path, kMaxHeaderBytes));
   for (std::string line; std::getline(lines, line);) {
-    line = Trimmed(line);
-    const std::size_t end = std::min(line.find_first_of(" \t"), line.size());
-    if (end > 0) fields.Add(line.substr(0, end), Trimmed(line.substr(end)));
+    const std::string_view field = Trimmed(line);
+    const std::size_t end = std::min(field.find_first_of(" \t"), field.size());
+    if (end > 0) fields.Add(std::string(field.substr(0, end)), std::string(Trimmed(field.substr(end))));
   }
   return fields;
 }
@@ -80,7 +74,7 @@ CellLayout LayoutFrom(const GridFields& fields, std::int64_t columns) {
   return layout;
 }
 
-GridData FrameFrom(const GridFields& fields) {
+GridData BilFrame(const GridFields& fields) {
   GridData grid;
   grid.Rows = static_cast<std::int32_t>(fields.Whole("NROWS", 1, kMaxGridSide));
   grid.Columns = static_cast<std::int32_t>(fields.Whole("NCOLS", 1, kMaxGridSide));
@@ -142,7 +136,7 @@ GridData ReadBil(const fs::path& path) {
   std::ifstream file = OpenFile(path);
   const GridFields fields = ReadHeader(HeaderOf(path));
   RequireOneBand(fields);
-  GridData grid = FrameFrom(fields);
+  GridData grid = BilFrame(fields);
   const CellLayout layout = LayoutFrom(fields, grid.Columns);
   RequireFileSize(path, layout, grid);
   ReadCells(path, file, layout, grid);

@@ -5,18 +5,12 @@
 #include <sstream>
 
 #include "hostobjects/RunTimeError.h"
+#include "maplibrary/Trimmed.h"
 
 namespace orx::maplibrary {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view kBlanks = " \t\r";
-
-std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 /// The place of the first equals sign that is not escaped.
 std::size_t FindEquals(std::string_view line) {

@@ -3,7 +3,7 @@
 namespace orx {
 namespace {
 
-constexpr PageHostDesign kDesign{
+constexpr PageHostDesign kCoordinatesDesign{
     .FormName = "frmCoordinates",
     .Caption = "Properties",
     .TabCaption = "Coordinates",
@@ -14,7 +14,8 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmCoordinates::frmCoordinates(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+frmCoordinates::frmCoordinates(Desktop& desktop, IPageFactory& pages)
+    : PageHostForm(desktop, pages, kCoordinatesDesign) {
 }
 
 }  // namespace orx

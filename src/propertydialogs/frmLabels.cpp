@@ -3,7 +3,7 @@
 namespace orx {
 namespace {
 
-constexpr PageHostDesign kDesign{
+constexpr PageHostDesign kLabelsDesign{
     .FormName = "frmLabels",
     .Caption = "Properties",
     .TabCaption = "Labels",
@@ -14,7 +14,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kLabelsDesign) {
 }
 
 }  // namespace orx

@@ -3,7 +3,7 @@
 namespace orx {
 namespace {
 
-constexpr PageHostDesign kDesign{
+constexpr PageHostDesign kLegendDesign{
     .FormName = "frmLegend",
     .Caption = "Map Annotation Properties",
     .TabCaption = "Legends",
@@ -24,7 +24,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmLegend::frmLegend(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+frmLegend::frmLegend(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kLegendDesign) {
 }
 
 }  // namespace orx

@@ -3,7 +3,7 @@
 namespace orx {
 namespace {
 
-constexpr PageHostDesign kDesign{
+constexpr PageHostDesign kPropertiesDesign{
     .FormName = "frmProperties",
     .Caption = "Layer Properties",
     .TabCaption = "Properties",
@@ -14,7 +14,7 @@ constexpr PageHostDesign kDesign{
 
 }  // namespace
 
-frmProperties::frmProperties(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kDesign) {
+frmProperties::frmProperties(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kPropertiesDesign) {
 }
 
 }  // namespace orx

@@ -11,7 +11,7 @@
 namespace orx::numbers {
 namespace {
 
-const Separators kGerman{",", ".", "€"};
+const Separators kGermanSeparators{",", ".", "€"};
 
 ::testing::AssertionResult ReadsBack(double value, const Separators& separators = {}) {
   const std::string text = ShortestText(value, separators);
@@ -54,9 +54,9 @@ TEST(NumbersShortestText, ExponentsHaveAtLeastTwoDigits) {
 }
 
 TEST(NumbersShortestText, TheLocaleGivesTheDecimalSeparator) {
-  EXPECT_EQ(ShortestText(0.5, kGerman), "0,5");
-  EXPECT_EQ(ShortestText(1234.5, kGerman), "1234,5");
-  EXPECT_EQ(ShortestText(1.5e-7, kGerman), "1,5E-07");
+  EXPECT_EQ(ShortestText(0.5, kGermanSeparators), "0,5");
+  EXPECT_EQ(ShortestText(1234.5, kGermanSeparators), "1234,5");
+  EXPECT_EQ(ShortestText(1.5e-7, kGermanSeparators), "1,5E-07");
 }
 
 TEST(NumbersShortestText, WhatIsNoFiniteNumberReadsAsNone) {
@@ -88,7 +88,7 @@ TEST(NumbersShortestText, RandomEverydayNumbersReadBackInEveryLocale) {
   for (int i = 0; i < 50'000; ++i) {
     const double value = digits(random) * std::pow(10.0, power(random));
     ASSERT_TRUE(ReadsBack(value));
-    ASSERT_TRUE(ReadsBack(value, kGerman));
+    ASSERT_TRUE(ReadsBack(value, kGermanSeparators));
   }
 }
 

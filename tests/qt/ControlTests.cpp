@@ -7,7 +7,7 @@
 #include <QScrollBar>
 #include <QtTest>
 
-#include "tests/forms/SampleForm.h"
+#include "tests/qt/QtTest.h"
 
 namespace orx::test {
 namespace {

@@ -3,8 +3,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "tests/forms/SampleForm.h"
 #include "tests/layout/LayoutCheck.h"
+#include "tests/qt/QtTest.h"
 
 namespace orx::test {
 namespace {

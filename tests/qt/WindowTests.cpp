@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "desktops/qt/MessageBox.h"
-#include "tests/forms/SampleForm.h"
+#include "tests/qt/QtTest.h"
 
 namespace orx::test {
 namespace {

@@ -6,6 +6,7 @@
 #include "forms/FieldTexts.h"
 #include "forms/TextBox.h"
 #include "maplibrary/CharacterText.h"
+#include "maplibrary/Trimmed.h"
 #include "maplibrary/pages/PageTexts.h"
 
 namespace orx::maplibrary {
@@ -22,12 +23,6 @@ std::string CodeText(std::int32_t code) {
   char text[16];
   std::snprintf(text, sizeof text, "U+%04X", static_cast<unsigned>(code));
   return text;
-}
-
-std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::optional<std::int32_t> WholeNumber(std::string_view digits, int base) {
