@@ -1,4 +1,5 @@
-# What `cmake --install` gives: headers, libraries, a CMake package, pkg-config files, languages and sample data.
+# What `cmake --install` gives: headers, libraries, a CMake package, pkg-config files, languages and sample data; on Windows
+# also the component and its type library.
 include(CMakePackageConfigHelpers)
 
 set(ORX_INCLUDE ${CMAKE_INSTALL_INCLUDEDIR}/OrvexMapDialogs2)
@@ -6,10 +7,18 @@ set(ORX_SHARE ${CMAKE_INSTALL_DATADIR}/OrvexMapDialogs2)
 set(ORX_PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/OrvexMapDialogs2)
 
 set(libraries orxMDlg orxMapLibrary)
-install(DIRECTORY src/ DESTINATION ${ORX_INCLUDE} FILES_MATCHING PATTERN "*.h" PATTERN "desktops/qt" EXCLUDE)
+install(DIRECTORY src/ DESTINATION ${ORX_INCLUDE} FILES_MATCHING PATTERN "*.h"
+  PATTERN "com" EXCLUDE PATTERN "desktops/qt" EXCLUDE PATTERN "desktops/win32" EXCLUDE)
 if(TARGET orxMDlgQt)
   list(APPEND libraries orxMDlgQt)
   install(FILES src/desktops/qt/QtDesktop.h DESTINATION ${ORX_INCLUDE}/desktops/qt)
+endif()
+if(TARGET orxMDlgServer)
+  list(APPEND libraries orxMDlgWin32)
+  install(FILES src/desktops/win32/Win32Desktop.h DESTINATION ${ORX_INCLUDE}/desktops/win32)
+  install(FILES $<TARGET_FILE:orxMDlgServer> DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES ${CMAKE_BINARY_DIR}/src/typelib/OrvexMapDialogs2.tlb ${CMAKE_BINARY_DIR}/src/typelib/OrvexMapDialogs2.h
+    src/com/OrvexMapDialogs2.idl src/com/HostObjects.idl DESTINATION ${ORX_SHARE}/typelib)
 endif()
 install(TARGETS ${libraries} EXPORT OrvexMapDialogs2Targets)
 install(EXPORT OrvexMapDialogs2Targets NAMESPACE OrvexMapDialogs2:: DESTINATION ${ORX_PACKAGE})

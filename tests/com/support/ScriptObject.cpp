@@ -43,11 +43,20 @@ HRESULT ScriptObject::GetDispID(BSTR name, DWORD, DISPID* id) noexcept {
   return *id == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-HRESULT ScriptObject::Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
-                             UINT*) noexcept {
+HRESULT ScriptObject::Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                             EXCEPINFO* error, UINT*) noexcept {
   if (member < 1 || member > static_cast<DISPID>(mFields.size())) return DISP_E_MEMBERNOTFOUND;
-  if (!(flags & DISPATCH_PROPERTYGET)) return DISP_E_MEMBERNOTFOUND;
   auto& [name, value] = *std::next(mFields.begin(), member - 1);
+  if (name == Broken) {
+    error->bstrDescription = Bstr(name + " is broken").Detach();
+    error->scode = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 321);
+    return DISP_E_EXCEPTION;
+  }
+  if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
+    Written.push_back(name);
+    return VariantCopyInd(&value, &parameters->rgvarg[0]);
+  }
+  if (!(flags & DISPATCH_PROPERTYGET)) return DISP_E_MEMBERNOTFOUND;
   Read.push_back(name);
   return result ? VariantCopy(result, &value) : S_OK;
 }

@@ -19,7 +19,8 @@ enum class Naming {
   ExtendedOnly
 };
 
-/// An object with fields. Letters of either case are different, as in the stricter languages.
+/// An object with fields, which keep the type of what is put into them. Letters of either case are different, as in the
+/// stricter languages.
 class ScriptObject final : public Counted<IDispatchEx> {
  public:
   explicit ScriptObject(std::map<std::string, Variant> fields = {}, Naming naming = Naming::Plain);
@@ -31,7 +32,7 @@ class ScriptObject final : public Counted<IDispatchEx> {
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept override;
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
-                                   EXCEPINFO*, UINT*) noexcept override;
+                                   EXCEPINFO* error, UINT*) noexcept override;
   HRESULT STDMETHODCALLTYPE GetDispID(BSTR name, DWORD, DISPID* id) noexcept override;
   HRESULT STDMETHODCALLTYPE InvokeEx(DISPID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
                                      IServiceProvider*) noexcept override {
@@ -44,8 +45,13 @@ class ScriptObject final : public Counted<IDispatchEx> {
   HRESULT STDMETHODCALLTYPE GetNextDispID(DWORD, DISPID, DISPID*) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE GetNameSpaceParent(IUnknown**) noexcept override { return E_NOTIMPL; }
 
-  /// Names of the fields that were read, in order.
+  Variant& Field(const std::string& name) { return mFields.at(name); }
+
+  /// Names of the fields that were read and written, in order.
   std::vector<std::string> Read;
+  std::vector<std::string> Written;
+  /// The field that raises error 321 with the description "<field> is broken" whenever it is touched.
+  std::string Broken;
 
  protected:
   void* Find(REFIID iid) noexcept override;
