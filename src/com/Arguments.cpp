@@ -1,7 +1,5 @@
 #include "com/Arguments.h"
 
-#include <algorithm>
-
 #include "com/Conversion.h"
 
 namespace orx::com {
@@ -57,45 +55,6 @@ VARTYPE UserType(ITypeInfo& info, HREFTYPE reference) {
     default:
       return VT_I4;
   }
-}
-
-/// The bytes of a value of that type inside a variant.
-std::size_t SizeOf(VARTYPE type) {
-  switch (type) {
-    case VT_I1:
-    case VT_UI1:
-      return 1;
-    case VT_I2:
-    case VT_UI2:
-    case VT_BOOL:
-      return 2;
-    case VT_I4:
-    case VT_UI4:
-    case VT_INT:
-    case VT_UINT:
-    case VT_R4:
-    case VT_ERROR:
-      return 4;
-    case VT_I8:
-    case VT_UI8:
-    case VT_R8:
-    case VT_DATE:
-    case VT_CY:
-      return 8;
-    case VT_BSTR:
-    case VT_DISPATCH:
-    case VT_UNKNOWN:
-      return sizeof(void*);
-    default:
-      return 0;
-  }
-}
-
-/// Moves a value to where a typed reference of exactly that type points.
-void StoreBehind(VARIANT& reference, Variant& value) {
-  // What was there goes with the value, which is cleared.
-  auto* const there = static_cast<unsigned char*>(reference.byref);
-  std::swap_ranges(there, there + SizeOf(value.vt), reinterpret_cast<unsigned char*>(&value.llVal));
 }
 
 bool IsInterface(ITypeInfo& info, const TYPEDESC& type) {
@@ -220,7 +179,7 @@ HRESULT Arguments::WriteBack() {
     } else if (SUCCEEDED(code) && !(origin.vt & VT_ARRAY)) {
       Variant converted;
       code = ConvertValue(result, static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), mLocale, converted);
-      if (SUCCEEDED(code)) StoreBehind(origin, converted);
+      if (SUCCEEDED(code)) code = StoreBehind(origin, converted);
     }
     if (FAILED(code)) return code;
   }

@@ -1,5 +1,7 @@
 #include "com/Conversion.h"
 
+#include <algorithm>
+
 #include "com/LateBound.h"
 
 namespace orx::com {
@@ -95,6 +97,38 @@ HRESULT FromArray(SAFEARRAY* from, VARTYPE fromElement, VARTYPE element, LCID lo
   return S_OK;
 }
 
+/// The bytes of a plain value of that type inside a variant; 0 for all others.
+std::size_t SizeOf(VARTYPE type) {
+  switch (type) {
+    case VT_I1:
+    case VT_UI1:
+      return 1;
+    case VT_I2:
+    case VT_UI2:
+    case VT_BOOL:
+      return 2;
+    case VT_I4:
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_R4:
+    case VT_ERROR:
+      return 4;
+    case VT_I8:
+    case VT_UI8:
+    case VT_R8:
+    case VT_DATE:
+    case VT_CY:
+      return 8;
+    case VT_BSTR:
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+      return sizeof(void*);
+    default:
+      return 0;
+  }
+}
+
 /// As such objects may be sparse, any length costs the script nothing, but an array of it has to be made here.
 constexpr std::int32_t kLongestScriptArray = 10'000'000;
 
@@ -161,6 +195,14 @@ HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant&
   result = PutElement(made.Get(), 0, converted);
   if (SUCCEEDED(result)) made.MoveTo(element, to);
   return result;
+}
+
+HRESULT StoreBehind(const VARIANT& reference, Variant& value) {
+  const std::size_t size = SizeOf(value.vt);
+  if (reference.vt != (VT_BYREF | value.vt) || size == 0) return DISP_E_TYPEMISMATCH;
+  auto* const there = static_cast<unsigned char*>(reference.byref);
+  std::swap_ranges(there, there + size, reinterpret_cast<unsigned char*>(&value.llVal));
+  return S_OK;
 }
 
 HRESULT ToScriptArray(const VARIANT& from, Variant& to) {

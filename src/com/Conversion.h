@@ -19,6 +19,10 @@ HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to
 /// `length`, from Empty (no elements) and from a single value.
 HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to);
 
+/// Puts a value where a typed reference (VT_BYREF) of its type points; what was there goes with the value.
+/// DISP_E_TYPEMISMATCH for references of another type or to what is no plain value.
+HRESULT StoreBehind(const VARIANT& reference, Variant& value);
+
 /// The array as script hosts can read it: of variants. Its lower bound is kept.
 HRESULT ToScriptArray(const VARIANT& from, Variant& to);
 

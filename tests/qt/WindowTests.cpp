@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "desktops/qt/MessageBox.h"
+#include "tests/forms/MoreForms.h"
 #include "tests/qt/QtTest.h"
 
 namespace orx::test {
@@ -132,13 +133,7 @@ TEST_F(QtWindow, PicturesHaveAllPixelsOfTheWindow) {
 }
 
 TEST_F(QtWindow, SizingByTheUserTellsTheForm) {
-  struct Elastic final : Form {
-    explicit Elastic(Desktop& desktop)
-        : Form(desktop, "frmElastic", {.Client = {6000, 3000}, .Border = BorderStyle::Sizable}) {}
-    void Form_Resize() override { Seen = ClientSize(); }
-    Size Seen;
-  };
-  const auto elastic = std::make_shared<Elastic>(desktop());
+  const auto elastic = std::make_shared<ElasticForm>(desktop());
   elastic->Show(ShowMode::Modeless);
   EXPECT_EQ((Size{6000, 3000}), elastic->Seen);
   DialogOf(*elastic).resize(desktop().ToPixels(7500), desktop().ToPixels(3750));

@@ -4,21 +4,13 @@
 #include <commctrl.h>
 
 #include "desktops/win32/Handles.h"
+#include "tests/forms/MoreForms.h"
 #include "tests/win32/Win32Test.h"
 
 namespace orx::test {
 namespace {
 
 using Win32Control = Win32FormsTest;
-
-/// A form with a log, a note and a drawing.
-struct NoteForm final : Form {
-  explicit NoteForm(Desktop& desktop) : Form(desktop, "frmNotes", {.Caption = "Notes", .Client = {6000, 6000}}) {}
-  TextBox txtLog{*this, "txtLog", {.Place = {120, 120, 3000, 1200}}, TextLines::Multiple, true};
-  TextBox txtNote{*this, "txtNote", {.Place = {120, 1500, 3000, 1200}}, TextLines::Multiple};
-  Label lblPlain{*this, "lblPlain", {.Caption = "R && D <b>", .Place = {120, 3000, 3000, 300}}};
-  PictureBox pctDrawing{*this, "pctDrawing", {.Place = {120, 3600, 1500, 1500}}};
-};
 
 class Win32Notes : public Win32Control {
  protected:

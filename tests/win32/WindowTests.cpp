@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "desktops/win32/MessageBox.h"
+#include "tests/forms/MoreForms.h"
 #include "tests/win32/Win32Test.h"
 
 namespace orx::test {
@@ -171,13 +172,7 @@ TEST_F(Win32Window, PicturesShowTheWindow) {
 }
 
 TEST_F(Win32Window, SizingByTheUserTellsTheForm) {
-  struct Elastic final : Form {
-    explicit Elastic(Desktop& desktop)
-        : Form(desktop, "frmElastic", {.Client = {6000, 3000}, .Border = BorderStyle::Sizable}) {}
-    void Form_Resize() override { Seen = ClientSize(); }
-    Size Seen;
-  };
-  const auto elastic = std::make_shared<Elastic>(desktop());
+  const auto elastic = std::make_shared<ElasticForm>(desktop());
   elastic->Show(ShowMode::Modeless);
   EXPECT_EQ((Size{6000, 3000}), elastic->Seen);
   RECT place;

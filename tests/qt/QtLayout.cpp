@@ -21,7 +21,6 @@ namespace {
 struct Fit {
   QSize Room;
   QSize Need;
-  bool Holds() const { return Need.width() <= Room.width() && Need.height() <= Room.height(); }
 };
 
 QSize TextSize(const QWidget& widget, const QString& text) {
@@ -78,7 +77,7 @@ Fit FieldFit(const QLineEdit& field) {
 }
 
 /// The fit of whatever text the widget shows.
-Fit TextFit(const QWidget& widget, const Form& form) {
+Fit FitOfText(const QWidget& widget, const Form& form) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget)) return LabelFit(*label);
   if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) return FieldFit(*field);
   if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return ComboFit(*combo);
@@ -92,67 +91,42 @@ Fit TextFit(const QWidget& widget, const Form& form) {
   return {};
 }
 
-class LayoutInspector {
+QWidget& WidgetOf(const Control& control) {
+  return qt::PeerOf(control)->Widget();
+}
+
+class QtLayout final : public NativeLayout {
  public:
-  explicit LayoutInspector(const Form& form) : mForm(form) { Inspect(form, form.Name()); }
+  bool IsSeen(const Control& control) const override { return WidgetOf(control).isVisible(); }
 
-  std::vector<std::string> Problems;
-
- private:
-  static QWidget& WidgetOf(const Control& control) { return qt::PeerOf(control)->Widget(); }
-
-  static std::string Describe(QSize size) {
-    return std::to_string(size.width()) + " x " + std::to_string(size.height());
+  TextFit FitOf(const Control& control, const Form& form) const override {
+    const Fit fit = FitOfText(WidgetOf(control), form);
+    return {{fit.Room.width(), fit.Room.height()}, {fit.Need.width(), fit.Need.height()}};
   }
 
-  void Inspect(const Container& container, const std::string& path) {
-    std::vector<Control*> seen;
-    for (Control* const control : container.Children())
-      if (WidgetOf(*control).isVisible()) seen.push_back(control);
-    for (Control* const control : seen) {
-      const std::string name = path + "." + control->Name();
-      InspectText(*control, name);
-      InspectPlace(*control, name);
-      InspectNeighbours(*control, name, seen);
-      if (const Container* const inner = control->AsContainer()) Inspect(*inner, name);
-    }
-  }
-
-  void InspectText(const Control& control, const std::string& name) {
-    const Fit fit = TextFit(WidgetOf(control), mForm);
-    if (!fit.Holds())
-      Problems.push_back(name + ": text needs " + Describe(fit.Need) + " and has " + Describe(fit.Room));
-  }
-
-  void InspectPlace(const Control& control, const std::string& name) {
+  Rect PlaceOf(const Control& control) const override {
     const QWidget& widget = WidgetOf(control);
-    const QWidget& parent = *widget.parentWidget();
-    if (!parent.rect().contains(widget.geometry())) Problems.push_back(name + ": stands outside of its parent");
-    const auto* const box = qobject_cast<const QGroupBox*>(&parent);
-    if (box && !box->title().isEmpty() && TitlePlace(*box).intersects(widget.geometry()))
-      Problems.push_back(name + ": covers the title of its frame");
+    const QPoint corner = widget.mapTo(widget.window(), QPoint());
+    return {corner.x(), corner.y(), widget.width(), widget.height()};
   }
 
-  void InspectNeighbours(const Control& control, const std::string& name, const std::vector<Control*>& seen) {
-    for (const Control* const other : seen) {
-      if (other == &control) return;
-      const QWidget& window = *WidgetOf(control).window();
-      const auto place = [&](const Control& each) {
-        return QRect(WidgetOf(each).mapTo(&window, QPoint()), WidgetOf(each).size());
-      };
-      // Pinned controls may cover what is scrolled away below them.
-      if (control.Pinned() == other->Pinned() && place(control).intersects(place(*other)))
-        Problems.push_back(name + ": stands upon " + other->Name());
-    }
+  bool StandsInParent(const Control& control) const override {
+    const QWidget& widget = WidgetOf(control);
+    return widget.parentWidget()->rect().contains(widget.geometry());
   }
 
-  const Form& mForm;
+  bool CoversTitleOfParent(const Control& control) const override {
+    const QWidget& widget = WidgetOf(control);
+    const auto* const box = qobject_cast<const QGroupBox*>(widget.parentWidget());
+    return box && !box->title().isEmpty() && TitlePlace(*box).intersects(widget.geometry());
+  }
 };
 
 }  // namespace
 
-std::vector<std::string> LayoutProblems(const Form& form) {
-  return LayoutInspector(form).Problems;
+const NativeLayout& LayoutOfDesktop() {
+  static const QtLayout layout;
+  return layout;
 }
 
 }  // namespace orx::test

@@ -25,7 +25,6 @@ namespace {
 struct Fit {
   SIZE Room = {};
   SIZE Need = {};
-  bool Holds() const { return Need.cx <= Room.cx && Need.cy <= Room.cy; }
 };
 
 HWND WindowOf(const Control& control) {
@@ -110,7 +109,7 @@ Fit TabsFit(const TabControl& tabs, const Form& form) {
 }
 
 /// The fit of whatever text the control shows.
-Fit TextFit(const Control& control, const Form& form) {
+Fit FitOfText(const Control& control, const Form& form) {
   if (const auto* label = dynamic_cast<const Label*>(&control)) return LabelFit(*label);
   if (const auto* field = dynamic_cast<const TextBox*>(&control)) return FieldFit(*field);
   if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) return ComboFit(*combo);
@@ -125,65 +124,41 @@ bool Contains(const SIZE& outer, const RECT& inner) {
   return inner.left >= 0 && inner.top >= 0 && inner.right <= outer.cx && inner.bottom <= outer.cy;
 }
 
-class LayoutInspector {
+class Win32Layout final : public NativeLayout {
  public:
-  explicit LayoutInspector(const Form& form) : mForm(form) { Inspect(form, form.Name()); }
+  bool IsSeen(const Control& control) const override { return IsWindowVisible(WindowOf(control)) != FALSE; }
 
-  std::vector<std::string> Problems;
-
- private:
-  static std::string Describe(SIZE size) { return std::to_string(size.cx) + " x " + std::to_string(size.cy); }
-
-  void Inspect(const Container& container, const std::string& path) {
-    std::vector<Control*> seen;
-    for (Control* const control : container.Children())
-      if (IsWindowVisible(WindowOf(*control))) seen.push_back(control);
-    for (Control* const control : seen) {
-      const std::string name = path + "." + control->Name();
-      InspectText(*control, name);
-      InspectPlace(*control, name);
-      InspectNeighbours(*control, name, seen);
-      if (const Container* const inner = control->AsContainer()) Inspect(*inner, name);
-    }
+  TextFit FitOf(const Control& control, const Form& form) const override {
+    const Fit fit = FitOfText(control, form);
+    return {{fit.Room.cx, fit.Room.cy}, {fit.Need.cx, fit.Need.cy}};
   }
 
-  void InspectText(const Control& control, const std::string& name) {
-    const Fit fit = TextFit(control, mForm);
-    if (!fit.Holds())
-      Problems.push_back(name + ": text needs " + Describe(fit.Need) + " and has " + Describe(fit.Room));
+  Rect PlaceOf(const Control& control) const override {
+    const RECT place = PlaceIn(WindowOf(control), GetAncestor(WindowOf(control), GA_ROOT));
+    return {place.left, place.top, place.right - place.left, place.bottom - place.top};
   }
 
-  void InspectPlace(const Control& control, const std::string& name) {
+  bool StandsInParent(const Control& control) const override {
     const HWND parent = GetAncestor(WindowOf(control), GA_PARENT);
     RECT place = PlaceIn(WindowOf(control), parent);
     // What scrolls stands partly above or below of what is seen.
     if (GetWindowLongPtrW(parent, GWL_STYLE) & WS_VSCROLL) place.top = place.bottom = 0;
-    if (!Contains(ClientSize(parent), place)) Problems.push_back(name + ": stands outside of its parent");
+    return Contains(ClientSize(parent), place);
+  }
+
+  bool CoversTitleOfParent(const Control& control) const override {
     const auto* const frame = dynamic_cast<const Frame*>(control.Parent().ContainerControl());
-    if (frame && !frame->Caption().empty() && place.top < TextSize(parent, frame->Caption()).cy)
-      Problems.push_back(name + ": covers the title of its frame");
+    if (!frame || frame->Caption().empty()) return false;
+    const HWND parent = WindowOf(*frame);
+    return PlaceIn(WindowOf(control), parent).top < TextSize(parent, frame->Caption()).cy;
   }
-
-  void InspectNeighbours(const Control& control, const std::string& name, const std::vector<Control*>& seen) {
-    const HWND root = GetAncestor(WindowOf(control), GA_ROOT);
-    for (const Control* const other : seen) {
-      if (other == &control) return;
-      const RECT one = PlaceIn(WindowOf(control), root);
-      const RECT two = PlaceIn(WindowOf(*other), root);
-      RECT common;
-      // Pinned controls may cover what is scrolled away below them.
-      if (control.Pinned() == other->Pinned() && IntersectRect(&common, &one, &two))
-        Problems.push_back(name + ": stands upon " + other->Name());
-    }
-  }
-
-  const Form& mForm;
 };
 
 }  // namespace
 
-std::vector<std::string> LayoutProblems(const Form& form) {
-  return LayoutInspector(form).Problems;
+const NativeLayout& LayoutOfDesktop() {
+  static const Win32Layout layout;
+  return layout;
 }
 
 }  // namespace orx::test
