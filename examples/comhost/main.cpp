@@ -39,7 +39,7 @@ int ShowLayer(_CCommonMapDialogs& dialogs) {
 
 }  // namespace
 
-int wmain() {
+int main() {
   if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) return 1;
   int exitCode = 1;
   _CCommonMapDialogs* dialogs = nullptr;

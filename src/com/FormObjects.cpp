@@ -208,7 +208,8 @@ class FormObject final : public DispatchObject<::IDialogForm> {
   std::shared_ptr<LentForm::Loan> mLoan;
 };
 
-LentForm::LentForm(Form& form) : mLoan(std::make_shared<Loan>(&form)), mObject(MakeCounted<FormObject>(mLoan).Get()) {
+LentForm::LentForm(Form& form)
+    : mLoan(std::make_shared<Loan>(Loan{&form})), mObject(MakeCounted<FormObject>(mLoan).Get()) {
 }
 
 LentForm::~LentForm() {

@@ -30,7 +30,7 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
   HRESULT STDMETHODCALLTYPE ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, ::FormShowMode* mModal,
                                         VARIANT* OwnerForm, long* result) noexcept override;
   HRESULT STDMETHODCALLTYPE ShowDataClassify(IDispatch** mObj, double* mMinValue, double* mMaxValue,
-                                             ::ClassifyFlags flags, VARIANT_BOOL* IsDirty, BSTR* mCaption,
+                                             ::ClassifyFlags flags, VARIANT_BOOL* isDirty, BSTR* mCaption,
                                              ::FormShowMode* mModal, VARIANT* OwnerForm,
                                              long* result) noexcept override;
   HRESULT STDMETHODCALLTYPE ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal,
@@ -50,13 +50,13 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
                                               BSTR* mCaption, VARIANT_BOOL* mAskConfirmation,
                                               BSTR* mConfirmationQuestion, SAFEARRAY** mSelected,
                                               long* result) noexcept override;
-  HRESULT STDMETHODCALLTYPE ShowAddLayer(long hWnd, VARIANT_BOOL Multiselect, SAFEARRAY** Files,
+  HRESULT STDMETHODCALLTYPE ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                          VARIANT_BOOL* result) noexcept override;
-  HRESULT STDMETHODCALLTYPE ShowAddData(long hWnd, VARIANT_BOOL Multiselect, SAFEARRAY** Files,
+  HRESULT STDMETHODCALLTYPE ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                         VARIANT_BOOL* result) noexcept override;
-  HRESULT STDMETHODCALLTYPE ShowFileNotFound(BSTR FileName, BSTR* NewFileName, VARIANT_BOOL* CancelAll,
+  HRESULT STDMETHODCALLTYPE ShowFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                              VARIANT_BOOL* result) noexcept override;
-  HRESULT STDMETHODCALLTYPE ShowDataFileNotFound(BSTR FileName, BSTR* NewFileName, VARIANT_BOOL* CancelAll,
+  HRESULT STDMETHODCALLTYPE ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                                  VARIANT_BOOL* result) noexcept override;
 
  private:

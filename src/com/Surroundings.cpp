@@ -83,8 +83,8 @@ std::shared_ptr<Surroundings> Threads::Shared(std::shared_ptr<Surroundings> surr
   entry.Lingering.reset();
   if (std::shared_ptr<Surroundings> held = entry.Known.lock()) return held;
   Surroundings* const pointer = surroundings.get();
-  const std::shared_ptr<Surroundings> held(
-      pointer, [kept = std::move(surroundings)](Surroundings*) { AllThreads().Released(kept); });
+  std::shared_ptr<Surroundings> held(pointer,
+                                     [kept = std::move(surroundings)](Surroundings*) { AllThreads().Released(kept); });
   entry.Known = held;
   return held;
 }

@@ -181,9 +181,9 @@ TEST_F(BrokenObjects, ADialogOnAnObjectThatRaisesAnErrorReturnsToTheHostAndKeeps
   const auto object = MakeLayer();
   for (const char* member : {"Name", "Visible", "Source", "SymbolFont", "SymbolCharacter", "SymbolSize"}) {
     object->Broken = member;
-    Result = 77;
+    result = 77;
     EXPECT_EQ(ShowProperties(object.Get()), S_OK) << member;
-    EXPECT_EQ(Result, 0) << member;
+    EXPECT_EQ(result, 0) << member;
     EXPECT_EQ(ReferencesOf(object.Get()), 1u) << member;
   }
 }
@@ -191,9 +191,9 @@ TEST_F(BrokenObjects, ADialogOnAnObjectThatRaisesAnErrorReturnsToTheHostAndKeeps
 TEST_F(BrokenObjects, AnObjectOfNoKindShowsAnEmptyDialog) {
   const auto object = MakeCounted<ScriptObject>();
   EXPECT_EQ(ShowProperties(object.Get()), S_OK);
-  EXPECT_EQ(Result, 0);
+  EXPECT_EQ(result, 0);
   EXPECT_EQ(ShowProperties(nullptr), S_OK);
-  EXPECT_EQ(Result, 0);
+  EXPECT_EQ(result, 0);
 }
 
 }  // namespace

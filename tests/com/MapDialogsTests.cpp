@@ -85,16 +85,18 @@ TEST_F(MapDialogsTest, LanguageAndCallBackAreNothingAtFirst) {
 }
 
 TEST_F(MapDialogsTest, ALanguageWithEntriesGivesTheHelpFile) {
-  const std::string before = modMain::HelpFile();
+  const struct Restore {
+    std::string Before = modMain::HelpFile();
+    ~Restore() { modMain::HelpFile(Before); }
+  } restore;
   const auto empty = LanguageOf(0, "empty.hlp");
   const auto full = LanguageOf(3, "maps.hlp");
   IDispatch* given = empty.Get();
   ASSERT_EQ(dialogs->putref_Language(&given), S_OK);
-  EXPECT_EQ(modMain::HelpFile(), before);
+  EXPECT_EQ(modMain::HelpFile(), restore.Before);
   given = full.Get();
   ASSERT_EQ(dialogs->putref_Language(&given), S_OK);
   EXPECT_EQ(modMain::HelpFile(), "maps.hlp");
-  modMain::HelpFile(before);
 }
 
 TEST_F(MapDialogsTest, AnObjectThatIsNoLanguageIsToldByTheMissingMember) {
@@ -111,22 +113,22 @@ TEST_F(MapDialogsTest, PlacesForResultsAreRequired) {
   EXPECT_EQ(dialogs->put_RegistryKey(nullptr), E_POINTER);
   EXPECT_EQ(dialogs->get_Language(nullptr), E_POINTER);
   EXPECT_EQ(dialogs->get_CallBack(nullptr), E_POINTER);
-  EXPECT_EQ(dialogs->ShowProperties(nullptr, nullptr, nullptr, nullptr, &Result), E_POINTER);
+  EXPECT_EQ(dialogs->ShowProperties(nullptr, nullptr, nullptr, nullptr, &result), E_POINTER);
   EXPECT_EQ(dialogs->ShowProperties(&object, nullptr, nullptr, nullptr, nullptr), E_POINTER);
-  EXPECT_EQ(dialogs->ShowLegends(nullptr, nullptr, nullptr, nullptr, nullptr, &Result), E_POINTER);
-  EXPECT_TRUE(Shown.empty());
+  EXPECT_EQ(dialogs->ShowLegends(nullptr, nullptr, nullptr, nullptr, nullptr, &result), E_POINTER);
+  EXPECT_TRUE(shown.empty());
 }
 
 TEST_F(MapDialogsTest, EachMemberShowsItsDialog) {
   IDispatch* object = nullptr;
-  EXPECT_EQ(dialogs->ShowProperties(&object, nullptr, nullptr, nullptr, &Result), S_OK);
-  EXPECT_EQ(dialogs->ShowLabels(&object, nullptr, nullptr, nullptr, &Result), S_OK);
-  EXPECT_EQ(dialogs->ShowCoordinates(&object, nullptr, nullptr, nullptr, &Result), S_OK);
-  EXPECT_EQ(dialogs->ShowLegends(&object, nullptr, nullptr, nullptr, nullptr, &Result), S_OK);
+  EXPECT_EQ(dialogs->ShowProperties(&object, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(dialogs->ShowLabels(&object, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(dialogs->ShowCoordinates(&object, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(dialogs->ShowLegends(&object, nullptr, nullptr, nullptr, nullptr, &result), S_OK);
   std::vector<std::string> names;
-  for (const std::string& shown : Shown) names.push_back(shown.substr(0, shown.find(':')));
+  for (const std::string& shown : shown) names.push_back(shown.substr(0, shown.find(':')));
   EXPECT_EQ(names, (std::vector<std::string>{"frmProperties", "frmLabels", "frmCoordinates", "frmLegend"}));
-  EXPECT_EQ(Result, 0);
+  EXPECT_EQ(result, 0);
 }
 
 TEST_F(MapDialogsTest, TheCaptionIsTakenAsItIsUnlessBlank) {
@@ -135,27 +137,27 @@ TEST_F(MapDialogsTest, TheCaptionIsTakenAsItIsUnlessBlank) {
   for (const char* caption : {"   ", "", " Roads "}) {
     Bstr text(caption);
     BSTR given = text.Get();
-    ASSERT_EQ(dialogs->ShowProperties(&object, &given, nullptr, nullptr, &Result), S_OK);
+    ASSERT_EQ(dialogs->ShowProperties(&object, &given, nullptr, nullptr, &result), S_OK);
   }
-  ASSERT_EQ(Shown.size(), 4u);
-  EXPECT_EQ(Shown[1], Shown[0]);
-  EXPECT_EQ(Shown[2], Shown[0]);
-  EXPECT_EQ(Shown[3], "frmProperties:  Roads ");
+  ASSERT_EQ(shown.size(), 4u);
+  EXPECT_EQ(shown[1], shown[0]);
+  EXPECT_EQ(shown[2], shown[0]);
+  EXPECT_EQ(shown[3], "frmProperties:  Roads ");
 }
 
 TEST_F(MapDialogsTest, EveryModeButZeroIsModal) {
   IDispatch* object = nullptr;
   for (const int mode : {1, 2, -1}) {
     auto given = static_cast<::FormShowMode>(mode);
-    ASSERT_EQ(dialogs->ShowProperties(&object, nullptr, &given, nullptr, &Result), S_OK);
+    ASSERT_EQ(dialogs->ShowProperties(&object, nullptr, &given, nullptr, &result), S_OK);
   }
-  EXPECT_EQ(Shown.size(), 3u);
+  EXPECT_EQ(shown.size(), 3u);
 }
 
 TEST_F(MapDialogsTest, TheObjectComesBackAsItWasAndIsLetGo) {
   const auto object = MakeCounted<ScriptObject>();
   IDispatch* given = object.Get();
-  ASSERT_EQ(dialogs->ShowProperties(&given, nullptr, nullptr, nullptr, &Result), S_OK);
+  ASSERT_EQ(dialogs->ShowProperties(&given, nullptr, nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(given, object.Get());
   EXPECT_EQ(ReferencesOf(object.Get()), 1u);
 }
@@ -164,9 +166,9 @@ TEST_F(MapDialogsTest, AModelessDialogOutlivesTheServiceAndKeepsTheModule) {
   const auto object = MakeCounted<ScriptObject>();
   IDispatch* given = object.Get();
   auto mode = ::ShowModeless;
-  ASSERT_EQ(dialogs->ShowProperties(&given, nullptr, &mode, nullptr, &Result), S_OK);
-  EXPECT_EQ(Result, 0);
-  EXPECT_TRUE(Shown.empty());
+  ASSERT_EQ(dialogs->ShowProperties(&given, nullptr, &mode, nullptr, &result), S_OK);
+  EXPECT_EQ(result, 0);
+  EXPECT_TRUE(shown.empty());
   Desktop& desktop = Surroundings::OfThread()->Screen();
   EXPECT_TRUE(desktop.HasOpenForms());
   dialogs.Reset();
@@ -180,22 +182,22 @@ TEST_F(MapDialogsTest, AModelessDialogOutlivesTheServiceAndKeepsTheModule) {
 TEST_F(MapDialogsTest, AServiceMadeLaterFindsTheDialogsThatAreStillOpen) {
   IDispatch* none = nullptr;
   auto mode = ::ShowModeless;
-  ASSERT_EQ(dialogs->ShowProperties(&none, nullptr, &mode, nullptr, &Result), S_OK);
+  ASSERT_EQ(dialogs->ShowProperties(&none, nullptr, &mode, nullptr, &result), S_OK);
   Desktop* const desktop = &Surroundings::OfThread()->Screen();
   dialogs.Reset();
   dialogs = Create();
   EXPECT_EQ(&Surroundings::OfThread()->Screen(), desktop);
   desktop->CloseOpenForms();
   EXPECT_EQ(ShowProperties(nullptr), S_OK);
-  EXPECT_EQ(Shown.size(), 1u);
+  EXPECT_EQ(shown.size(), 1u);
 }
 
 TEST_F(MapDialogsTest, AServiceThatIsLetGoFromItsOwnDialogLivesToTheEndOfTheCall) {
-  Answer = [this](Form&) { dialogs.Reset(); };
+  answer = [this](Form&) { dialogs.Reset(); };
   ::_CCommonMapDialogs* const plain = dialogs.Get();
   IDispatch* object = nullptr;
-  EXPECT_EQ(plain->ShowProperties(&object, nullptr, nullptr, nullptr, &Result), S_OK);
-  EXPECT_EQ(Result, 0);
+  EXPECT_EQ(plain->ShowProperties(&object, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(result, 0);
   EXPECT_FALSE(Surroundings::StillOpen());
 }
 
@@ -203,8 +205,8 @@ TEST_F(MapDialogsTest, AnOwnerOfTheWrongKindShowsNothing) {
   Variant owner("Main window");
   EXPECT_EQ(ShowProperties(nullptr, &owner), static_cast<HRESULT>(0x800A000D));
   EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
-  EXPECT_TRUE(Shown.empty());
-  EXPECT_EQ(Result, 0);
+  EXPECT_TRUE(shown.empty());
+  EXPECT_EQ(result, 0);
 }
 
 }  // namespace

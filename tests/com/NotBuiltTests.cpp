@@ -58,7 +58,7 @@ TEST_F(NotBuilt, MapDialogsSayWhichDialogIsMissing) {
   for (const Missing& missing : kMissingDialogs) {
     EXPECT_EQ(missing.Call(*dialogs.Get()), E_NOTIMPL) << missing.Name;
   }
-  EXPECT_TRUE(Shown.empty());
+  EXPECT_TRUE(shown.empty());
 }
 
 TEST_F(NotBuilt, TheProgressDialogSaysThatItIsMissing) {

@@ -9,15 +9,15 @@ namespace {
 class SettingsTest : public DesktopTest {
  protected:
   // The store may be one for all programs of a user, and tests run side by side.
-  const std::string Key =
+  const std::string key =
       std::string("Orvex Settings Test ") + testing::UnitTest::GetInstance()->current_test_info()->name();
 
-  SettingsTest() { store().Forget(Key); }
-  ~SettingsTest() override { store().Forget(Key); }
+  SettingsTest() { Store().Forget(key); }
+  ~SettingsTest() override { Store().Forget(key); }
 
-  SettingsStore& store() { return desktop().Settings(); }
-  std::optional<std::string> Read(const std::string& name) { return store().Read({Key, "DataDialog", name}); }
-  void Write(const std::string& name, const std::string& text) { store().Write({Key, "DataDialog", name}, text); }
+  SettingsStore& Store() { return desktop().Settings(); }
+  std::optional<std::string> Read(const std::string& name) { return Store().Read({key, "DataDialog", name}); }
+  void Write(const std::string& name, const std::string& text) { Store().Write({key, "DataDialog", name}, text); }
 };
 
 TEST_F(SettingsTest, WhatWasNeverWrittenIsNotThere) {
@@ -35,44 +35,44 @@ TEST_F(SettingsTest, ATextIsReadAsItWasWritten) {
 TEST_F(SettingsTest, NamesAndSectionsDoNotMixUp) {
   Write("Left", "1");
   Write("Left/Top", "2");
-  store().Write({Key, "MapSettings", "Left"}, "3");
+  Store().Write({key, "MapSettings", "Left"}, "3");
   EXPECT_EQ(Read("Left"), "1");
   EXPECT_EQ(Read("Left/Top"), "2");
-  EXPECT_EQ(store().Read({Key, "MapSettings", "Left"}), "3");
-  EXPECT_EQ(store().Read({Key + " 2", "DataDialog", "Left"}), std::nullopt);
+  EXPECT_EQ(Store().Read({key, "MapSettings", "Left"}), "3");
+  EXPECT_EQ(Store().Read({key + " 2", "DataDialog", "Left"}), std::nullopt);
 }
 
 TEST_F(SettingsTest, AKeyMayHaveLevelsAndOtherLetters) {
-  const SettingName deep{Key + "\\Kärten\\2", "DataDialog", "Top"};
-  store().Write(deep, "77");
-  EXPECT_EQ(store().Read(deep), "77");
+  const SettingName deep{key + "\\Kärten\\2", "DataDialog", "Top"};
+  Store().Write(deep, "77");
+  EXPECT_EQ(Store().Read(deep), "77");
 }
 
 TEST_F(SettingsTest, ForgettingAKeyTakesAllItsSectionsAndNoOthers) {
-  const std::string other = Key + " other";
+  const std::string other = key + " other";
   Write("Left", "1");
-  store().Write({other, "DataDialog", "Left"}, "2");
-  store().Forget(Key);
+  Store().Write({other, "DataDialog", "Left"}, "2");
+  Store().Forget(key);
   EXPECT_EQ(Read("Left"), std::nullopt);
-  EXPECT_EQ(store().Read({other, "DataDialog", "Left"}), "2");
-  store().Forget(other);
+  EXPECT_EQ(Store().Read({other, "DataDialog", "Left"}), "2");
+  Store().Forget(other);
 }
 
 TEST_F(SettingsTest, ForgettingNothingLeavesEverything) {
   Write("Left", "1");
-  store().Forget("");
-  store().Forget("\\");
+  Store().Forget("");
+  Store().Forget("\\");
   EXPECT_EQ(Read("Left"), "1");
 }
 
 TEST_F(SettingsTest, ANameWithAnEmptyPartIsRefusedWithAllItsParts) {
-  EXPECT_THROW(store().Write({"", "DataDialog", "Left"}, "1"), std::invalid_argument);
-  EXPECT_THROW(store().Write({Key, "", "Left"}, "1"), std::invalid_argument);
+  EXPECT_THROW(Store().Write({"", "DataDialog", "Left"}, "1"), std::invalid_argument);
+  EXPECT_THROW(Store().Write({key, "", "Left"}, "1"), std::invalid_argument);
   try {
-    store().Write({Key, "DataDialog", ""}, "1");
+    Store().Write({key, "DataDialog", ""}, "1");
     FAIL() << "an empty name was taken";
   } catch (const std::invalid_argument& error) {
-    EXPECT_NE(std::string(error.what()).find(Key + "\\DataDialog\\"), std::string::npos);
+    EXPECT_NE(std::string(error.what()).find(key + "\\DataDialog\\"), std::string::npos);
   }
 }
 

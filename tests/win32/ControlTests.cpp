@@ -146,8 +146,8 @@ TEST_F(Win32Notes, TextsAreDrawnAroundTheirCentreAndTurned) {
                  std::max<LONG>(inked.bottom, y)};
       }
   EXPECT_GT(inked.bottom - inked.top, 2 * (inked.right - inked.left));
-  EXPECT_NEAR((inked.left + inked.right) / 2, 50, 5);
-  EXPECT_NEAR((inked.top + inked.bottom) / 2, 50, 5);
+  EXPECT_NEAR((inked.left + inked.right) / 2.0, 50, 5);
+  EXPECT_NEAR((inked.top + inked.bottom) / 2.0, 50, 5);
 }
 
 }  // namespace

@@ -66,7 +66,7 @@ class MarkPainter {
 
   void operator()(const LineMark& mark) const {
     const LOGBRUSH brush = {BS_SOLID, ColorOf(mark.Pen), 0};
-    const GdiObject<HPEN> pen(ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_SQUARE | PS_JOIN_ROUND,
+    const GdiObject<HPEN> pen(ExtCreatePen(PS_GEOMETRIC | PS_ENDCAP_SQUARE | PS_JOIN_ROUND,
                                            static_cast<DWORD>(std::max(mark.Width, 1)), &brush, 0, nullptr));
     const Selection selection(mContext, pen.get());
     std::vector<POINT> points;

@@ -9,7 +9,7 @@ namespace {
 constexpr int kManifest = 2;
 
 /// The contexts of awareness, by their documented values: not all headers know them.
-const HANDLE kSystemAware = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-2));  // NOLINT(performance-no-int-to-ptr)
+const HANDLE kSystemAware = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-2));
 
 template <class Function>
 Function UserFunction(const char* name) {

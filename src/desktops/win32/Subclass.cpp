@@ -31,7 +31,7 @@ LRESULT Subclass::CallNext(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 void* Subclass::SelfOf(HWND window, SUBCLASSPROC proc) {
   static const auto get = Numbered<decltype(&GetWindowSubclass)>(411);
   DWORD_PTR self = 0;
-  return get(window, proc, 0, &self) ? reinterpret_cast<void*>(self) : nullptr;  // NOLINT(performance-no-int-to-ptr)
+  return get(window, proc, 0, &self) ? reinterpret_cast<void*>(self) : nullptr;
 }
 
 }  // namespace orx::win32

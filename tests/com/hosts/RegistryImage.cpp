@@ -53,7 +53,7 @@ RegistryKeys ClassKeys(HKEY root) {
 RegistryImage Added(HKEY root, const RegistryKeys& before, const RegistryKeys& after) {
   RegistryImage image;
   for (const std::wstring& key : after)
-    if (!before.contains(key)) ReadKey(root, key, kClasses + L"\\" + key, image);
+    if (!before.contains(key)) ReadKey(root, key, kClasses + std::wstring(L"\\").append(key), image);
   return image;
 }
 

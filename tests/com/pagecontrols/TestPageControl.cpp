@@ -10,7 +10,17 @@ namespace {
 constexpr const wchar_t* kMembers[] = {L"Client",         L"Language",        L"IsDirty",
                                        L"StartUpIndex",   L"RefreshContents", L"SaveChanges",
                                        L"DiscardChanges", L"ApplyChanges",    L"Selected"};
-enum Member : DISPID { kClient, kLanguage, kIsDirty, kStartUpIndex, kRefresh, kSave, kDiscard, kApply, kSelected };
+enum Member : DISPID {
+  MemberClient,
+  MemberLanguage,
+  MemberIsDirty,
+  MemberStartUpIndex,
+  MemberRefresh,
+  MemberSave,
+  MemberDiscard,
+  MemberApply,
+  MemberSelected
+};
 
 std::wstring TextOfWindow(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
@@ -109,28 +119,28 @@ void TestPageControl::Run(DISPID member, WORD flags, const DISPPARAMS& given, VA
   const std::string name = "Page." + com::Narrowed(kMembers[member]);
   const auto object = [&] { return given.rgvarg[0].vt == VT_DISPATCH ? given.rgvarg[0].pdispVal : nullptr; };
   switch (member) {
-    case kClient:
+    case MemberClient:
       mState.Log.Call(name + (object() ? "(object)" : "(none)"));
       mClient = com::ComPtr<IDispatch>(object());
       return;
-    case kLanguage:
+    case MemberLanguage:
       return mState.Log.Call(name + (object() ? "(object)" : "(none)"));
-    case kIsDirty:
+    case MemberIsDirty:
       if (puts) mDirty = given.rgvarg[0].boolVal != VARIANT_FALSE;
       mState.Log.Call(name + (!puts ? "" : mDirty ? "(True)" : "(False)"));
       if (!puts && result) *result = com::Variant(mDirty);
       return;
-    case kStartUpIndex:
+    case MemberStartUpIndex:
       mState.Log.Call(name + (puts ? "(" + std::to_string(given.rgvarg[0].lVal) + ")" : ""));
       if (puts) mStartUpIndex = given.rgvarg[0].lVal;
       if (!puts && result) *result = com::Variant(mStartUpIndex);
       return;
-    case kRefresh:
+    case MemberRefresh:
       mState.Log.Call(name);
       if (mClient) mText = ReadName(*mClient.Get());
       return;
-    case kSave:
-    case kApply:
+    case MemberSave:
+    case MemberApply:
       return Write(name.c_str());
     default:
       return mState.Log.Call(name);

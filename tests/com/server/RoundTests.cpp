@@ -1,7 +1,9 @@
 // The DLL in the long run: what is made and let go of leaves nothing.
 #include <gtest/gtest.h>
 
-// After windows.h.
+#include <windows.h>
+
+// After windows.h, which it needs.
 #include <psapi.h>
 
 #include "tests/com/support/Server.h"

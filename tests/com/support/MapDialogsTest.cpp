@@ -20,13 +20,13 @@ MapDialogsTest::~MapDialogsTest() {
 
 void MapDialogsTest::ModalRunning(const Modal& modal) {
   if (!modal.ShownForm) return;
-  Shown.push_back(modal.ShownForm->Name() + ": " + modal.ShownForm->Caption());
-  if (Answer) Answer(*modal.ShownForm);
+  shown.push_back(modal.ShownForm->Name() + ": " + modal.ShownForm->Caption());
+  if (answer) answer(*modal.ShownForm);
   if (modal.ShownForm->Visible()) modal.ShownForm->UserClose();
 }
 
 HRESULT MapDialogsTest::ShowProperties(IDispatch* object, VARIANT* owner) {
-  return dialogs->ShowProperties(&object, nullptr, nullptr, owner, &Result);
+  return dialogs->ShowProperties(&object, nullptr, nullptr, owner, &result);
 }
 
 ComPtr<ScriptObject> LanguageOf(std::int32_t entries, const char* text) {

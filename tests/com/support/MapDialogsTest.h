@@ -26,11 +26,11 @@ class MapDialogsTest : public testing::Test, private DesktopHook {
   HRESULT ShowProperties(IDispatch* object, VARIANT* owner = nullptr);
 
   /// The modal forms that were shown: "frmProperties: Layer Properties".
-  std::vector<std::string> Shown;
+  std::vector<std::string> shown;
   /// What the user does in a modal form; unless set, the close box is pressed.
-  std::function<void(Form&)> Answer;
+  std::function<void(Form&)> answer;
   /// The result of the last dialog.
-  long Result = 77;
+  long result = 77;
 
   ComPtr<::_CCommonMapDialogs> dialogs;
 

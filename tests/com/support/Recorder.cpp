@@ -150,10 +150,10 @@ HRESULT Recorder::ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, ::F
 }
 
 HRESULT Recorder::ShowDataClassify(IDispatch** mObj, double* mMinValue, double* mMaxValue, ::ClassifyFlags flags,
-                                   VARIANT_BOOL* IsDirty, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                   VARIANT_BOOL* isDirty, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                    long* result) noexcept {
-  Note("ShowDataClassify", mObj, mMinValue, mMaxValue, flags, IsDirty, mCaption, mModal, OwnerForm);
-  *IsDirty = VARIANT_TRUE;
+  Note("ShowDataClassify", mObj, mMinValue, mMaxValue, flags, isDirty, mCaption, mModal, OwnerForm);
+  *isDirty = VARIANT_TRUE;
   *result = 7;
   return S_OK;
 }
@@ -221,30 +221,30 @@ HRESULT Recorder::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMulti
   return S_OK;
 }
 
-HRESULT Recorder::ShowAddLayer(long hWnd, VARIANT_BOOL Multiselect, SAFEARRAY** Files, VARIANT_BOOL* result) noexcept {
-  Note("ShowAddLayer", hWnd, Multiselect, Files);
-  Replace(*Files, {"a.bil", "b.bil"});
+HRESULT Recorder::ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files, VARIANT_BOOL* result) noexcept {
+  Note("ShowAddLayer", hWnd, multiselect, files);
+  Replace(*files, {"a.bil", "b.bil"});
   *result = VARIANT_TRUE;
   return S_OK;
 }
 
-HRESULT Recorder::ShowAddData(long hWnd, VARIANT_BOOL Multiselect, SAFEARRAY** Files, VARIANT_BOOL* result) noexcept {
-  Note("ShowAddData", hWnd, Multiselect, Files);
+HRESULT Recorder::ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files, VARIANT_BOOL* result) noexcept {
+  Note("ShowAddData", hWnd, multiselect, files);
   *result = VARIANT_FALSE;
   return S_OK;
 }
 
-HRESULT Recorder::ShowFileNotFound(BSTR FileName, BSTR* NewFileName, VARIANT_BOOL* CancelAll,
+HRESULT Recorder::ShowFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                    VARIANT_BOOL* result) noexcept {
-  Note("ShowFileNotFound", FileName, NewFileName, CancelAll);
-  Replace(*NewFileName, "new");
+  Note("ShowFileNotFound", fileName, newFileName, cancelAll);
+  Replace(*newFileName, "new");
   *result = VARIANT_FALSE;
   return S_OK;
 }
 
-HRESULT Recorder::ShowDataFileNotFound(BSTR FileName, BSTR* NewFileName, VARIANT_BOOL* CancelAll,
+HRESULT Recorder::ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                        VARIANT_BOOL* result) noexcept {
-  Note("ShowDataFileNotFound", FileName, NewFileName, CancelAll);
+  Note("ShowDataFileNotFound", fileName, newFileName, cancelAll);
   *result = VARIANT_FALSE;
   return S_OK;
 }
