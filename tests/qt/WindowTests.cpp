@@ -122,7 +122,7 @@ TEST_F(QtWindow, MessagesAreShownAsPlainTextWithTheirIcon) {
 }
 
 TEST_F(QtWindow, PicturesHaveAllPixelsOfTheWindow) {
-  const std::string path = testing::TempDir() + "orx-qt-window.png";
+  const std::string path = testing::TempDir() + "orx-qt-" + std::to_string(QCoreApplication::applicationPid()) + ".png";
   EXPECT_FALSE(QtOnly().SavePicture(*form, path));
   ShowForm();
   ASSERT_TRUE(QtOnly().SavePicture(*form, path));

@@ -162,7 +162,7 @@ TEST_F(Win32Window, MessagesAreShownAsPlainText) {
 }
 
 TEST_F(Win32Window, PicturesShowTheWindow) {
-  const std::string path = testing::TempDir() + "orx-win32-window.png";
+  const std::string path = testing::TempDir() + "orx-win32-" + std::to_string(GetCurrentProcessId()) + ".png";
   EXPECT_FALSE(Win32Only().SavePicture(*form, path));
   ShowForm();
   ASSERT_TRUE(Win32Only().SavePicture(*form, path));
