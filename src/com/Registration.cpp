@@ -89,6 +89,18 @@ class ClassesKey {
       Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(key) + "\" cannot be removed");
   }
 
+  /// Removes a key that nothing stands in any more: a user who has registered nothing else had none.
+  void RemoveEmpty(const wchar_t* key) const {
+    HKEY opened = nullptr;
+    DWORD keys = 0;
+    DWORD values = 0;
+    if (RegOpenKeyExW(mKey, key, 0, KEY_READ, &opened) != ERROR_SUCCESS) return;
+    const LSTATUS status = RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
+                                            nullptr, nullptr, nullptr, nullptr);
+    RegCloseKey(opened);
+    if (status == ERROR_SUCCESS && keys == 0 && values == 0) RegDeleteKeyW(mKey, key);
+  }
+
  private:
   HKEY mKey = nullptr;
 };
@@ -187,6 +199,7 @@ void Unregister(RegisteredFor whom) {
   }
   // Last, as it needs the type library, which may be damaged.
   for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
+  for (const wchar_t* const folder : {L"CLSID", L"Interface", L"TypeLib"}) classes.RemoveEmpty(folder);
 }
 
 }  // namespace orx::com
