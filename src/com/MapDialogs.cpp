@@ -1,5 +1,8 @@
 #include "com/MapDialogs.h"
 
+#include <new>
+#include <vector>
+
 #include "com/OwnerArgument.h"
 
 namespace orx::com {
@@ -11,6 +14,25 @@ HRESULT GiveReference(IDispatch* object, IDispatch** value) {
   if (!value) return E_POINTER;
   *value = ComPtr<IDispatch>(object).Detach();
   return S_OK;
+}
+
+/// The element with the index 1, when there is one: the name that a dialog opens on.
+std::vector<std::string> FirstOf(SAFEARRAY* files) {
+  VARTYPE type = VT_EMPTY;
+  LONG index = 1;
+  Bstr first;
+  if (!files || FAILED(SafeArrayGetVartype(files, &type)) || type != VT_BSTR || SafeArrayGetDim(files) != 1) return {};
+  if (FAILED(SafeArrayGetElement(files, &index, first.Out()))) return {};
+  return {first.Text()};
+}
+
+/// Puts a new array, counted from 1, in the place of the old one.
+void PutTexts(const std::vector<std::string>& texts, SAFEARRAY*& array) {
+  SAFEARRAY* const made = SafeArrayCreateVector(VT_BSTR, 1, static_cast<ULONG>(texts.size()));
+  if (!made) throw std::bad_alloc();
+  for (LONG index = 1; index <= static_cast<LONG>(texts.size()); ++index)
+    SafeArrayPutElement(made, &index, Bstr(texts[static_cast<std::size_t>(index) - 1]).Get());
+  SafeArrayDestroy(std::exchange(array, made));
 }
 
 }  // namespace
@@ -107,6 +129,54 @@ HRESULT MapDialogs::ShowCoordinates(IDispatch** mObj, BSTR* mCaption, ::FormShow
   });
 }
 
+HRESULT MapDialogs::ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
+                                 VARIANT_BOOL* result) noexcept {
+  return ChooseFiles(&orx::CCommonMapDialogs::ShowAddLayer, hWnd, multiselect, files, result);
+}
+
+HRESULT MapDialogs::ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files, VARIANT_BOOL* result) noexcept {
+  return ChooseFiles(&orx::CCommonMapDialogs::ShowAddData, hWnd, multiselect, files, result);
+}
+
+HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
+                                VARIANT_BOOL* result) noexcept {
+  if (!files || !result) return E_POINTER;
+  return Guarded(kDialogsSource, [&] {
+    std::vector<std::string> chosen = FirstOf(*files);
+    // Handles of 64-bit programs fit 32 bits, with their sign.
+    const auto owner = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(hWnd));
+    const ComPtr<IDispatch> self(this);
+    const bool isChosen = (mService.*member)(owner, multiselect != VARIANT_FALSE, chosen);
+    if (isChosen) PutTexts(chosen, *files);
+    *result = isChosen ? VARIANT_TRUE : VARIANT_FALSE;
+  });
+}
+
+HRESULT MapDialogs::ShowFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
+                                     VARIANT_BOOL* result) noexcept {
+  return AskForFile(&orx::CCommonMapDialogs::ShowFileNotFound, fileName, newFileName, cancelAll, result);
+}
+
+HRESULT MapDialogs::ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
+                                         VARIANT_BOOL* result) noexcept {
+  return AskForFile(&orx::CCommonMapDialogs::ShowDataFileNotFound, fileName, newFileName, cancelAll, result);
+}
+
+HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
+                               VARIANT_BOOL* result) noexcept {
+  if (!newFileName || !cancelAll || !result) return E_POINTER;
+  return Guarded(kDialogsSource, [&] {
+    std::string chosen = TextOf(*newFileName);
+    bool isCancelled = *cancelAll != VARIANT_FALSE;
+    const ComPtr<IDispatch> self(this);
+    const bool answer = (mService.*member)(TextOf(fileName), chosen, isCancelled);
+    Bstr given(chosen);
+    SysFreeString(std::exchange(*newFileName, given.Detach()));
+    *cancelAll = isCancelled ? VARIANT_TRUE : VARIANT_FALSE;
+    *result = answer ? VARIANT_TRUE : VARIANT_FALSE;
+  });
+}
+
 // The members below have no dialog yet.
 
 HRESULT MapDialogs::Show(IDispatch**, long*, BSTR*, ::FormShowMode*, VARIANT*, long*) noexcept {
@@ -136,22 +206,6 @@ HRESULT MapDialogs::ShowCharacterSelection(BSTR*, long*, double*, VARIANT_BOOL*,
 
 HRESULT MapDialogs::ShowListSelection(SAFEARRAY**, VARIANT_BOOL*, long*, BSTR*, VARIANT_BOOL*, BSTR*, SAFEARRAY**,
                                       long*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowAddLayer(long, VARIANT_BOOL, SAFEARRAY**, VARIANT_BOOL*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowAddData(long, VARIANT_BOOL, SAFEARRAY**, VARIANT_BOOL*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowFileNotFound(BSTR, BSTR*, VARIANT_BOOL*, VARIANT_BOOL*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowDataFileNotFound(BSTR, BSTR*, VARIANT_BOOL*, VARIANT_BOOL*) noexcept {
   return E_NOTIMPL;
 }
 

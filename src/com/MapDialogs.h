@@ -60,6 +60,13 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
                                                  VARIANT_BOOL* result) noexcept override;
 
  private:
+  using FilesMember = bool (orx::CCommonMapDialogs::*)(std::uintptr_t, bool, std::vector<std::string>&);
+  HRESULT ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
+                      VARIANT_BOOL* result) noexcept;
+  using MissingMember = bool (orx::CCommonMapDialogs::*)(const std::string&, std::string&, bool&);
+  HRESULT AskForFile(MissingMember member, BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
+                     VARIANT_BOOL* result) noexcept;
+
   struct DialogCall;
   /// Shows a property dialog: takes the arguments apart and gives the result back.
   template <class Dialog>

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "forms/Form.h"
+#include "forms/OpenFileRequest.h"
 
 namespace orx {
 namespace {
@@ -41,6 +42,22 @@ void Desktop::ShowMessage(const Message& message) {
   }
   DoShowMessage(message, owner);
   if (mHook) mHook->ModalClosed(modal);
+}
+
+bool Desktop::OpenFiles(OpenFileRequest& request) {
+  if (request.Buffer.empty()) return false;
+  const Modal modal{nullptr, nullptr, &request};
+  if (mHook) mHook->ModalOpening(modal);
+  bool chosen = false;
+  std::string refusal;
+  try {
+    chosen = DoOpenFiles(request);
+  } catch (const AnswerRefused& refused) {
+    refusal = refused.what();
+  }
+  if (mHook) mHook->ModalClosed(modal);
+  if (!refusal.empty()) ShowMessage({refusal, request.Title, MessageIcon::Exclamation});
+  return chosen;
 }
 
 void Desktop::ModalIsRunning(const Modal& modal) {

@@ -39,6 +39,9 @@ class Desktop {
 
   /// Shows a message box and returns when it has been answered. It belongs to the form that is shown on top.
   void ShowMessage(const Message& message);
+  /// Has the user choose files in the platform's own dialog. False, with the request as it was, when nothing was chosen,
+  /// and when the request has no buffer for an answer.
+  bool OpenFiles(OpenFileRequest& request);
   /// Sounds the platform's warning signal.
   void Beep();
   /// The pointer that was set last; Default at first.
@@ -77,6 +80,8 @@ class Desktop {
   /// Shows a message box above the window `owner` (null: none), calls ModalIsRunning once it is up, and returns when it
   /// was answered.
   virtual void DoShowMessage(const Message& message, FormWindow* owner) = 0;
+  /// Does what OpenFiles says; calls ModalIsRunning once the dialog is up.
+  virtual bool DoOpenFiles(OpenFileRequest& request) = 0;
   /// What Beep, Pointer and ShowHelp do after the hook has heard of it.
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;

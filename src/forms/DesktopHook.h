@@ -9,11 +9,14 @@
 namespace orx {
 
 class Form;
+struct OpenFileRequest;
 
-/// Something modal: a form or a message box, the other pointer is null.
+/// Something modal: a form, a message box or the dialog for choosing files; the other pointers are null.
 struct Modal {
   Form* ShownForm = nullptr;
   const Message* ShownMessage = nullptr;
+  /// Where nobody else answers, PutAnswer answers here.
+  OpenFileRequest* ShownFiles = nullptr;
 };
 
 /// Derive from it, override what matters, and give it to Desktop::Hook.

@@ -1,10 +1,12 @@
 #include "service/CCommonMapDialogs.h"
 
 #include "hostobjects/ErrorTrap.h"
+#include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
 #include "propertydialogs/frmLabels.h"
 #include "propertydialogs/frmLegend.h"
 #include "propertydialogs/frmProperties.h"
+#include "service/modDialog.h"
 #include "service/modMain.h"
 
 namespace orx {
@@ -71,6 +73,47 @@ std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& 
 std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                 OwnerWindow OwnerForm) {
   return ShowPage<frmCoordinates>({mObj, 0, mCaption, mModal, OwnerForm});
+}
+
+bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
+  return modDialog::ChooseFiles({mDesktop, hWnd, modDialog::FileKind::Layers, mLanguage}, Multiselect, Files);
+}
+
+bool CCommonMapDialogs::ShowAddData(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
+  return modDialog::ChooseFiles({mDesktop, hWnd, modDialog::FileKind::Data, mLanguage}, Multiselect, Files);
+}
+
+struct CCommonMapDialogs::MissingFile {
+  const char* Prefix;
+  const char* Caption;
+  modDialog::FileKind Kind;
+  const std::string& FileName;
+};
+
+bool CCommonMapDialogs::AskForFile(const MissingFile& missing, std::string& newFileName, bool& cancelAll) {
+  const Pointer before = mDesktop.Pointer();
+  mDesktop.Pointer(Pointer::Default);
+  const auto form = std::make_shared<frmMsgBox>(mDesktop);
+  form->Language(mLanguage);
+  form->Kind(missing.Kind);
+  form->Message(missing.Prefix + missing.FileName + "\r\nDo you want to specify a new file?\r\n");
+  form->Caption(missing.Caption);
+  form->FileName(missing.FileName);
+  mDesktop.Beep();
+  form->Show();
+  cancelAll = form->CancelAll();
+  newFileName = form->NewFileName();
+  mDesktop.Pointer(before);
+  return false;
+}
+
+bool CCommonMapDialogs::ShowFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll) {
+  return AskForFile({"File not found: ", "Open layer", modDialog::FileKind::Layers, FileName}, NewFileName, CancelAll);
+}
+
+bool CCommonMapDialogs::ShowDataFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll) {
+  return AskForFile({"Data file not found: ", "Open Data", modDialog::FileKind::Data, FileName}, NewFileName,
+                    CancelAll);
 }
 
 }  // namespace orx

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "forms/Desktop.h"
 #include "hostobjects/HostObject.h"
@@ -59,7 +60,24 @@ class CCommonMapDialogs {
   std::int32_t ShowCoordinates(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                OwnerWindow OwnerForm = {});
 
+  /// Has the user choose the files of new layers, several if wanted whatever `Multiselect` says; the dialog belongs to
+  /// the window `hWnd` (HWND on Windows, WId on Qt; 0: none) and opens on the first of `Files`. True when files of an
+  /// accepted type were chosen; `Files` then holds their full paths, UTF-8, else it is as it was.
+  bool ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files);
+  /// The same for one data file.
+  bool ShowAddData(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files);
+
+  /// Asks the user what to do about the file of a layer that is not at its path. `NewFileName` becomes the path of
+  /// another file that the user has found, or empty; `CancelAll` becomes true when no more missing files are to be
+  /// told. The result is always False. Throws what the language throws.
+  bool ShowFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll);
+  /// The same for a data file.
+  bool ShowDataFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll);
+
  private:
+  struct MissingFile;
+  bool AskForFile(const MissingFile& missing, std::string& newFileName, bool& cancelAll);
+
   struct Request;
   template <class HostForm>
   std::int32_t ShowPage(const Request& request);

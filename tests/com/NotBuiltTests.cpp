@@ -27,10 +27,6 @@ constexpr Missing kMissingDialogs[] = {
      [](auto& d) {
        return d.ShowListSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
      }},
-    {"ShowAddLayer", [](auto& d) { return d.ShowAddLayer(0, VARIANT_FALSE, nullptr, nullptr); }},
-    {"ShowAddData", [](auto& d) { return d.ShowAddData(0, VARIANT_FALSE, nullptr, nullptr); }},
-    {"ShowFileNotFound", [](auto& d) { return d.ShowFileNotFound(nullptr, nullptr, nullptr, nullptr); }},
-    {"ShowDataFileNotFound", [](auto& d) { return d.ShowDataFileNotFound(nullptr, nullptr, nullptr, nullptr); }},
 };
 
 struct MissingProgress {

@@ -7,22 +7,30 @@ namespace {
 
 std::string Describe(const Modal& modal) {
   if (modal.ShownForm) return "form " + modal.ShownForm->Name();
+  if (modal.ShownFiles) return "files \"" + modal.ShownFiles->Title + "\"";
   return "message \"" + modal.ShownMessage->Title + "\": " + modal.ShownMessage->Text;
 }
 
 }  // namespace
 
 void DialogScript::ExpectForm(const std::string& name, FormAction action) {
-  mExpected.push_back({name, std::move(action), {}});
+  mExpected.push_back({name, std::move(action), {}, nullptr});
 }
 
 void DialogScript::ExpectMessage(const Message& message) {
-  mExpected.push_back({{}, nullptr, message});
+  mExpected.push_back({{}, nullptr, message, nullptr});
+}
+
+void DialogScript::ExpectFiles(FilesAction action) {
+  mExpected.push_back({{}, nullptr, {}, std::move(action)});
 }
 
 void DialogScript::Verify() {
   for (const Expected& left : mExpected)
-    ADD_FAILURE() << "Not shown: " << (left.FormName.empty() ? "message " + left.Box.Text : "form " + left.FormName);
+    ADD_FAILURE() << "Not shown: "
+                  << (left.Choice             ? "files"
+                      : left.FormName.empty() ? "message " + left.Box.Text
+                                              : "form " + left.FormName);
   mExpected.clear();
 }
 
@@ -33,6 +41,8 @@ void DialogScript::Fail(const Modal& modal, const std::string& reason) {
 void DialogScript::CloseAnyway(const Modal& modal) {
   if (modal.ShownForm) {
     modal.ShownForm->Unload();
+  } else if (modal.ShownFiles) {
+    mUser.CancelFiles(*modal.ShownFiles);
   } else {
     mUser.AnswerMessage();
   }
@@ -43,6 +53,8 @@ void DialogScript::ModalOpening(const Modal& modal) {
   const Expected& next = mExpected.front();
   if (modal.ShownForm) {
     EXPECT_EQ(next.FormName, modal.ShownForm->Name());
+  } else if (modal.ShownFiles) {
+    EXPECT_TRUE(next.Choice) << Describe(modal);
   } else {
     EXPECT_EQ(next.Box.Text, modal.ShownMessage->Text);
     EXPECT_EQ(next.Box.Title, modal.ShownMessage->Title);
@@ -54,6 +66,7 @@ void DialogScript::ModalRunning(const Modal& modal) {
   if (mExpected.empty()) return CloseAnyway(modal);
   const Expected next = std::move(mExpected.front());
   mExpected.pop_front();
+  if (modal.ShownFiles && next.Choice) return next.Choice(*modal.ShownFiles);
   if (!modal.ShownForm || !next.Action) return CloseAnyway(modal);
   // The form may go while the user acts.
   const std::weak_ptr<Form> form = modal.ShownForm->weak_from_this();

@@ -19,6 +19,9 @@ class DialogScript final : public DesktopHook {
   using FormAction = std::function<void(Form&)>;
   /// Expects the modal form of that name; `action` is what the user does in it and must close it.
   void ExpectForm(const std::string& name, FormAction action);
+  using FilesAction = std::function<void(OpenFileRequest&)>;
+  /// Expects the platform's dialog for files; `action` is what the user does in it and must close it.
+  void ExpectFiles(FilesAction action);
   /// Expects the message box and presses its OK button.
   void ExpectMessage(const Message& message);
   /// Fails the test when an expected dialog was not shown.
@@ -40,6 +43,7 @@ class DialogScript final : public DesktopHook {
     std::string FormName;
     FormAction Action;
     Message Box;
+    FilesAction Choice;
   };
 
   void Fail(const Modal& modal, const std::string& reason);

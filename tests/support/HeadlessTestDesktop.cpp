@@ -43,6 +43,14 @@ class HeadlessUser final : public User {
 
   void CloseBox(Form& form) override { form.UserClose(); }
 
+  void PickFiles(OpenFileRequest& request, const Picked& files) override {
+    if (files.Filter != 0) request.FilterIndex = files.Filter;
+    PutAnswer(request, files.Folder, files.Names);
+    request.LastFolder = files.Folder;
+  }
+
+  void CancelFiles(OpenFileRequest&) override {}
+
   void AnswerMessage() override {}
 
   Seen See(Control& control) override {

@@ -4,6 +4,8 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "desktops/qt/FileDialog.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Peer.h"
 #include "desktops/qt/QtDesktop.h"
@@ -136,6 +139,20 @@ class QtUser final : public User {
 
   void CloseBox(Form& form) override { WindowOf(form).close(); }
 
+  void PickFiles(OpenFileRequest&, const Picked& files) override {
+    QFileDialog* const dialog = qt::OpenFileDialog();
+    if (!dialog) return;
+    if (files.Filter != 0) PickFilter(*dialog, files.Filter - 1);
+    dialog->setDirectory(qt::ToQt(files.Folder));
+    QString names;
+    for (const std::string& name : files.Names) names += "\"" + qt::ToQt(name) + "\" ";
+    EnterName(*dialog, files.Names.size() == 1 ? qt::ToQt(files.Names.front()) : names.trimmed());
+  }
+
+  void CancelFiles(OpenFileRequest&) override {
+    if (QFileDialog* const dialog = qt::OpenFileDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
+  }
+
   void AnswerMessage() override {
     if (QMessageBox* const box = qt::OpenMessageBox()) MouseClick(*box->button(QMessageBox::Ok));
   }
@@ -154,6 +171,18 @@ class QtUser final : public User {
   std::string SeeCaption(Form& form) override { return FromQt(WindowOf(form).windowTitle()); }
 
  private:
+  /// Types into the name field and presses Open, which the toolkit enables when it has read the folder.
+  static void EnterName(QFileDialog& dialog, const QString& text) {
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(text);
+    auto& button = *dialog.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Open);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button.isEnabled(); })) << qt::FromQt(text);
+    QTest::mouseClick(&button, Qt::LeftButton);
+  }
+  static void PickFilter(QFileDialog& dialog, int index) {
+    auto& box = *dialog.findChild<QComboBox*>("fileTypeCombo");
+    box.setFocus();
+    while (box.currentIndex() != index) QTest::keyClick(&box, box.currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
+  }
   static QWidget& WindowOf(Form& form) { return *QWidget::find(form.Window()->NativeHandle()); }
 
   void ClickAndType(Control& control, const std::string& text) {

@@ -4,12 +4,14 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
+#include "forms/OpenFileRequest.h"
 #include "forms/TabControl.h"
 #include "forms/TextBox.h"
 
@@ -27,6 +29,15 @@ struct Seen {
   bool operator==(const Seen&) const = default;
 };
 
+/// Files that the user picks in the platform's dialog.
+struct Picked {
+  /// As the platform writes it.
+  std::string Folder;
+  std::vector<std::string> Names;
+  /// The filter that the user selects first, counted from 1; 0: none.
+  int Filter = 0;
+};
+
 class User {
  public:
   virtual ~User() = default;
@@ -42,6 +53,9 @@ class User {
   /// Presses a dialog key where the focus is in that form.
   virtual void Press(Form& form, const KeyStroke& stroke) = 0;
   virtual void CloseBox(Form& form) = 0;
+  /// Picks files in the dialog for files that is open, or presses its Cancel.
+  virtual void PickFiles(OpenFileRequest& request, const Picked& files) = 0;
+  virtual void CancelFiles(OpenFileRequest& request) = 0;
   /// Presses OK in the message box that is open.
   virtual void AnswerMessage() = 0;
   virtual Seen See(Control& control) = 0;

@@ -3,9 +3,10 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <dlgs.h>
 
-#include "desktops/win32/MessageBox.h"
 #include "desktops/win32/Peer.h"
+#include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Text.h"
 #include "desktops/win32/Win32Desktop.h"
 #include "tests/support/User.h"
@@ -103,8 +104,29 @@ class Win32User final : public User {
     mDesktop.ProcessPendingEvents();
   }
 
+  void PickFiles(OpenFileRequest&, const Picked& files) override {
+    const HWND dialog = win32::OpenPlatformDialog();
+    if (!dialog) return;
+    if (files.Filter != 0) PickFilter(Inside(dialog, cmb1), files.Filter - 1);
+    const HWND field = Inside(dialog, cmb13) ? Inside(dialog, cmb13) : Inside(dialog, edt1);
+    if (files.Names.size() == 1) {
+      Enter(field, files.Folder + "\\" + files.Names.front());
+    } else {
+      Enter(field, files.Folder);
+      SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+      std::string names;
+      for (const std::string& name : files.Names) names += "\"" + name + "\" ";
+      Enter(field, names);
+    }
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+  }
+
+  void CancelFiles(OpenFileRequest&) override {
+    if (const HWND dialog = win32::OpenPlatformDialog()) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  }
+
   void AnswerMessage() override {
-    const HWND box = win32::OpenMessageBox();
+    const HWND box = win32::OpenPlatformDialog();
     if (const HWND button = box ? FindWindowExW(box, nullptr, L"BUTTON", nullptr) : nullptr) MouseClick(button);
   }
 
@@ -122,6 +144,30 @@ class Win32User final : public User {
   std::string SeeCaption(Form& form) override { return Narrowed(TextOf(WindowOf(form))); }
 
  private:
+  /// The control of a dialog of the platform, however deep it stands.
+  static HWND Inside(HWND dialog, int id) {
+    Search search = {id, nullptr};
+    EnumChildWindows(dialog, &Win32User::SeeControl, reinterpret_cast<LPARAM>(&search));
+    return search.Found;
+  }
+  struct Search {
+    int Id;
+    HWND Found;
+  };
+  static BOOL CALLBACK SeeControl(HWND window, LPARAM data) {
+    auto& search = *reinterpret_cast<Search*>(data);
+    if (GetDlgCtrlID(window) == search.Id) search.Found = window;
+    return !search.Found;
+  }
+  static void Enter(HWND field, const std::string& text) {
+    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Widened(text).c_str()));
+  }
+  static void PickFilter(HWND box, int index) {
+    SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    for (const int code : {CBN_SELENDOK, CBN_SELCHANGE})
+      SendMessageW(GetParent(box), WM_COMMAND, MAKEWPARAM(cmb1, code), reinterpret_cast<LPARAM>(box));
+  }
+
   static constexpr LPARAM kAltDown = (LPARAM{1} << 29) | 1;
 
   static LONG HeightOf(HWND window) {

@@ -2,7 +2,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "desktops/win32/MessageBox.h"
+#include "desktops/win32/PlatformDialog.h"
 #include "tests/forms/MoreForms.h"
 #include "tests/win32/Win32Test.h"
 
@@ -93,7 +93,7 @@ TEST_F(Win32Window, AnErrorOfTheHookReachesTheCallerOfAMessage) {
   desktop().Hook(&hook);
   EXPECT_THROW(desktop().ShowMessage({"Text", "Title", MessageIcon::None}), std::runtime_error);
   desktop().Hook(&script);
-  EXPECT_FALSE(win32::OpenMessageBox());
+  EXPECT_FALSE(win32::OpenPlatformDialog());
   desktop().ShowMessage({"Text", "Title", MessageIcon::None});
 }
 
@@ -148,7 +148,7 @@ TEST_F(Win32Window, MessagesAreShownAsPlainText) {
   struct Look final : DesktopHook {
     explicit Look(std::string& text, DesktopHook& next) : Text(text), Next(next) {}
     void ModalRunning(const Modal& modal) override {
-      const HWND box = win32::OpenMessageBox();
+      const HWND box = win32::OpenPlatformDialog();
       for (HWND at = nullptr; (at = FindWindowExW(box, at, L"STATIC", nullptr)) != nullptr;) Text += TextOf(at);
       Next.ModalRunning(modal);
     }

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "forms/Form.h"
+#include "forms/OpenFileRequest.h"
 
 namespace orx::headless {
 namespace {
@@ -52,6 +53,12 @@ std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
 void HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
   // A message has one answer only, so it counts as read when the hook returns.
   ModalIsRunning({nullptr, &message});
+}
+
+bool HeadlessDesktop::DoOpenFiles(OpenFileRequest& request) {
+  const std::string before = request.Buffer;
+  ModalIsRunning({nullptr, nullptr, &request});
+  return request.Buffer != before;
 }
 
 }  // namespace orx::headless

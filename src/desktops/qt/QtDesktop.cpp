@@ -16,6 +16,7 @@
 #include "desktops/qt/Application.h"
 #include "desktops/qt/DialogWindow.h"
 #include "desktops/qt/FileSettings.h"
+#include "desktops/qt/FileDialog.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
@@ -136,6 +137,10 @@ std::unique_ptr<FormWindow> QtDesktop::OpenWindow(Form& form) {
 void QtDesktop::DoShowMessage(const Message& message, FormWindow* owner) {
   const Dialog* const dialog = owner ? static_cast<DialogWindow*>(owner)->Native() : nullptr;
   RunMessageBox(message, dialog ? dialog->windowHandle() : nullptr, [&] { ModalIsRunning({nullptr, &message}); });
+}
+
+bool QtDesktop::DoOpenFiles(OpenFileRequest& request) {
+  return RunFileDialog(request, [&] { ModalIsRunning({nullptr, nullptr, &request}); });
 }
 
 void QtDesktop::DoBeep() {

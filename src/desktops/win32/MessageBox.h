@@ -13,7 +13,4 @@ namespace orx::win32 {
 /// `running` throws closes the box and comes out of here.
 void RunMessageBox(const Message& message, HWND owner, const std::function<void()>& running);
 
-/// The box of this thread that is open, null when there is none.
-HWND OpenMessageBox();
-
 }  // namespace orx::win32

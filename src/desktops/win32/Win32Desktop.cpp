@@ -7,10 +7,12 @@
 #include <optional>
 
 #include "desktops/win32/DialogWindow.h"
+#include "desktops/win32/FileDialog.h"
 #include "desktops/win32/Fonts.h"
 #include "desktops/win32/GuestScope.h"
 #include "desktops/win32/MessageBox.h"
 #include "desktops/win32/Picture.h"
+#include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Pointers.h"
 #include "desktops/win32/RegistrySettings.h"
 #include "desktops/win32/Text.h"
@@ -120,7 +122,7 @@ bool Win32Desktop::SavePicture(const Form& form, const std::string& pngPath) con
 }
 
 bool Win32Desktop::SaveMessagePicture(const std::string& pngPath) const {
-  return win32::SavePicture(OpenMessageBox(), pngPath);
+  return win32::SavePicture(OpenPlatformDialog(), pngPath);
 }
 
 std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
@@ -134,6 +136,11 @@ void Win32Desktop::DoShowMessage(const Message& message, FormWindow* owner) {
   const GuestScope guest;
   const HWND window = owner ? reinterpret_cast<HWND>(owner->NativeHandle()) : GetActiveWindow();
   RunMessageBox(message, window, [&] { ModalIsRunning({nullptr, &message}); });
+}
+
+bool Win32Desktop::DoOpenFiles(OpenFileRequest& request) {
+  const GuestScope guest;
+  return RunFileDialog(request, [&] { ModalIsRunning({nullptr, nullptr, &request}); });
 }
 
 void Win32Desktop::DoBeep() {

@@ -19,6 +19,7 @@ MapDialogsTest::~MapDialogsTest() {
 }
 
 void MapDialogsTest::ModalRunning(const Modal& modal) {
+  if (modal.ShownFiles && answerFiles) answerFiles(*modal.ShownFiles);
   if (!modal.ShownForm) return;
   shown.push_back(modal.ShownForm->Name() + ": " + modal.ShownForm->Caption());
   if (answer) answer(*modal.ShownForm);

@@ -29,6 +29,8 @@ class MapDialogsTest : public testing::Test, private DesktopHook {
   std::vector<std::string> shown;
   /// What the user does in a modal form; unless set, the close box is pressed.
   std::function<void(Form&)> answer;
+  /// What the user does in the dialog for files; unless set, Cancel is pressed.
+  std::function<void(OpenFileRequest&)> answerFiles;
   /// The result of the last dialog.
   long result = 77;
 

@@ -1,0 +1,62 @@
+// The platform's dialog for choosing files: what it is asked for, and its answer.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace orx {
+
+/// A request with the meaning of the platform's OPENFILENAME on every desktop. Texts are UTF-8.
+struct OpenFileRequest {
+  /// The window that the dialog belongs to: HWND on Windows, WId on Qt; 0 for none.
+  std::uintptr_t OwnerHandle = 0;
+  std::string Title;
+  std::uint32_t Flags = 0;
+  /// Pairs of a text and its patterns ("*.a;*.b"), each followed by a NUL, the whole by two more.
+  std::string Filter;
+  /// The selected filter, counted from 1. In and out.
+  std::int32_t FilterIndex = 0;
+  std::string InitialFolder;
+  /// In: the initial name, filled with blanks to the length that an answer may have, and a NUL. Out: a path, or a
+  /// folder and the names of files in it, each followed by a NUL, the whole by one more. Unchanged when nothing was
+  /// chosen.
+  std::string Buffer;
+  std::string DefaultExtension;
+  /// Room for the name of the chosen file; no dialog of this library reads it.
+  std::string FileTitle;
+  /// Out: the folder that the dialog was left in.
+  std::string LastFolder;
+};
+
+/// Thrown by a desktop when what the user chose cannot be handed over; Desktop::OpenFiles tells the user.
+class AnswerRefused final : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The values of OpenFileRequest::Flags that a desktop has to know.
+inline constexpr std::uint32_t kAllowMultiselect = 0x200;
+inline constexpr std::uint32_t kCreatePrompt = 0x2000;
+
+/// A filter of a request.
+struct FileFilter {
+  std::string Text;
+  std::vector<std::string> Patterns;
+};
+
+/// The filters, patterns without the blanks around them.
+std::vector<FileFilter> FiltersOf(const OpenFileRequest& request);
+
+/// The name that the dialog opens on: the buffer without the blanks that fill it.
+std::string InitialName(const OpenFileRequest& request);
+
+/// What stands between the names of a path in that folder.
+char SeparatorOf(const std::string& folder);
+
+/// Puts an answer into the buffer: a path when there is one name, else the folder and the names. Throws AnswerRefused,
+/// with the buffer as it was, when it has no room for them.
+void PutAnswer(OpenFileRequest& request, const std::string& folder, const std::vector<std::string>& names);
+
+}  // namespace orx

@@ -1,0 +1,65 @@
+// The prompt for a missing file: browse for another one, skip it, or skip all that follow.
+#pragma once
+
+#include <string>
+
+#include "forms/Button.h"
+#include "forms/Label.h"
+#include "forms/PictureBox.h"
+#include "service/DialogForm.h"
+#include "service/modDialog.h"
+
+namespace orx {
+
+class frmMsgBox final : public DialogForm {
+ public:
+  /// Without a file, a message or a caption; a layer is missing.
+  explicit frmMsgBox(Desktop& desktop);
+
+  /// The path at which the file was not found, UTF-8.
+  const std::string& FileName() const { return mFileName; }
+  void FileName(const std::string& value) { mFileName = value; }
+  /// True when the user wants to hear of no other missing file.
+  bool CancelAll() const { return mCancelAll; }
+  /// The path that the user has chosen instead, empty when none.
+  const std::string& NewFileName() const { return mNewFileName; }
+  /// What the user is told, before the form is loaded; empty: that a file was not found.
+  const std::string& Message() const { return mMessage; }
+  void Message(const std::string& value) { mMessage = value; }
+  /// The title, before the form is loaded; empty: the library's name.
+  const std::string& Caption() const { return mCaption; }
+  void Caption(const std::string& value) { mCaption = value; }
+  /// What kind of file is missing: the filters that Browse offers.
+  modDialog::FileKind Kind() const { return mKind; }
+  void Kind(modDialog::FileKind value) { mKind = value; }
+
+  PictureBox imgIcon{*this, "imgIcon", {.Place = {180, 180, 480, 480}}, kGround};
+  Label lblMsg{*this, "lblMsg", {.Caption = "Message...", .Place = {840, 180, 5640, 1020}}, Alignment::Left, true};
+  Button cmdBrowse{*this,
+                   "cmdBrowse",
+                   {.Caption = "&Browse...", .Place = {1770, 1320, 1500, 375}, .Pinned = true},
+                   ButtonRole::Default};
+  Button cmdCancel{
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {3375, 1320, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  Button cmdCancelAll{
+      *this, "cmdCancelAll", {.Caption = "Cancel &All", .Place = {4980, 1320, 1500, 375}, .Pinned = true}};
+  Button cmdHelp{*this, "cmdHelp", {.Caption = "&Help", .Place = {120, 1320, 1500, 375}, .Pinned = true}};
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  static constexpr Color kGround{240, 240, 240};
+
+  void ShowMessageText();
+  void cmdBrowse_Click();
+
+  modDialog::FileKind mKind = modDialog::FileKind::Layers;
+  std::string mFileName;
+  std::string mMessage;
+  std::string mCaption;
+  std::string mNewFileName;
+  bool mCancelAll = false;
+};
+
+}  // namespace orx
