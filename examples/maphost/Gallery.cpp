@@ -46,7 +46,7 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     desktop.ProcessPendingEvents();
     photographer.Take(*window);
     for (orx::Button* button :
-         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends})
+         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends, &window->cmdLost})
       button->UserPress();
   }
   window->UserClose();

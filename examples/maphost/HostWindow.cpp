@@ -13,7 +13,8 @@ using orx::QueryKind;
 constexpr int kMargin = 120;
 constexpr int kSideWidth = 3300;
 constexpr int kLogHeight = 1950;
-constexpr orx::Size kSmallest{9000, 6600};
+constexpr orx::Size kSmallest{9000, 7800};
+constexpr char kLostFile[] = "/maps/Tennessee/moved last year/ROADS.SHP";
 
 }  // namespace
 
@@ -25,6 +26,8 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdLabels.Click = [this] { ShowFor("Labels", &orx::CCommonMapDialogs::ShowLabels); };
   cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
   cmdLegends.Click = [this] { cmdLegends_Click(); };
+  cmdAddLayer.Click = [this] { cmdAddLayer_Click(); };
+  cmdLost.Click = [this] { cmdLost_Click(); };
   cboLayer.Click = [this] { EnableDialogs(); };
   cboLanguage.Click = [this] { cboLanguage_Click(); };
 }
@@ -79,7 +82,8 @@ void HostWindow::Form_Resize() {
   };
   stack(lblLayer, 240, 60);
   stack(cboLayer, 360, 240);
-  for (orx::Button* button : {&cmdProperties, &cmdLabels, &cmdCoordinates, &cmdLegends}) stack(*button, 420, 120);
+  for (orx::Button* button : {&cmdProperties, &cmdLabels, &cmdCoordinates, &cmdLegends, &cmdAddLayer, &cmdLost})
+    stack(*button, 420, 120);
   top += 120;
   stack(chkModeless, 330, 360);
   stack(lblLanguage, 240, 60);
@@ -105,6 +109,34 @@ void HostWindow::ShowFor(const std::string& what, Member member) {
 
 void HostWindow::cmdLegends_Click() {
   Report("Legends", mDialogs.ShowLegends(&mMap, 0, {}, Mode(), {this, 0}));
+}
+
+void HostWindow::cmdAddLayer_Click() {
+  std::vector<std::string> files;
+  const std::uintptr_t handle = Window() ? Window()->NativeHandle() : 0;
+  if (mDialogs.ShowAddLayer(handle, true, files)) return AddLayers(files);
+  mLog.Write("Add layer: nothing chosen");
+}
+
+void HostWindow::cmdLost_Click() {
+  // As a host does it for each file of a map that is not where the map says.
+  std::string found;
+  bool cancelAll = false;
+  mDialogs.ShowFileNotFound(kLostFile, found, cancelAll);
+  if (!found.empty()) return AddLayers({found});
+  mLog.Write(cancelAll ? "Missing file: all skipped" : "Missing file: skipped");
+}
+
+void HostWindow::AddLayers(const std::vector<std::string>& files) {
+  for (const std::string& file : files) {
+    try {
+      mLog.Write("Added " + mMap.AddLayer(file, {})->Name());
+    } catch (const std::exception& error) {
+      OwnerDesktop().ShowMessage({error.what(), Caption(), orx::MessageIcon::Exclamation});
+    }
+  }
+  FillLayers();
+  DrawMap();
 }
 
 void HostWindow::cboLanguage_Click() {

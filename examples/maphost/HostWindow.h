@@ -28,6 +28,9 @@ class HostWindow final : public orx::Form {
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
   orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "L&egends..."}};
+  orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
+  orx::Button cmdLost{
+      *this, "cmdLost", {.Caption = "&Missing file...", .ToolTipText = "Opens a layer whose file is gone"}};
   orx::CheckBox chkModeless{*this, "chkModeless", {.Caption = "&Keep dialogs open"}};
   orx::Label lblLanguage{*this, "lblLanguage", {.Caption = "L&anguage:"}};
   orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
@@ -55,6 +58,10 @@ class HostWindow final : public orx::Form {
   /// Shows a dialog for the chosen layer and writes its result down.
   void ShowFor(const std::string& what, Member member);
   void cmdLegends_Click();
+  void cmdAddLayer_Click();
+  void cmdLost_Click();
+  /// Reads the files; what cannot be read is told.
+  void AddLayers(const std::vector<std::string>& files);
   void cboLanguage_Click();
   void Report(const std::string& what, std::int32_t result);
 

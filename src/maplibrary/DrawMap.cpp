@@ -5,6 +5,7 @@
 
 #include "maplibrary/DrawLegends.h"
 #include "maplibrary/DrawPeaks.h"
+#include "maplibrary/DrawShapes.h"
 #include "maplibrary/MapView.h"
 #include "maplibrary/RenderGrid.h"
 
@@ -44,7 +45,12 @@ void DrawMap(const Map& map, Canvas& canvas, Size size, double pixelsPerPoint) {
   const auto& layers = map.Stack().All();
   if (!view.IsEmpty()) {
     for (const auto& layer : layers) {
-      if (layer->Visible()) DrawLayer(*layer, view, range.value_or(ValueRange()), canvas);
+      if (!layer->Visible()) continue;
+      if (const auto* const shapes = dynamic_cast<const VectorLayer*>(layer.get())) {
+        DrawShapes(*shapes, view, canvas, pixelsPerPoint);
+      } else {
+        DrawLayer(*layer, view, range.value_or(ValueRange()), canvas);
+      }
     }
     for (const auto& layer : layers) {
       if (layer->Visible()) DrawPeaks(*layer, view, lettering);

@@ -14,6 +14,10 @@ namespace orx::maplibrary {
 
 /// The path that a UTF-8 text names. Throws RunTimeError when it is no text that can be a path.
 std::filesystem::path PathOf(const std::string& utf8);
+/// The same the other way.
+std::string Utf8(const std::filesystem::path& path);
+/// The extension in capitals, with its dot: ".BIL".
+std::string ExtensionOf(const std::filesystem::path& path);
 
 /// Throws RunTimeError "<file name>: <text>" with kErrorFileFormat.
 [[noreturn]] void FailFile(const std::filesystem::path& path, const std::string& text);

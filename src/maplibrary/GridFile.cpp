@@ -5,15 +5,6 @@
 
 namespace orx::maplibrary {
 
-namespace {
-
-std::string ExtensionOf(const std::filesystem::path& path) {
-  const std::u8string extension = path.extension().u8string();
-  return UpperCase(std::string(extension.begin(), extension.end()));
-}
-
-}  // namespace
-
 bool IsGridFile(const std::string& path) {
   const std::string extension = ExtensionOf(PathOf(path));
   return extension == ".BIL" || extension == ".ASC";

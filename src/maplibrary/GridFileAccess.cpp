@@ -11,11 +11,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Utf8(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
-}
-
 [[noreturn]] void Fail(std::int32_t number, const fs::path& path, const std::string& text) {
   throw RunTimeError(number, Utf8(path.filename()) + ": " + text);
 }
@@ -30,6 +25,15 @@ void RequirePlainFile(const fs::path& path) {
 }
 
 }  // namespace
+
+std::string Utf8(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
+std::string ExtensionOf(const fs::path& path) {
+  return UpperCase(Utf8(path.extension()));
+}
 
 fs::path PathOf(const std::string& utf8) try {
   // A zero character would end the name for the system and open another file than the one named.

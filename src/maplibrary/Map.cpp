@@ -1,7 +1,7 @@
 #include "maplibrary/Map.h"
 
 #include "maplibrary/Errors.h"
-#include "maplibrary/Layer.h"
+#include "maplibrary/LayerFile.h"
 
 namespace orx::maplibrary {
 
@@ -24,7 +24,7 @@ void* Map::Query(Kind kind) {
 }
 
 MapLayer* Map::AddLayer(const std::string& path, const std::string&) {
-  return &AddLayer(ReadLayer(path));
+  return &AddLayer(ReadLayerFile(path));
 }
 
 maplibrary::Legend& Map::Legend(std::int32_t index) {

@@ -26,7 +26,7 @@ class Map : public HostObject, public IMap, public ILegends, private PlacedExten
   std::int32_t LayerCount() override { return mLayers.Count(); }
   std::string LayerName(std::int32_t index) override { return mLayers.At(index).Name(); }
   MapLayer* Layer(std::int32_t index) override { return &mLayers.At(index); }
-  /// Reads a .bil or .asc file.
+  /// Reads a file as ReadLayerFile does.
   MapLayer* AddLayer(const std::string& path, const std::string& options) override;
   bool RemoveLayer(std::int32_t index) override { return mLayers.Remove(index); }
   bool MoveLayerUp(std::int32_t index) override { return mLayers.MoveUp(index); }

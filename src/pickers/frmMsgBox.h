@@ -35,15 +35,11 @@ class frmMsgBox final : public DialogForm {
 
   PictureBox imgIcon{*this, "imgIcon", {.Place = {180, 180, 480, 480}}, kGround};
   Label lblMsg{*this, "lblMsg", {.Caption = "Message...", .Place = {840, 180, 5640, 1020}}, Alignment::Left, true};
-  Button cmdBrowse{*this,
-                   "cmdBrowse",
-                   {.Caption = "&Browse...", .Place = {1770, 1320, 1500, 375}, .Pinned = true},
-                   ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {3375, 1320, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
-  Button cmdCancelAll{
-      *this, "cmdCancelAll", {.Caption = "Cancel &All", .Place = {4980, 1320, 1500, 375}, .Pinned = true}};
-  Button cmdHelp{*this, "cmdHelp", {.Caption = "&Help", .Place = {120, 1320, 1500, 375}, .Pinned = true}};
+  Button cmdBrowse{
+      *this, "cmdBrowse", {.Caption = "&Browse...", .Place = {1770, 1320, 1500, 375}}, ButtonRole::Default};
+  Button cmdCancel{*this, "cmdCancel", {.Caption = "&Cancel", .Place = {3375, 1320, 1500, 375}}, ButtonRole::Cancel};
+  Button cmdCancelAll{*this, "cmdCancelAll", {.Caption = "Cancel &All", .Place = {4980, 1320, 1500, 375}}};
+  Button cmdHelp{*this, "cmdHelp", {.Caption = "&Help", .Place = {120, 1320, 1500, 375}}};
 
  protected:
   void Form_Load() override;

@@ -3,6 +3,7 @@
 
 #include "maplibrary/MapText.h"
 #include "maplibrary/SampleMap.h"
+#include "tests/files/FilesTest.h"
 #include "tests/support/DesktopTest.h"
 
 namespace orx::test {
@@ -10,7 +11,10 @@ namespace {
 
 class ExamplesHost : public DesktopTest {
  protected:
-  ExamplesHost() { window->Show(ShowMode::Modeless); }
+  ExamplesHost() {
+    modDialog::ResetRememberedChoices();
+    window->Show(ShowMode::Modeless);
+  }
   ~ExamplesHost() override { desktop().CloseOpenForms(); }
 
   template <class Kind>
@@ -118,6 +122,32 @@ TEST_F(ExamplesHost, TheMapFillsTheWindowWhateverItsSize) {
   window->ClientSize({window->ClientSize().Width + 1500, window->ClientSize().Height + 1500});
   EXPECT_EQ(before.Width + 1500, window->pctMap.Place().Width);
   EXPECT_EQ(before.Height + 1500, window->pctMap.Place().Height);
+}
+
+TEST_F(ExamplesHost, AddsALayerThatTheUserChooses) {
+  TestFolder folder;
+  std::ofstream(std::filesystem::path(folder.PathOf("small.asc")))
+      << "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2 3 4\n";
+  script.ExpectFiles([&](OpenFileRequest& request) { user.PickFiles(request, {folder.Path(), {"small.asc"}, 3}); });
+  Press(user, *window, "cmdAddLayer");
+  EXPECT_EQ(3, map->LayerCount());
+  EXPECT_EQ("Added small", LastLine());
+  EXPECT_EQ("small", window->cboLayer.List(window->cboLayer.ListCount() - 1));
+}
+
+TEST_F(ExamplesHost, ALayerThatCannotBeReadIsToldAndTheMapStaysAsItWas) {
+  TestFolder folder;
+  folder.Add("broken.shp");
+  script.ExpectFiles([&](OpenFileRequest& request) { user.PickFiles(request, {folder.Path(), {"broken.shp"}, 1}); });
+  script.ExpectMessage({"broken.shp: is no shape file.", "Map", MessageIcon::Exclamation});
+  Press(user, *window, "cmdAddLayer");
+  EXPECT_EQ(2, map->LayerCount());
+}
+
+TEST_F(ExamplesHost, AsksForALayerWhoseFileIsGone) {
+  script.ExpectForm("frmMsgBox", [&](Form& shown) { Press(user, shown, "cmdCancelAll"); });
+  Press(user, *window, "cmdLost");
+  EXPECT_EQ("Missing file: all skipped", LastLine());
 }
 
 }  // namespace

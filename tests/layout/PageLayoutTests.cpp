@@ -23,6 +23,14 @@ class PageLayout : public PagesTest {
     service.ShowCoordinates(&layer);
     InDialog("frmLegend", look);
     service.ShowLegends(&legends);
+    std::string found;
+    bool cancelAll = false;
+    script.ExpectForm("frmMsgBox", [this](Form& shown) {
+      EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(shown));
+      user.CloseBox(shown);
+    });
+    service.ShowDataFileNotFound("/a long path/with many folders/and & signs/that leads to/missing.vkr", found,
+                                 cancelAll);
   }
 
   RecordedLegends legends;
