@@ -15,7 +15,8 @@ endif()
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)
 
 add_library(orx_options INTERFACE)
-target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Werror)
+target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Werror
+  $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)
   # These report std::string of the compiler's own library when it is inlined (fixed in later releases).
   target_compile_options(orx_options INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)

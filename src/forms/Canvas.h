@@ -68,7 +68,7 @@ class Canvas {
   /// All marks, oldest first; Draw adds one, Clear removes them all.
   const std::vector<Mark>& Marks() const { return mMarks; }
   void Clear() { mMarks.clear(); }
-  void Draw(Mark mark) { mMarks.push_back(std::move(mark)); }
+  void Draw(Mark mark);
   /// Draws the focus rectangle, or takes it away again when it stands at that place already.
   void ToggleFocus(const Rect& place);
 

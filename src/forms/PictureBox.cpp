@@ -8,6 +8,10 @@
 
 namespace orx {
 
+void Canvas::Draw(Mark mark) {
+  mMarks.push_back(std::move(mark));
+}
+
 void Canvas::ToggleFocus(const Rect& place) {
   const Mark mark = FocusMark{place};
   const auto found = std::find(mMarks.begin(), mMarks.end(), mark);

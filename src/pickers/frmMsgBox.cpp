@@ -28,7 +28,8 @@ void DrawSign(PictureBox& box) {
     canvas.Draw(FillMark{{middle - half, y, 2 * half + 1, 1}, yellow});
   }
   const int width = std::max(size.Width / 16, 1);
-  canvas.Draw(LineMark{{{middle, 2}, {size.Width - 3, bottom}, {2, bottom}, {middle, 2}}, edge, width});
+  const LineMark rim{{{middle, 2}, {size.Width - 3, bottom}, {2, bottom}, {middle, 2}}, edge, width};
+  canvas.Draw(rim);
   const int bar = std::max(size.Width / 10, 2);
   canvas.Draw(FillMark{{middle - bar / 2, size.Height * 3 / 8, bar, size.Height / 4}, edge});
   canvas.Draw(FillMark{{middle - bar / 2, size.Height * 3 / 4 - bar / 2, bar, bar}, edge});

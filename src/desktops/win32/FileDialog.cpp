@@ -100,8 +100,18 @@ class NarrowRequest {
 std::wstring TrueFolder(const std::string& folder) {
   const std::wstring current = CurrentFolder();
   if (ToCodePage(current) == folder) return current;
-  if (folder.find('?') != std::string::npos) RefuseName(folder);
-  return FromCodePage(folder);
+  if (folder.find('?') == std::string::npos) return FromCodePage(folder);
+  // Not all versions do: then the names of the folders are looked up one by one.
+  std::size_t end = folder.find('\\');
+  std::wstring path = FromCodePage(folder.substr(0, end));
+  while (end != std::string::npos) {
+    const std::size_t start = end + 1;
+    end = folder.find('\\', start);
+    const std::optional<std::wstring> name = TrueName(path, folder.substr(start, end - start));
+    if (!name) RefuseName(folder);
+    path += L'\\' + *name;
+  }
+  return path;
 }
 
 /// The texts up to the first empty one.

@@ -1,5 +1,6 @@
 // The examples, run from outside with their dialogs operated as automation tools do it.
 #include "tests/com/hosts/HostTest.h"
+#include "tests/files/FilesTest.h"
 
 namespace orx::com::test {
 namespace {
@@ -14,6 +15,7 @@ std::string Lines(std::initializer_list<const char*> lines) {
 }
 
 using Examples = HostTest;
+using orx::test::TestFolder;
 
 TEST_F(Examples, AScriptEditsItsLayer) {
   Program script(Script(L"layer.vbs"));
@@ -62,6 +64,23 @@ TEST_F(Examples, AScriptEditsTheExtentAndTheLegendsOfItsMap) {
   Click(ControlNamed(legends, L"cmdOK"));
   EXPECT_EQ(script.Wait(), kDone);
   EXPECT_EQ(script.Output(), Lines({"Extent: -1 250 1000", "Legends: 0 Places", "DONE"}));
+}
+
+TEST_F(Examples, AScriptIsGivenTheChosenFilesInItsVariables) {
+  const TestFolder folder;
+  folder.Add("a.shp");
+  folder.Add("b c.shp");
+  Program script(Script(L"files.vbs"));
+  const HWND chooser = script.WaitForWindow(L"Add Layers");
+  ASSERT_TRUE(chooser) << script.Output();
+  EnterFileName(chooser, Widened(folder.Path()));
+  EnterFileName(chooser, L"\"a.shp\" \"b c.shp\"");
+  const HWND prompt = script.WaitForWindow(L"Open layer");
+  ASSERT_TRUE(prompt) << script.Output();
+  Click(ControlNamed(prompt, L"cmdCancelAll"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), "Chosen: " + folder.PathOf("a.shp") + "\r\nChosen: " + folder.PathOf("b c.shp") +
+                                 "\r\nMissing: \"\" True\r\nDONE\r\n");
 }
 
 TEST_F(Examples, ACompiledHostEditsItsLayerByTheTypeLibrary) {

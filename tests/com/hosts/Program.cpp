@@ -1,5 +1,6 @@
 #include "tests/com/hosts/Program.h"
 
+#include <dlgs.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -53,6 +54,13 @@ BOOL CALLBACK SeeControl(HWND window, LPARAM search) {
   const auto atom = static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(window, L"ControlName")));
   if (atom && GlobalGetAtomNameW(atom, name, 200) && name == wanted.Name) wanted.Found = window;
   return !wanted.Found;
+}
+
+BOOL CALLBACK SeeNameField(HWND window, LPARAM found) {
+  const int id = GetDlgCtrlID(window);
+  if (id != cmb13 && id != edt1) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
 }
 
 }  // namespace
@@ -115,6 +123,14 @@ HWND ControlNamed(HWND dialog, const std::wstring& name) {
   ControlSearch search = {name};
   EnumChildWindows(dialog, SeeControl, reinterpret_cast<LPARAM>(&search));
   return search.Found;
+}
+
+void EnterFileName(HWND dialog, const std::wstring& name) {
+  HWND field = nullptr;
+  EnumChildWindows(dialog, SeeNameField, reinterpret_cast<LPARAM>(&field));
+  ASSERT_TRUE(field);
+  SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  SendMessageW(dialog, WM_COMMAND, IDOK, 0);
 }
 
 void Click(HWND button) {

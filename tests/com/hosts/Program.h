@@ -36,6 +36,8 @@ class Program {
 
 /// The control of a dialog, which may be another program's, that carries the name in the property ControlName.
 HWND ControlNamed(HWND dialog, const std::wstring& name);
+/// Types into the name field of the platform's file dialog and presses its Open.
+void EnterFileName(HWND dialog, const std::wstring& name);
 /// Clicks a button, as automation tools do.
 void Click(HWND button);
 
