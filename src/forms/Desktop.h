@@ -39,8 +39,8 @@ class Desktop {
 
   /// Shows a message box and returns when it has been answered. It belongs to the form that is shown on top.
   void ShowMessage(const Message& message);
-  /// Has the user choose files in the platform's own dialog. False, with the request as it was, when nothing was chosen,
-  /// and when the request has no buffer for an answer.
+  /// Has the user choose files in the platform's own dialog. False, with the request as it was, when nothing was
+  /// chosen, and when the request has no buffer for an answer.
   bool OpenFiles(OpenFileRequest& request);
   /// Sounds the platform's warning signal.
   void Beep();

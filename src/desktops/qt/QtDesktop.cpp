@@ -15,8 +15,8 @@
 
 #include "desktops/qt/Application.h"
 #include "desktops/qt/DialogWindow.h"
-#include "desktops/qt/FileSettings.h"
 #include "desktops/qt/FileDialog.h"
+#include "desktops/qt/FileSettings.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
