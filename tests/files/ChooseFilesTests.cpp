@@ -153,7 +153,7 @@ TEST_F(FilesTest, TheBufferHasRoomForEightThousandCharacters) {
   EXPECT_EQ(' ', seen.Buffer[100]);
 }
 
-TEST_F(FilesTest, ANameOfExactlyTheBufferOpensTheDialogAndALongerOneDoesNot) {
+TEST_F(FilesTest, ANameLongerThanTheBufferOpensNoDialog) {
   files = {std::string(8193, 'x')};
   EXPECT_FALSE(Choose(kLayers));
   EXPECT_EQ(0, modDialog::LastSystemResult());

@@ -1,4 +1,5 @@
 // The rules behind the dialog: filters, accepted extensions, and how an answer is taken apart.
+#include "desktops/headless/HeadlessDesktop.h"
 #include "tests/files/FilesTest.h"
 
 namespace orx::test {
@@ -71,6 +72,49 @@ TEST_F(FilesTest, TheFiltersAreThoseOfTheirKind) {
   ASSERT_EQ(5u, data.size());
   EXPECT_EQ("All Files (*.*)", data[4].Text);
   EXPECT_EQ((Parts{"*.vkr", "*.his", "*.bil", "*.bip", "*.bsq", "*.inc"}), data[4].Patterns);
+}
+
+/// A desktop on which the same files are chosen whenever they are asked for.
+class ChoosingDesktop final : private DesktopHook {
+ public:
+  ChoosingDesktop(std::string folder, Parts names) : mFolder(std::move(folder)), mNames(std::move(names)) {
+    Screen.Hook(this);
+  }
+
+  headless::HeadlessDesktop Screen;
+  Parts Messages;
+
+ private:
+  void ModalRunning(const Modal& modal) override {
+    if (modal.ShownMessage) Messages.push_back(modal.ShownMessage->Title + ": " + modal.ShownMessage->Text);
+    if (modal.ShownFiles) PutAnswer(*modal.ShownFiles, mFolder, mNames);
+  }
+
+  std::string mFolder;
+  Parts mNames;
+};
+
+TEST(FileRules, SeveralFilesInTheRootOfADriveHaveTwoSeparators) {
+  ChoosingDesktop desktop("C:\\", {"a.shp", "b.shp"});
+  Parts files;
+  EXPECT_TRUE(modDialog::ChooseFiles({desktop.Screen, 0, kLayers, nullptr}, false, files));
+  EXPECT_EQ((Parts{"C:\\\\a.shp", "C:\\\\b.shp"}), files);
+}
+
+TEST(FileRules, MoreNamesThanTheBufferHoldsAreRefusedWithAMessage) {
+  ChoosingDesktop desktop("C:\\maps", Parts(200, std::string(50, 'n') + ".shp"));
+  Parts files{"before"};
+  EXPECT_FALSE(modDialog::ChooseFiles({desktop.Screen, 0, kLayers, nullptr}, false, files));
+  EXPECT_EQ(Parts{"before"}, files);
+  EXPECT_EQ(Parts{"Add Layers: The names of these files are too long together. Choose fewer files at a time."},
+            desktop.Messages);
+}
+
+TEST(FileRules, OneFileInTheRootOfADriveHasOneSeparator) {
+  ChoosingDesktop desktop("C:\\", {"a.shp"});
+  Parts files;
+  EXPECT_TRUE(modDialog::ChooseFiles({desktop.Screen, 0, kLayers, nullptr}, false, files));
+  EXPECT_EQ((Parts{"C:\\a.shp"}), files);
 }
 
 TEST(OpenFileRequests, AnAnswerTooLongForTheBufferIsRefusedAndLeavesIt) {

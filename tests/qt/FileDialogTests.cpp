@@ -43,6 +43,12 @@ TEST_F(QtFiles, ANewNameThatIsNotToBeCreatedLeavesTheDialogOpen) {
   EXPECT_EQ(1, questions);
 }
 
+TEST_F(QtFiles, ANameWithADotAtItsEndComesBackWhole) {
+  ExpectPick({"roads.shp."});
+  EXPECT_TRUE(Choose(kLayers));
+  EXPECT_EQ(std::vector<std::string>{folder.PathOf("roads.shp.")}, files);
+}
+
 TEST_F(QtFiles, TheProcessKeepsItsCurrentFolder) {
   const std::filesystem::path before = std::filesystem::current_path();
   ExpectPick({"a.shp"});

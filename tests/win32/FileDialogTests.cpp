@@ -1,6 +1,8 @@
 // The platform's file dialog, whose texts have 8 bits: true names behind them, and what it leaves behind.
 #include <windows.h>
 
+#include <commdlg.h>
+
 #include "desktops/win32/CodePage.h"
 #include "desktops/win32/Text.h"
 #include "tests/files/FilesTest.h"
@@ -38,6 +40,10 @@ TEST_F(Win32Files, AFolderBeyondTheCodePageComesBackWhole) {
   EXPECT_TRUE(Choose(kLayers));
   EXPECT_EQ(std::vector<std::string>{inner + "\\roads.shp"}, files);
   EXPECT_EQ(inner, modDialog::Remembered().LayerFolder);
+}
+
+TEST(Win32FileRequest, TheStructureHasTheSizeOfItsFirstVersion) {
+  EXPECT_EQ(sizeof(void*) == 8 ? 136u : 76u, OPENFILENAME_SIZE_VERSION_400A);
 }
 
 TEST_F(Win32Files, TheTrueNameIsThatOfTheOnlyFileThatItCanBe) {
