@@ -11,7 +11,7 @@ namespace {
 
 class MissingFileTest : public FilesTest {
  protected:
-  void InPrompt(std::function<void(frmMsgBox&)> act) {
+  void InPrompt(const std::function<void(frmMsgBox&)>& act) {
     script.ExpectForm("frmMsgBox", [act](Form& form) { act(dynamic_cast<frmMsgBox&>(form)); });
   }
   bool Ask(const std::string& path) { return service.ShowFileNotFound(path, newFileName, cancelAll); }

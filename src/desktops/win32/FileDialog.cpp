@@ -98,7 +98,7 @@ class NarrowRequest {
 
 /// The folder of the answer. The dialog has moved the current folder there, whose name has lost nothing.
 std::wstring TrueFolder(const std::string& folder) {
-  const std::wstring current = CurrentFolder();
+  std::wstring current = CurrentFolder();
   if (ToCodePage(current) == folder) return current;
   if (folder.find('?') == std::string::npos) return FromCodePage(folder);
   // Not all versions do: then the names of the folders are looked up one by one.
