@@ -1,9 +1,8 @@
 // Numbers as text. The digits are those of the standard library's shortest form; the notation is the platform's.
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdlib>
 
+#include "numbers/Decimal.h"
 #include "numbers/Numbers.h"
 
 namespace orx::numbers {
@@ -12,25 +11,6 @@ namespace {
 /// The exponents of ten of the first digit that are written without an exponent: 0.0001 to 999999999999999.
 constexpr int kLeastPlain = -4;
 constexpr int kMostPlain = 14;
-
-/// Significant digits, the first one standing for tens to the power of `Exponent`.
-struct Decimal {
-  std::string Digits;
-  int Exponent = 0;
-};
-
-Decimal ShortestDecimal(double magnitude) {
-  std::array<char, 32> buffer{};
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific);
-  const std::string_view text(buffer.data(), end.ptr);
-  const std::size_t mark = text.find('e');
-  Decimal decimal{std::string(text.substr(0, mark))};
-  std::erase(decimal.Digits, '.');
-  const std::size_t number = text[mark + 1] == '+' ? mark + 2 : mark + 1;
-  std::from_chars(text.data() + number, end.ptr, decimal.Exponent);
-  return decimal;
-}
 
 std::string Plain(const Decimal& decimal, const std::string& separator) {
   const auto& [digits, exponent] = decimal;
