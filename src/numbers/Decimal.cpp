@@ -1,4 +1,4 @@
-// Digits come from the standard library's shortest form, which is exact; rounding works on the digits themselves.
+// Digits come from the standard library, whose conversions are exact; rounding works on the digits themselves.
 #include "numbers/Decimal.h"
 
 #include <array>
@@ -6,17 +6,38 @@
 #include <string_view>
 
 namespace orx::numbers {
+namespace {
 
-Decimal ShortestDecimal(double magnitude) {
-  std::array<char, 32> buffer{};
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific);
-  const std::string_view text(buffer.data(), end.ptr);
+/// Longer than any number with this many digits, its point and its exponent.
+using Buffer = std::array<char, 32>;
+constexpr int kManyDigits = 20;
+
+/// Takes a text such as "1.25e+02" apart.
+Decimal FromScientific(std::string_view text) {
   const std::size_t mark = text.find('e');
   Decimal decimal{std::string(text.substr(0, mark))};
   std::erase(decimal.Digits, '.');
   const std::size_t number = text[mark + 1] == '+' ? mark + 2 : mark + 1;
-  std::from_chars(text.data() + number, end.ptr, decimal.Exponent);
+  std::from_chars(text.data() + number, text.data() + text.size(), decimal.Exponent);
+  return decimal;
+}
+
+}  // namespace
+
+Decimal ShortestDecimal(double magnitude) {
+  Buffer buffer{};
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific);
+  return FromScientific({buffer.data(), end.ptr});
+}
+
+Decimal RoundedDecimal(double magnitude, int count) {
+  Buffer buffer{};
+  // The conversion itself takes halves to the even digit, so it is asked for more digits than are needed.
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific,
+                                 kManyDigits - 1);
+  Decimal decimal = FromScientific({buffer.data(), end.ptr});
+  RoundTo(decimal, count);
   return decimal;
 }
 

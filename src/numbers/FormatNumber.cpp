@@ -20,10 +20,8 @@ struct Parts {
 
 /// Splits a number in front of whose decimal separator `integers` digits stand, or minus so many zeros behind it.
 Parts Split(const std::string& digits, int integers) {
-  if (integers <= 0) {
-    if (digits.empty()) return {};
-    return {"", std::string(static_cast<std::size_t>(-integers), '0') + digits};
-  }
+  if (digits.empty()) return {};
+  if (integers <= 0) return {"", std::string(static_cast<std::size_t>(-integers), '0') + digits};
   const std::size_t count = static_cast<std::size_t>(integers);
   if (digits.size() <= count) return {digits + std::string(count - digits.size(), '0'), ""};
   return {digits.substr(0, count), digits.substr(count)};
@@ -66,8 +64,7 @@ std::string MagnitudeText(Decimal& decimal, const NumberPattern& pattern, const 
   }
   RoundTo(decimal, pattern.IntegerPlaces + pattern.DecimalPlaces);
   const int exponent = decimal.Digits.empty() ? 0 : decimal.Exponent + 1 - pattern.IntegerPlaces;
-  const int integers = decimal.Digits.empty() ? 0 : pattern.IntegerPlaces;
-  return Joined(Split(decimal.Digits, integers), pattern, separators) + ExponentText(exponent, pattern);
+  return Joined(Split(decimal.Digits, pattern.IntegerPlaces), pattern, separators) + ExponentText(exponent, pattern);
 }
 
 }  // namespace
@@ -76,8 +73,7 @@ std::string FormatNumber(double value, std::string_view pattern, const Separator
   const std::optional<NumberPattern> places = ToNumberPattern(pattern);
   if (!places || !std::isfinite(value)) return ShortestText(value, separators);
   Decimal decimal;
-  if (value != 0) decimal = ShortestDecimal(std::fabs(value));
-  RoundTo(decimal, kSignificantDigits);
+  if (value != 0) decimal = RoundedDecimal(std::fabs(value), kSignificantDigits);
   const std::string magnitude = MagnitudeText(decimal, *places, separators);
   return (std::signbit(value) && !decimal.Digits.empty() ? "-" : "") + magnitude;
 }
