@@ -53,6 +53,7 @@ class BareMaker final : public ControlVisitor {
   void Visit(Label& control) override {
     Keep(new QLabel(ToQt(control.Caption()), &mParent))->setWordWrap(control.Wraps());
   }
+  void Visit(ListBox&) override { Keep(new QListWidget(&mParent)); }
   void Visit(NativeArea&) override { Keep(new QWidget(&mParent)); }
   void Visit(Panel&) override { Keep(new QWidget(&mParent)); }
   void Visit(PictureBox&) override { Keep(new QFrame(&mParent))->setAutoFillBackground(true); }

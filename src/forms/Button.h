@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Control.h"
+#include "forms/Glyph.h"
 
 namespace orx {
 
@@ -14,9 +15,14 @@ class Button final : public Control {
   /// As Control; the role is fixed.
   Button(Container& parent, std::string name, Design design, ButtonRole role = ButtonRole::Plain)
       : Control(parent, std::move(name), std::move(design)), mRole(role) {}
+  /// A button with a picture in place of a caption. The glyph must outlive the button.
+  Button(Container& parent, std::string name, Design design, const Glyph& picture)
+      : Control(parent, std::move(name), std::move(design)), mPicture(&picture) {}
 
   /// What Enter and Escape do with it.
   ButtonRole Role() const { return mRole; }
+  /// The picture that stands on it, null for none.
+  const Glyph* Picture() const { return mPicture; }
 
   /// Raised when the button is pressed by mouse, key or program.
   Event<> Click;
@@ -28,7 +34,8 @@ class Button final : public Control {
   void Accept(ControlVisitor& visitor) override;
 
  private:
-  ButtonRole mRole;
+  ButtonRole mRole = ButtonRole::Plain;
+  const Glyph* mPicture = nullptr;
 };
 
 }  // namespace orx

@@ -9,6 +9,7 @@ class CheckBox;
 class ComboBox;
 class Frame;
 class Label;
+class ListBox;
 class NativeArea;
 class Panel;
 class PictureBox;
@@ -25,6 +26,7 @@ class ControlVisitor {
   virtual void Visit(ComboBox& control) = 0;
   virtual void Visit(Frame& control) = 0;
   virtual void Visit(Label& control) = 0;
+  virtual void Visit(ListBox& control) = 0;
   virtual void Visit(NativeArea& control) = 0;
   virtual void Visit(Panel& control) = 0;
   virtual void Visit(PictureBox& control) = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/ColorRequest.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
 
@@ -32,7 +33,7 @@ int Desktop::ToTwips(int pixels) const {
 }
 
 void Desktop::ShowMessage(const Message& message) {
-  const Modal modal{nullptr, &message};
+  const Modal modal{.ShownMessage = &message};
   if (mHook) mHook->ModalOpening(modal);
   FormWindow* owner = nullptr;
   if (!mSessions.empty()) {
@@ -46,7 +47,7 @@ void Desktop::ShowMessage(const Message& message) {
 
 bool Desktop::OpenFiles(OpenFileRequest& request) {
   if (request.Buffer.empty()) return false;
-  const Modal modal{nullptr, nullptr, &request};
+  const Modal modal{.ShownFiles = &request};
   if (mHook) mHook->ModalOpening(modal);
   bool chosen = false;
   std::string refusal;
@@ -57,6 +58,14 @@ bool Desktop::OpenFiles(OpenFileRequest& request) {
   }
   if (mHook) mHook->ModalClosed(modal);
   if (!refusal.empty()) ShowMessage({refusal, request.Title, MessageIcon::Exclamation});
+  return chosen;
+}
+
+bool Desktop::ChooseColor(ColorRequest& request) {
+  const Modal modal{.ShownColor = &request};
+  if (mHook) mHook->ModalOpening(modal);
+  const bool chosen = DoChooseColor(request);
+  if (mHook) mHook->ModalClosed(modal);
   return chosen;
 }
 
@@ -82,7 +91,7 @@ void Desktop::ShowHelp(const HelpRequest& request) {
 
 void Desktop::RunModal(Form& form) {
   Session session{&form, nullptr, nullptr};
-  const Modal modal{&form, nullptr};
+  const Modal modal{.ShownForm = &form};
   mSessions.push_back(&session);
   if (mHook) mHook->ModalOpening(modal);
   try {

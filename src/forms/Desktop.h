@@ -42,6 +42,9 @@ class Desktop {
   /// Has the user choose files in the platform's own dialog. False, with the request as it was, when nothing was
   /// chosen, and when the request has no buffer for an answer.
   bool OpenFiles(OpenFileRequest& request);
+  /// Has the user choose a colour in the platform's own dialog. False, with the request as it was, when none was
+  /// chosen.
+  bool ChooseColor(ColorRequest& request);
   /// Sounds the platform's warning signal.
   void Beep();
   /// The pointer that was set last; Default at first.
@@ -82,6 +85,8 @@ class Desktop {
   virtual void DoShowMessage(const Message& message, FormWindow* owner) = 0;
   /// Does what OpenFiles says; calls ModalIsRunning once the dialog is up.
   virtual bool DoOpenFiles(OpenFileRequest& request) = 0;
+  /// Does what ChooseColor says; calls ModalIsRunning once the dialog is up.
+  virtual bool DoChooseColor(ColorRequest& request) = 0;
   /// What Beep, Pointer and ShowHelp do after the hook has heard of it.
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;

@@ -9,14 +9,18 @@
 namespace orx {
 
 class Form;
+struct ColorRequest;
 struct OpenFileRequest;
 
-/// Something modal: a form, a message box or the dialog for choosing files; the other pointers are null.
+/// Something modal: a form, a message box or one of the dialogs for choosing files or a colour; the other pointers are
+/// null.
 struct Modal {
   Form* ShownForm = nullptr;
   const Message* ShownMessage = nullptr;
   /// Where nobody else answers, PutAnswer answers here.
   OpenFileRequest* ShownFiles = nullptr;
+  /// Where nobody else answers, set its Answer here.
+  ColorRequest* ShownColor = nullptr;
 };
 
 /// Derive from it, override what matters, and give it to Desktop::Hook.

@@ -68,6 +68,8 @@ void Form::Load() {
 void Form::Show(ShowMode mode, OwnerWindow owner) {
   if (mVisible) throw std::logic_error(mName + " is shown already");
   Load();
+  // A form that has nothing to show unloads itself as it loads.
+  if (!mLoaded) return;
   if (!mWindow) mWindow = mDesktop.OpenWindow(*this);
   Form_Resize();
   KeepOnScreen();

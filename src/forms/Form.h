@@ -62,8 +62,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Load();
   /// True from Load to Unload.
   bool IsLoaded() const { return mLoaded; }
-  /// Loads and shows the form. Modal: returns when it was hidden or unloaded, and throws what a handler let go; a form
-  /// that is shown already throws std::logic_error. Modeless: returns at once.
+  /// Loads and shows the form; one that unloads itself as it loads is not shown. Modal: returns when it was hidden or
+  /// unloaded, and throws what a handler let go; a form that is shown already throws std::logic_error. Modeless:
+  /// returns at once.
   void Show(ShowMode mode = ShowMode::Modal, OwnerWindow owner = {});
   /// Takes the form from the screen and keeps it as it is.
   void Hide();

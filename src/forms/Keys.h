@@ -14,4 +14,8 @@ struct KeyStroke {
   bool Alt = false;
 };
 
+/// The codes by which the platform numbers keys, as KeyDown gives them. A letter or digit has the code of its capital.
+inline constexpr int kKeyCodeShift = 16;
+inline constexpr int kKeyCodeSpace = 32;
+
 }  // namespace orx

@@ -28,6 +28,23 @@ void PictureBox::BackColor(Color value) {
   Changed(Aspect::Colors);
 }
 
+Color PictureBox::ShownBackColor() const {
+  if (!TakesFocus() || IsReachable()) return mBackColor;
+  constexpr int kFace = 240;
+  const auto paled = [](std::uint8_t part) { return static_cast<std::uint8_t>((part + 2 * kFace) / 3); };
+  return {paled(mBackColor.Red), paled(mBackColor.Green), paled(mBackColor.Blue)};
+}
+
+void PictureBox::UserClick() {
+  OwnerForm().UserAct([this] {
+    if (OwnerForm().MoveFocus(*this)) Click.Raise();
+  });
+}
+
+void PictureBox::UserKeyDown(int keyCode) {
+  OwnerForm().UserAct([&] { KeyDown.Raise(keyCode); });
+}
+
 void PictureBox::AutoRedraw(bool value) {
   if (mAutoRedraw == value) return;
   mAutoRedraw = value;

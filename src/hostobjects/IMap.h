@@ -82,6 +82,8 @@ class ILayer {
   /// Points.
   virtual double SymbolSize() const = 0;
   virtual void SymbolSize(double value) = 0;
+  /// The data object (IData) behind the layer, null when it has none; the layer owns it.
+  virtual HostObject* Data() { return nullptr; }
 };
 
 /// Where a label stands beside the symbol that it belongs to.

@@ -17,10 +17,24 @@ void RequireFinite(const char* name, double value) {
   throw RunTimeError(kErrorInvalidValue, std::string(name) + " must be a finite number.");
 }
 
-void RequireSize(const char* name, double value) {
-  if (value >= 0 && value <= kMaxTextPoints) return;
+namespace {
+
+constexpr double kMaxClassPixels = 1000;
+
+void RequireUpTo(const char* name, double value, double most, const char* unit) {
+  if (value >= 0 && value <= most) return;
   throw RunTimeError(kErrorInvalidValue, std::string(name) + " must be from 0 to " +
-                                             std::to_string(static_cast<int>(kMaxTextPoints)) + " points.");
+                                             std::to_string(static_cast<int>(most)) + " " + unit + ".");
+}
+
+}  // namespace
+
+void RequireSize(const char* name, double value) {
+  RequireUpTo(name, value, kMaxTextPoints, "points");
+}
+
+void RequireClassSize(const char* name, double value) {
+  RequireUpTo(name, value, kMaxClassPixels, "pixels");
 }
 
 }  // namespace orx::maplibrary

@@ -24,4 +24,7 @@ inline constexpr double kMaxTextPoints = 1000;
 /// Throws "<name> must be from 0 to 1000 points." for any other size.
 void RequireSize(const char* name, double value);
 
+/// Throws "<name> must be from 0 to 1000 pixels." for any other size.
+void RequireClassSize(const char* name, double value);
+
 }  // namespace orx::maplibrary

@@ -5,7 +5,7 @@
 namespace orx::maplibrary {
 
 Layer::Layer(std::string name, std::string source, std::shared_ptr<const GridData> grid)
-    : MapLayer(std::move(name), std::move(source)), mGrid(std::move(grid)) {
+    : MapLayer(std::move(name), source), mData(std::move(source), std::move(grid)) {
 }
 
 std::unique_ptr<Layer> ReadLayer(const std::string& path) {

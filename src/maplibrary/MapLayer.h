@@ -10,6 +10,7 @@
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IMap.h"
 #include "maplibrary/GridData.h"
+#include "maplibrary/LayerData.h"
 #include "maplibrary/PlacedExtent.h"
 
 namespace orx::maplibrary {
@@ -24,6 +25,8 @@ struct Peak {
 struct PlacedGrid {
   std::shared_ptr<const GridData> Grid;
   GroundRect Place;
+  /// How its values are drawn; null: in colours without steps.
+  const LayerData* Data = nullptr;
 };
 
 class MapLayer;

@@ -71,6 +71,33 @@ void AddGrid(Lines& lines, const GridData& grid) {
                         std::to_string(CheckSum(grid.Values)));
 }
 
+void AddSpecial(Lines& lines, const std::string& kind, const SpecialValue& value) {
+  lines.Add((kind + ".Color").c_str(), Text(value.Color()));
+  lines.Add((kind + ".Enabled").c_str(), Number(value.Enabled()));
+  lines.Add((kind + ".InLegend").c_str(), Number(value.InLegend()));
+  lines.Add((kind + ".UpperBound").c_str(), Text(value.UpperBound()));
+  lines.Add((kind + ".LowerBound").c_str(), Text(value.LowerBound()));
+  lines.Add((kind + ".TextValue").c_str(), Text(value.TextValue()));
+  lines.Add((kind + ".Transparent").c_str(), Number(value.Transparent()));
+}
+
+void AddData(Lines& lines, const LayerData& data) {
+  AddGrid(lines, *data.Grid());
+  lines.Add("ValueFormat", Text(data.ValueFormat()));
+  lines.Add("ShowParameterName", Number(data.ShowParameterName()));
+  lines.Add("ClassifyMethod", Number(data.ClassifyMethod()));
+  lines.Add("NumberOfClasses", Number(data.NumberOfClasses()));
+  lines.Add("MinValue", Text(data.MinValue()));
+  lines.Add("MaxValue", Text(data.MaxValue()));
+  lines.Add("OutsideAsMissing", Number(data.OutsideAsMissing()));
+  lines.Add("LegendStyle", Number(data.LegendStyle()));
+  lines.Add("FirstClassSize", Text(data.FirstClassSize()));
+  lines.Add("LastClassSize", Text(data.LastClassSize()));
+  AddSpecial(lines, "MissingValue", data.Missing());
+  AddSpecial(lines, "ZeroValue", data.Zero());
+  AddSpecial(lines, "NoDataValue", data.NoData());
+}
+
 void AddSettings(Lines& lines, const MapLayer& layer) {
   lines.Add("Name", Text(layer.Name()));
   lines.Add("Source", Text(layer.Source()));
@@ -91,7 +118,7 @@ void AddSettings(Lines& lines, const MapLayer& layer) {
 void AddLayer(Lines& lines, const std::string& object, const MapLayer& layer) {
   lines.Begin(object);
   AddSettings(lines, layer);
-  if (const auto* single = dynamic_cast<const Layer*>(&layer)) AddGrid(lines, single->Grid());
+  if (const auto* single = dynamic_cast<const Layer*>(&layer)) AddData(lines, single->Data());
   const auto* tiled = dynamic_cast<const TiledLayer*>(&layer);
   if (!tiled) return;
   lines.Add("Frame", Text(tiled->Frame()));

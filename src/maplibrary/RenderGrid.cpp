@@ -1,10 +1,10 @@
 #include "maplibrary/RenderGrid.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <limits>
 
-#include "maplibrary/ColorRamp.h"
+#include "maplibrary/ValueColors.h"
 
 namespace orx::maplibrary {
 
@@ -46,30 +46,18 @@ std::vector<AxisSample> SamplesOf(int pixels, double start, double end, double f
   return samples;
 }
 
-/// The ramp in steps that are finer than its colours differ.
-class RampTable {
- public:
-  explicit RampTable(const ValueRange& range) : mRange(range) {
-    for (std::size_t i = 0; i < mColors.size(); ++i) mColors[i] = ColorAt(static_cast<double>(i) / kSteps);
-  }
-  const Color& For(double value) const {
-    return mColors[static_cast<std::size_t>(std::lround(ShareOf(value, mRange) * kSteps))];
-  }
-
- private:
-  static constexpr int kSteps = 2048;
-  ValueRange mRange;
-  std::array<Color, kSteps + 1> mColors;
-};
-
 double Mixed(double before, double behind, double share) {
   return before + (behind - before) * share;
 }
 
-/// A missing neighbour makes the blend NaN; then the cell itself decides.
-double ValueAt(const GridData& grid, const AxisSample& row, const AxisSample& column) {
-  const double upper = Mixed(grid.At(row.Before, column.Before), grid.At(row.Before, column.Behind), column.Share);
-  const double lower = Mixed(grid.At(row.Behind, column.Before), grid.At(row.Behind, column.Behind), column.Share);
+/// A missing or special neighbour makes the blend NaN; then the cell itself decides.
+double ValueAt(const GridData& grid, const ValueColors& colors, const AxisSample& row, const AxisSample& column) {
+  const auto at = [&](std::int32_t r, std::int32_t c) {
+    const double value = grid.At(r, c);
+    return colors.IsPlain(value) ? value : std::numeric_limits<double>::quiet_NaN();
+  };
+  const double upper = Mixed(at(row.Before, column.Before), at(row.Before, column.Behind), column.Share);
+  const double lower = Mixed(at(row.Behind, column.Before), at(row.Behind, column.Behind), column.Share);
   const double value = Mixed(upper, lower, row.Share);
   return std::isnan(value) ? grid.At(row.Nearest, column.Nearest) : value;
 }
@@ -84,19 +72,18 @@ void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed,
       SamplesOf(image.Width, window.Left, window.Right, placed.Place.Left, placed.Place.Right, grid.Columns, sampling);
   const auto rows =
       SamplesOf(image.Height, window.Top, window.Bottom, placed.Place.Top, placed.Place.Bottom, grid.Rows, sampling);
-  const RampTable ramp(range);
+  const ValueColors colors(placed.Data, range);
   std::uint8_t* pixel = image.Pixels.data();
   for (const AxisSample& row : rows) {
     for (const AxisSample& column : columns) {
       std::uint8_t* const place = pixel;
       pixel += 4;
       if (!row.Inside || !column.Inside) continue;
-      const double value = ValueAt(grid, row, column);
-      if (std::isnan(value)) continue;
-      const Color& color = ramp.For(value);
-      place[0] = color.Red;
-      place[1] = color.Green;
-      place[2] = color.Blue;
+      const Color* const color = colors.For(ValueAt(grid, colors, row, column));
+      if (!color) continue;
+      place[0] = color->Red;
+      place[1] = color->Green;
+      place[2] = color->Blue;
       place[3] = 255;
     }
   }

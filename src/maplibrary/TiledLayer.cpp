@@ -12,7 +12,7 @@ std::vector<PlacedGrid> TiledLayer::Grids() const {
   std::vector<PlacedGrid> grids;
   for (const auto& tile : mTiles.All()) {
     if (!tile->Visible()) continue;
-    for (const PlacedGrid& placed : tile->Grids()) grids.push_back({placed.Grid, OnMap(placed.Place)});
+    for (const PlacedGrid& placed : tile->Grids()) grids.push_back({placed.Grid, OnMap(placed.Place), placed.Data});
   }
   return grids;
 }

@@ -1,6 +1,7 @@
 #include "service/CCommonMapDialogs.h"
 
 #include "hostobjects/ErrorTrap.h"
+#include "hostobjects/IData.h"
 #include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
 #include "propertydialogs/frmLabels.h"
@@ -8,6 +9,7 @@
 #include "propertydialogs/frmProperties.h"
 #include "service/modDialog.h"
 #include "service/modMain.h"
+#include "service/modMainDialogs.h"
 
 namespace orx {
 namespace {
@@ -73,6 +75,27 @@ std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& 
 std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                 OwnerWindow OwnerForm) {
   return ShowPage<frmCoordinates>({mObj, 0, mCaption, mModal, OwnerForm});
+}
+
+std::int32_t CCommonMapDialogs::ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue,
+                                                 std::int32_t flags, bool& IsDirty, const std::string&, ShowMode,
+                                                 OwnerWindow) {
+  bool changed = false;
+  ErrorTrap trap;
+  trap.Step([&] {
+    if (QueryKind<IData>(mObj))
+      changed = modMain::ShowClassifyDialog(mDesktop, {mObj, mMinValue, mMaxValue, flags}, IsDirty, mLanguage);
+  });
+  return changed ? -1 : 0;
+}
+
+std::int32_t CCommonMapDialogs::ShowDataOptions(HostObject* mObj, const std::string&, ShowMode, OwnerWindow) {
+  bool changed = false;
+  ErrorTrap trap;
+  trap.Step([&] {
+    if (QueryKind<IData>(mObj)) modMain::ShowDataOptionsDialog(mDesktop, mObj, changed, mLanguage);
+  });
+  return changed ? -1 : 0;
 }
 
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {

@@ -60,6 +60,17 @@ class CCommonMapDialogs {
   std::int32_t ShowCoordinates(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                OwnerWindow OwnerForm = {});
 
+  /// How the values of a data object (IData) are divided into classes. `mMinValue` and `mMaxValue` are the range of the
+  /// data, kUnknownRangeEnd when not known; `flags` is kMayChangeClassCount or 0. `IsDirty` becomes the result. The
+  /// dialog is always modal, without owner and under its own title, whatever the last three say. Other objects: 0, and
+  /// nothing is shown.
+  std::int32_t ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue, std::int32_t flags, bool& IsDirty,
+                                const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
+                                OwnerWindow OwnerForm = {});
+  /// How missing values, zeros and places without data of a data object (IData) are treated; as ShowDataClassify.
+  std::int32_t ShowDataOptions(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
+                               OwnerWindow OwnerForm = {});
+
   /// Has the user choose the files of new layers, several if wanted whatever `Multiselect` says; the dialog belongs to
   /// the window `hWnd` (HWND on Windows, WId on Qt; 0: none) and opens on the first of `Files`. True when files of an
   /// accepted type were chosen; `Files` then holds their full paths, UTF-8, else it is as it was.

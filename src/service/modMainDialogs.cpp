@@ -4,6 +4,9 @@
 #include <fstream>
 #include <vector>
 
+#include "datadialogs/frmDataClassify.h"
+#include "datadialogs/frmDataOptions.h"
+#include "datadialogs/frmManageColors.h"
 #include "hostobjects/ErrorTrap.h"
 #include "service/modDialog.h"
 
@@ -15,6 +18,27 @@ IFileCheck* theFileCheck = nullptr;
 bool CanBeRead(const std::string& path) {
   const std::filesystem::path file(std::u8string(path.begin(), path.end()));
   return std::filesystem::is_regular_file(file) && std::ifstream(file, std::ios::binary).good();
+}
+
+/// Shows a dialog for a data object, which `give` hands over to it.
+template <class DataForm, class Give>
+bool ShowDataDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language, Give&& give) noexcept {
+  ErrorTrap trap;
+  if (!data) {
+    trap.Step([&] { desktop.Beep(); });
+    return false;
+  }
+  std::shared_ptr<DataForm> form;
+  trap.Step([&] { form = std::make_shared<DataForm>(desktop); });
+  if (!form) return false;
+  trap.Step([&] { form->Language(language); });
+  trap.Step([&] { give(*form); });
+  trap.Step([&] { form->Show(); });
+  bool isDirty = false;
+  trap.Step([&] { isDirty = form->IsDirty(); });
+  changed = isDirty;
+  trap.Step([&] { form->Unload(); });
+  return isDirty;
 }
 
 }  // namespace
@@ -32,6 +56,29 @@ void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* lan
   trap.Step([&] {
     if (theFileCheck ? theFileCheck->CanOpen(file.FileName) : CanBeRead(file.FileName)) file.Cancel = false;
   });
+}
+
+bool ShowClassifyDialog(Desktop& desktop, const ClassifyTask& task, bool& isDirty, ILanguage* language) noexcept {
+  return ShowDataDialog<frmDataClassify>(desktop, task.Data, isDirty, language, [&](frmDataClassify& form) {
+    form.SetData(task.Data, task.Minimum, task.Maximum, task.Flags, task.Text);
+  });
+}
+
+bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
+  return ShowDataDialog<frmDataOptions>(desktop, data, changed, language,
+                                        [&](frmDataOptions& form) { form.Data(data); });
+}
+
+bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner) noexcept {
+  ErrorTrap trap;
+  std::shared_ptr<frmManageColors> form;
+  trap.Step([&] { form = std::make_shared<frmManageColors>(desktop); });
+  if (!form) return false;
+  trap.Step([&] { form->Language(language); });
+  trap.Step([&] { form->Show(ShowMode::Modal, owner); });
+  const bool isDone = !trap.IsPending();
+  trap.Step([&] { form->Unload(); });
+  return isDone;
 }
 
 }  // namespace orx::modMain

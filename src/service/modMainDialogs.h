@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "forms/FormWindow.h"
+#include "hostobjects/HostObject.h"
 #include "hostobjects/IFileCheck.h"
 #include "hostobjects/ILanguage.h"
 
@@ -28,6 +30,29 @@ struct BrowsedFile {
 /// Has the user choose a data file in a dialog before the window `ownerHandle` (0: none), in that language (null:
 /// none).
 void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language, BrowsedFile& file) noexcept;
+
+/// What the classification dialog is given.
+struct ClassifyTask {
+  /// The data object; used, not owned.
+  HostObject* Data = nullptr;
+  /// The range that "Default" and "Auto classify" take, kUnknownRangeEnd when not known.
+  double Minimum = 0;
+  double Maximum = 0;
+  /// kMayChangeClassCount or 0.
+  std::int32_t Flags = 0;
+  /// Handed to the form, which has no use for it.
+  std::string Text = {};
+};
+
+/// Shows the classification dialog, modal and without owner. True, also in `isDirty`, when it has written changed
+/// settings. Without a data object: a beep and False, `isDirty` as it was.
+bool ShowClassifyDialog(Desktop& desktop, const ClassifyTask& task, bool& isDirty, ILanguage* language) noexcept;
+
+/// Shows the dialog for special values in the same way.
+bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
+
+/// Shows the window for colour schemes, modal, in that language. True when nothing has failed.
+bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner = {}) noexcept;
 
 }  // namespace modMain
 }  // namespace orx

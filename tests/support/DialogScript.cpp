@@ -7,6 +7,7 @@ namespace {
 
 std::string Describe(const Modal& modal) {
   if (modal.ShownForm) return "form " + modal.ShownForm->Name();
+  if (modal.ShownColor) return "colors";
   if (modal.ShownFiles) return "files \"" + modal.ShownFiles->Title + "\"";
   return "message \"" + modal.ShownMessage->Title + "\": " + modal.ShownMessage->Text;
 }
@@ -14,21 +15,26 @@ std::string Describe(const Modal& modal) {
 }  // namespace
 
 void DialogScript::ExpectForm(const std::string& name, FormAction action) {
-  mExpected.push_back({name, std::move(action), {}, nullptr});
+  mExpected.push_back({name, std::move(action), {}, nullptr, nullptr});
 }
 
 void DialogScript::ExpectMessage(const Message& message) {
-  mExpected.push_back({{}, nullptr, message, nullptr});
+  mExpected.push_back({{}, nullptr, message, nullptr, nullptr});
 }
 
 void DialogScript::ExpectFiles(FilesAction action) {
-  mExpected.push_back({{}, nullptr, {}, std::move(action)});
+  mExpected.push_back({{}, nullptr, {}, std::move(action), nullptr});
+}
+
+void DialogScript::ExpectColor(ColorAction action) {
+  mExpected.push_back({{}, nullptr, {}, nullptr, std::move(action)});
 }
 
 void DialogScript::Verify() {
   for (const Expected& left : mExpected)
     ADD_FAILURE() << "Not shown: "
                   << (left.Choice             ? "files"
+                      : left.Color            ? "colors"
                       : left.FormName.empty() ? "message " + left.Box.Text
                                               : "form " + left.FormName);
   mExpected.clear();
@@ -43,6 +49,8 @@ void DialogScript::CloseAnyway(const Modal& modal) {
     modal.ShownForm->Unload();
   } else if (modal.ShownFiles) {
     mUser.CancelFiles(*modal.ShownFiles);
+  } else if (modal.ShownColor) {
+    mUser.CancelColor(*modal.ShownColor);
   } else {
     mUser.AnswerMessage();
   }
@@ -55,6 +63,8 @@ void DialogScript::ModalOpening(const Modal& modal) {
     EXPECT_EQ(next.FormName, modal.ShownForm->Name());
   } else if (modal.ShownFiles) {
     EXPECT_TRUE(next.Choice) << Describe(modal);
+  } else if (modal.ShownColor) {
+    EXPECT_TRUE(next.Color) << Describe(modal);
   } else {
     EXPECT_EQ(next.Box.Text, modal.ShownMessage->Text);
     EXPECT_EQ(next.Box.Title, modal.ShownMessage->Title);
@@ -67,6 +77,7 @@ void DialogScript::ModalRunning(const Modal& modal) {
   const Expected next = std::move(mExpected.front());
   mExpected.pop_front();
   if (modal.ShownFiles && next.Choice) return next.Choice(*modal.ShownFiles);
+  if (modal.ShownColor && next.Color) return next.Color(*modal.ShownColor);
   if (!modal.ShownForm || !next.Action) return CloseAnyway(modal);
   // The form may go while the user acts.
   const std::weak_ptr<Form> form = modal.ShownForm->weak_from_this();

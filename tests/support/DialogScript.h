@@ -22,6 +22,9 @@ class DialogScript final : public DesktopHook {
   using FilesAction = std::function<void(OpenFileRequest&)>;
   /// Expects the platform's dialog for files; `action` is what the user does in it and must close it.
   void ExpectFiles(FilesAction action);
+  using ColorAction = std::function<void(ColorRequest&)>;
+  /// Expects the platform's dialog for colours; `action` is what the user does in it and must close it.
+  void ExpectColor(ColorAction action);
   /// Expects the message box and presses its OK button.
   void ExpectMessage(const Message& message);
   /// Fails the test when an expected dialog was not shown.
@@ -44,6 +47,7 @@ class DialogScript final : public DesktopHook {
     FormAction Action;
     Message Box;
     FilesAction Choice;
+    ColorAction Color;
   };
 
   void Fail(const Modal& modal, const std::string& reason);

@@ -35,6 +35,18 @@ class HeadlessUser final : public User {
     if (box.IsReachable()) box.UserPick(index);
   }
 
+  void Choose(ListBox& box, int index) override {
+    if (box.IsReachable()) box.UserPick(index);
+  }
+
+  void Click(PictureBox& box) override {
+    if (box.IsReachable()) box.UserClick();
+  }
+
+  void PressKey(Form& form, int keyCode) override {
+    if (auto* const box = dynamic_cast<PictureBox*>(form.ActiveControl())) box->UserKeyDown(keyCode);
+  }
+
   void SelectTab(TabControl& tabs, int tab) override {
     if (tabs.IsReachable()) tabs.UserSelect(tab);
   }
@@ -51,16 +63,19 @@ class HeadlessUser final : public User {
 
   void CancelFiles(OpenFileRequest&) override {}
 
+  void PickColor(ColorRequest& request, Color color) override { request.Answer = color; }
+  void CancelColor(ColorRequest& request) override { request.Answer.reset(); }
+
   void AnswerMessage() override {}
 
   Seen See(Control& control) override {
     Seen seen{control.IsShown(), control.IsReachable(), control.HasFocus(), WithoutMnemonic(control.Caption()), 0};
     if (auto* text = dynamic_cast<TextBox*>(&control)) seen.Text = text->Text();
     if (auto* box = dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(box->Value());
-    if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
-      seen.Text = combo->Text();
-      seen.Value = combo->ListIndex();
-    }
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) seen.Text = combo->Text();
+    if (auto* list = dynamic_cast<ListControl*>(&control)) seen.Value = list->ListIndex();
+    if (auto* list = dynamic_cast<ListBox*>(&control))
+      seen.Text = list->ListIndex() < 0 ? std::string() : list->List(list->ListIndex());
     if (auto* tabs = dynamic_cast<TabControl*>(&control)) {
       seen.Text = WithoutMnemonic(tabs->TabCaption(tabs->Tab()));
       seen.Value = tabs->Tab();

@@ -3,12 +3,14 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -18,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "desktops/qt/ColorDialog.h"
 #include "desktops/qt/FileDialog.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Peer.h"
@@ -122,6 +125,26 @@ class QtUser final : public User {
     QTest::keyClick(combo.view(), Qt::Key_Return);
   }
 
+  void Choose(ListBox& box, int index) override {
+    if (!CanReach(box)) return;
+    QListView& view = *As<QListView>(box);
+    ClickInto(box);
+    QTest::keyClick(&view, Qt::Key_Home);
+    for (int below = 0; below < index; ++below) QTest::keyClick(&view, Qt::Key_Down);
+  }
+
+  void Click(PictureBox& box) override {
+    if (CanReach(box)) MouseClick(PeerOf(box)->Widget());
+  }
+
+  void PressKey(Form& form, int keyCode) override {
+    QWidget& dialog = WindowOf(form);
+    Activate(dialog);
+    // Letters, digits and the space have the same numbers on both sides.
+    const Qt::Key key = keyCode == kKeyCodeShift ? Qt::Key_Shift : static_cast<Qt::Key>(keyCode);
+    QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, key);
+  }
+
   void SelectTab(TabControl& tabs, int tab) override {
     if (!CanReach(tabs)) return;
     QTabBar& bar = *As<QTabWidget>(tabs)->tabBar();
@@ -153,6 +176,21 @@ class QtUser final : public User {
     if (QFileDialog* const dialog = qt::OpenFileDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
   }
 
+  void PickColor(ColorRequest&, Color color) override {
+    QColorDialog* const dialog = qt::OpenColorDialog();
+    if (!dialog) return;
+    // The user types the three parts.
+    const QColor wanted(color.Red, color.Green, color.Blue);
+    QLineEdit& html = *dialog->findChild<QLineEdit*>();
+    html.setFocus();
+    TypeInto(html, FromQt(wanted.name()));
+    QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+  }
+
+  void CancelColor(ColorRequest&) override {
+    if (QColorDialog* const dialog = qt::OpenColorDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
+  }
+
   void AnswerMessage() override {
     if (QMessageBox* const box = qt::OpenMessageBox()) MouseClick(*box->button(QMessageBox::Ok));
   }
@@ -164,6 +202,7 @@ class QtUser final : public User {
               widget.window()->focusWidget() == &PeerOf(control)->FocusWidget(), FromQt(ShownText(control)), 0};
     if (const auto* const box = As<QCheckBox>(control)) seen.Value = ShownState(box->checkState());
     if (const auto* const combo = As<QComboBox>(control)) seen.Value = combo->currentIndex();
+    if (const auto* const list = As<QListView>(control)) seen.Value = list->currentIndex().row();
     if (const auto* const tabs = As<QTabWidget>(control)) seen.Value = tabs->currentIndex();
     return seen;
   }
@@ -194,6 +233,7 @@ class QtUser final : public User {
     if (const auto* const field = As<QLineEdit>(control)) return field->text();
     if (const auto* const field = As<QPlainTextEdit>(control)) return field->toPlainText();
     if (const auto* const combo = As<QComboBox>(control)) return combo->currentText();
+    if (const auto* const list = As<QListView>(control)) return list->currentIndex().data().toString();
     if (const auto* const tabs = As<QTabWidget>(control)) return Plain(tabs->tabText(tabs->currentIndex()));
     if (const auto* const frame = As<QGroupBox>(control)) return Plain(frame->title());
     if (const auto* const button = As<QAbstractButton>(control)) return Plain(button->text());

@@ -8,10 +8,13 @@
 
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
+#include "forms/ColorRequest.h"
 #include "forms/ComboBox.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
+#include "forms/ListBox.h"
 #include "forms/OpenFileRequest.h"
+#include "forms/PictureBox.h"
 #include "forms/TabControl.h"
 #include "forms/TextBox.h"
 
@@ -22,7 +25,7 @@ struct Seen {
   bool Visible = false;
   bool Enabled = false;
   bool Focused = false;
-  /// Caption or text; of a tab control the caption of the selected tab.
+  /// Caption or text; of a list that of the selected entry, of a tab control the caption of the selected tab.
   std::string Text;
   /// Check state, index of the selected entry or tab; otherwise 0.
   int Value = 0;
@@ -49,6 +52,11 @@ class User {
   virtual void Type(TextBox& field, const std::string& text) = 0;
   virtual void Type(ComboBox& box, const std::string& text) = 0;
   virtual void Choose(ComboBox& box, int index) = 0;
+  /// Goes to an entry by keys, from the first one on.
+  virtual void Choose(ListBox& box, int index) = 0;
+  virtual void Click(PictureBox& box) = 0;
+  /// Presses a key where the focus is, by its code (forms/Keys.h).
+  virtual void PressKey(Form& form, int keyCode) = 0;
   virtual void SelectTab(TabControl& tabs, int tab) = 0;
   /// Presses a dialog key where the focus is in that form.
   virtual void Press(Form& form, const KeyStroke& stroke) = 0;
@@ -56,6 +64,9 @@ class User {
   /// Picks files in the dialog for files that is open, or presses its Cancel.
   virtual void PickFiles(OpenFileRequest& request, const Picked& files) = 0;
   virtual void CancelFiles(OpenFileRequest& request) = 0;
+  /// Picks a colour in the dialog for colours that is open, or presses its Cancel.
+  virtual void PickColor(ColorRequest& request, Color color) = 0;
+  virtual void CancelColor(ColorRequest& request) = 0;
   /// Presses OK in the message box that is open.
   virtual void AnswerMessage() = 0;
   virtual Seen See(Control& control) = 0;

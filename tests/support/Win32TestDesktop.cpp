@@ -66,6 +66,23 @@ class Win32User final : public User {
     KeyTo(focus, VK_RETURN);
   }
 
+  void Choose(ListBox& box, int index) override {
+    ClickInto(box);
+    if (!PeerOf(box) || !box.HasFocus()) return;
+    KeyTo(PeerOf(box)->Window(), VK_HOME);
+    for (int below = 0; below < index; ++below) KeyTo(PeerOf(box)->Window(), VK_DOWN);
+  }
+
+  void Click(PictureBox& box) override {
+    if (CanReach(box)) MouseClick(PeerOf(box)->Window());
+  }
+
+  void PressKey(Form& form, int keyCode) override {
+    if (!WindowOf(form)) return;
+    Activate(WindowOf(form));
+    KeyTo(GetFocus(), static_cast<WPARAM>(keyCode));
+  }
+
   void SelectTab(TabControl& tabs, int tab) override {
     if (!CanReach(tabs)) return;
     RECT place = {};
@@ -125,6 +142,19 @@ class Win32User final : public User {
     if (const HWND dialog = win32::OpenPlatformDialog()) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
   }
 
+  void PickColor(ColorRequest&, Color color) override {
+    const HWND dialog = win32::OpenPlatformDialog();
+    if (!dialog) return;
+    for (const auto& [id, part] :
+         {std::pair{COLOR_RED, color.Red}, {COLOR_GREEN, color.Green}, {COLOR_BLUE, color.Blue}})
+      Enter(GetDlgItem(dialog, id), std::to_string(part));
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+  }
+
+  void CancelColor(ColorRequest&) override {
+    if (const HWND dialog = win32::OpenPlatformDialog()) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  }
+
   void AnswerMessage() override {
     const HWND box = win32::OpenPlatformDialog();
     if (const HWND button = box ? FindWindowExW(box, nullptr, L"BUTTON", nullptr) : nullptr) MouseClick(button);
@@ -137,6 +167,7 @@ class Win32User final : public User {
     Seen seen{visible, visible && IsReallyEnabled(window), HasNativeFocus(control), ShownText(control), 0};
     if (dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, BM_GETCHECK, 0, 0));
     if (dynamic_cast<ComboBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
+    if (dynamic_cast<ListBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, LB_GETCURSEL, 0, 0));
     if (dynamic_cast<TabControl*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, TCM_GETCURSEL, 0, 0));
     return seen;
   }
@@ -256,8 +287,18 @@ class Win32User final : public User {
     const HWND window = PeerOf(control)->Window();
     if (dynamic_cast<TextBox*>(&control)) return win32::FromNativeLines(TextOf(window));
     if (dynamic_cast<ComboBox*>(&control)) return Narrowed(TextOf(window));
+    if (dynamic_cast<ListBox*>(&control)) return ShownEntry(window);
     if (dynamic_cast<TabControl*>(&control)) return WithoutMnemonic(ShownTab(window));
     return WithoutMnemonic(Narrowed(TextOf(window)));
+  }
+
+  static std::string ShownEntry(HWND list) {
+    const LRESULT index = SendMessageW(list, LB_GETCURSEL, 0, 0);
+    if (index == LB_ERR) return {};
+    const auto at = static_cast<WPARAM>(index);
+    std::wstring text(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, at, 0)) + 1, L'\0');
+    SendMessageW(list, LB_GETTEXT, at, reinterpret_cast<LPARAM>(text.data()));
+    return Narrowed(text.c_str());
   }
 
   static std::string ShownTab(HWND tabs) {

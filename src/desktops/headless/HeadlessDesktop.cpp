@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "forms/ColorRequest.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
 
@@ -18,7 +19,7 @@ class HeadlessWindow final : public FormWindow {
   void Show(ShowMode, OwnerWindow) override {}
   void Hide() override {}
   void RunModal() override {
-    mDesktop.ModalIsRunning({&mForm, nullptr});
+    mDesktop.ModalIsRunning({.ShownForm = &mForm});
     if (!mEnded)
       throw std::runtime_error("The dialog \"" + mForm.Caption() +
                                "\" was shown where nobody answers it. Give the desktop a hook that does.");
@@ -52,13 +53,19 @@ std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
 
 void HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
   // A message has one answer only, so it counts as read when the hook returns.
-  ModalIsRunning({nullptr, &message});
+  ModalIsRunning({.ShownMessage = &message});
 }
 
 bool HeadlessDesktop::DoOpenFiles(OpenFileRequest& request) {
   const std::string before = request.Buffer;
-  ModalIsRunning({nullptr, nullptr, &request});
+  ModalIsRunning({.ShownFiles = &request});
   return request.Buffer != before;
+}
+
+bool HeadlessDesktop::DoChooseColor(ColorRequest& request) {
+  ModalIsRunning({.ShownColor = &request});
+  if (request.Answer) request.Color = *request.Answer;
+  return request.Answer.has_value();
 }
 
 }  // namespace orx::headless

@@ -25,6 +25,7 @@ class HeadlessDesktop final : public Desktop {
   std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
   void DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;
+  bool DoChooseColor(ColorRequest& request) override;
   void DoBeep() override {}
   void DoSetPointer(orx::Pointer) override {}
   void DoShowHelp(const HelpRequest&) override {}

@@ -1,9 +1,13 @@
 #include "forms/Button.h"
 
+#include <QIcon>
+#include <QPixmap>
 #include <QPushButton>
 
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/Text.h"
+#include "forms/Desktop.h"
+#include "forms/Form.h"
 
 namespace orx::qt {
 namespace {
@@ -16,10 +20,27 @@ class ButtonPeer final : public Peer {
     mNative.setDefault(control.Role() == ButtonRole::Default);
     // A press of the mouse must not move the focus by itself: the field that loses it may refuse.
     mNative.setFocusPolicy(Qt::TabFocus);
+    if (control.Picture()) ShowPicture(*control.Picture());
     connect(&mNative, &QPushButton::clicked, this, [this] { Report([this] { mControl.UserPress(); }); });
   }
 
  private:
+  void ShowPicture(const Glyph& picture) {
+    const int size = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
+    // Widgets count in points of the window, of which sharp screens have several pixels each.
+    const double density = mNative.devicePixelRatioF();
+    QIcon icon;
+    for (const bool faded : {false, true}) {
+      const int pixels = static_cast<int>(std::lround(size * density));
+      const Image image = DrawGlyph(picture, pixels, faded);
+      QPixmap pixmap = QPixmap::fromImage(QImage(image.Pixels.data(), pixels, pixels, QImage::Format_RGBA8888).copy());
+      pixmap.setDevicePixelRatio(density);
+      icon.addPixmap(pixmap, faded ? QIcon::Disabled : QIcon::Normal);
+    }
+    mNative.setIcon(icon);
+    mNative.setIconSize({size, size});
+  }
+
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Text) mNative.setText(ToQt(mControl.Caption()));
     Peer::Mirror(aspect);

@@ -81,7 +81,7 @@ void DialogWindow::RunModal() {
   QTimer::singleShot(0, &mLoop, [this, &desktop] {
     // Qt bears no exception that passes through its loops.
     try {
-      if (!mEnded) desktop.ModalIsRunning({&mForm, nullptr});
+      if (!mEnded) desktop.ModalIsRunning({.ShownForm = &mForm});
     } catch (...) {
       mHookError = std::current_exception();
       EndModal();

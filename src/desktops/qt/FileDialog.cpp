@@ -3,10 +3,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QTimer>
-#include <QWindow>
-#include <exception>
 
+#include "desktops/qt/PlatformDialog.h"
 #include "desktops/qt/Text.h"
 #include "forms/OpenFileRequest.h"
 
@@ -59,16 +57,6 @@ void SetUp(QFileDialog& dialog, const OpenFileRequest& request) {
   if (!name.isEmpty()) dialog.selectFile(name);
 }
 
-void PutBefore(QFileDialog& dialog, std::uintptr_t owner) {
-  QWindow* window = nullptr;
-  for (QWindow* const top : QGuiApplication::topLevelWindows())
-    if (top->handle() && owner != 0 && top->winId() == owner) window = top;
-  if (!window && QApplication::activeWindow()) window = QApplication::activeWindow()->windowHandle();
-  if (!window) return;
-  dialog.winId();
-  dialog.windowHandle()->setTransientParent(window);
-}
-
 /// Counted from 1; 0 when none is selected. The toolkit names a filter with or without its patterns.
 std::int32_t SelectedFilter(const QFileDialog& dialog, const OpenFileRequest& request) {
   const QString selected = dialog.selectedNameFilter();
@@ -94,20 +82,7 @@ void TakeAnswer(const QFileDialog& dialog, OpenFileRequest& request) {
 bool RunFileDialog(OpenFileRequest& request, const std::function<void()>& running) {
   CreatingFileDialog dialog((request.Flags & kCreatePrompt) != 0);
   SetUp(dialog, request);
-  dialog.setWindowModality(Qt::ApplicationModal);
-  dialog.setAttribute(Qt::WA_QuitOnClose, false);
-  PutBefore(dialog, request.OwnerHandle);
-  std::exception_ptr error;
-  QTimer::singleShot(0, &dialog, [&] {
-    try {
-      running();
-    } catch (...) {
-      error = std::current_exception();
-      dialog.reject();
-    }
-  });
-  const bool accepted = dialog.exec() == QDialog::Accepted;
-  if (error) std::rethrow_exception(error);
+  const bool accepted = RunPlatformDialog(dialog, request.OwnerHandle, running);
   if (!accepted || dialog.selectedFiles().isEmpty()) return false;
   TakeAnswer(dialog, request);
   return true;

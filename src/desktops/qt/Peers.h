@@ -15,6 +15,7 @@ std::unique_ptr<Peer> MakePeer(CheckBox& control, Dialog& dialog, QWidget& paren
 std::unique_ptr<Peer> MakePeer(ComboBox& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(Frame& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(Label& control, Dialog& dialog, QWidget& parent);
+std::unique_ptr<Peer> MakePeer(ListBox& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(NativeArea& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, QWidget& parent);
@@ -37,6 +38,7 @@ class PeerMaker final : public ControlVisitor {
   void Visit(ComboBox& control) override { Take(control); }
   void Visit(Frame& control) override { Take(control); }
   void Visit(Label& control) override { Take(control); }
+  void Visit(ListBox& control) override { Take(control); }
   void Visit(NativeArea& control) override { Take(control); }
   void Visit(Panel& control) override { Take(control); }
   void Visit(PictureBox& control) override { Take(control); }

@@ -1,9 +1,12 @@
 #include "forms/PictureBox.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "desktops/qt/CanvasPainter.h"
 #include "desktops/qt/Peers.h"
+#include "desktops/qt/Text.h"
 #include "forms/Desktop.h"
 
 namespace orx::qt {
@@ -14,12 +17,30 @@ class NativePicture final : public QWidget {
  public:
   using QWidget::QWidget;
   std::function<void(QPainter&)> Paint;
+  std::function<void()> Clicked;
+  std::function<void(int)> KeyDown;
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override { mPressed = event->button() == Qt::LeftButton; }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    const bool isClick = std::exchange(mPressed, false) && event->button() == Qt::LeftButton;
+    // What the click sets off may take the functions away.
+    const auto clicked = Clicked;
+    if (isClick && clicked && rect().contains(event->position().toPoint())) clicked();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    const auto keyDown = KeyDown;
+    if (!keyDown || event->modifiers().testFlag(Qt::AltModifier) || KeyCodeOf(*event) == 0)
+      return QWidget::keyPressEvent(event);
+    keyDown(KeyCodeOf(*event));
+  }
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     if (Paint) Paint(painter);
   }
+
+ private:
+  bool mPressed = false;
 };
 
 class PicturePeer final : public Peer {
@@ -28,18 +49,26 @@ class PicturePeer final : public Peer {
       : Peer(control, dialog, native), mControl(control), mNative(*native) {
     mNative.setAttribute(Qt::WA_OpaquePaintEvent);
     mNative.Paint = [this](QPainter& painter) { Paint(painter); };
+    if (!control.TakesFocus()) return;
+    mNative.setFocusPolicy(Qt::TabFocus);
+    mNative.Clicked = [&control, &dialog] { dialog.Report([&] { control.UserClick(); }); };
+    mNative.KeyDown = [&control, &dialog](int code) { dialog.Report([&] { control.UserKeyDown(code); }); };
   }
-  ~PicturePeer() override { mNative.Paint = nullptr; }
+  ~PicturePeer() override {
+    mNative.Paint = nullptr;
+    mNative.Clicked = nullptr;
+    mNative.KeyDown = nullptr;
+  }
 
  private:
   void Paint(QPainter& painter) const {
-    const Color back = mControl.BackColor();
+    const Color back = mControl.ShownBackColor();
     painter.fillRect(mNative.rect(), QColor(back.Red, back.Green, back.Blue));
     if (mControl.AutoRedraw()) PaintCanvas(painter, mControl.Drawing(), mNative.font());
   }
 
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Colors || aspect == Aspect::Drawing) mNative.update();
+    if (aspect == Aspect::Colors || aspect == Aspect::Drawing || aspect == Aspect::Enabled) mNative.update();
     Peer::Mirror(aspect);
     // Drawings fill exactly the size that the control tells.
     if (aspect == Aspect::Place) mNative.resize(mControl.PixelSize().Width, mControl.PixelSize().Height);

@@ -14,6 +14,7 @@
 #include <optional>
 
 #include "desktops/qt/Application.h"
+#include "desktops/qt/ColorDialog.h"
 #include "desktops/qt/DialogWindow.h"
 #include "desktops/qt/FileDialog.h"
 #include "desktops/qt/FileSettings.h"
@@ -136,11 +137,16 @@ std::unique_ptr<FormWindow> QtDesktop::OpenWindow(Form& form) {
 
 void QtDesktop::DoShowMessage(const Message& message, FormWindow* owner) {
   const Dialog* const dialog = owner ? static_cast<DialogWindow*>(owner)->Native() : nullptr;
-  RunMessageBox(message, dialog ? dialog->windowHandle() : nullptr, [&] { ModalIsRunning({nullptr, &message}); });
+  RunMessageBox(message, dialog ? dialog->windowHandle() : nullptr,
+                [&] { ModalIsRunning({.ShownMessage = &message}); });
 }
 
 bool QtDesktop::DoOpenFiles(OpenFileRequest& request) {
-  return RunFileDialog(request, [&] { ModalIsRunning({nullptr, nullptr, &request}); });
+  return RunFileDialog(request, [&] { ModalIsRunning({.ShownFiles = &request}); });
+}
+
+bool QtDesktop::DoChooseColor(ColorRequest& request) {
+  return RunColorDialog(request, [&] { ModalIsRunning({.ShownColor = &request}); });
 }
 
 void QtDesktop::DoBeep() {

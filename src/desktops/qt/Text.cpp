@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <QTextDocument>
 #include <algorithm>
+#include <utility>
 
 namespace orx::qt {
 namespace {
@@ -69,6 +70,30 @@ std::optional<KeyStroke> StrokeOf(const QKeyEvent& event) {
     default:
       return std::nullopt;
   }
+}
+
+int KeyCodeOf(const QKeyEvent& event) {
+  const int key = event.key();
+  // Letters and digits have the codes of their capitals on both sides.
+  if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9) || key == Qt::Key_Space)
+    return key;
+  if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return 112 + key - Qt::Key_F1;
+  constexpr std::pair<int, int> kCodes[] = {{Qt::Key_Shift, kKeyCodeShift},
+                                            {Qt::Key_Backspace, 8},
+                                            {Qt::Key_Control, 17},
+                                            {Qt::Key_PageUp, 33},
+                                            {Qt::Key_PageDown, 34},
+                                            {Qt::Key_End, 35},
+                                            {Qt::Key_Home, 36},
+                                            {Qt::Key_Left, 37},
+                                            {Qt::Key_Up, 38},
+                                            {Qt::Key_Right, 39},
+                                            {Qt::Key_Down, 40},
+                                            {Qt::Key_Insert, 45},
+                                            {Qt::Key_Delete, 46}};
+  for (const auto& [native, code] : kCodes)
+    if (native == key) return code;
+  return 0;
 }
 
 }  // namespace orx::qt

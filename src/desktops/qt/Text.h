@@ -28,4 +28,7 @@ QString PlainToolTip(const std::string& text);
 /// The key press when it may be one that a dialog decides about, nothing otherwise.
 std::optional<KeyStroke> StrokeOf(const QKeyEvent& event);
 
+/// The platform's code of the key (forms/Keys.h), 0 for keys that have none here.
+int KeyCodeOf(const QKeyEvent& event);
+
 }  // namespace orx::qt

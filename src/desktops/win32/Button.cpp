@@ -1,10 +1,42 @@
 #include "forms/Button.h"
 
+#include "desktops/win32/Handles.h"
 #include "desktops/win32/Peers.h"
+#include "forms/Desktop.h"
 #include "forms/Form.h"
 
 namespace orx::win32 {
 namespace {
+
+/// An icon made of an image with transparent pixels.
+GdiObject<HBITMAP> ColorsOf(const Image& image) {
+  BITMAPINFO info = {};
+  info.bmiHeader = {sizeof(BITMAPINFOHEADER), image.Width, -image.Height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  auto* to = static_cast<std::uint8_t*>(bits);
+  for (std::size_t i = 0; bits && i < image.Pixels.size(); i += 4) {
+    for (const std::size_t part : {2U, 1U, 0U, 3U}) *to++ = image.Pixels[i + part];
+  }
+  return bitmap;
+}
+
+class Icon {
+ public:
+  explicit Icon(const Image& image) {
+    const GdiObject<HBITMAP> colors = ColorsOf(image);
+    const GdiObject<HBITMAP> mask(CreateBitmap(image.Width, image.Height, 1, 1, nullptr));
+    ICONINFO info = {TRUE, 0, 0, mask.get(), colors.get()};
+    mIcon = CreateIconIndirect(&info);
+  }
+  ~Icon() { DestroyIcon(mIcon); }
+  Icon(const Icon&) = delete;
+  Icon& operator=(const Icon&) = delete;
+  HICON Get() const { return mIcon; }
+
+ private:
+  HICON mIcon = nullptr;
+};
 
 class ButtonPeer final : public Peer {
  public:
@@ -12,8 +44,16 @@ class ButtonPeer final : public Peer {
 
  private:
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Text) ShowText(Window(), mControl.Caption());
+    if (aspect == Aspect::Enabled && mControl.Picture()) ShowPicture();
+    if (aspect == Aspect::Text && !mControl.Picture()) ShowText(Window(), mControl.Caption());
     Peer::Mirror(aspect);
+  }
+
+  void ShowPicture() {
+    const int pixels = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
+    auto icon = std::make_unique<Icon>(DrawGlyph(*mControl.Picture(), pixels, !mControl.Enabled()));
+    SendMessageW(Window(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon->Get()));
+    mIcon = std::move(icon);
   }
 
   bool LeavesArrowKeys() const override { return true; }
@@ -32,7 +72,9 @@ class ButtonPeer final : public Peer {
 
   void MarkDefault(HWND focused) const {
     const auto mark = [](HWND button, bool isDefault) {
-      SendMessageW(button, BM_SETSTYLE, isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
+      const LONG_PTR picture = GetWindowLongPtrW(button, GWL_STYLE) & BS_ICON;
+      SendMessageW(button, BM_SETSTYLE, static_cast<WPARAM>((isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | picture),
+                   TRUE);
     };
     if (Owner().IsRetired()) return;
     const Button* const byEnter = mControl.OwnerForm().ButtonFor(ButtonRole::Default);
@@ -41,13 +83,15 @@ class ButtonPeer final : public Peer {
   }
 
   Button& mControl;
+  std::unique_ptr<Icon> mIcon;
 };
 
 }  // namespace
 
 std::unique_ptr<Peer> MakePeer(Button& control, Dialog& dialog, const WindowSite& site) {
   const DWORD style = control.Role() == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-  return std::make_unique<ButtonPeer>(control, dialog, MakeWindow(L"BUTTON", style | WS_TABSTOP, site));
+  const DWORD picture = control.Picture() ? BS_ICON : 0;
+  return std::make_unique<ButtonPeer>(control, dialog, MakeWindow(L"BUTTON", style | picture | WS_TABSTOP, site));
 }
 
 }  // namespace orx::win32

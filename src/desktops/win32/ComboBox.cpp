@@ -74,7 +74,10 @@ class ComboBoxPeer final : public Peer {
     // Choosing an entry sets the text and the caret, so only a text that differs is set while the user types.
     const std::string text = mControl.Text();
     if (Send(CB_GETCURSEL) != wanted && wanted >= 0) Send(CB_SETCURSEL, static_cast<WPARAM>(wanted));
+    if (Narrowed(ShownText()) == text) return;
     ShowText(FocusWindow(), text);
+    // Whoever is typing goes on behind it.
+    SendMessageW(FocusWindow(), EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
   }
 
   void MirrorPlace() {
@@ -128,9 +131,14 @@ class ComboBoxPeer final : public Peer {
     if (index >= 0) Report([&] { control.UserPick(index); });
   }
 
-  void ReportText() {
+  std::wstring ShownText() const {
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(FocusWindow())) + 1, L'\0');
     text.resize(static_cast<std::size_t>(GetWindowTextW(FocusWindow(), text.data(), static_cast<int>(text.size()))));
+    return text;
+  }
+
+  void ReportText() {
+    const std::wstring text = ShownText();
     ComboBox& control = mControl;
     Report([&] { control.UserText(Narrowed(text)); });
   }

@@ -68,7 +68,7 @@ void DialogWindow::RunModal() {
   if (mEnded) return;
   const GuestScope guest;
   Desktop& desktop = mForm.OwnerDesktop();
-  desktop.ModalIsRunning({&mForm, nullptr});
+  desktop.ModalIsRunning({.ShownForm = &mForm});
   MSG message;
   while (!mEnded) {
     GetMessageW(&message, nullptr, 0, 0);

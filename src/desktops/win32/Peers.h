@@ -26,6 +26,7 @@ std::unique_ptr<Peer> MakePeer(CheckBox& control, Dialog& dialog, const WindowSi
 std::unique_ptr<Peer> MakePeer(ComboBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(Frame& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(Label& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(ListBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(NativeArea& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site);
@@ -48,6 +49,7 @@ class PeerMaker final : public ControlVisitor {
   void Visit(ComboBox& control) override { Take(control); }
   void Visit(Frame& control) override { Take(control); }
   void Visit(Label& control) override { Take(control); }
+  void Visit(ListBox& control) override { Take(control); }
   void Visit(NativeArea& control) override { Take(control); }
   void Visit(Panel& control) override { Take(control); }
   void Visit(PictureBox& control) override { Take(control); }

@@ -1,5 +1,11 @@
 #include "forms/PictureBox.h"
 
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include <utility>
+
 #include "desktops/win32/CanvasPainter.h"
 #include "desktops/win32/Peers.h"
 
@@ -12,7 +18,8 @@ class PicturePeer final : public Peer {
 
  private:
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Colors || aspect == Aspect::Drawing) InvalidateRect(Window(), nullptr, FALSE);
+    if (aspect == Aspect::Colors || aspect == Aspect::Drawing || aspect == Aspect::Enabled)
+      InvalidateRect(Window(), nullptr, FALSE);
     Peer::Mirror(aspect);
     if (aspect != Aspect::Place) return;
     // Drawings fill exactly the size that the control tells.
@@ -22,6 +29,10 @@ class PicturePeer final : public Peer {
 
   LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
     if (message == WM_ERASEBKGND) return TRUE;
+    if (mControl.TakesFocus() && IsInput(message)) {
+      TakeInput(window, message, wParam, lParam);
+      return 0;
+    }
     if (message != WM_PAINT) return Peer::OnMessage(window, message, wParam, lParam);
     PAINTSTRUCT paint;
     const HDC screen = BeginPaint(window, &paint);
@@ -30,22 +41,44 @@ class PicturePeer final : public Peer {
     return 0;
   }
 
+  static bool IsInput(UINT message) {
+    return message == WM_LBUTTONDOWN || message == WM_LBUTTONUP || message == WM_KEYDOWN ||
+           message == WM_CAPTURECHANGED;
+  }
+
+  void TakeInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    PictureBox& control = mControl;
+    if (message == WM_LBUTTONDOWN) {
+      SetCapture(window);
+      mPressed = true;
+    } else if (message == WM_KEYDOWN) {
+      Report([&] { control.UserKeyDown(static_cast<int>(wParam)); });
+    } else if (std::exchange(mPressed, false) && message == WM_LBUTTONUP) {
+      ReleaseCapture();
+      RECT all;
+      GetClientRect(window, &all);
+      // A release outside of the box takes the press back.
+      if (PtInRect(&all, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) Report([&] { control.UserClick(); });
+    }
+  }
+
   void Paint(HDC screen) const {
     RECT all;
     GetClientRect(Window(), &all);
     const MemoryContext buffer(screen, all.right, all.bottom);
-    FillWith(buffer.Get(), all, mControl.BackColor());
+    FillWith(buffer.Get(), all, mControl.ShownBackColor());
     if (mControl.AutoRedraw()) PaintCanvas(buffer.Get(), mControl.Drawing());
     BitBlt(screen, 0, 0, all.right, all.bottom, buffer.Get(), 0, 0, SRCCOPY);
   }
 
   PictureBox& mControl;
+  bool mPressed = false;
 };
 
 }  // namespace
 
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site) {
-  return std::make_unique<PicturePeer>(control, dialog, MakePane(0, site));
+  return std::make_unique<PicturePeer>(control, dialog, MakePane(control.TakesFocus() ? WS_TABSTOP : 0, site));
 }
 
 }  // namespace orx::win32

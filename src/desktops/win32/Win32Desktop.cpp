@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "desktops/win32/ColorDialog.h"
 #include "desktops/win32/DialogWindow.h"
 #include "desktops/win32/FileDialog.h"
 #include "desktops/win32/Fonts.h"
@@ -135,12 +136,17 @@ std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
 void Win32Desktop::DoShowMessage(const Message& message, FormWindow* owner) {
   const GuestScope guest;
   const HWND window = owner ? reinterpret_cast<HWND>(owner->NativeHandle()) : GetActiveWindow();
-  RunMessageBox(message, window, [&] { ModalIsRunning({nullptr, &message}); });
+  RunMessageBox(message, window, [&] { ModalIsRunning({.ShownMessage = &message}); });
 }
 
 bool Win32Desktop::DoOpenFiles(OpenFileRequest& request) {
   const GuestScope guest;
-  return RunFileDialog(request, [&] { ModalIsRunning({nullptr, nullptr, &request}); });
+  return RunFileDialog(request, [&] { ModalIsRunning({.ShownFiles = &request}); });
+}
+
+bool Win32Desktop::DoChooseColor(ColorRequest& request) {
+  const GuestScope guest;
+  return RunColorDialog(request, [&] { ModalIsRunning({.ShownColor = &request}); });
 }
 
 void Win32Desktop::DoBeep() {

@@ -41,6 +41,7 @@ class Win32Desktop final : public Desktop {
   std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
   void DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;
+  bool DoChooseColor(ColorRequest& request) override;
   void DoBeep() override;
   void DoSetPointer(orx::Pointer value) override;
   void DoShowHelp(const HelpRequest& request) override;

@@ -1,0 +1,281 @@
+#include "datadialogs/frmDataClassify.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "forms/Desktop.h"
+#include "hostobjects/ErrorTrap.h"
+#include "numbers/Numbers.h"
+#include "service/modMain.h"
+
+namespace orx {
+namespace {
+
+/// The list of the class box goes up to this number; more can be typed.
+constexpr int kListedClasses = 64;
+constexpr int kMostClasses = 255;
+
+constexpr char kWrongValue[] = "Wrong value";
+constexpr char kInvalidNumber[] = "Invalid number!";
+constexpr char kWrongOrder[] = "Maximum value must be greater then Minimum value!";
+constexpr char kInvalidClassCount[] = "Number of classes invalid!";
+
+}  // namespace
+
+frmDataClassify::frmDataClassify(Desktop& desktop)
+    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {8520, 4605}}) {
+  cboMethod.Click = [this] {
+    if (mIsBusy) return;
+    mModel.Method = cboMethod.SelectedData();
+    RefreshControls();
+  };
+  cboFormat.Click = [this] {
+    if (mIsBusy) return;
+    mModel.ValueFormat = cboFormat.Text();
+    RefreshControls();
+  };
+  cboRangeFormat.Click = [this] {
+    if (!mIsBusy) mModel.LegendStyle = cboRangeFormat.SelectedData();
+  };
+  chkAutoClassify.Click = [this] { chkAutoClassify_Click(); };
+  chkClassiffyAsMissing.Click = [this] { mModel.OutsideAsMissing = chkClassiffyAsMissing.IsChecked(); };
+  chkSeriesInLegend.Click = [this] {
+    if (mIsBusy) return;
+    mModel.ShowParameterName = chkSeriesInLegend.IsChecked();
+    RefreshControls();
+  };
+  cboClasses.Change = [this] { cboClasses_Change(); };
+  cboClasses.Click = [this] { cboClasses_Click(); };
+  HandleRange(mMinimum, &Classification::MoveMinimum);
+  HandleRange(mMaximum, &Classification::MoveMaximum);
+  HandleRange(mStep, &Classification::ChangeStep);
+  for (TextBox* const field : {&txtSizeFirst, &txtSizeLast})
+    field->GotFocus = [field] { modMain::SelectAllText(*field); };
+  cmdDefault.Click = [this] { cmdDefault_Click(); };
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+void frmDataClassify::SetData(HostObject* data, double dMin, double dMax, std::int32_t flags, const std::string&) {
+  mData = data;
+  Hold(data);
+  mDefaultMin = dMin;
+  mDefaultMax = dMax;
+  mFlags = flags;
+}
+
+void frmDataClassify::Form_Load() {
+  Center();
+  TakeHelpNumber("_HelpLayerDataClassify");
+  if (const auto* const data = QueryKind<IClassification>(mData)) mModel.ReadFrom(*data);
+  mSaved = {mModel.Method, mModel.ClassCount};
+  mIsDirty = false;
+  cmdDefault.Visible(mDefaultMin != kUnknownRangeEnd || mDefaultMax != kUnknownRangeEnd);
+  FillLists();
+  chkClassiffyAsMissing.Enabled(true);
+  chkClassiffyAsMissing.Value(CheckedIf(mModel.OutsideAsMissing));
+  FillClasses();
+  RefreshControls();
+  Translate();
+}
+
+void frmDataClassify::FillLists() {
+  mIsBusy = true;
+  cboFormat.Clear();
+  for (const char* const format : kValueFormats) cboFormat.AddItem(format);
+  FillList(cboMethod, {{"Equal intervals", classifymethod::kEqualIntervals},
+                       {"Equal steps", classifymethod::kEqualSteps},
+                       {"User defined", classifymethod::kUserDefined}});
+  FillList(cboRangeFormat, {{"By Color", legendstyle::kByColor},
+                            {"By Color and pixel Size", legendstyle::kByColorAndSize},
+                            {"By pixel Size", legendstyle::kBySize}});
+  mIsBusy = false;
+}
+
+void frmDataClassify::FillList(ComboBox& box,
+                               std::initializer_list<std::pair<const char*, std::int32_t>> entries) {
+  box.Clear();
+  for (const auto& [text, code] : entries) box.AddItem(LanguageActive() ? Language()->TranslateText(text) : text, code);
+}
+
+void frmDataClassify::FillClasses() {
+  mIsBusy = true;
+  cboClasses.Enabled(false);
+  cboClasses.Clear();
+  for (int entry = 1; entry <= kListedClasses; ++entry) cboClasses.AddItem(std::to_string(entry), entry);
+  std::int32_t count = mModel.ClassCount;
+  ErrorTrap trap;
+  trap.Step([&] {
+    if (auto* const data = QueryKind<IData>(mData)) count = data->ClassCount();
+  });
+  ShowClassCount(count);
+  cboClasses.Enabled((mFlags & kMayChangeClassCount) != 0);
+  mIsBusy = false;
+}
+
+void frmDataClassify::RefreshControls() {
+  if (mModel.IsAutomatic() && !chkAutoClassify.IsChecked()) chkAutoClassify.Value(CheckState::Checked);
+  EnableRange();
+  mIsBusy = true;
+  ShowLists();
+  mIsBusy = false;
+  mModel.FitStep();
+  ShowRange();
+}
+
+void frmDataClassify::EnableRange() {
+  const bool enabled = !mModel.IsAutomatic();
+  const bool hasSteps = mModel.Method == classifymethod::kEqualSteps;
+  const bool hasIntervals = mModel.Method == classifymethod::kEqualIntervals;
+  cboMethod.Enabled(enabled);
+  cmdDefault.Enabled(enabled);
+  const auto enable = [](Label& label, TextBox& field, bool on) {
+    label.Enabled(on);
+    field.Enabled(on);
+  };
+  enable(lblClassify3, txtMin, enabled);
+  enable(lblClassify0, txtStep, enabled && hasSteps);
+  enable(lblClassify4, txtMax, enabled && hasIntervals);
+}
+
+void frmDataClassify::ShowLists() {
+  if (!cboMethod.SelectData(mModel.Method)) cboMethod.ListIndex(0);
+  cboFormat.ListIndex(IndexOfFormat(mModel.ValueFormat));
+  chkSeriesInLegend.Value(CheckedIf(mModel.ShowParameterName));
+  if (!cboRangeFormat.SelectData(mModel.LegendStyle)) cboRangeFormat.ListIndex(0);
+  // What is being typed there stays.
+  if (!mSizeFirst.IsEdited()) mSizeFirst.Show(mModel.FirstClassSize);
+  if (!mSizeLast.IsEdited()) mSizeLast.Show(mModel.LastClassSize);
+}
+
+void frmDataClassify::ShowRange() {
+  mMinimum.Show(mModel.Minimum, FormattedRange(mModel.Minimum));
+  mMaximum.Show(mModel.Maximum, FormattedRange(mModel.Maximum));
+  mStep.Show(mModel.Step, FormattedRange(mModel.Step));
+}
+
+std::string frmDataClassify::FormattedRange(double value) const {
+  return numbers::FormatNumber(value, cboFormat.Text(), OwnerDesktop().Separators());
+}
+
+void frmDataClassify::ShowClassCount(std::int32_t count) {
+  const bool before = std::exchange(mIsBusy, true);
+  cboClasses.Text(std::to_string(count));
+  mShownClasses = cboClasses.Text();
+  mIsBusy = before;
+}
+
+std::optional<double> frmDataClassify::TypedClassCount() const {
+  return numbers::ToDouble(cboClasses.Text(), OwnerDesktop().Separators());
+}
+
+void frmDataClassify::cboClasses_Change() {
+  if (mIsBusy) return;
+  const std::optional<double> typed = TypedClassCount();
+  // The text set here comes back to this handler.
+  if (typed && *typed > kMostClasses) return cboClasses.Text(std::to_string(kMostClasses));
+  if (typed && *typed < 1) return cboClasses.Text("1");
+  TakeClassCount();
+}
+
+void frmDataClassify::cboClasses_Click() {
+  if (!mIsBusy) TakeClassCount();
+}
+
+void frmDataClassify::TakeClassCount() {
+  const std::optional<double> typed = TypedClassCount();
+  if (!typed || *typed <= 0 || *typed == mModel.ClassCount) return;
+  mModel.ClassCount = numbers::RoundToLong(*typed);
+  RefreshControls();
+}
+
+void frmDataClassify::HandleRange(ShownNumber& field, RangeRule rule) {
+  field.Box().GotFocus = [&field] { modMain::SelectAllText(field.Box()); };
+  field.Box().LostFocus = [this, &field, rule] { Range_LostFocus(field, rule); };
+}
+
+void frmDataClassify::Range_LostFocus(ShownNumber& field, RangeRule rule) {
+  if (!field.IsEdited()) return;
+  const std::optional<double> value = field.Value();
+  if (value) {
+    (mModel.*rule)(*value);
+  } else {
+    OwnerDesktop().Beep();
+  }
+  RefreshControls();
+  if (!value) field.Box().SetFocus();
+}
+
+void frmDataClassify::chkAutoClassify_Click() {
+  if (mIsBusy) return;
+  if (chkAutoClassify.IsChecked()) {
+    mSaved.GoAutomatic(mModel, mDefaultMin, mDefaultMax);
+    mIsBusy = true;
+    cboMethod.ListIndex(0);
+    mIsBusy = false;
+  } else {
+    mSaved.GoBack(mModel);
+  }
+  ShowClassCount(mModel.ClassCount);
+  RefreshControls();
+}
+
+void frmDataClassify::cmdDefault_Click() {
+  mModel.TakeDefault(mDefaultMin, mDefaultMax);
+  RefreshControls();
+}
+
+bool frmDataClassify::Refuse(const char* text, Control& field) {
+  OwnerDesktop().ShowMessage({text, kWrongValue, MessageIcon::Exclamation});
+  field.SetFocus();
+  return false;
+}
+
+bool frmDataClassify::TakeFields() {
+  for (const ShownNumber* const field : {&mMinimum, &mMaximum, &mStep})
+    if (!field->Value()) return Refuse(kInvalidNumber, field->Box());
+  if (!TypedClassCount()) return Refuse(kInvalidNumber, cboClasses);
+  for (const ShownNumber* const field : {&mSizeFirst, &mSizeLast})
+    if (!field->Value()) return Refuse(kInvalidNumber, field->Box());
+  mModel.Minimum = *mMinimum.Value();
+  mModel.Maximum = *mMaximum.Value();
+  // Written so that values which compare with nothing are refused too.
+  if (!(mModel.Minimum < mModel.Maximum)) return Refuse(kWrongOrder, txtMin);
+  mModel.Step = *mStep.Value();
+  if (!TakeClassCountOnOK()) return false;
+  mModel.FirstClassSize = *mSizeFirst.Value();
+  mModel.LastClassSize = *mSizeLast.Value();
+  return true;
+}
+
+bool frmDataClassify::TakeClassCountOnOK() {
+  try {
+    // A box that nobody has touched stands for the number of the settings, which the data may count otherwise.
+    if (cboClasses.Text() != mShownClasses) mModel.ClassCount = numbers::RoundToLong(*TypedClassCount());
+  } catch (const std::overflow_error&) {
+    return Refuse(kInvalidClassCount, cboClasses);
+  }
+  return mModel.ClassCount >= 1 || Refuse(kInvalidClassCount, cboClasses);
+}
+
+void frmDataClassify::cmdOK_Click() {
+  if (!TakeFields()) return;
+  OwnerDesktop().Pointer(Pointer::Hourglass);
+  mModel.FitStep();
+  if (auto* const data = QueryKind<IClassification>(mData)) mIsDirty = mModel.SaveTo(*data);
+  Hide();
+  OwnerDesktop().Pointer(Pointer::Default);
+}
+
+void frmDataClassify::cmdCancel_Click() {
+  mIsDirty = false;
+  Hide();
+}
+
+void frmDataClassify::Form_Unload() {
+  mData = nullptr;
+  mIsDirty = false;
+  DialogForm::Form_Unload();
+}
+
+}  // namespace orx

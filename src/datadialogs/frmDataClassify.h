@@ -1,0 +1,127 @@
+// The dialog that sets how the values of one data object are divided into classes: method, range, number and width of
+// the classes, number format, legend style and symbol sizes.
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "datadialogs/Classification.h"
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/ComboBox.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/ShownNumber.h"
+#include "forms/TextBox.h"
+#include "service/DialogForm.h"
+
+namespace orx {
+
+/// Works on a copy of the settings, which OK writes when one differs from what the data object holds.
+class frmDataClassify final : public DialogForm {
+ public:
+  explicit frmDataClassify(Desktop& desktop);
+
+  /// Hands over the data object (used, not owned; what it does not support stays untouched), the range that "Default"
+  /// and "Auto classify" take (kUnknownRangeEnd when not known) and the flags (kMayChangeClassCount). The text is not
+  /// used. Before the form is loaded.
+  void SetData(HostObject* data, double dMin, double dMax, std::int32_t flags, const std::string& text);
+  /// True when OK has written changed settings.
+  bool IsDirty() const { return mIsDirty; }
+
+  Frame fraData[5]{
+      {*this, "fraData(0)", {.Caption = "Classification method", .Place = {120, 120, 4080, 1170}}},
+      {*this, "fraData(1)", {.Caption = "Value format", .Place = {4320, 120, 4080, 1170}}},
+      {*this, "fraData(2)", {.Caption = "Range properties", .Place = {120, 1410, 4080, 2550}}},
+      {*this, "fraData(3)", {.Caption = "Range format", .Place = {4320, 1410, 4080, 840}}},
+      {*this, "fraData(4)", {.Caption = "Size properties (pixels)", .Place = {4320, 2370, 4080, 1590}}}};
+
+  ComboBox cboMethod{
+      fraData[0], "cboMethod", {.Place = {150, 300, 3780, 330}}};
+  CheckBox chkAutoClassify{fraData[0], "chkAutoClassify", {.Caption = "Auto classify", .Place = {150, 750, 3780, 300}}};
+
+  Label lblClassify3{fraData[2], "lblClassify(3)", {.Caption = "Minimum", .Place = {150, 360, 1830, 240}}};
+  TextBox txtMin{fraData[2], "txtMin", {.Place = {2070, 300, 1860, 330}}};
+  Label lblClassify4{fraData[2], "lblClassify(4)", {.Caption = "Maximum", .Place = {150, 780, 1830, 240}}};
+  TextBox txtMax{fraData[2], "txtMax", {.Place = {2070, 720, 1860, 330}}};
+  Label lblClassify0{fraData[2], "lblClassify(0)", {.Caption = "Step size", .Place = {150, 1200, 1830, 240}}};
+  TextBox txtStep{fraData[2], "txtStep", {.Place = {2070, 1140, 1860, 330}}};
+  Label lblClassify1{fraData[2], "lblClassify(1)", {.Caption = "Classes", .Place = {150, 1620, 1830, 240}}};
+  ComboBox cboClasses{fraData[2], "cboClasses", {.Place = {2070, 1560, 1860, 330}}, ComboStyle::Editable};
+  CheckBox chkClassiffyAsMissing{
+      fraData[2],
+      "chkClassiffyAsMissing",
+      {.Caption = "Classify values outside range as missing", .Place = {150, 2070, 3780, 300}}};
+
+  ComboBox cboFormat{fraData[1], "cboFormat", {.Place = {150, 300, 3780, 330}}};
+  CheckBox chkSeriesInLegend{
+      fraData[1], "chkSeriesInLegend", {.Caption = "Show parameter name in legend", .Place = {150, 750, 3780, 300}}};
+
+  ComboBox cboRangeFormat{
+      fraData[3], "cboRangeFormat", {.Place = {150, 330, 3780, 330}}};
+
+  Label lblClassify2{fraData[4], "lblClassify(2)", {.Caption = "Size first class", .Place = {150, 420, 2430, 240}}};
+  TextBox txtSizeFirst{fraData[4], "txtSizeFirst", {.Place = {2670, 360, 1260, 330}}};
+  Label lblClassify5{fraData[4], "lblClassify(5)", {.Caption = "Size last class", .Place = {150, 900, 2430, 240}}};
+  TextBox txtSizeLast{fraData[4], "txtSizeLast", {.Place = {2670, 840, 1260, 330}}};
+
+  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 4110, 1500, 375}, .Pinned = true}};
+  Button cmdOK{
+      *this, "cmdOK", {.Caption = "&OK", .Place = {5295, 4110, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+  Button cmdCancel{*this,
+                   "cmdCancel",
+                   {.Caption = "&Cancel", .Place = {6900, 4110, 1500, 375}, .Pinned = true},
+                   ButtonRole::Cancel};
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  using RangeRule = void (Classification::*)(double);
+
+  void FillLists();
+  void FillClasses();
+  void FillList(ComboBox& box, std::initializer_list<std::pair<const char*, std::int32_t>> entries);
+  void RefreshControls();
+  void EnableRange();
+  void ShowLists();
+  void ShowRange();
+  std::string FormattedRange(double value) const;
+  void ShowClassCount(std::int32_t count);
+
+  void HandleRange(ShownNumber& field, RangeRule rule);
+  void Range_LostFocus(ShownNumber& field, RangeRule rule);
+  void cboClasses_Change();
+  void cboClasses_Click();
+  void TakeClassCount();
+  std::optional<double> TypedClassCount() const;
+  void chkAutoClassify_Click();
+  void cmdDefault_Click();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  bool TakeFields();
+  bool TakeClassCountOnOK();
+  /// Tells what is wrong and gives the focus to the field.
+  bool Refuse(const char* text, Control& field);
+
+  HostObject* mData = nullptr;
+  double mDefaultMin = kUnknownRangeEnd;
+  double mDefaultMax = kUnknownRangeEnd;
+  std::int32_t mFlags = 0;
+  Classification mModel;
+  SavedClassification mSaved;
+  std::string mShownClasses;
+  bool mIsDirty = false;
+  bool mIsBusy = false;
+  ShownNumber mMinimum{txtMin};
+  ShownNumber mMaximum{txtMax};
+  ShownNumber mStep{txtStep};
+  ShownNumber mSizeFirst{txtSizeFirst};
+  ShownNumber mSizeLast{txtSizeLast};
+};
+
+}  // namespace orx

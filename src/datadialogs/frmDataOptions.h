@@ -1,0 +1,128 @@
+// The dialog that sets how missing values, zeros and places without data are treated and drawn.
+#pragma once
+
+#include "datadialogs/SpecialValueRecord.h"
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/PictureBox.h"
+#include "forms/ShownNumber.h"
+#include "forms/TextBox.h"
+#include "service/DialogForm.h"
+
+namespace orx {
+
+/// The controls of the three kinds stand in arrays, in the order of SpecialKind. Works on copies of the three records,
+/// which OK writes, changed or not.
+class frmDataOptions final : public DialogForm {
+ public:
+  explicit frmDataOptions(Desktop& desktop);
+
+  /// The object whose special values are edited; used, not owned. Before the form is loaded; without one, or with one
+  /// that has no special values, the form unloads itself as it loads.
+  HostObject* Data() const { return mData; }
+  void Data(HostObject* value);
+  /// True when the user has edited something and OK has written it.
+  bool IsDirty() const { return mIsDirty; }
+
+  Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 90, 5940, 1650}}};
+  Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1830, 5940, 1650}}};
+  Frame fraNoData{*this, "fraNoData", {.Place = {120, 3570, 5940, 1650}}};
+
+  CheckBox chkEnabled[kSpecialKinds]{
+      {fraMissVal, "chkEnabled(0)", {.Caption = "Missing Value", .Place = kTitle}},
+      {fraZeroVal, "chkEnabled(1)", {.Caption = "Zero Value", .Place = kTitle}},
+      {fraNoData, "chkEnabled(2)", {.Caption = "No Data", .Place = kTitle}},
+  };
+  Label lblMinData[kSpecialKinds]{
+      {fraMissVal, "lblMinData(0)", {.Caption = "Lower bound", .Place = kMinLabel}},
+      {fraZeroVal, "lblMinData(1)", {.Caption = "Range", .Place = kMinLabel}},
+      {fraNoData, "lblMinData(2)", {.Caption = "Lower bound", .Place = kMinLabel}},
+  };
+  TextBox txtMinValue[kSpecialKinds]{
+      {fraMissVal, "txtMinValue(0)", {.Place = kMinField}},
+      {fraZeroVal, "txtMinValue(1)", {.Place = kMinField}},
+      {fraNoData, "txtMinValue(2)", {.Place = kMinField}},
+  };
+  /// Of the values that count as zero the upper end follows from the range, so its field is not shown.
+  Label lblMaxData[kSpecialKinds]{
+      {fraMissVal, "lblMaxData(0)", {.Caption = "Upper bound", .Place = kMaxLabel}},
+      {fraZeroVal, "lblMaxData(1)", {.Caption = "Upper bound", .Place = kMaxLabel, .Visible = false}},
+      {fraNoData, "lblMaxData(2)", {.Caption = "Upper bound", .Place = kMaxLabel}},
+  };
+  TextBox txtMaxValue[kSpecialKinds]{
+      {fraMissVal, "txtMaxValue(0)", {.Place = kMaxField}},
+      {fraZeroVal, "txtMaxValue(1)", {.Place = kMaxField, .Visible = false}},
+      {fraNoData, "txtMaxValue(2)", {.Place = kMaxField}},
+  };
+  Label lblColorData[kSpecialKinds]{
+      {fraMissVal, "lblColorData(0)", {.Caption = "Color", .Place = kColorLabel}},
+      {fraZeroVal, "lblColorData(1)", {.Caption = "Color", .Place = kColorLabel}},
+      {fraNoData, "lblColorData(2)", {.Caption = "Color", .Place = kColorLabel}},
+  };
+  PictureBox pctColor[kSpecialKinds]{
+      {fraMissVal, "pctColor(0)", {.Place = kColorBox}, Color{}, PictureUse::Input},
+      {fraZeroVal, "pctColor(1)", {.Place = kColorBox}, Color{}, PictureUse::Input},
+      {fraNoData, "pctColor(2)", {.Place = kColorBox}, Color{}, PictureUse::Input},
+  };
+  CheckBox chkInLegend[kSpecialKinds]{
+      {fraMissVal, "chkInLegend(0)", {.Caption = "Display in legend", .Place = kInLegend}},
+      {fraZeroVal, "chkInLegend(1)", {.Caption = "Display in legend", .Place = kInLegend}},
+      {fraNoData, "chkInLegend(2)", {.Caption = "Display in legend", .Place = kInLegend}},
+  };
+  CheckBox chkTransparent[kSpecialKinds]{
+      {fraMissVal, "chkTransparent(0)", {.Caption = "Transparent", .Place = kTransparent}},
+      {fraZeroVal, "chkTransparent(1)", {.Caption = "Transparent", .Place = kTransparent}},
+      {fraNoData, "chkTransparent(2)", {.Caption = "Transparent", .Place = kTransparent}},
+  };
+  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 5370, 1500, 375}, .Pinned = true}};
+  Button cmdOK{
+      *this, "cmdOK", {.Caption = "&OK", .Place = {2955, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+  Button cmdCancel{*this,
+                   "cmdCancel",
+                   {.Caption = "&Cancel", .Place = {4560, 5370, 1500, 375}, .Pinned = true},
+                   ButtonRole::Cancel};
+
+  /// Shows one record, by index from 0, or all three with -1. Another index throws std::out_of_range.
+  void ShowRecord(int index);
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  // Places in each of the three frames.
+  static constexpr Rect kTitle{150, 150, 5640, 300};
+  static constexpr Rect kMinLabel{420, 570, 1470, 240};
+  static constexpr Rect kMinField{1950, 510, 1380, 330};
+  static constexpr Rect kMaxLabel{420, 1020, 1470, 240};
+  static constexpr Rect kMaxField{1950, 960, 1380, 330};
+  static constexpr Rect kColorLabel{3570, 1170, 930, 240};
+  static constexpr Rect kColorBox{4560, 1110, 1230, 360};
+  static constexpr Rect kInLegend{3570, 450, 2220, 300};
+  static constexpr Rect kTransparent{3570, 780, 2220, 300};
+
+  void HandleEvents(int index);
+  SpecialValueRecord& Record(int index) { return mValues.Records.at(static_cast<std::size_t>(index)); }
+  void ShowOne(int index);
+  void Switch(int index, bool SpecialValueRecord::* field, const CheckBox& box);
+  void TakeBound(int index, double SpecialValueRecord::* field, const ShownNumber& text);
+  void pctColor_Click(int index);
+  void cmdDefault_Click();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  bool Validate();
+  bool Refuse(const char* title, const char* text, TextBox& field);
+
+  HostObject* mData = nullptr;
+  SpecialValues mValues;
+  bool mIsDirty = false;
+  bool mIsBusy = false;
+  ShownNumber mMinimum[kSpecialKinds]{ShownNumber(txtMinValue[0]), ShownNumber(txtMinValue[1]),
+                                      ShownNumber(txtMinValue[2])};
+  ShownNumber mMaximum[kSpecialKinds]{ShownNumber(txtMaxValue[0]), ShownNumber(txtMaxValue[1]),
+                                      ShownNumber(txtMaxValue[2])};
+};
+
+}  // namespace orx

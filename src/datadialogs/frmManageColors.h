@@ -1,0 +1,76 @@
+// The window for colour schemes: a list of schemes, four tools and five basic colours. It shows the layout only; nothing
+// but OK and Cancel acts.
+#pragma once
+
+#include "forms/Button.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/ListBox.h"
+#include "forms/PictureBox.h"
+#include "service/DialogForm.h"
+#include "service/Glyphs.h"
+
+namespace orx {
+
+/// Reads and writes no host object.
+class frmManageColors final : public DialogForm {
+ public:
+  explicit frmManageColors(Desktop& desktop);
+
+  /// True after Cancel, false after OK and before either.
+  bool Canceled() const { return mCanceled; }
+
+  ListBox lstScheme{*this, "lstScheme", {.Place = {120, 120, 2940, 2880}, .AccessibleName = "Color schemes"}};
+  Button cmdNew{*this,
+                "cmdNew",
+                {.Place = {3180, 120, 480, 450}, .ToolTipText = "New scheme", .AccessibleName = "New scheme"},
+                glyphs::kPage};
+  Button cmdSave{*this,
+                 "cmdSave",
+                 {.Place = {3180, 690, 480, 450}, .ToolTipText = "Save scheme", .AccessibleName = "Save scheme"},
+                 glyphs::kDisk};
+  Button cmdRemove{*this,
+                   "cmdRemove",
+                   {.Place = {3180, 1260, 480, 450}, .ToolTipText = "Remove scheme", .AccessibleName = "Remove scheme"},
+                   glyphs::kCross};
+  Button cmdProperties{
+      *this,
+      "cmdProperties",
+      {.Place = {3180, 1830, 480, 450}, .ToolTipText = "Scheme properties", .AccessibleName = "Scheme properties"},
+      glyphs::kSheet};
+
+  Frame fraBasicColor{*this, "fraBasicColor", {.Caption = " &Basic Colors ", .Place = {3780, 60, 2340, 2940}}};
+  /// The markers of the chosen colours, each beside its box.
+  PictureBox CheckColor[5]{
+      {fraBasicColor, "CheckColor(1)", {.Place = MarkPlace(0)}, kGround},
+      {fraBasicColor, "CheckColor(2)", {.Place = MarkPlace(1)}, kGround},
+      {fraBasicColor, "CheckColor(3)", {.Place = MarkPlace(2)}, kGround},
+      {fraBasicColor, "CheckColor(4)", {.Place = MarkPlace(3)}, kGround},
+      {fraBasicColor, "CheckColor(5)", {.Place = MarkPlace(4)}, kGround},
+  };
+  PictureBox BasicColor[5]{
+      {fraBasicColor, "BasicColor(1)", {.Place = ColorPlace(0)}, {192, 0, 0}},
+      {fraBasicColor, "BasicColor(2)", {.Place = ColorPlace(1)}, {255, 192, 0}},
+      {fraBasicColor, "BasicColor(3)", {.Place = ColorPlace(2)}, {255, 255, 128}},
+      {fraBasicColor, "BasicColor(4)", {.Place = ColorPlace(3)}, {0, 160, 80}},
+      {fraBasicColor, "BasicColor(5)", {.Place = ColorPlace(4)}, {0, 96, 192}},
+  };
+  Button cmdOK{
+      *this, "cmdOK", {.Caption = "&OK", .Place = {3015, 3150, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+  Button cmdCancel{*this,
+                   "cmdCancel",
+                   {.Caption = "&Cancel", .Place = {4620, 3150, 1500, 375}, .Pinned = true},
+                   ButtonRole::Cancel};
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  static constexpr Color kGround{240, 240, 240};
+  static constexpr Rect MarkPlace(int row) { return {180, 390 + 495 * row, 300, 300}; }
+  static constexpr Rect ColorPlace(int row) { return {600, 360 + 495 * row, 1560, 360}; }
+
+  bool mCanceled = false;
+};
+
+}  // namespace orx

@@ -1,0 +1,16 @@
+// The dialog for choosing a colour.
+#pragma once
+
+#include <functional>
+
+namespace orx {
+struct ColorRequest;
+}  // namespace orx
+
+namespace orx::win32 {
+
+/// Has the user choose a colour as Desktop::ChooseColor says. `running` is called in its modal loop; what it throws
+/// closes the dialog and travels. The user's own colours are kept for the life of the process.
+bool RunColorDialog(ColorRequest& request, const std::function<void()>& running);
+
+}  // namespace orx::win32

@@ -1,0 +1,11 @@
+#include "forms/ListBox.h"
+
+#include "forms/ControlVisitor.h"
+
+namespace orx {
+
+void ListBox::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
+
+}  // namespace orx
