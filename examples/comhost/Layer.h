@@ -33,6 +33,10 @@ class Layer final : public AutomationObject<ILayer> {
   HRESULT STDMETHODCALLTYPE put_SymbolRotation(double value) override { return Take(value, SymbolRotation); }
   HRESULT STDMETHODCALLTYPE get_SymbolSize(double* value) override { return Give(SymbolSize, value); }
   HRESULT STDMETHODCALLTYPE put_SymbolSize(double value) override { return Take(value, SymbolSize); }
+  HRESULT STDMETHODCALLTYPE get_Data(IDispatch** value) override {
+    *value = nullptr;
+    return S_OK;
+  }
 
  private:
   static HRESULT Give(const std::wstring& from, BSTR* to) {

@@ -46,7 +46,8 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     desktop.ProcessPendingEvents();
     photographer.Take(*window);
     for (orx::Button* button :
-         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends, &window->cmdLost})
+         {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends,
+          &window->cmdClassify, &window->cmdOptions, &window->cmdColors, &window->cmdLost})
       button->UserPress();
   }
   window->UserClose();

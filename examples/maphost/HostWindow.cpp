@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "hostobjects/IData.h"
 #include "maplibrary/DrawMap.h"
+#include "service/modMainDialogs.h"
 
 namespace maphost {
 namespace {
@@ -26,6 +28,9 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdLabels.Click = [this] { ShowFor("Labels", &orx::CCommonMapDialogs::ShowLabels); };
   cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
   cmdLegends.Click = [this] { cmdLegends_Click(); };
+  cmdClassify.Click = [this] { cmdClassify_Click(); };
+  cmdOptions.Click = [this] { cmdOptions_Click(); };
+  cmdColors.Click = [this] { cmdColors_Click(); };
   cmdAddLayer.Click = [this] { cmdAddLayer_Click(); };
   cmdLost.Click = [this] { cmdLost_Click(); };
   cboLayer.Click = [this] { EnableDialogs(); };
@@ -62,9 +67,11 @@ void HostWindow::FillLanguages() {
 }
 
 void HostWindow::EnableDialogs() {
-  orx::HostObject* const object = mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())).Object;
+  orx::HostObject* const object = Chosen().Object;
   cmdProperties.Enabled(QueryKind<orx::ILayer>(object) != nullptr);
   cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
+  cmdClassify.Enabled(ChosenData() != nullptr);
+  cmdOptions.Enabled(ChosenData() != nullptr);
 }
 
 void HostWindow::Form_Resize() {
@@ -82,8 +89,9 @@ void HostWindow::Form_Resize() {
   };
   stack(lblLayer, 240, 60);
   stack(cboLayer, 360, 240);
-  for (orx::Button* button : {&cmdProperties, &cmdLabels, &cmdCoordinates, &cmdLegends, &cmdAddLayer, &cmdLost})
-    stack(*button, 420, 120);
+  for (orx::Button* button : {&cmdProperties, &cmdLabels, &cmdCoordinates, &cmdLegends, &cmdClassify, &cmdOptions,
+                              &cmdColors, &cmdAddLayer, &cmdLost})
+    stack(*button, 420, 90);
   top += 120;
   stack(chkModeless, 330, 360);
   stack(lblLanguage, 240, 60);
@@ -102,13 +110,37 @@ orx::ShowMode HostWindow::Mode() const {
 }
 
 void HostWindow::ShowFor(const std::string& what, Member member) {
-  const Choice choice = mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex()));
+  const Choice choice = Chosen();
   const std::int32_t result = (mDialogs.*member)(choice.Object, {}, Mode(), {this, 0});
-  Report(what + " of " + choice.Name, result);
+  ReportPages(what + " of " + choice.Name, result);
 }
 
 void HostWindow::cmdLegends_Click() {
-  Report("Legends", mDialogs.ShowLegends(&mMap, 0, {}, Mode(), {this, 0}));
+  ReportPages("Legends", mDialogs.ShowLegends(&mMap, 0, {}, Mode(), {this, 0}));
+}
+
+orx::HostObject* HostWindow::ChosenData() const {
+  auto* const layer = QueryKind<orx::ILayer>(Chosen().Object);
+  return layer ? layer->Data() : nullptr;
+}
+
+void HostWindow::cmdClassify_Click() {
+  const Choice choice = Chosen();
+  auto& data = *QueryKind<orx::IData>(ChosenData());
+  bool isDirty = false;
+  const std::int32_t result = mDialogs.ShowDataClassify(ChosenData(), data.MinimumOfData(), data.MaximumOfData(),
+                                                        orx::kMayChangeClassCount, isDirty);
+  Report("Classification of " + choice.Name, result);
+}
+
+void HostWindow::cmdOptions_Click() {
+  const Choice choice = Chosen();
+  Report("Data options of " + choice.Name, mDialogs.ShowDataOptions(ChosenData()));
+}
+
+void HostWindow::cmdColors_Click() {
+  const bool isDone = orx::modMain::ShowColorsDialog(OwnerDesktop(), mDialogs.Language(), {this, 0});
+  mLog.Write(isDone ? "Color schemes: closed" : "Color schemes: failed");
 }
 
 void HostWindow::cmdAddLayer_Click() {
@@ -145,8 +177,12 @@ void HostWindow::cboLanguage_Click() {
   mDesigned.Translate(*this, language);
 }
 
-void HostWindow::Report(const std::string& what, std::int32_t result) {
+void HostWindow::ReportPages(const std::string& what, std::int32_t result) {
   if (Mode() == orx::ShowMode::Modeless) return mLog.Write(what + ": open");
+  Report(what, result);
+}
+
+void HostWindow::Report(const std::string& what, std::int32_t result) {
   mLog.Write(what + (result != 0 ? ": changed (" : ": not changed (") + std::to_string(result) + ")");
   FillLayers();
   DrawMap();

@@ -28,6 +28,9 @@ class HostWindow final : public orx::Form {
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
   orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "L&egends..."}};
+  orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
+  orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
+  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sc&hemes..."}};
   orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
   orx::Button cmdLost{
       *this, "cmdLost", {.Caption = "&Missing file...", .ToolTipText = "Opens a layer whose file is gone"}};
@@ -50,6 +53,8 @@ class HostWindow final : public orx::Form {
     orx::HostObject* Object;
   };
 
+  /// The data object of the chosen layer, null when it has none.
+  orx::HostObject* ChosenData() const;
   void FillLayers();
   void FillLanguages();
   void EnableDialogs();
@@ -58,11 +63,17 @@ class HostWindow final : public orx::Form {
   /// Shows a dialog for the chosen layer and writes its result down.
   void ShowFor(const std::string& what, Member member);
   void cmdLegends_Click();
+  void cmdClassify_Click();
+  void cmdOptions_Click();
+  void cmdColors_Click();
+  const Choice& Chosen() const { return mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())); }
   void cmdAddLayer_Click();
   void cmdLost_Click();
   /// Reads the files; what cannot be read is told.
   void AddLayers(const std::vector<std::string>& files);
   void cboLanguage_Click();
+  /// Writes the result of a property dialog down, which may be open still, and of one that has closed.
+  void ReportPages(const std::string& what, std::int32_t result);
   void Report(const std::string& what, std::int32_t result);
 
   orx::maplibrary::Map& mMap;

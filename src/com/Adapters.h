@@ -61,7 +61,7 @@ class LayersAdapter final : public ILayers {
 
 class LayerAdapter final : public ILayer {
  public:
-  LayerAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+  LayerAdapter(AutomationObject& owner, const ComPtr<IDispatch>& object) : mOwner(owner), mObject(object.Get()) {}
 
   std::string Name() const override { return mObject.GetText("Name"); }
   void Name(const std::string& value) override { mObject.Put("Name", Variant(value)); }
@@ -76,8 +76,10 @@ class LayerAdapter final : public ILayer {
   void SymbolRotation(double value) override { mObject.Put("SymbolRotation", Variant(value)); }
   double SymbolSize() const override { return mObject.GetDouble("SymbolSize"); }
   void SymbolSize(double value) override { mObject.Put("SymbolSize", Variant(value)); }
+  HostObject* Data() override { return mObject.Has("Data") ? mOwner.Adopt(mObject.GetObject("Data")) : nullptr; }
 
  private:
+  AutomationObject& mOwner;
   LateBound mObject;
 };
 

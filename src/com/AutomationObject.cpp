@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "com/Adapters.h"
+#include "com/DataAdapters.h"
 
 namespace orx::com {
 namespace {
@@ -19,6 +20,24 @@ ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<
   for (const char* const member : members)
     if (!named.Has(member)) return {};
   return unlike && named.Has(unlike) ? ComPtr<IDispatch>() : object;
+}
+
+/// The view of a data object: the object itself, or what its member `giver` gives.
+template <class Published>
+ComPtr<IDispatch> PartOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
+                         const char* giver) {
+  if (ComPtr<IDispatch> view = ViewOf<Published>(object, members)) return view;
+  const auto data = object.As<::IData>();
+  const LateBound named(data ? data.Get() : object.Get());
+  if (!named.Has(giver)) return {};
+  const ComPtr<IDispatch> given = named.GetObject(giver);
+  return given ? ViewOf<Published>(given, members) : ComPtr<IDispatch>();
+}
+
+/// An object is a data object when it has a classification, itself or as a view.
+ComPtr<IDispatch> DataOf(const ComPtr<IDispatch>& object) {
+  if (ComPtr<IDispatch> data = ViewOf<::IData>(object, {"ClassifyMethod"})) return data;
+  return LateBound(object.Get()).Has("Classification") ? object : ComPtr<IDispatch>();
 }
 
 }  // namespace
@@ -43,6 +62,13 @@ AutomationObject::View AutomationObject::MakeView(Kind kind) {
       return as(std::type_identity<ExtentAdapter>(), ViewOf<::IExtent>(mObject, {"Left", "Right", "Bottom", "Top"}));
     case Kind::Legends:
       return as(std::type_identity<LegendsAdapter>(), ViewOf<::ILegends>(mObject, {"LegendCount", "Legend"}));
+    case Kind::Data:
+      return as(std::type_identity<DataAdapter>(), DataOf(mObject));
+    case Kind::Classification:
+      return as(std::type_identity<ClassificationAdapter>(),
+                PartOf<::IClassification>(mObject, {"ClassifyMethod"}, "Classification"));
+    case Kind::DataOptions:
+      return as(std::type_identity<DataOptionsAdapter>(), PartOf<::IDataOptions>(mObject, {"MissingValue"}, "Options"));
   }
   return {};
 }

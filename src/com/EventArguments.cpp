@@ -46,6 +46,16 @@ bool EventArguments::Flag(UINT position) const {
   return Read(position, VT_BOOL).boolVal != VARIANT_FALSE;
 }
 
+ComPtr<IDispatch> EventArguments::Object(UINT position) const {
+  VARIANTARG* from = &At(position);
+  while (from->vt == kVariantReference) from = from->pvarVal;
+  Variant plain;
+  Check(VariantCopyInd(&plain, from), "The argument of an event cannot be read");
+  Variant object;
+  Check(ConvertValue(plain, VT_DISPATCH, LOCALE_USER_DEFAULT, object), "The argument of an event has the wrong type");
+  return ComPtr<IDispatch>(object.pdispVal);
+}
+
 void EventArguments::Answer(UINT position, Variant value) const {
   VARIANTARG* target = &At(position);
   bool isVariant = false;

@@ -24,6 +24,8 @@ class EventArguments {
   std::int32_t Whole(UINT position) const;
   double Number(UINT position) const;
   bool Flag(UINT position) const;
+  /// Null for Nothing.
+  ComPtr<IDispatch> Object(UINT position) const;
 
   /// Writes through an argument that is a reference, in the reference's own type. An argument that was passed as a
   /// value has nobody who reads the answer.

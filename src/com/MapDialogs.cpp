@@ -129,6 +129,26 @@ HRESULT MapDialogs::ShowCoordinates(IDispatch** mObj, BSTR* mCaption, ::FormShow
   });
 }
 
+HRESULT MapDialogs::ShowDataClassify(IDispatch** mObj, double* mMinValue, double* mMaxValue, ::ClassifyFlags flags,
+                                     VARIANT_BOOL* isDirty, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                     long* result) noexcept {
+  if (!mMinValue || !mMaxValue || !isDirty) return E_POINTER;
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    bool changed = *isDirty != VARIANT_FALSE;
+    const std::int32_t answer = mService.ShowDataClassify(call.Client, *mMinValue, *mMaxValue, flags, changed,
+                                                          call.Caption, call.Mode, call.Owner);
+    *isDirty = changed ? VARIANT_TRUE : VARIANT_FALSE;
+    return answer;
+  });
+}
+
+HRESULT MapDialogs::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                    long* result) noexcept {
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    return mService.ShowDataOptions(call.Client, call.Caption, call.Mode, call.Owner);
+  });
+}
+
 HRESULT MapDialogs::ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                  VARIANT_BOOL* result) noexcept {
   return ChooseFiles(&orx::CCommonMapDialogs::ShowAddLayer, hWnd, multiselect, files, result);
@@ -184,15 +204,6 @@ HRESULT MapDialogs::Show(IDispatch**, long*, BSTR*, ::FormShowMode*, VARIANT*, l
 }
 
 HRESULT MapDialogs::ShowDataProperties(IDispatch**, BSTR*, ::FormShowMode*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowDataClassify(IDispatch**, double*, double*, ::ClassifyFlags, VARIANT_BOOL*, BSTR*,
-                                     ::FormShowMode*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowDataOptions(IDispatch**, BSTR*, ::FormShowMode*, VARIANT*, long*) noexcept {
   return E_NOTIMPL;
 }
 

@@ -4,6 +4,7 @@
 
 #include "com/Errors.h"
 #include "com/EventArguments.h"
+#include "com/HostAdapters.h"
 #include "hostobjects/PropertyPage.h"
 
 namespace orx::com {
@@ -31,9 +32,47 @@ void RaiseNameChanged(PropertyPage& page, const EventArguments& arguments) {
   page.NameChanged.Raise(arguments.Text(0));
 }
 
+void RaiseBrowseRequested(PropertyPage& page, const EventArguments& arguments) {
+  BrowseRequest request{arguments.Text(0), arguments.Flag(1)};
+  page.BrowseRequested.Raise(request);
+  arguments.Answer(0, Variant(request.FileName));
+  arguments.Answer(1, Variant(request.Cancel));
+}
+
+void RaiseClassifyRequested(PropertyPage& page, const EventArguments& arguments) {
+  const std::shared_ptr<HostObject> data = AdaptHostObject(arguments.Object(0).Get());
+  ClassifyRequest request{data.get(), arguments.Number(1), arguments.Number(2), arguments.Whole(3), arguments.Flag(4)};
+  page.ClassifyRequested.Raise(request);
+  arguments.Answer(4, Variant(request.Changed));
+}
+
+template <auto Request>
+void RaiseDataRequested(PropertyPage& page, const EventArguments& arguments) {
+  const std::shared_ptr<HostObject> data = AdaptHostObject(arguments.Object(0).Get());
+  DataRequest request{data.get(), arguments.Flag(1)};
+  (page.*Request).Raise(request);
+  arguments.Answer(1, Variant(request.Changed));
+}
+
+void RaiseDataStyleRequested(PropertyPage& page, const EventArguments&) {
+  page.DataStyleRequested.Raise();
+}
+
+void RaiseColorsRequested(PropertyPage& page, const EventArguments& arguments) {
+  const ComPtr<IDispatch> object = arguments.Object(0);
+  page.ColorsRequested.Raise(AdaptLanguage(object.Get()).get());
+}
+
 constexpr PageEvent kEvents[] = {
     {1, "CharacterRequested", 4, RaiseCharacterRequested},
     {2, "NameChanged", 1, RaiseNameChanged},
+    {3, "BrowseRequested", 2, RaiseBrowseRequested},
+    {4, "ClassifyRequested", 5, RaiseClassifyRequested},
+    {5, "OptionsRequested", 2, RaiseDataRequested<&PropertyPage::OptionsRequested>},
+    {6, "ShadeRequested", 2, RaiseDataRequested<&PropertyPage::ShadeRequested>},
+    {7, "IsolineRequested", 2, RaiseDataRequested<&PropertyPage::IsolineRequested>},
+    {8, "DataStyleRequested", 0, RaiseDataStyleRequested},
+    {9, "ColorsRequested", 1, RaiseColorsRequested},
 };
 
 ComPtr<IConnectionPoint> PointOf(IUnknown& control, REFIID source) {

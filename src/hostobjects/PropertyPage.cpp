@@ -14,6 +14,8 @@ const char* PageKindName(PageKind kind) {
       return "Coordinates";
     case PageKind::Legends:
       return "Legends";
+    case PageKind::DataProperties:
+      return "DataProperties";
   }
   return "";
 }

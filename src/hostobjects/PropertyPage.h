@@ -22,6 +22,28 @@ struct CharacterRequest {
   bool Changed = false;
 };
 
+/// The choice of a data file: the page fills in the present one, the dialog the one chosen.
+struct BrowseRequest {
+  std::string FileName;
+  /// False when a file was chosen that can be opened.
+  bool Cancel = true;
+};
+
+/// The change of a data object's classification. The range is that of the data, kUnknownRangeEnd when not known.
+struct ClassifyRequest {
+  HostObject* Data = nullptr;
+  double Minimum = 0;
+  double Maximum = 0;
+  std::int32_t Flags = 0;
+  bool Changed = false;
+};
+
+/// Another change of a data object: special values, relief shading, isolines.
+struct DataRequest {
+  HostObject* Data = nullptr;
+  bool Changed = false;
+};
+
 /// A page edits its client in fields of its own and writes to it only in SaveChanges and ApplyChanges. What a page
 /// throws ends the handler that called it and reaches the service.
 class PropertyPage {
@@ -56,6 +78,14 @@ class PropertyPage {
   /// button for it.
   Event<CharacterRequest&> CharacterRequested;
   Event<const std::string&> NameChanged;
+  Event<BrowseRequest&> BrowseRequested;
+  Event<ClassifyRequest&> ClassifyRequested;
+  Event<DataRequest&> OptionsRequested;
+  Event<DataRequest&> ShadeRequested;
+  Event<DataRequest&> IsolineRequested;
+  Event<> DataStyleRequested;
+  /// With the language that the window for colour schemes is to speak; null for none.
+  Event<ILanguage*> ColorsRequested;
 
  private:
   std::int32_t mStartUpIndex = 0;
@@ -63,9 +93,9 @@ class PropertyPage {
 };
 
 /// The aspects of host objects that dialogs have pages for.
-enum class PageKind { Properties, LabelProperties, Coordinates, Legends };
+enum class PageKind { Properties, LabelProperties, Coordinates, Legends, DataProperties };
 
-/// The name of a kind of page: "Properties", "LabelProperties", ...
+/// The name of a kind of page: "Properties", "LabelProperties", "DataProperties", ...
 const char* PageKindName(PageKind kind);
 
 /// Where a page is to stand: its controls go below a panel of that name and place (twips) in the parent.

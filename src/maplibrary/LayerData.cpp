@@ -8,6 +8,9 @@
 namespace orx::maplibrary {
 namespace {
 
+/// More than a picture could show.
+constexpr std::int32_t kMostClasses = 65535;
+
 /// What stands for "no data" where a grid does not say.
 constexpr double kUsualNoData = -9999;
 
@@ -58,7 +61,8 @@ void LayerData::ClassifyMethod(std::int32_t value) {
 }
 
 void LayerData::NumberOfClasses(std::int32_t value) {
-  if (value < 1) throw RunTimeError(kErrorInvalidValue, "NumberOfClasses must be 1 or more.");
+  if (value < 1 || value > kMostClasses)
+    throw RunTimeError(kErrorInvalidValue, "NumberOfClasses must be from 1 to " + std::to_string(kMostClasses) + ".");
   mClasses = value;
 }
 

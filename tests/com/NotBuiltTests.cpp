@@ -13,12 +13,6 @@ struct Missing {
 constexpr Missing kMissingDialogs[] = {
     {"Show", [](auto& d) { return d.Show(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowDataProperties", [](auto& d) { return d.ShowDataProperties(nullptr, nullptr, nullptr, nullptr, nullptr); }},
-    {"ShowDataClassify",
-     [](auto& d) {
-       return d.ShowDataClassify(nullptr, nullptr, nullptr, ::ClassifyNone, nullptr, nullptr, nullptr, nullptr,
-                                 nullptr);
-     }},
-    {"ShowDataOptions", [](auto& d) { return d.ShowDataOptions(nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowGeoReference",
      [](auto& d) { return d.ShowGeoReference(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowCharacterSelection",

@@ -1,6 +1,7 @@
 #include "maplibrary/pages/PageFactory.h"
 
 #include "maplibrary/pages/CoordinatesPage.h"
+#include "maplibrary/pages/DataPropertiesPage.h"
 #include "maplibrary/pages/LabelPropertiesPage.h"
 #include "maplibrary/pages/LegendsPage.h"
 #include "maplibrary/pages/PropertiesPage.h"
@@ -17,6 +18,8 @@ std::unique_ptr<PropertyPage> PageFactory::CreatePage(PageKind kind, const PageS
       return std::make_unique<CoordinatesPage>(site);
     case PageKind::Legends:
       return std::make_unique<LegendsPage>(site);
+    case PageKind::DataProperties:
+      return std::make_unique<DataPropertiesPage>(site);
   }
   return nullptr;
 }

@@ -1,0 +1,103 @@
+// The interfaces of a data object over the members of automation objects.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "com/AutomationObject.h"
+#include "com/LateBound.h"
+#include "hostobjects/IData.h"
+
+namespace orx::com {
+
+class DataAdapter final : public IData {
+ public:
+  DataAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+
+  std::int32_t ClassCount() override { return mObject.GetLong("ClassCount"); }
+  /// What an object does not tell is not known.
+  std::string FileName() override { return mObject.Has("FileName") ? mObject.GetText("FileName") : std::string(); }
+  void FileName(const std::string& value) override { mObject.Put("FileName", Variant(value)); }
+  double MinimumOfData() override { return RangeEnd("MinimumOfData"); }
+  double MaximumOfData() override { return RangeEnd("MaximumOfData"); }
+
+ private:
+  double RangeEnd(const char* member) const {
+    return mObject.Has(member) ? mObject.GetDouble(member) : kUnknownRangeEnd;
+  }
+
+  LateBound mObject;
+};
+
+class ClassificationAdapter final : public IClassification {
+ public:
+  ClassificationAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+
+  std::string ValueFormat() const override { return mObject.GetText("ValueFormat"); }
+  void ValueFormat(const std::string& value) override { mObject.Put("ValueFormat", Variant(value)); }
+  bool ShowParameterName() const override { return mObject.GetBool("ShowParameterName"); }
+  void ShowParameterName(bool value) override { mObject.Put("ShowParameterName", Variant(value)); }
+  std::int32_t ClassifyMethod() const override { return mObject.GetLong("ClassifyMethod"); }
+  void ClassifyMethod(std::int32_t value) override { mObject.Put("ClassifyMethod", Variant(value)); }
+  std::int32_t NumberOfClasses() const override { return mObject.GetLong("NumberOfClasses"); }
+  void NumberOfClasses(std::int32_t value) override { mObject.Put("NumberOfClasses", Variant(value)); }
+  double MinValue() const override { return mObject.GetDouble("MinValue"); }
+  void MinValue(double value) override { mObject.Put("MinValue", Variant(value)); }
+  double MaxValue() const override { return mObject.GetDouble("MaxValue"); }
+  void MaxValue(double value) override { mObject.Put("MaxValue", Variant(value)); }
+  double StepSize() const override { return mObject.GetDouble("StepSize"); }
+  bool OutsideAsMissing() const override { return mObject.GetBool("OutsideAsMissing"); }
+  void OutsideAsMissing(bool value) override { mObject.Put("OutsideAsMissing", Variant(value)); }
+  std::int32_t LegendStyle() const override { return mObject.GetLong("LegendStyle"); }
+  void LegendStyle(std::int32_t value) override { mObject.Put("LegendStyle", Variant(value)); }
+  double FirstClassSize() const override { return mObject.GetDouble("FirstClassSize"); }
+  void FirstClassSize(double value) override { mObject.Put("FirstClassSize", Variant(value)); }
+  double LastClassSize() const override { return mObject.GetDouble("LastClassSize"); }
+  void LastClassSize(double value) override { mObject.Put("LastClassSize", Variant(value)); }
+
+ private:
+  LateBound mObject;
+};
+
+class SpecialValueAdapter final : public ISpecialValue {
+ public:
+  explicit SpecialValueAdapter(const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+
+  orx::Color Color() const override;
+  /// A colour of the system stays one as long as the same colour is put back.
+  void Color(orx::Color value) override;
+  bool Enabled() const override { return mObject.GetBool("Enabled"); }
+  void Enabled(bool value) override { mObject.Put("Enabled", Variant(value)); }
+  bool InLegend() const override { return mObject.GetBool("InLegend"); }
+  void InLegend(bool value) override { mObject.Put("InLegend", Variant(value)); }
+  double UpperBound() const override { return mObject.GetDouble("UpperBound"); }
+  void UpperBound(double value) override { mObject.Put("UpperBound", Variant(value)); }
+  double LowerBound() const override { return mObject.GetDouble("LowerBound"); }
+  void LowerBound(double value) override { mObject.Put("LowerBound", Variant(value)); }
+  std::string TextValue() const override { return mObject.GetText("TextValue"); }
+  void TextValue(const std::string& value) override { mObject.Put("TextValue", Variant(value)); }
+  bool Transparent() const override { return mObject.GetBool("Transparent"); }
+  void Transparent(bool value) override { mObject.Put("Transparent", Variant(value)); }
+
+ private:
+  LateBound mObject;
+};
+
+class DataOptionsAdapter final : public IDataOptions {
+ public:
+  DataOptionsAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+
+  ISpecialValue& MissingValue() override { return Special("MissingValue"); }
+  ISpecialValue& ZeroValue() override { return Special("ZeroValue"); }
+  ISpecialValue& NoDataValue() override { return Special("NoDataValue"); }
+
+ private:
+  ISpecialValue& Special(const char* member);
+
+  LateBound mObject;
+  /// One for each member, for the object that the host gave last.
+  std::map<std::string, std::unique_ptr<SpecialValueAdapter>> mSpecial;
+};
+
+}  // namespace orx::com
