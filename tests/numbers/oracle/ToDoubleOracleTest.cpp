@@ -107,8 +107,7 @@ bool HasTwoExponentSigns(const std::string& text) {
 /// Each reason with what it explains. The first that fits counts.
 std::vector<Difference<Reading>> ReadingDifferences() {
   return {
-      // The platform appends the digits of such groups to the number and ignores the exponent's size: 42E1,000 is
-      // 420000.
+      // The platform appends the digits of such groups to those in front of the exponent: 42E1,000 is 420000.
       {"NoGroupsInExponents",
        [](const Reading& reading) {
          const std::size_t exponent = reading.Text.find_first_of("Ee");
@@ -148,7 +147,7 @@ std::vector<Difference<Reading>> ReadingDifferences() {
       {"ExponentsWithD",
        [](const Reading& reading) { return IsSameNumberForThem(reading) && HasAny(reading.Text, "dD"); },
        Read("1D5", English())},
-      // The platform reads an amount with an exponent only when the currency sign follows the exponent at once.
+      // The platform reads an amount with an exponent only when its currency sign stands behind.
       {"CurrencyBesideAnExponent",
        [](const Reading& reading) {
          return IsSameNumberForThem(reading) && CurrencySigns(reading) == 1 && HasAny(reading.Text, "Ee");
