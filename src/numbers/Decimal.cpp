@@ -56,7 +56,7 @@ void RoundTo(Decimal& decimal, int count) {
   while (!digits.empty() && digits.back() == dropped) digits.pop_back();
   if (!up) return;
   if (digits.empty()) {
-    digits = "1";
+    digits.assign(1, '1');
     ++decimal.Exponent;
   } else {
     ++digits.back();

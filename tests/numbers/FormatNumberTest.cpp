@@ -195,12 +195,12 @@ TEST(NumbersFormatNumber, RandomBitPatternsReadBackToTheLastPlaceShown) {
 TEST(NumbersFormatNumber, RandomHalvesGoAwayFromZeroAtEveryPlace) {
   std::mt19937_64 random(5);
   for (int i = 0; i < 5'000; ++i) {
-    const std::string integer = std::to_string(random() % 100'000);
-    const std::string kept = std::to_string(100 + random() % 899);
-    const std::string half = integer + "." + kept + "5";
-    const std::string up = integer + "." + std::to_string(std::stoi(kept) + 1);
-    ASSERT_EQ(FormatNumber(std::stod(half), "0.000"), up);
-    ASSERT_EQ(FormatNumber(-std::stod(half), "0.000"), "-" + up);
+    const std::string integer = std::to_string(random() % 100'000) + ".";
+    const int kept = 100 + static_cast<int>(random() % 899);
+    const double half = std::stod(integer + std::to_string(kept * 10 + 5));
+    const std::string up = integer + std::to_string(kept + 1);
+    ASSERT_EQ(FormatNumber(half, "0.000"), up);
+    ASSERT_EQ(FormatNumber(-half, "0.000"), "-" + up);
   }
 }
 
