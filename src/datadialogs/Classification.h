@@ -11,25 +11,16 @@
 namespace orx {
 
 /// The number formats that the dialog offers, in its order.
-inline constexpr std::array<const char*, 12> kValueFormats = {"General",
-                                                              "0",
-                                                              "0.0",
-                                                              "0.00",
-                                                              "0.000",
-                                                              "0.0000",
-                                                              "0.00000",
-                                                              "0.0000000",
-                                                              "0.000000000",
-                                                              "0.0000E+000",
-                                                              "#,###,##0",
-                                                              "#,###,##0.0"};
+inline constexpr std::array<const char*, 12> kValueFormats = {"General",     "0",           "0.0",       "0.00",
+                                                              "0.000",       "0.0000",      "0.00000",   "0.0000000",
+                                                              "0.000000000", "0.0000E+000", "#,###,##0", "#,###,##0.0"};
 
 /// The index in kValueFormats of a format, whatever its letter case and the blanks around it; 0 for any other.
 int IndexOfFormat(const std::string& format);
 
 /// The settings of a data object's classification.
 struct Classification {
-  std::string ValueFormat = {};
+  std::string ValueFormat = "General";
   bool ShowParameterName = false;
   std::int32_t Method = classifymethod::kEqualIntervals;
   std::int32_t ClassCount = 0;

@@ -54,8 +54,7 @@ void SpecialValues::WriteTo(IDataOptions& options) const {
     for (; writing < Records.size(); ++writing) Records[writing].WriteTo(ValueOf(options, writing));
   } catch (...) {
     ErrorTrap trap;
-    for (std::size_t i = 0; i <= writing; ++i)
-      trap.Step([&] { before.Records[i].WriteTo(ValueOf(options, i)); });
+    for (std::size_t i = 0; i <= writing; ++i) trap.Step([&] { before.Records[i].WriteTo(ValueOf(options, i)); });
     throw;
   }
 }

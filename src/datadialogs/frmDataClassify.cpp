@@ -23,7 +23,7 @@ constexpr char kInvalidClassCount[] = "Number of classes invalid!";
 }  // namespace
 
 frmDataClassify::frmDataClassify(Desktop& desktop)
-    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {8520, 4605}}) {
+    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {8520, 5415}}) {
   cboMethod.Click = [this] {
     if (mIsBusy) return;
     mModel.Method = cboMethod.SelectedData();
@@ -67,7 +67,9 @@ void frmDataClassify::SetData(HostObject* data, double dMin, double dMax, std::i
 void frmDataClassify::Form_Load() {
   Center();
   TakeHelpNumber("_HelpLayerDataClassify");
-  if (const auto* const data = QueryKind<IClassification>(mData)) mModel.ReadFrom(*data);
+  const auto* const data = QueryKind<IClassification>(mData);
+  if (!data) return Unload();
+  mModel.ReadFrom(*data);
   mSaved = {mModel.Method, mModel.ClassCount};
   mIsDirty = false;
   cmdDefault.Visible(mDefaultMin != kUnknownRangeEnd || mDefaultMax != kUnknownRangeEnd);
@@ -92,8 +94,7 @@ void frmDataClassify::FillLists() {
   mIsBusy = false;
 }
 
-void frmDataClassify::FillList(ComboBox& box,
-                               std::initializer_list<std::pair<const char*, std::int32_t>> entries) {
+void frmDataClassify::FillList(ComboBox& box, std::initializer_list<std::pair<const char*, std::int32_t>> entries) {
   box.Clear();
   for (const auto& [text, code] : entries) box.AddItem(LanguageActive() ? Language()->TranslateText(text) : text, code);
 }
@@ -262,7 +263,7 @@ void frmDataClassify::cmdOK_Click() {
   if (!TakeFields()) return;
   OwnerDesktop().Pointer(Pointer::Hourglass);
   mModel.FitStep();
-  if (auto* const data = QueryKind<IClassification>(mData)) mIsDirty = mModel.SaveTo(*data);
+  mIsDirty = mModel.SaveTo(*QueryKind<IClassification>(mData));
   Hide();
   OwnerDesktop().Pointer(Pointer::Default);
 }

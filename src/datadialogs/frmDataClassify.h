@@ -25,22 +25,20 @@ class frmDataClassify final : public DialogForm {
  public:
   explicit frmDataClassify(Desktop& desktop);
 
-  /// Hands over the data object (used, not owned; what it does not support stays untouched), the range that "Default"
-  /// and "Auto classify" take (kUnknownRangeEnd when not known) and the flags (kMayChangeClassCount). The text is not
-  /// used. Before the form is loaded.
+  /// Hands over the data object (used, not owned; without a classification the form unloads itself as it loads), the
+  /// range that "Default" and "Auto classify" take (kUnknownRangeEnd when not known) and the flags
+  /// (kMayChangeClassCount). The text is not used. Before the form is loaded.
   void SetData(HostObject* data, double dMin, double dMax, std::int32_t flags, const std::string& text);
   /// True when OK has written changed settings.
   bool IsDirty() const { return mIsDirty; }
 
-  Frame fraData[5]{
-      {*this, "fraData(0)", {.Caption = "Classification method", .Place = {120, 120, 4080, 1170}}},
-      {*this, "fraData(1)", {.Caption = "Value format", .Place = {4320, 120, 4080, 1170}}},
-      {*this, "fraData(2)", {.Caption = "Range properties", .Place = {120, 1410, 4080, 2550}}},
-      {*this, "fraData(3)", {.Caption = "Range format", .Place = {4320, 1410, 4080, 840}}},
-      {*this, "fraData(4)", {.Caption = "Size properties (pixels)", .Place = {4320, 2370, 4080, 1590}}}};
+  Frame fraData[5]{{*this, "fraData(0)", {.Caption = "Classification method", .Place = {120, 120, 4080, 1170}}},
+                   {*this, "fraData(1)", {.Caption = "Value format", .Place = {4320, 120, 4080, 1170}}},
+                   {*this, "fraData(2)", {.Caption = "Range properties", .Place = {120, 1410, 8280, 2100}}},
+                   {*this, "fraData(3)", {.Caption = "Range format", .Place = {120, 3630, 4080, 1170}}},
+                   {*this, "fraData(4)", {.Caption = "Size properties (pixels)", .Place = {4320, 3630, 4080, 1170}}}};
 
-  ComboBox cboMethod{
-      fraData[0], "cboMethod", {.Place = {150, 300, 3780, 330}}};
+  ComboBox cboMethod{fraData[0], "cboMethod", {.Place = {150, 300, 3780, 330}}};
   CheckBox chkAutoClassify{fraData[0], "chkAutoClassify", {.Caption = "Auto classify", .Place = {150, 750, 3780, 300}}};
 
   Label lblClassify3{fraData[2], "lblClassify(3)", {.Caption = "Minimum", .Place = {150, 360, 1830, 240}}};
@@ -49,32 +47,29 @@ class frmDataClassify final : public DialogForm {
   TextBox txtMax{fraData[2], "txtMax", {.Place = {2070, 720, 1860, 330}}};
   Label lblClassify0{fraData[2], "lblClassify(0)", {.Caption = "Step size", .Place = {150, 1200, 1830, 240}}};
   TextBox txtStep{fraData[2], "txtStep", {.Place = {2070, 1140, 1860, 330}}};
-  Label lblClassify1{fraData[2], "lblClassify(1)", {.Caption = "Classes", .Place = {150, 1620, 1830, 240}}};
-  ComboBox cboClasses{fraData[2], "cboClasses", {.Place = {2070, 1560, 1860, 330}}, ComboStyle::Editable};
+  Label lblClassify1{fraData[2], "lblClassify(1)", {.Caption = "Classes", .Place = {4350, 360, 1830, 240}}};
+  ComboBox cboClasses{fraData[2], "cboClasses", {.Place = {6270, 300, 1860, 330}}, ComboStyle::Editable};
   CheckBox chkClassiffyAsMissing{
       fraData[2],
       "chkClassiffyAsMissing",
-      {.Caption = "Classify values outside range as missing", .Place = {150, 2070, 3780, 300}}};
+      {.Caption = "Classify values outside range as missing", .Place = {150, 1650, 7980, 300}}};
 
   ComboBox cboFormat{fraData[1], "cboFormat", {.Place = {150, 300, 3780, 330}}};
   CheckBox chkSeriesInLegend{
       fraData[1], "chkSeriesInLegend", {.Caption = "Show parameter name in legend", .Place = {150, 750, 3780, 300}}};
 
-  ComboBox cboRangeFormat{
-      fraData[3], "cboRangeFormat", {.Place = {150, 330, 3780, 330}}};
+  ComboBox cboRangeFormat{fraData[3], "cboRangeFormat", {.Place = {150, 330, 3780, 330}}};
 
-  Label lblClassify2{fraData[4], "lblClassify(2)", {.Caption = "Size first class", .Place = {150, 420, 2430, 240}}};
-  TextBox txtSizeFirst{fraData[4], "txtSizeFirst", {.Place = {2670, 360, 1260, 330}}};
-  Label lblClassify5{fraData[4], "lblClassify(5)", {.Caption = "Size last class", .Place = {150, 900, 2430, 240}}};
-  TextBox txtSizeLast{fraData[4], "txtSizeLast", {.Place = {2670, 840, 1260, 330}}};
+  Label lblClassify2{fraData[4], "lblClassify(2)", {.Caption = "Size first class", .Place = {150, 330, 2430, 240}}};
+  TextBox txtSizeFirst{fraData[4], "txtSizeFirst", {.Place = {2670, 270, 1260, 330}}};
+  Label lblClassify5{fraData[4], "lblClassify(5)", {.Caption = "Size last class", .Place = {150, 750, 2430, 240}}};
+  TextBox txtSizeLast{fraData[4], "txtSizeLast", {.Place = {2670, 690, 1260, 330}}};
 
-  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 4110, 1500, 375}, .Pinned = true}};
+  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 4920, 1500, 375}, .Pinned = true}};
   Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {5295, 4110, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{*this,
-                   "cmdCancel",
-                   {.Caption = "&Cancel", .Place = {6900, 4110, 1500, 375}, .Pinned = true},
-                   ButtonRole::Cancel};
+      *this, "cmdOK", {.Caption = "&OK", .Place = {5295, 4920, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+  Button cmdCancel{
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {6900, 4920, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
 
  protected:
   void Form_Load() override;

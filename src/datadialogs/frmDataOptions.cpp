@@ -84,14 +84,14 @@ void frmDataOptions::ShowOne(int index) {
   mIsBusy = false;
 }
 
-void frmDataOptions::Switch(int index, bool SpecialValueRecord::* field, const CheckBox& box) {
+void frmDataOptions::Switch(int index, bool SpecialValueRecord::*field, const CheckBox& box) {
   if (mIsBusy || Record(index).*field == box.IsChecked()) return;
   Record(index).*field = box.IsChecked();
   ShowRecord(index);
   mIsDirty = true;
 }
 
-void frmDataOptions::TakeBound(int index, double SpecialValueRecord::* field, const ShownNumber& text) {
+void frmDataOptions::TakeBound(int index, double SpecialValueRecord::*field, const ShownNumber& text) {
   if (mIsBusy) return;
   const std::optional<double> value = text.Value();
   if (!value) return;

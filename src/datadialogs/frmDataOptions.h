@@ -79,10 +79,8 @@ class frmDataOptions final : public DialogForm {
   Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 5370, 1500, 375}, .Pinned = true}};
   Button cmdOK{
       *this, "cmdOK", {.Caption = "&OK", .Place = {2955, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{*this,
-                   "cmdCancel",
-                   {.Caption = "&Cancel", .Place = {4560, 5370, 1500, 375}, .Pinned = true},
-                   ButtonRole::Cancel};
+  Button cmdCancel{
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4560, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
 
   /// Shows one record, by index from 0, or all three with -1. Another index throws std::out_of_range.
   void ShowRecord(int index);
@@ -106,8 +104,8 @@ class frmDataOptions final : public DialogForm {
   void HandleEvents(int index);
   SpecialValueRecord& Record(int index) { return mValues.Records.at(static_cast<std::size_t>(index)); }
   void ShowOne(int index);
-  void Switch(int index, bool SpecialValueRecord::* field, const CheckBox& box);
-  void TakeBound(int index, double SpecialValueRecord::* field, const ShownNumber& text);
+  void Switch(int index, bool SpecialValueRecord::*field, const CheckBox& box);
+  void TakeBound(int index, double SpecialValueRecord::*field, const ShownNumber& text);
   void pctColor_Click(int index);
   void cmdDefault_Click();
   void cmdOK_Click();

@@ -1,5 +1,5 @@
-// The window for colour schemes: a list of schemes, four tools and five basic colours. It shows the layout only; nothing
-// but OK and Cancel acts.
+// The window for colour schemes: a list of schemes, four tools and five basic colours. It shows the layout only;
+// nothing but OK and Cancel acts.
 #pragma once
 
 #include "forms/Button.h"
@@ -41,12 +41,12 @@ class frmManageColors final : public DialogForm {
 
   Frame fraBasicColor{*this, "fraBasicColor", {.Caption = " &Basic Colors ", .Place = {3780, 60, 2340, 2940}}};
   /// The markers of the chosen colours, each beside its box.
-  PictureBox CheckColor[5]{
-      {fraBasicColor, "CheckColor(1)", {.Place = MarkPlace(0)}, kGround},
-      {fraBasicColor, "CheckColor(2)", {.Place = MarkPlace(1)}, kGround},
-      {fraBasicColor, "CheckColor(3)", {.Place = MarkPlace(2)}, kGround},
-      {fraBasicColor, "CheckColor(4)", {.Place = MarkPlace(3)}, kGround},
-      {fraBasicColor, "CheckColor(5)", {.Place = MarkPlace(4)}, kGround},
+  Label CheckColor[5]{
+      {fraBasicColor, "CheckColor(1)", {.Caption = kMarker, .Place = MarkPlace(0)}},
+      {fraBasicColor, "CheckColor(2)", {.Caption = kMarker, .Place = MarkPlace(1)}},
+      {fraBasicColor, "CheckColor(3)", {.Caption = kMarker, .Place = MarkPlace(2)}},
+      {fraBasicColor, "CheckColor(4)", {.Caption = kMarker, .Place = MarkPlace(3)}},
+      {fraBasicColor, "CheckColor(5)", {.Caption = kMarker, .Place = MarkPlace(4)}},
   };
   PictureBox BasicColor[5]{
       {fraBasicColor, "BasicColor(1)", {.Place = ColorPlace(0)}, {192, 0, 0}},
@@ -57,17 +57,16 @@ class frmManageColors final : public DialogForm {
   };
   Button cmdOK{
       *this, "cmdOK", {.Caption = "&OK", .Place = {3015, 3150, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{*this,
-                   "cmdCancel",
-                   {.Caption = "&Cancel", .Place = {4620, 3150, 1500, 375}, .Pinned = true},
-                   ButtonRole::Cancel};
+  Button cmdCancel{
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4620, 3150, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
 
  protected:
   void Form_Load() override;
 
  private:
-  static constexpr Color kGround{240, 240, 240};
-  static constexpr Rect MarkPlace(int row) { return {180, 390 + 495 * row, 300, 300}; }
+  /// A circle that is not filled.
+  static constexpr const char* kMarker = "\xE2\x97\x8B";
+  static constexpr Rect MarkPlace(int row) { return {210, 420 + 495 * row, 300, 240}; }
   static constexpr Rect ColorPlace(int row) { return {600, 360 + 495 * row, 1560, 360}; }
 
   bool mCanceled = false;

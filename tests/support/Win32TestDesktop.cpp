@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <colordlg.h>
 #include <commctrl.h>
 #include <dlgs.h>
 
