@@ -23,7 +23,7 @@ constexpr char kInvalidClassCount[] = "Number of classes invalid!";
 }  // namespace
 
 frmDataClassify::frmDataClassify(Desktop& desktop)
-    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {8520, 5415}}) {
+    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {7200, 6675}}) {
   cboMethod.Click = [this] {
     if (mIsBusy) return;
     mModel.Method = cboMethod.SelectedData();

@@ -32,44 +32,45 @@ class frmDataClassify final : public DialogForm {
   /// True when OK has written changed settings.
   bool IsDirty() const { return mIsDirty; }
 
-  Frame fraData[5]{{*this, "fraData(0)", {.Caption = "Classification method", .Place = {120, 120, 4080, 1170}}},
-                   {*this, "fraData(1)", {.Caption = "Value format", .Place = {4320, 120, 4080, 1170}}},
-                   {*this, "fraData(2)", {.Caption = "Range properties", .Place = {120, 1410, 8280, 2100}}},
-                   {*this, "fraData(3)", {.Caption = "Range format", .Place = {120, 3630, 4080, 1170}}},
-                   {*this, "fraData(4)", {.Caption = "Size properties (pixels)", .Place = {4320, 3630, 4080, 1170}}}};
+  Frame fraData[5]{{*this, "fraData(0)", {.Caption = "Classification method", .Place = {120, 120, 6960, 840}}},
+                   {*this, "fraData(1)", {.Caption = "Value format", .Place = {120, 1080, 6960, 840}}},
+                   {*this, "fraData(2)", {.Caption = "Range properties", .Place = {120, 2040, 6960, 2100}}},
+                   {*this, "fraData(3)", {.Caption = "Range format", .Place = {120, 4260, 6960, 840}}},
+                   {*this, "fraData(4)", {.Caption = "Size properties (pixels)", .Place = {120, 5220, 6960, 840}}}};
 
-  ComboBox cboMethod{fraData[0], "cboMethod", {.Place = {150, 300, 3780, 330}}};
-  CheckBox chkAutoClassify{fraData[0], "chkAutoClassify", {.Caption = "Auto classify", .Place = {150, 750, 3780, 300}}};
+  ComboBox cboMethod{fraData[0], "cboMethod", {.Place = {150, 330, 3330, 330}}};
+  CheckBox chkAutoClassify{
+      fraData[0], "chkAutoClassify", {.Caption = "Auto classify", .Place = {3660, 345, 3150, 300}}};
 
-  Label lblClassify3{fraData[2], "lblClassify(3)", {.Caption = "Minimum", .Place = {150, 360, 1830, 240}}};
-  TextBox txtMin{fraData[2], "txtMin", {.Place = {2070, 300, 1860, 330}}};
-  Label lblClassify4{fraData[2], "lblClassify(4)", {.Caption = "Maximum", .Place = {150, 780, 1830, 240}}};
-  TextBox txtMax{fraData[2], "txtMax", {.Place = {2070, 720, 1860, 330}}};
-  Label lblClassify0{fraData[2], "lblClassify(0)", {.Caption = "Step size", .Place = {150, 1200, 1830, 240}}};
-  TextBox txtStep{fraData[2], "txtStep", {.Place = {2070, 1140, 1860, 330}}};
-  Label lblClassify1{fraData[2], "lblClassify(1)", {.Caption = "Classes", .Place = {4350, 360, 1830, 240}}};
-  ComboBox cboClasses{fraData[2], "cboClasses", {.Place = {6270, 300, 1860, 330}}, ComboStyle::Editable};
+  Label lblClassify3{fraData[2], "lblClassify(3)", {.Caption = "Minimum", .Place = {150, 360, 1500, 240}}};
+  TextBox txtMin{fraData[2], "txtMin", {.Place = {1740, 300, 1740, 330}}};
+  Label lblClassify4{fraData[2], "lblClassify(4)", {.Caption = "Maximum", .Place = {150, 780, 1500, 240}}};
+  TextBox txtMax{fraData[2], "txtMax", {.Place = {1740, 720, 1740, 330}}};
+  Label lblClassify0{fraData[2], "lblClassify(0)", {.Caption = "Step size", .Place = {150, 1200, 1500, 240}}};
+  TextBox txtStep{fraData[2], "txtStep", {.Place = {1740, 1140, 1740, 330}}};
+  Label lblClassify1{fraData[2], "lblClassify(1)", {.Caption = "Classes", .Place = {3660, 360, 1500, 240}}};
+  ComboBox cboClasses{fraData[2], "cboClasses", {.Place = {5250, 300, 1560, 330}}, ComboStyle::Editable};
   CheckBox chkClassiffyAsMissing{
       fraData[2],
       "chkClassiffyAsMissing",
-      {.Caption = "Classify values outside range as missing", .Place = {150, 1650, 7980, 300}}};
+      {.Caption = "Classify values outside range as missing", .Place = {150, 1650, 6660, 300}}};
 
-  ComboBox cboFormat{fraData[1], "cboFormat", {.Place = {150, 300, 3780, 330}}};
+  ComboBox cboFormat{fraData[1], "cboFormat", {.Place = {150, 330, 2010, 330}}};
   CheckBox chkSeriesInLegend{
-      fraData[1], "chkSeriesInLegend", {.Caption = "Show parameter name in legend", .Place = {150, 750, 3780, 300}}};
+      fraData[1], "chkSeriesInLegend", {.Caption = "Show parameter name in legend", .Place = {2310, 345, 4500, 300}}};
 
-  ComboBox cboRangeFormat{fraData[3], "cboRangeFormat", {.Place = {150, 330, 3780, 330}}};
+  ComboBox cboRangeFormat{fraData[3], "cboRangeFormat", {.Place = {150, 330, 4500, 330}}};
 
-  Label lblClassify2{fraData[4], "lblClassify(2)", {.Caption = "Size first class", .Place = {150, 330, 2430, 240}}};
-  TextBox txtSizeFirst{fraData[4], "txtSizeFirst", {.Place = {2670, 270, 1260, 330}}};
-  Label lblClassify5{fraData[4], "lblClassify(5)", {.Caption = "Size last class", .Place = {150, 750, 2430, 240}}};
-  TextBox txtSizeLast{fraData[4], "txtSizeLast", {.Place = {2670, 690, 1260, 330}}};
+  Label lblClassify2{fraData[4], "lblClassify(2)", {.Caption = "Size first class", .Place = {150, 390, 2280, 240}}};
+  TextBox txtSizeFirst{fraData[4], "txtSizeFirst", {.Place = {2490, 330, 840, 330}}};
+  Label lblClassify5{fraData[4], "lblClassify(5)", {.Caption = "Size last class", .Place = {3660, 390, 2250, 240}}};
+  TextBox txtSizeLast{fraData[4], "txtSizeLast", {.Place = {5970, 330, 840, 330}}};
 
-  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 4920, 1500, 375}, .Pinned = true}};
+  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 6180, 1500, 375}, .Pinned = true}};
   Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {5295, 4920, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+      *this, "cmdOK", {.Caption = "&OK", .Place = {3975, 6180, 1500, 375}, .Pinned = true}, ButtonRole::Default};
   Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {6900, 4920, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5580, 6180, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
 
  protected:
   void Form_Load() override;

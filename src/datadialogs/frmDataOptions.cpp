@@ -21,7 +21,7 @@ void DrawEdge(PictureBox& box) {
 }  // namespace
 
 frmDataOptions::frmDataOptions(Desktop& desktop)
-    : DialogForm(desktop, "frmDataOptions", {.Caption = "Data Options", .Client = {6180, 5865}}) {
+    : DialogForm(desktop, "frmDataOptions", {.Caption = "Data Options", .Client = {6690, 5865}}) {
   for (int i = 0; i < kSpecialKinds; ++i) HandleEvents(i);
   cmdDefault.Click = [this] { cmdDefault_Click(); };
   cmdOK.Click = [this] { cmdOK_Click(); };

@@ -26,9 +26,9 @@ class frmDataOptions final : public DialogForm {
   /// True when the user has edited something and OK has written it.
   bool IsDirty() const { return mIsDirty; }
 
-  Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 90, 5940, 1650}}};
-  Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1830, 5940, 1650}}};
-  Frame fraNoData{*this, "fraNoData", {.Place = {120, 3570, 5940, 1650}}};
+  Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 90, 6450, 1650}}};
+  Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1830, 6450, 1650}}};
+  Frame fraNoData{*this, "fraNoData", {.Place = {120, 3570, 6450, 1650}}};
 
   CheckBox chkEnabled[kSpecialKinds]{
       {fraMissVal, "chkEnabled(0)", {.Caption = "Missing Value", .Place = kTitle}},
@@ -78,9 +78,9 @@ class frmDataOptions final : public DialogForm {
   };
   Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 5370, 1500, 375}, .Pinned = true}};
   Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {2955, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+      *this, "cmdOK", {.Caption = "&OK", .Place = {3465, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Default};
   Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4560, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5070, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
 
   /// Shows one record, by index from 0, or all three with -1. Another index throws std::out_of_range.
   void ShowRecord(int index);
@@ -91,15 +91,15 @@ class frmDataOptions final : public DialogForm {
 
  private:
   // Places in each of the three frames.
-  static constexpr Rect kTitle{150, 150, 5640, 300};
-  static constexpr Rect kMinLabel{420, 570, 1470, 240};
-  static constexpr Rect kMinField{1950, 510, 1380, 330};
-  static constexpr Rect kMaxLabel{420, 1020, 1470, 240};
-  static constexpr Rect kMaxField{1950, 960, 1380, 330};
-  static constexpr Rect kColorLabel{3570, 1170, 930, 240};
-  static constexpr Rect kColorBox{4560, 1110, 1230, 360};
-  static constexpr Rect kInLegend{3570, 450, 2220, 300};
-  static constexpr Rect kTransparent{3570, 780, 2220, 300};
+  static constexpr Rect kTitle{150, 150, 6150, 300};
+  static constexpr Rect kMinLabel{420, 570, 1680, 240};
+  static constexpr Rect kMinField{2160, 510, 1320, 330};
+  static constexpr Rect kMaxLabel{420, 1020, 1680, 240};
+  static constexpr Rect kMaxField{2160, 960, 1320, 330};
+  static constexpr Rect kColorLabel{3720, 1170, 1050, 240};
+  static constexpr Rect kColorBox{4830, 1110, 1380, 360};
+  static constexpr Rect kInLegend{3720, 450, 2580, 300};
+  static constexpr Rect kTransparent{3720, 780, 2580, 300};
 
   void HandleEvents(int index);
   SpecialValueRecord& Record(int index) { return mValues.Records.at(static_cast<std::size_t>(index)); }

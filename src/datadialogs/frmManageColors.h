@@ -64,9 +64,9 @@ class frmManageColors final : public DialogForm {
   void Form_Load() override;
 
  private:
-  /// A circle that is not filled.
-  static constexpr const char* kMarker = "\xE2\x97\x8B";
-  static constexpr Rect MarkPlace(int row) { return {210, 420 + 495 * row, 300, 240}; }
+  /// A bullet.
+  static constexpr const char* kMarker = "\xE2\x80\xA2";
+  static constexpr Rect MarkPlace(int row) { return {180, 420 + 495 * row, 390, 240}; }
   static constexpr Rect ColorPlace(int row) { return {600, 360 + 495 * row, 1560, 360}; }
 
   bool mCanceled = false;

@@ -36,6 +36,7 @@ Color PictureBox::ShownBackColor() const {
 }
 
 void PictureBox::UserClick() {
+  if (!TakesFocus()) return;
   OwnerForm().UserAct([this] {
     if (OwnerForm().MoveFocus(*this)) Click.Raise();
   });

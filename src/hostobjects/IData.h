@@ -31,16 +31,23 @@ class IData {
 
 /// How classes are made. The numbers are those of the host's own enumeration; it may have more.
 namespace classifymethod {
+/// Classes of one width that fill the range.
 inline constexpr std::int32_t kEqualIntervals = 0;
+/// Made by the host without the user.
 inline constexpr std::int32_t kAutomatic = 1;
+/// Classes of a given width; the end of the range follows.
 inline constexpr std::int32_t kEqualSteps = 6;
+/// Made by the user, as far as the host lets him.
 inline constexpr std::int32_t kUserDefined = 7;
 }  // namespace classifymethod
 
 /// What tells the classes apart.
 namespace legendstyle {
+/// Their colours.
 inline constexpr std::int32_t kByColor = 0;
+/// Their colours and the sizes of their symbols.
 inline constexpr std::int32_t kByColorAndSize = 1;
+/// The sizes of their symbols.
 inline constexpr std::int32_t kBySize = 2;
 }  // namespace legendstyle
 

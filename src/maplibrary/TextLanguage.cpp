@@ -92,7 +92,10 @@ std::string TextLanguage::ReadLine(std::string_view line) {
 }
 
 std::string TextLanguage::TranslateText(const std::string& key) {
-  if (const auto found = mTexts.find(key); found != mTexts.end()) return found->second;
+  // A file cannot hold the blanks that some captions stand between; they stay around the text.
+  const std::string_view bare = Trimmed(key);
+  if (const auto found = mTexts.find(std::string(bare)); found != mTexts.end())
+    return std::string(key).replace(key.find(bare), bare.size(), found->second);
   return key.starts_with('_') ? std::string() : key;
 }
 

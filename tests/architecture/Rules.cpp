@@ -13,7 +13,7 @@ const std::vector<std::vector<std::string>> kFloors = {
     {"numbers/"},
     {"forms/"},
     {"hostobjects/"},
-    {"service/modDialog.*", "service/modMain.*", "service/DialogForm.*"},
+    {"service/modDialog.*", "service/modMain.*", "service/DialogForm.*", "service/Glyphs.*"},
     {"pickers/", "datadialogs/", "griddialogs/"},
     {"service/modMain*"},
     {"propertydialogs/"},

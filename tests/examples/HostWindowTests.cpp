@@ -1,6 +1,8 @@
 // The demo host as its user works with it: dialogs from its buttons, the map redrawn behind them, results, languages.
 #include "examples/maphost/HostWindow.h"
 
+#include <algorithm>
+
 #include "maplibrary/MapText.h"
 #include "maplibrary/SampleMap.h"
 #include "tests/files/FilesTest.h"
@@ -80,6 +82,68 @@ TEST_F(ExamplesHost, ARenamedLayerIsListedUnderItsNewName) {
   });
   user.Click(window->cmdProperties);
   EXPECT_EQ("Hills", user.See(window->cboLayer).Text);
+}
+
+TEST_F(ExamplesHost, TheMapIsRedrawnInTheClassesThatTheUserSets) {
+  const std::vector<Mark> before = Drawn();
+  script.ExpectForm("frmDataClassify", [&](Form& shown) {
+    EXPECT_TRUE(Get<CheckBox>(shown, "chkAutoClassify").IsChecked());
+    EXPECT_EQ("236", user.See(Get<TextBox>(shown, "txtMin")).Text);
+    user.Toggle(Get<CheckBox>(shown, "chkAutoClassify"));
+    user.Type(Get<ComboBox>(shown, "cboClasses"), "5");
+    user.Choose(Get<ComboBox>(shown, "cboFormat"), 2);
+    Press(user, shown, "cmdOK");
+  });
+  Press(user, *window, "cmdClassify");
+  EXPECT_EQ("Classification of Terrain: changed (-1)", LastLine());
+  EXPECT_NE(before, Drawn());
+  const auto says = [&](const std::string& text) {
+    return std::ranges::any_of(Drawn(), [&](const Mark& mark) {
+      const auto* const words = std::get_if<TextMark>(&mark);
+      return words && words->Text == text;
+    });
+  };
+  EXPECT_TRUE(says("236.0 – 404.0"));
+  EXPECT_TRUE(says("908.0 – 1076.0"));
+}
+
+TEST_F(ExamplesHost, SpecialValuesAreDrawnAsSet) {
+  const std::vector<Mark> before = Drawn();
+  script.ExpectForm("frmDataOptions", [&](Form& shown) {
+    user.Toggle(Get<CheckBox>(shown, "chkEnabled(0)"));
+    user.Type(Get<TextBox>(shown, "txtMinValue(0)"), "300");
+    user.Type(Get<TextBox>(shown, "txtMaxValue(0)"), "350");
+    Press(user, shown, "cmdOK");
+  });
+  Press(user, *window, "cmdOptions");
+  EXPECT_EQ("Data options of Terrain: changed (-1)", LastLine());
+  EXPECT_NE(before, Drawn());
+}
+
+TEST_F(ExamplesHost, OKUntouchedInTheDialogsOfTheDataLeavesEveryBitOfTheMap) {
+  const std::string before = maplibrary::Serialise(*map);
+  for (const auto& [button, form] : {std::pair{"cmdClassify", "frmDataClassify"}, {"cmdOptions", "frmDataOptions"}}) {
+    script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
+    Press(user, *window, button);
+    EXPECT_TRUE(LastLine().ends_with("not changed (0)")) << LastLine();
+    EXPECT_EQ(before, maplibrary::Serialise(*map)) << form;
+  }
+}
+
+TEST_F(ExamplesHost, LayersWithoutDataHaveNoClasses) {
+  for (const int entry : {0, 2}) {
+    user.Choose(window->cboLayer, entry);
+    EXPECT_FALSE(user.See(window->cmdClassify).Enabled) << entry;
+    EXPECT_FALSE(user.See(window->cmdOptions).Enabled) << entry;
+  }
+  user.Choose(window->cboLayer, 3);
+  EXPECT_TRUE(user.See(window->cmdClassify).Enabled);
+}
+
+TEST_F(ExamplesHost, TheColorSchemesOpen) {
+  script.ExpectForm("frmManageColors", [&](Form& shown) { Press(user, shown, "cmdOK"); });
+  Press(user, *window, "cmdColors");
+  EXPECT_EQ("Color schemes: closed", LastLine());
 }
 
 TEST_F(ExamplesHost, TheWholeMapHasCoordinatesAndLegendsOnly) {

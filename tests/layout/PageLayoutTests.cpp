@@ -1,8 +1,10 @@
 // The dialogs of the map library's pages show all their text, in every language and at every resolution.
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
+#include "service/modMainDialogs.h"
 #include "tests/layout/LayoutCheck.h"
 #include "tests/maplibrary/pages/PagesTest.h"
+#include "tests/support/RecordedData.h"
 
 namespace orx::test {
 namespace {
@@ -23,17 +25,26 @@ class PageLayout : public PagesTest {
     service.ShowCoordinates(&layer);
     InDialog("frmLegend", look);
     service.ShowLegends(&legends);
-    std::string found;
-    bool cancelAll = false;
-    script.ExpectForm("frmMsgBox", [this](Form& shown) {
+    const auto lookAt = [this](Form& shown) {
       EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(shown));
       user.CloseBox(shown);
-    });
+    };
+    script.ExpectForm("frmDataClassify", lookAt);
+    bool isDirty = false;
+    service.ShowDataClassify(&data, 0, 1, 0, isDirty);
+    script.ExpectForm("frmDataOptions", lookAt);
+    service.ShowDataOptions(&data);
+    script.ExpectForm("frmManageColors", lookAt);
+    modMain::ShowColorsDialog(desktop(), language);
+    std::string found;
+    bool cancelAll = false;
+    script.ExpectForm("frmMsgBox", lookAt);
     service.ShowDataFileNotFound("/a long path/with many folders/and & signs/that leads to/missing.vkr", found,
                                  cancelAll);
   }
 
   RecordedLegends legends;
+  RecordedData data;
 };
 
 TEST_F(PageLayout, NothingIsCutOffInEnglish) {
@@ -54,6 +65,17 @@ TEST_F(PageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {
   const auto page = MakePage(PageKind::Properties);
   page->Page->CharacterRequested = [](CharacterRequest&) {};
   page->Page->Client(&layer);
+  page->Page->RefreshContents();
+  maplibrary::PseudoLanguage().TranslateForm(*page);
+  page->Show(ShowMode::Modeless);
+  EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*page));
+  page->Unload();
+}
+
+TEST_F(PageLayout, NothingIsCutOffOnThePageOfTheData) {
+  const auto page = MakePage(PageKind::DataProperties);
+  HandleAllRequests(*page->Page);
+  page->Page->Client(&data);
   page->Page->RefreshContents();
   maplibrary::PseudoLanguage().TranslateForm(*page);
   page->Show(ShowMode::Modeless);

@@ -61,6 +61,39 @@ std::vector<Change> LayerChanges(const std::function<MapLayer&(Map&)>& layer) {
           {"Top", with([](MapLayer& l) { l.Top(Next(l.Top())); })}};
 }
 
+/// Changes of a kind of special values.
+std::vector<Change> SpecialChanges(const std::string& name, SpecialValue& (LayerData::*kind)()) {
+  std::vector<Change> changes;
+  const auto add = [&](auto action) {
+    changes.push_back({name.c_str(), [=](Map& map) {
+                         auto& data = *dynamic_cast<Layer&>(*map.Layer(1)).Data();
+                         action((data.*kind)());
+                       }});
+  };
+  add([](SpecialValue& v) { v.Color({255, 255, 193}); });
+  add([](SpecialValue& v) { v.Enabled(!v.Enabled()); });
+  add([](SpecialValue& v) { v.InLegend(true); });
+  add([](SpecialValue& v) { v.UpperBound(Next(v.UpperBound())); });
+  add([](SpecialValue& v) { v.LowerBound(Next(v.LowerBound())); });
+  add([](SpecialValue& v) { v.TextValue("x"); });
+  add([](SpecialValue& v) { v.Transparent(false); });
+  return changes;
+}
+
+std::vector<Change> DataChanges() {
+  const auto with = [](auto action) { return [=](Map& map) { action(*dynamic_cast<Layer&>(*map.Layer(1)).Data()); }; };
+  return {{"ValueFormat", with([](LayerData& d) { d.ValueFormat("0"); })},
+          {"ShowParameterName", with([](LayerData& d) { d.ShowParameterName(true); })},
+          {"ClassifyMethod", with([](LayerData& d) { d.ClassifyMethod(7); })},
+          {"NumberOfClasses", with([](LayerData& d) { d.NumberOfClasses(11); })},
+          {"MinValue", with([](LayerData& d) { d.MinValue(Next(d.MinValue())); })},
+          {"MaxValue", with([](LayerData& d) { d.MaxValue(Next(d.MaxValue())); })},
+          {"OutsideAsMissing", with([](LayerData& d) { d.OutsideAsMissing(true); })},
+          {"LegendStyle", with([](LayerData& d) { d.LegendStyle(2); })},
+          {"FirstClassSize", with([](LayerData& d) { d.FirstClassSize(Next(d.FirstClassSize())); })},
+          {"LastClassSize", with([](LayerData& d) { d.LastClassSize(Next(d.LastClassSize())); })}};
+}
+
 std::vector<Change> MapChanges() {
   return {{"map name", [](Map& m) { m.Name("Other"); }},
           {"map left", [](Map& m) { m.Extent()->Left(Next(m.Extent()->Left())); }},
@@ -98,6 +131,13 @@ TEST(MapLibraryMapText, EachSettingOfMapAndLegendsShows) {
 
 TEST(MapLibraryMapText, EachSettingOfALayerShows) {
   ExpectThatEachChangeShows(LayerChanges([](Map& map) -> MapLayer& { return *map.Layer(1); }));
+}
+
+TEST(MapLibraryMapText, EachSettingOfTheDataShows) {
+  ExpectThatEachChangeShows(DataChanges());
+  ExpectThatEachChangeShows(SpecialChanges("MissingValue", &LayerData::MissingValue));
+  ExpectThatEachChangeShows(SpecialChanges("ZeroValue", &LayerData::ZeroValue));
+  ExpectThatEachChangeShows(SpecialChanges("NoDataValue", &LayerData::NoDataValue));
 }
 
 TEST(MapLibraryMapText, EachSettingOfATiledLayerShows) {

@@ -25,14 +25,14 @@ class DataPropertiesPage final : public PageBase {
   Button cmdBrowse{Surface, "cmdBrowse", {.Caption = "&Browse...", .Place = {4680, 90, 1335, 375}, .Visible = false}};
 
   Frame fraClasses{Surface, "fraClasses", {.Caption = "Classification", .Place = {120, 600, 5895, 2040}}};
-  Label lblMethod{fraClasses, "lblMethod", {.Caption = "Method:", .Place = {150, 360, 1500, 240}}};
-  TextBox txtMethod{fraClasses, "txtMethod", {.Place = {1740, 300, 2580, 330}}, TextLines::Single, true};
-  Label lblRange{fraClasses, "lblRange", {.Caption = "Range:", .Place = {150, 780, 1500, 240}}};
-  TextBox txtRange{fraClasses, "txtRange", {.Place = {1740, 720, 2580, 330}}, TextLines::Single, true};
-  Label lblCount{fraClasses, "lblCount", {.Caption = "Classes:", .Place = {150, 1200, 1500, 240}}};
-  TextBox txtCount{fraClasses, "txtCount", {.Place = {1740, 1140, 2580, 330}}, TextLines::Single, true};
-  Label lblFormat{fraClasses, "lblFormat", {.Caption = "Value format:", .Place = {150, 1620, 1500, 240}}};
-  TextBox txtFormat{fraClasses, "txtFormat", {.Place = {1740, 1560, 2580, 330}}, TextLines::Single, true};
+  Label lblMethod{fraClasses, "lblMethod", {.Caption = "Method:", .Place = {150, 360, 1740, 240}}};
+  TextBox txtMethod{fraClasses, "txtMethod", {.Place = {1950, 300, 2370, 330}}, TextLines::Single, true};
+  Label lblRange{fraClasses, "lblRange", {.Caption = "Range:", .Place = {150, 780, 1740, 240}}};
+  TextBox txtRange{fraClasses, "txtRange", {.Place = {1950, 720, 2370, 330}}, TextLines::Single, true};
+  Label lblCount{fraClasses, "lblCount", {.Caption = "Classes:", .Place = {150, 1200, 1740, 240}}};
+  TextBox txtCount{fraClasses, "txtCount", {.Place = {1950, 1140, 2370, 330}}, TextLines::Single, true};
+  Label lblFormat{fraClasses, "lblFormat", {.Caption = "Value format:", .Place = {150, 1620, 1740, 240}}};
+  TextBox txtFormat{fraClasses, "txtFormat", {.Place = {1950, 1560, 2370, 330}}, TextLines::Single, true};
   Button cmdClassify{
       fraClasses, "cmdClassify", {.Caption = "C&lassify...", .Place = {4410, 270, 1335, 375}, .Visible = false}};
 

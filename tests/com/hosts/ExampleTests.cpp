@@ -83,6 +83,20 @@ TEST_F(Examples, AScriptIsGivenTheChosenFilesInItsVariables) {
                                  "\r\nMissing: \"\" True\r\nDONE\r\n");
 }
 
+TEST_F(Examples, AScriptEditsTheClassesAndSpecialValuesOfItsData) {
+  Program script(Script(L"data.vbs"));
+  const HWND classes = script.WaitForWindow(L"Data Classify");
+  ASSERT_TRUE(classes) << script.Output();
+  Click(ControlNamed(classes, L"cmdDefault"));
+  Click(ControlNamed(classes, L"cmdOK"));
+  const HWND options = script.WaitForWindow(L"Data Options");
+  ASSERT_TRUE(options) << script.Output();
+  SendMessageW(ControlNamed(options, L"txtMinValue(1)"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"0.5"));
+  Click(ControlNamed(options, L"cmdOK"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"Classes: -1 True 4 250", "Options: -1 -0.5 0.5", "DONE"}));
+}
+
 TEST_F(Examples, ACompiledHostEditsItsLayerByTheTypeLibrary) {
   Program host(L"\"" + PathOf(ORX_COMHOST) + L"\"");
   const HWND properties = host.WaitForWindow(L"Layer of a C++ host");

@@ -91,6 +91,74 @@ TEST_F(PageEventsTest, AChangedNameReachesThePage) {
   EXPECT_EQ("Relief", changed);
 }
 
+/// Arguments by reference for the flags and texts that come back.
+VARIANTARG Reference(VARIANT_BOOL& flag) {
+  VARIANTARG argument = {};
+  argument.vt = VT_BYREF | VT_BOOL;
+  argument.pboolVal = &flag;
+  return argument;
+}
+VARIANTARG Reference(BSTR& text) {
+  VARIANTARG argument = {};
+  argument.vt = VT_BYREF | VT_BSTR;
+  argument.pbstrVal = &text;
+  return argument;
+}
+
+TEST_F(PageEventsTest, ABrowseRequestIsAnsweredThroughItsArguments) {
+  Page().BrowseRequested = [](BrowseRequest& request) {
+    EXPECT_EQ("old.bil", request.FileName);
+    EXPECT_TRUE(request.Cancel);
+    request = {"new.bil", false};
+  };
+  BSTR file = com::Bstr("old.bil").Detach();
+  VARIANT_BOOL cancel = VARIANT_TRUE;
+  EXPECT_EQ(S_OK, Control().Raise(3, {Reference(file), Reference(cancel)}));
+  EXPECT_EQ("new.bil", com::TextOf(file));
+  EXPECT_EQ(VARIANT_FALSE, cancel);
+  SysFreeString(file);
+}
+
+TEST_F(PageEventsTest, AClassifyRequestBringsTheDataItsRangeAndTheFlags) {
+  Page().ClassifyRequested = [](ClassifyRequest& request) {
+    EXPECT_NE(nullptr, request.Data);
+    EXPECT_EQ(-5, request.Minimum);
+    EXPECT_EQ(7.5, request.Maximum);
+    EXPECT_EQ(0x20, request.Flags);
+    request.Changed = true;
+  };
+  const com::Variant data(static_cast<IDispatch*>(&Control()));
+  VARIANT_BOOL changed = VARIANT_FALSE;
+  EXPECT_EQ(S_OK, Control().Raise(4, {data, com::Variant(-5.0), com::Variant(7.5), com::Variant(std::int32_t{0x20}),
+                                      Reference(changed)}));
+  EXPECT_EQ(VARIANT_TRUE, changed);
+}
+
+TEST_F(PageEventsTest, RequestsForADataObjectAreAnsweredThroughTheirFlag) {
+  Event<DataRequest&> PropertyPage::*const events[] = {&PropertyPage::OptionsRequested, &PropertyPage::ShadeRequested,
+                                                       &PropertyPage::IsolineRequested};
+  for (DISPID id = 5; id <= 7; ++id) {
+    Page().*events[id - 5] = [](DataRequest& request) {
+      EXPECT_EQ(nullptr, request.Data);
+      request.Changed = true;
+    };
+    VARIANT_BOOL changed = VARIANT_FALSE;
+    EXPECT_EQ(S_OK, Control().Raise(id, {com::Variant(static_cast<IDispatch*>(nullptr)), Reference(changed)}));
+    EXPECT_EQ(VARIANT_TRUE, changed) << id;
+  }
+}
+
+TEST_F(PageEventsTest, RequestsWithoutAnAnswerReachThePage) {
+  int styles = 0;
+  bool hasLanguage = false;
+  Page().DataStyleRequested = [&] { ++styles; };
+  Page().ColorsRequested = [&](ILanguage* language) { hasLanguage = language != nullptr; };
+  EXPECT_EQ(S_OK, Control().Raise(8, {}));
+  EXPECT_EQ(S_OK, Control().Raise(9, {com::Variant(static_cast<IDispatch*>(&Control()))}));
+  EXPECT_EQ(1, styles);
+  EXPECT_TRUE(hasLanguage);
+}
+
 TEST_F(PageEventsTest, EventsThatThePageDoesNotKnowAreRefused) {
   Page();
   EXPECT_EQ(DISP_E_MEMBERNOTFOUND, Control().Raise(99, {}));

@@ -5,8 +5,11 @@
 #include "forms/FieldTexts.h"
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
+#include "maplibrary/Trimmed.h"
 #include "maplibrary/pages/PageTexts.h"
+#include "service/modMainDialogs.h"
 #include "tests/maplibrary/pages/PagesTest.h"
+#include "tests/support/RecordedData.h"
 
 namespace orx::test {
 namespace {
@@ -20,7 +23,7 @@ class CheckedLanguage final : public maplibrary::FormLanguage {
   explicit CheckedLanguage(TextLanguage& language) : mLanguage(language) {}
   std::int32_t EntryCount() override { return mLanguage.EntryCount(); }
   std::string TranslateText(const std::string& key) override {
-    if (!mLanguage.HasText(key) && !key.starts_with('_')) Missing.insert(key);
+    if (!mLanguage.HasText(std::string(maplibrary::Trimmed(key))) && !key.starts_with('_')) Missing.insert(key);
     return mLanguage.TranslateText(key);
   }
 
@@ -39,7 +42,13 @@ constexpr Dialog kDialogs[] = {
     {"frmProperties", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowProperties(client); }},
     {"frmLabels", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowLabels(client); }},
     {"frmCoordinates", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowCoordinates(client); }},
-    {"frmLegend", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowLegends(client); }}};
+    {"frmLegend", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowLegends(client); }},
+    {"frmDataClassify",
+     [](CCommonMapDialogs& service, HostObject* client) {
+       bool isDirty = false;
+       return service.ShowDataClassify(client, 0, 1, 0, isDirty);
+     }},
+    {"frmDataOptions", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowDataOptions(client); }}};
 
 class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInterface<Dialog> {
  protected:
@@ -49,6 +58,11 @@ class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInter
   template <class Acts>
   void Look(ILanguage* language, Acts acts) {
     service.Language(language);
+    if (std::string_view(GetParam().Form).starts_with("frmData")) {
+      InDialog(GetParam().Form, acts);
+      GetParam().Show(service, &data);
+      return;
+    }
     InDialog(GetParam().Form, acts);
     const bool isLegends = std::string_view(GetParam().Form) == "frmLegend";
     GetParam().Show(service, isLegends ? &legends : static_cast<HostObject*>(&layer));
@@ -64,6 +78,7 @@ class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInter
   }
 
   RecordedLegends legends;
+  RecordedData data;
   TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
 };
 
@@ -110,6 +125,32 @@ TEST_F(MapLibraryLanguageGerman, HasTheTextsOfAllMessages) {
   for (const char* text : fieldtexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
   for (const char* text : maplibrary::pagetexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
   EXPECT_TRUE(german.HasText("Unable to display Help. There is no Help associated with this project."));
+}
+
+TEST_F(MapLibraryLanguageGerman, TheColorSchemesAndThePageOfTheDataAreTranslated) {
+  CheckedLanguage checked(german);
+  script.ExpectForm("frmManageColors", [this](Form& shown) {
+    EXPECT_EQ(" &Grundfarben ", shown.Find("fraBasicColor")->Caption());
+    user.CloseBox(shown);
+  });
+  EXPECT_TRUE(modMain::ShowColorsDialog(desktop(), &checked));
+  RecordedData data;
+  const auto page = MakePage(PageKind::DataProperties);
+  HandleAllRequests(*page->Page);
+  page->Page->Client(&data);
+  page->Page->Language(&checked);
+  page->Page->RefreshContents();
+  checked.TranslateForm(*page);
+  EXPECT_EQ("Gleiche Intervalle", Get<TextBox>("txtMethod").Text());
+  // The form of the test, and the marks beside the colours.
+  checked.Missing.erase("Page");
+  checked.Missing.erase("\xE2\x80\xA2");
+  EXPECT_EQ(std::set<std::string>{}, checked.Missing);
+  std::set<char32_t> letters;
+  for (const Control* const control : page->All()) {
+    if (!control->Mnemonic()) continue;
+    EXPECT_TRUE(letters.insert(control->Mnemonic()).second) << control->Name();
+  }
 }
 
 TEST_F(MapLibraryLanguageGerman, KeepsThePlacesOfEachText) {

@@ -27,6 +27,18 @@ struct PageForm final : Form {
   std::unique_ptr<PropertyPage> Page;
 };
 
+/// Has a page offer all that it can ask for; nothing comes of it.
+inline void HandleAllRequests(PropertyPage& page) {
+  page.CharacterRequested = [](CharacterRequest&) {};
+  page.BrowseRequested = [](BrowseRequest&) {};
+  page.ClassifyRequested = [](ClassifyRequest&) {};
+  page.OptionsRequested = [](DataRequest&) {};
+  page.ShadeRequested = [](DataRequest&) {};
+  page.IsolineRequested = [](DataRequest&) {};
+  page.DataStyleRequested = [] {};
+  page.ColorsRequested = [](ILanguage*) {};
+}
+
 /// Hears what a dialog tells its host, so that Apply is shown.
 class SilentCallBack final : public IDialogCallBack {
  public:

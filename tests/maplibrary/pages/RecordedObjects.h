@@ -73,6 +73,9 @@ class RecordedExtent : public IExtent {
 /// A layer with labels and an extent.
 class RecordedLayer final : public HostObject, public ILayer, public ILabels {
  public:
+  /// What Data gives; not owned.
+  HostObject* Behind = nullptr;
+  HostObject* Data() override { return Behind; }
   void* Query(Kind kind) override {
     switch (kind) {
       case Kind::Layer:
