@@ -28,22 +28,12 @@ const Glyph kDisk{{{kInk, {{1, 1}, {13, 1}, {15, 3}, {15, 15}, {1, 15}}},
                    Box(kShade, 5, 9.5, 11, 10.5),
                    Box(kShade, 5, 11.5, 11, 12.5)}};
 
-const Glyph kCross{{{kRed,
-                     {{4, 2},
-                      {8, 6},
-                      {12, 2},
-                      {14, 4},
-                      {10, 8},
-                      {14, 12},
-                      {12, 14},
-                      {8, 10},
-                      {4, 14},
-                      {2, 12},
-                      {6, 8},
-                      {2, 4}}}}};
+const Glyph kCross{
+    {{kRed,
+      {{4, 2}, {8, 6}, {12, 2}, {14, 4}, {10, 8}, {14, 12}, {12, 14}, {8, 10}, {4, 14}, {2, 12}, {6, 8}, {2, 4}}}}};
 
-const Glyph kSheet{{Box(kInk, 2, 1, 14, 15), Box(kPaper, 3, 2, 13, 14), Box(kBlue, 4, 4, 6, 6), Box(kInk, 7, 4.5, 12, 5.5),
-                    Box(kBlue, 4, 7, 6, 9), Box(kInk, 7, 7.5, 12, 8.5), Box(kBlue, 4, 10, 6, 12),
-                    Box(kInk, 7, 10.5, 12, 11.5)}};
+const Glyph kSheet{{Box(kInk, 2, 1, 14, 15), Box(kPaper, 3, 2, 13, 14), Box(kBlue, 4, 4, 6, 6),
+                    Box(kInk, 7, 4.5, 12, 5.5), Box(kBlue, 4, 7, 6, 9), Box(kInk, 7, 7.5, 12, 8.5),
+                    Box(kBlue, 4, 10, 6, 12), Box(kInk, 7, 10.5, 12, 11.5)}};
 
 }  // namespace orx::glyphs

@@ -35,8 +35,7 @@ bool RunColorDialog(ColorRequest& request, const std::function<void()>& running)
   native.Flags = request.Flags;
   bool chosen = false;
   RunPlatformDialog(native.hwndOwner, running, IDCANCEL, [&] { chosen = ChooseColorW(&native) != FALSE; });
-  if (chosen)
-    request.Color = {GetRValue(native.rgbResult), GetGValue(native.rgbResult), GetBValue(native.rgbResult)};
+  if (chosen) request.Color = {GetRValue(native.rgbResult), GetGValue(native.rgbResult), GetBValue(native.rgbResult)};
   return chosen;
 }
 

@@ -18,7 +18,8 @@ class ListBoxPeer final : public Peer {
 
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Items) MirrorItems();
-    if (aspect == Aspect::Items || aspect == Aspect::Value) Send(LB_SETCURSEL, static_cast<WPARAM>(mControl.ListIndex()));
+    if (aspect == Aspect::Items || aspect == Aspect::Value)
+      Send(LB_SETCURSEL, static_cast<WPARAM>(mControl.ListIndex()));
     Peer::Mirror(aspect);
   }
 
