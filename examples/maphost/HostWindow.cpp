@@ -13,9 +13,9 @@ using orx::QueryKind;
 
 // Places in twips.
 constexpr int kMargin = 120;
-constexpr int kSideWidth = 3300;
+constexpr int kSideWidth = 4500;
 constexpr int kLogHeight = 1950;
-constexpr orx::Size kSmallest{9000, 7800};
+constexpr orx::Size kSmallest{10200, 8400};
 constexpr char kLostFile[] = "/maps/Tennessee/moved last year/ROADS.SHP";
 
 }  // namespace
@@ -30,6 +30,8 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdLegends.Click = [this] { cmdLegends_Click(); };
   cmdClassify.Click = [this] { cmdClassify_Click(); };
   cmdOptions.Click = [this] { cmdOptions_Click(); };
+  cmdShade.Click = [this] { ShowGridDialog("Relief shading", orx::modMain::ShowShadeDialog); };
+  cmdIsolines.Click = [this] { ShowGridDialog("Isolines", orx::modMain::ShowIsolineDialog); };
   cmdColors.Click = [this] { cmdColors_Click(); };
   cmdAddLayer.Click = [this] { cmdAddLayer_Click(); };
   cmdLost.Click = [this] { cmdLost_Click(); };
@@ -70,8 +72,8 @@ void HostWindow::EnableDialogs() {
   orx::HostObject* const object = Chosen().Object;
   cmdProperties.Enabled(QueryKind<orx::ILayer>(object) != nullptr);
   cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
-  cmdClassify.Enabled(ChosenData() != nullptr);
-  cmdOptions.Enabled(ChosenData() != nullptr);
+  for (orx::Button* button : {&cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines})
+    button->Enabled(ChosenData() != nullptr);
 }
 
 void HostWindow::Form_Resize() {
@@ -89,9 +91,18 @@ void HostWindow::Form_Resize() {
   };
   stack(lblLayer, 240, 60);
   stack(cboLayer, 360, 240);
-  for (orx::Button* button : {&cmdProperties, &cmdLabels, &cmdCoordinates, &cmdLegends, &cmdClassify, &cmdOptions,
-                              &cmdColors, &cmdAddLayer, &cmdLost})
-    stack(*button, 420, 90);
+  constexpr int kGap = 90;
+  constexpr int kButtonHeight = 420;
+  orx::Button* const buttons[] = {&cmdProperties, &cmdLabels,   &cmdCoordinates, &cmdLegends,
+                                  &cmdClassify,   &cmdOptions,  &cmdShade,       &cmdIsolines,
+                                  &cmdColors,     &cmdAddLayer, &cmdLost};
+  const int half = (kSideWidth - kGap) / 2;
+  bool isLeft = true;
+  for (orx::Button* const button : buttons) {
+    button->Place({isLeft ? side : side + half + kGap, top, half, kButtonHeight});
+    if (!isLeft || button == &cmdLost) top += kButtonHeight + kGap;
+    isLeft = !isLeft;
+  }
   top += 120;
   stack(chkModeless, 330, 360);
   stack(lblLanguage, 240, 60);
@@ -136,6 +147,13 @@ void HostWindow::cmdClassify_Click() {
 void HostWindow::cmdOptions_Click() {
   const Choice choice = Chosen();
   Report("Data options of " + choice.Name, mDialogs.ShowDataOptions(ChosenData()));
+}
+
+void HostWindow::ShowGridDialog(const std::string& what, GridDialog dialog) {
+  const Choice choice = Chosen();
+  bool changed = false;
+  dialog(OwnerDesktop(), ChosenData(), changed, mDialogs.Language());
+  Report(what + " of " + choice.Name, changed ? -1 : 0);
 }
 
 void HostWindow::cmdColors_Click() {

@@ -27,13 +27,15 @@ class HostWindow final : public orx::Form {
   orx::Button cmdProperties{*this, "cmdProperties", {.Caption = "&Properties..."}};
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
-  orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "L&egends..."}};
+  orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "Le&gends..."}};
   orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
   orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
-  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sc&hemes..."}};
+  orx::Button cmdShade{*this, "cmdShade", {.Caption = "Relief s&hading..."}};
+  orx::Button cmdIsolines{*this, "cmdIsolines", {.Caption = "&Isolines..."}};
+  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sche&mes..."}};
   orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
   orx::Button cmdLost{
-      *this, "cmdLost", {.Caption = "&Missing file...", .ToolTipText = "Opens a layer whose file is gone"}};
+      *this, "cmdLost", {.Caption = "Missing fil&e...", .ToolTipText = "Opens a layer whose file is gone"}};
   orx::CheckBox chkModeless{*this, "chkModeless", {.Caption = "&Keep dialogs open"}};
   orx::Label lblLanguage{*this, "lblLanguage", {.Caption = "L&anguage:"}};
   orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
@@ -65,6 +67,8 @@ class HostWindow final : public orx::Form {
   void cmdLegends_Click();
   void cmdClassify_Click();
   void cmdOptions_Click();
+  using GridDialog = bool (*)(orx::Desktop&, orx::HostObject*, bool&, orx::ILanguage*);
+  void ShowGridDialog(const std::string& what, GridDialog dialog);
   void cmdColors_Click();
   const Choice& Chosen() const { return mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())); }
   void cmdAddLayer_Click();

@@ -6,6 +6,7 @@
 
 #include "com/Adapters.h"
 #include "com/DataAdapters.h"
+#include "com/GridAdapters.h"
 
 namespace orx::com {
 namespace {
@@ -69,6 +70,12 @@ AutomationObject::View AutomationObject::MakeView(Kind kind) {
                 PartOf<::IClassification>(mObject, {"ClassifyMethod"}, "Classification"));
     case Kind::DataOptions:
       return as(std::type_identity<DataOptionsAdapter>(), PartOf<::IDataOptions>(mObject, {"MissingValue"}, "Options"));
+    case Kind::Shade:
+      return as(std::type_identity<ShadeAdapter>(), PartOf<::ShadeSettings>(mObject, {"ScaleFactor"}, "Shade"));
+    case Kind::ExtendedShade:
+      return as(std::type_identity<ShadeAdapter>(), PartOf<::ShadeSettings2>(mObject, {"ShadeVersion"}, "Shade"));
+    case Kind::Isolines:
+      return as(std::type_identity<IsolinesAdapter>(), PartOf<::IIsolines>(mObject, {"RangeStep"}, "Isolines"));
   }
   return {};
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "com/Handles.h"
+#include "com/LateBound.h"
 #include "forms/Appearance.h"
 
 namespace orx::com {
@@ -13,5 +14,9 @@ namespace orx::com {
 Color ColorOf(const VARIANT& value);
 /// The number of a colour.
 std::int32_t OleColorOf(Color color);
+
+/// The member "Color" of an object. A colour of the system stays one as long as the same colour is put back.
+Color ColorMember(const LateBound& object);
+void ColorMember(const LateBound& object, Color value);
 
 }  // namespace orx::com

@@ -12,12 +12,11 @@ constexpr std::int32_t kNoSpecialValue = 91;
 }  // namespace
 
 orx::Color SpecialValueAdapter::Color() const {
-  return ColorOf(mObject.Get("Color"));
+  return ColorMember(mObject);
 }
 
 void SpecialValueAdapter::Color(orx::Color value) {
-  Variant held = mObject.Get("Color");
-  mObject.Put("Color", ColorOf(held) == value ? std::move(held) : Variant(OleColorOf(value)));
+  ColorMember(mObject, value);
 }
 
 ISpecialValue& DataOptionsAdapter::Special(const char* member) {

@@ -65,7 +65,6 @@ class SpecialValueAdapter final : public ISpecialValue {
   explicit SpecialValueAdapter(const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
 
   orx::Color Color() const override;
-  /// A colour of the system stays one as long as the same colour is put back.
   void Color(orx::Color value) override;
   bool Enabled() const override { return mObject.GetBool("Enabled"); }
   void Enabled(bool value) override { mObject.Put("Enabled", Variant(value)); }

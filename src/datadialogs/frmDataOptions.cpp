@@ -5,21 +5,6 @@
 #include "service/modMain.h"
 
 namespace orx {
-namespace {
-
-/// Pixels between the edge of a colour box and its focus mark.
-constexpr int kFocusInset = 3;
-
-/// A thin line around a colour, so that a pale one shows where it ends.
-void DrawEdge(PictureBox& box) {
-  const Size size = box.PixelSize();
-  const Point last{size.Width - 1, size.Height - 1};
-  box.Drawing().Clear();
-  box.Drawing().Draw(LineMark{{{0, 0}, {last.X, 0}, last, {0, last.Y}, {0, 0}}, {122, 122, 122}});
-}
-
-}  // namespace
-
 frmDataOptions::frmDataOptions(Desktop& desktop)
     : DialogForm(desktop, "frmDataOptions", {.Caption = "Data Options", .Client = {6690, 5865}}) {
   for (int i = 0; i < kSpecialKinds; ++i) HandleEvents(i);
@@ -40,8 +25,8 @@ void frmDataOptions::HandleEvents(int index) {
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
   PictureBox& box = pctColor[index];
   box.Click = [this, index] { pctColor_Click(index); };
-  box.GotFocus = [&box] { modMain::DrawInsetFocusRect(box, kFocusInset); };
-  box.LostFocus = [&box] { modMain::DrawInsetFocusRect(box, kFocusInset); };
+  box.GotFocus = [&box] { modMain::DrawInsetFocusRect(box, modMain::kColorBoxInset); };
+  box.LostFocus = [&box] { modMain::DrawInsetFocusRect(box, modMain::kColorBoxInset); };
   box.KeyDown = [this, index](int keyCode) {
     if (keyCode != kKeyCodeShift) pctColor_Click(index);
   };
@@ -58,7 +43,7 @@ void frmDataOptions::Form_Load() {
   auto* const options = QueryKind<IDataOptions>(mData);
   if (!options) return Unload();
   mValues.ReadFrom(*options);
-  for (PictureBox& box : pctColor) DrawEdge(box);
+  for (PictureBox& box : pctColor) modMain::DrawEdge(box);
   ShowRecord(-1);
   Translate();
 }

@@ -62,9 +62,16 @@ bool Desktop::OpenFiles(OpenFileRequest& request) {
 }
 
 bool Desktop::ChooseColor(ColorRequest& request) {
-  const Modal modal{.ShownColor = &request};
+  return Choose({.ShownColor = &request}, [&] { return DoChooseColor(request); });
+}
+
+bool Desktop::ChooseFont(FontRequest& request) {
+  return Choose({.ShownFont = &request}, [&] { return DoChooseFont(request); });
+}
+
+bool Desktop::Choose(const Modal& modal, const std::function<bool()>& show) {
   if (mHook) mHook->ModalOpening(modal);
-  const bool chosen = DoChooseColor(request);
+  const bool chosen = show();
   if (mHook) mHook->ModalClosed(modal);
   return chosen;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -45,6 +46,8 @@ class Desktop {
   /// Has the user choose a colour in the platform's own dialog. False, with the request as it was, when none was
   /// chosen.
   bool ChooseColor(ColorRequest& request);
+  /// The same for a font.
+  bool ChooseFont(FontRequest& request);
   /// Sounds the platform's warning signal.
   void Beep();
   /// The pointer that was set last; Default at first.
@@ -85,8 +88,9 @@ class Desktop {
   virtual void DoShowMessage(const Message& message, FormWindow* owner) = 0;
   /// Does what OpenFiles says; calls ModalIsRunning once the dialog is up.
   virtual bool DoOpenFiles(OpenFileRequest& request) = 0;
-  /// Does what ChooseColor says; calls ModalIsRunning once the dialog is up.
+  /// Do what ChooseColor and ChooseFont say; call ModalIsRunning once the dialog is up.
   virtual bool DoChooseColor(ColorRequest& request) = 0;
+  virtual bool DoChooseFont(FontRequest& request) = 0;
   /// What Beep, Pointer and ShowHelp do after the hook has heard of it.
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;
@@ -102,6 +106,8 @@ class Desktop {
   };
 
   void RunModal(Form& form);
+  /// Shows a dialog of the platform between the hook's calls.
+  bool Choose(const Modal& modal, const std::function<bool()>& show);
   void EndModal(const Form& form);
   /// Takes over the window of a form that unloads, so that a modal loop still running in it can come to its end.
   void Retire(const Form& form, std::unique_ptr<FormWindow> window);

@@ -10,10 +10,11 @@ namespace orx {
 
 class Form;
 struct ColorRequest;
+struct FontRequest;
 struct OpenFileRequest;
 
-/// Something modal: a form, a message box or one of the dialogs for choosing files or a colour; the other pointers are
-/// null.
+/// Something modal: a form, a message box or one of the dialogs for choosing files, a colour or a font; the other
+/// pointers are null.
 struct Modal {
   Form* ShownForm = nullptr;
   const Message* ShownMessage = nullptr;
@@ -21,6 +22,7 @@ struct Modal {
   OpenFileRequest* ShownFiles = nullptr;
   /// Where nobody else answers, set its Answer here.
   ColorRequest* ShownColor = nullptr;
+  FontRequest* ShownFont = nullptr;
 };
 
 /// Derive from it, override what matters, and give it to Desktop::Hook.

@@ -6,7 +6,20 @@
 namespace orx {
 
 /// The kinds of host objects that dialogs ask for. Each interface names its own as `kKind`.
-enum class Kind { Map, Layers, Layer, Labels, Extent, Legends, Data, Classification, DataOptions };
+enum class Kind {
+  Map,
+  Layers,
+  Layer,
+  Labels,
+  Extent,
+  Legends,
+  Data,
+  Classification,
+  DataOptions,
+  Shade,
+  ExtendedShade,
+  Isolines
+};
 
 /// The base of every object that a host hands to a dialog. The library uses such objects and never owns them: the host
 /// keeps them alive while a dialog that was given them is open.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "maplibrary/DrawIsolines.h"
 #include "maplibrary/DrawLegends.h"
 #include "maplibrary/DrawPeaks.h"
 #include "maplibrary/DrawShapes.h"
@@ -15,10 +16,12 @@ namespace {
 
 constexpr Color kBackground = {232, 238, 241};
 
-void DrawLayer(const MapLayer& layer, const MapView& view, const ValueRange& range, Canvas& canvas) {
+void DrawLayer(const MapLayer& layer, const MapView& view, const ValueRange& range, Canvas& canvas,
+               Lettering& lettering) {
   auto image = std::make_shared<Image>(BlankImage({view.Pixels().Width, view.Pixels().Height}));
   for (const PlacedGrid& placed : layer.Grids()) PaintGrid(*image, view.Window(), placed, range);
   canvas.Draw(ImageMark{view.Pixels(), std::move(image)});
+  for (const PlacedGrid& placed : layer.Grids()) DrawIsolines(placed, view, canvas, lettering);
 }
 
 }  // namespace
@@ -49,7 +52,7 @@ void DrawMap(const Map& map, Canvas& canvas, Size size, double pixelsPerPoint) {
       if (const auto* const shapes = dynamic_cast<const VectorLayer*>(layer.get())) {
         DrawShapes(*shapes, view, canvas, pixelsPerPoint);
       } else {
-        DrawLayer(*layer, view, range.value_or(ValueRange()), canvas);
+        DrawLayer(*layer, view, range.value_or(ValueRange()), canvas, lettering);
       }
     }
     for (const auto& layer : layers) {

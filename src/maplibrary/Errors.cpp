@@ -17,6 +17,17 @@ void RequireFinite(const char* name, double value) {
   throw RunTimeError(kErrorInvalidValue, std::string(name) + " must be a finite number.");
 }
 
+void RequireRange(const char* name, std::int32_t value, std::int32_t low, std::int32_t high) {
+  if (value >= low && value <= high) return;
+  throw RunTimeError(kErrorInvalidValue,
+                     std::string(name) + " must be from " + std::to_string(low) + " to " + std::to_string(high) + ".");
+}
+
+void RequireNotNegative(const char* name, double value) {
+  if (value >= 0 && std::isfinite(value)) return;
+  throw RunTimeError(kErrorInvalidValue, std::string(name) + " must be a number that is not negative.");
+}
+
 namespace {
 
 constexpr double kMaxClassPixels = 1000;

@@ -18,6 +18,12 @@ void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std:
 /// Throws "<name> must be a finite number." for infinity and NaN.
 void RequireFinite(const char* name, double value);
 
+/// Throws "<name> must be from <low> to <high>." for any other number.
+void RequireRange(const char* name, std::int32_t value, std::int32_t low, std::int32_t high);
+
+/// Throws "<name> must be a number that is not negative." for any other.
+void RequireNotNegative(const char* name, double value);
+
 /// The largest size of a symbol or text in points.
 inline constexpr double kMaxTextPoints = 1000;
 

@@ -31,6 +31,7 @@ LayerData::LayerData(std::string file, std::shared_ptr<const GridData> grid)
       mRange(RangeOf(*mGrid)),
       mLimits(mRange.value_or(ValueRange{kUnknownRangeEnd, kUnknownRangeEnd})),
       mNoData("No data", true, mGrid->NoData.value_or(kUsualNoData), mGrid->NoData.value_or(kUsualNoData)) {
+  mShade.Grid(mGrid);
 }
 
 void* LayerData::Query(Kind kind) {
@@ -41,6 +42,12 @@ void* LayerData::Query(Kind kind) {
       return static_cast<IClassification*>(this);
     case Kind::DataOptions:
       return static_cast<IDataOptions*>(this);
+    case Kind::Shade:
+      return static_cast<ShadeSettings*>(&mShade);
+    case Kind::ExtendedShade:
+      return static_cast<ShadeSettings2*>(&mShade);
+    case Kind::Isolines:
+      return static_cast<IIsolines*>(&mLines);
     default:
       return nullptr;
   }
@@ -50,6 +57,7 @@ void LayerData::FileName(const std::string& value) {
   auto grid = std::make_shared<const GridData>(ReadGridFile(value));
   mRange = RangeOf(*grid);
   mGrid = std::move(grid);
+  mShade.Grid(mGrid);
   mFile = value;
 }
 

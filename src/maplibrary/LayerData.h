@@ -1,4 +1,5 @@
-// The data of a grid layer: the grid, how its values are divided into classes, and its special values.
+// The data of a grid layer: the grid, how its values are divided into classes, its special values, its shading and its
+// contour lines.
 #pragma once
 
 #include <memory>
@@ -6,6 +7,8 @@
 
 #include "hostobjects/IData.h"
 #include "maplibrary/GridData.h"
+#include "maplibrary/GridIsolines.h"
+#include "maplibrary/GridShade.h"
 #include "maplibrary/SpecialValue.h"
 
 namespace orx::maplibrary {
@@ -18,7 +21,7 @@ class LayerData final : public HostObject, public IData, public IClassification,
   /// `grid` must not be null; `file` is where it came from, empty for none.
   LayerData(std::string file, std::shared_ptr<const GridData> grid);
 
-  /// Answers for IData, IClassification and IDataOptions.
+  /// Answers for IData, IClassification, IDataOptions, both kinds of shading, and IIsolines.
   void* Query(Kind kind) override;
 
   std::int32_t ClassCount() override { return mClasses; }
@@ -58,6 +61,12 @@ class LayerData final : public HostObject, public IData, public IClassification,
 
   /// The range of the values; none when no cell has one.
   const std::optional<ValueRange>& Range() const { return mRange; }
+  /// The relief shading and the contour lines.
+  GridShade& Shade() { return mShade; }
+  const GridShade& Shade() const { return mShade; }
+  GridIsolines& Lines() { return mLines; }
+  const GridIsolines& Lines() const { return mLines; }
+
   const std::string& File() const { return mFile; }
   const std::shared_ptr<const GridData>& Grid() const { return mGrid; }
   /// True when values are divided into classes, false for colours without steps.
@@ -81,6 +90,8 @@ class LayerData final : public HostObject, public IData, public IClassification,
   SpecialValue mMissing{"Missing value", false, -999.999, -999};
   SpecialValue mZero{"Zero", false, -0.0001, 0.0001};
   SpecialValue mNoData;
+  GridShade mShade;
+  GridIsolines mLines;
 };
 
 }  // namespace orx::maplibrary

@@ -81,6 +81,37 @@ void AddSpecial(Lines& lines, const std::string& kind, const SpecialValue& value
   lines.Add((kind + ".Transparent").c_str(), Number(value.Transparent()));
 }
 
+void AddShade(Lines& lines, const GridShade& shade) {
+  lines.Add("ScaleAutomatic", Number(shade.ScaleAutomatic()));
+  lines.Add("CombineColors", Number(shade.CombineColors()));
+  lines.Add("Altitude", Number(shade.Altitude()));
+  lines.Add("FirstShadeIndex", Number(shade.FirstShadeIndex()));
+  lines.Add("Azimuth", Number(shade.Azimuth()));
+  lines.Add("NrOfShades", Number(shade.NrOfShades()));
+  lines.Add("MinIntensity", Text(shade.MinIntensity()));
+  lines.Add("ScaleFactor", Text(shade.ScaleFactor()));
+  lines.Add("ScaleMultiplier", Text(shade.ScaleMultiplier()));
+  lines.Add("AltitudeDefault", Number(shade.AltitudeDefault()));
+  lines.Add("MidIndexAutomatic", Number(shade.MidIndexAutomatic()));
+  lines.Add("MaxIntensity", Text(shade.MaxIntensity()));
+  lines.Add("MidIntensity", Text(shade.MidIntensity()));
+  lines.Add("ShadeVersion", Number(shade.ShadeVersion()));
+}
+
+void AddIsolines(Lines& lines, const GridIsolines& isolines) {
+  lines.Add("UseRangeColor", Number(isolines.UseRangeColor()));
+  lines.Add("UseRangeWidth", Number(isolines.UseRangeWidth()));
+  lines.Add("MaxWidth", Number(isolines.MaxWidth()));
+  lines.Add("LabelDistance", Text(isolines.LabelDistance()));
+  lines.Add("LabelUseRangeColor", Number(isolines.LabelUseRangeColor()));
+  lines.Add("LabelVisible", Number(isolines.LabelVisible()));
+  lines.Add("RangeStep", Number(isolines.RangeStep()));
+  lines.Add("LabelAllIsolines", Number(isolines.LabelAllIsolines()));
+  lines.Add("Line",
+            Number(isolines.Pen().Style()) + " " + Number(isolines.Pen().Width()) + " " + Text(isolines.Pen().Color()));
+  lines.Add("LabelFont", Text(isolines.Lettering().Face()) + " " + Text(isolines.Lettering().Color()));
+}
+
 void AddData(Lines& lines, const LayerData& data) {
   AddGrid(lines, *data.Grid());
   lines.Add("ValueFormat", Text(data.ValueFormat()));
@@ -93,6 +124,8 @@ void AddData(Lines& lines, const LayerData& data) {
   lines.Add("LegendStyle", Number(data.LegendStyle()));
   lines.Add("FirstClassSize", Text(data.FirstClassSize()));
   lines.Add("LastClassSize", Text(data.LastClassSize()));
+  AddShade(lines, data.Shade());
+  AddIsolines(lines, data.Lines());
   AddSpecial(lines, "MissingValue", data.Missing());
   AddSpecial(lines, "ZeroValue", data.Zero());
   AddSpecial(lines, "NoDataValue", data.NoData());

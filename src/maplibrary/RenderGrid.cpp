@@ -50,17 +50,74 @@ double Mixed(double before, double behind, double share) {
   return before + (behind - before) * share;
 }
 
-/// A missing or special neighbour makes the blend NaN; then the cell itself decides.
-double ValueAt(const GridData& grid, const ValueColors& colors, const AxisSample& row, const AxisSample& column) {
-  const auto at = [&](std::int32_t r, std::int32_t c) {
-    const double value = grid.At(r, c);
-    return colors.IsPlain(value) ? value : std::numeric_limits<double>::quiet_NaN();
-  };
+/// Blends four cells, of which `at` gives the values. A NaN among them makes the blend NaN.
+template <class At>
+double Blended(const AxisSample& row, const AxisSample& column, At&& at) {
   const double upper = Mixed(at(row.Before, column.Before), at(row.Before, column.Behind), column.Share);
   const double lower = Mixed(at(row.Behind, column.Before), at(row.Behind, column.Behind), column.Share);
-  const double value = Mixed(upper, lower, row.Share);
+  return Mixed(upper, lower, row.Share);
+}
+
+/// A missing or special neighbour makes the blend NaN; then the cell itself decides.
+double ValueAt(const GridData& grid, const ValueColors& colors, const AxisSample& row, const AxisSample& column) {
+  const double value = Blended(row, column, [&](std::int32_t r, std::int32_t c) {
+    const double cell = grid.At(r, c);
+    return colors.IsPlain(cell) ? cell : std::numeric_limits<double>::quiet_NaN();
+  });
   return std::isnan(value) ? grid.At(row.Nearest, column.Nearest) : value;
 }
+
+/// Lays the shades of the relief over colours.
+class Shader {
+ public:
+  explicit Shader(const PlacedGrid& placed) : mGrid(*placed.Grid) {
+    if (!placed.Data || !placed.Data->Shade().IsOn()) return;
+    const GridShade& shade = placed.Data->Shade();
+    mOverDevice = shade.CombineColors() == combinecolors::kShadeAndDevice;
+    mLight = LightOf(mGrid, shade.Azimuth(), shade.Altitude(), shade.HeightScale());
+    for (int i = 0; i <= kSteps; ++i) mIntensity.push_back(shade.IntensityOf(static_cast<double>(i) / kSteps) / 100);
+  }
+
+  void Put(const Color& color, const AxisSample& row, const AxisSample& column, std::uint8_t* pixel) const {
+    if (mLight.empty()) return Fill(pixel, color, 255);
+    const double intensity = mIntensity[static_cast<std::size_t>(std::lround(LightAt(row, column) * kSteps))];
+    if (!mOverDevice)
+      return Fill(pixel, {Times(color.Red, intensity), Times(color.Green, intensity), Times(color.Blue, intensity)},
+                  255);
+    // Black darkens what was drawn below, white lightens it.
+    const std::uint8_t veil = intensity < 1 ? 0 : 255;
+    Fill(pixel, {veil, veil, veil}, Times(255, std::abs(1 - intensity)));
+  }
+
+ private:
+  static constexpr int kSteps = 1024;
+
+  static std::uint8_t Times(std::uint8_t part, double factor) {
+    return static_cast<std::uint8_t>(std::min(std::lround(part * factor), 255L));
+  }
+  static void Fill(std::uint8_t* pixel, const Color& color, std::uint8_t alpha) {
+    pixel[0] = color.Red;
+    pixel[1] = color.Green;
+    pixel[2] = color.Blue;
+    pixel[3] = alpha;
+  }
+  float At(std::int32_t row, std::int32_t column) const {
+    return mLight[static_cast<std::size_t>(row) * static_cast<std::size_t>(mGrid.Columns) +
+                  static_cast<std::size_t>(column)];
+  }
+  double LightAt(const AxisSample& row, const AxisSample& column) const {
+    const double light = Blended(row, column, [&](std::int32_t r, std::int32_t c) -> double { return At(r, c); });
+    if (!std::isnan(light)) return std::min(light, 1.0);
+    const double own = At(row.Nearest, column.Nearest);
+    // A filled place without data lies flat.
+    return std::isnan(own) ? 1 : std::min(own, 1.0);
+  }
+
+  const GridData& mGrid;
+  bool mOverDevice = false;
+  std::vector<float> mLight;
+  std::vector<double> mIntensity;
+};
 
 }  // namespace
 
@@ -73,6 +130,7 @@ void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed,
   const auto rows =
       SamplesOf(image.Height, window.Top, window.Bottom, placed.Place.Top, placed.Place.Bottom, grid.Rows, sampling);
   const ValueColors colors(placed.Data, range);
+  const Shader shader(placed);
   std::uint8_t* pixel = image.Pixels.data();
   for (const AxisSample& row : rows) {
     for (const AxisSample& column : columns) {
@@ -81,10 +139,7 @@ void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed,
       if (!row.Inside || !column.Inside) continue;
       const Color* const color = colors.For(ValueAt(grid, colors, row, column));
       if (!color) continue;
-      place[0] = color->Red;
-      place[1] = color->Green;
-      place[2] = color->Blue;
-      place[3] = 255;
+      shader.Put(*color, row, column, place);
     }
   }
 }

@@ -28,6 +28,12 @@ void HelpFile(const std::string& value);
 /// box's automatic redraw on. Nothing is thrown.
 void DrawInsetFocusRect(PictureBox& box, std::int32_t inset) noexcept;
 
+/// Pixels between the edge of a box that shows a colour and its focus mark.
+inline constexpr std::int32_t kColorBoxInset = 3;
+
+/// Draws a thin line around a box that shows a colour, so that a pale one tells where it ends.
+void DrawEdge(PictureBox& box);
+
 /// Selects the whole text. Nothing is thrown.
 void SelectAllText(TextBox& box) noexcept;
 

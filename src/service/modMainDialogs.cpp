@@ -7,6 +7,8 @@
 #include "datadialogs/frmDataClassify.h"
 #include "datadialogs/frmDataOptions.h"
 #include "datadialogs/frmManageColors.h"
+#include "griddialogs/frmDataIsoline.h"
+#include "griddialogs/frmDataShade.h"
 #include "hostobjects/ErrorTrap.h"
 #include "service/modDialog.h"
 
@@ -22,7 +24,8 @@ bool CanBeRead(const std::string& path) {
 
 /// Shows a dialog for a data object, which `give` hands over to it.
 template <class DataForm, class Give>
-bool ShowDataDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language, Give&& give) noexcept {
+bool ShowDataDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language, Give&& give,
+                    bool (DataForm::*isChanged)() const) noexcept {
   ErrorTrap trap;
   if (!data) {
     trap.Step([&] { desktop.Beep(); });
@@ -35,7 +38,7 @@ bool ShowDataDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage
   trap.Step([&] { give(*form); });
   trap.Step([&] { form->Show(); });
   bool isDirty = false;
-  trap.Step([&] { isDirty = form->IsDirty(); });
+  trap.Step([&] { isDirty = ((*form).*isChanged)(); });
   changed = isDirty;
   trap.Step([&] { form->Unload(); });
   return isDirty;
@@ -59,14 +62,25 @@ void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* lan
 }
 
 bool ShowClassifyDialog(Desktop& desktop, const ClassifyTask& task, bool& isDirty, ILanguage* language) noexcept {
-  return ShowDataDialog<frmDataClassify>(desktop, task.Data, isDirty, language, [&](frmDataClassify& form) {
+  const auto give = [&](frmDataClassify& form) {
     form.SetData(task.Data, task.Minimum, task.Maximum, task.Flags, task.Text);
-  });
+  };
+  return ShowDataDialog(desktop, task.Data, isDirty, language, give, &frmDataClassify::IsDirty);
 }
 
 bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
-  return ShowDataDialog<frmDataOptions>(desktop, data, changed, language,
-                                        [&](frmDataOptions& form) { form.Data(data); });
+  const auto give = [&](frmDataOptions& form) { form.Data(data); };
+  return ShowDataDialog(desktop, data, changed, language, give, &frmDataOptions::IsDirty);
+}
+
+bool ShowShadeDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
+  const auto give = [&](frmDataShade& form) { form.ShadeObject(data); };
+  return ShowDataDialog(desktop, data, changed, language, give, &frmDataShade::Changed);
+}
+
+bool ShowIsolineDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
+  const auto give = [&](frmDataIsoline& form) { form.IsolineObject(data); };
+  return ShowDataDialog(desktop, data, changed, language, give, &frmDataIsoline::Changed);
 }
 
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner) noexcept {

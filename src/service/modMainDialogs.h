@@ -51,6 +51,10 @@ bool ShowClassifyDialog(Desktop& desktop, const ClassifyTask& task, bool& isDirt
 /// Shows the dialog for special values in the same way.
 bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
 
+/// Show the dialogs for the relief shading and for the contour lines of a grid in the same way.
+bool ShowShadeDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
+bool ShowIsolineDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
+
 /// Shows the window for colour schemes, modal, in that language. True when nothing has failed.
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner = {}) noexcept;
 

@@ -122,7 +122,10 @@ TEST_F(ExamplesHost, SpecialValuesAreDrawnAsSet) {
 
 TEST_F(ExamplesHost, OKUntouchedInTheDialogsOfTheDataLeavesEveryBitOfTheMap) {
   const std::string before = maplibrary::Serialise(*map);
-  for (const auto& [button, form] : {std::pair{"cmdClassify", "frmDataClassify"}, {"cmdOptions", "frmDataOptions"}}) {
+  for (const auto& [button, form] : {std::pair{"cmdClassify", "frmDataClassify"},
+                                     {"cmdOptions", "frmDataOptions"},
+                                     {"cmdShade", "frmDataShade"},
+                                     {"cmdIsolines", "frmDataIsoline"}}) {
     script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
     Press(user, *window, button);
     EXPECT_TRUE(LastLine().ends_with("not changed (0)")) << LastLine();
@@ -138,6 +141,30 @@ TEST_F(ExamplesHost, LayersWithoutDataHaveNoClasses) {
   }
   user.Choose(window->cboLayer, 3);
   EXPECT_TRUE(user.See(window->cmdClassify).Enabled);
+}
+
+TEST_F(ExamplesHost, TheTerrainIsShadedAndContouredAsSet) {
+  std::vector<Mark> before = Drawn();
+  script.ExpectForm("frmDataShade", [&](Form& shown) {
+    user.Choose(Get<ComboBox>(shown, "cmbCombine"), 1);
+    user.Click(Get<Button>(shown, "cmdScaleFactor"));
+    EXPECT_EQ("1.08E-05", user.See(Get<TextBox>(shown, "txtScaleFactor")).Text);
+    Press(user, shown, "cmdOK");
+  });
+  Press(user, *window, "cmdShade");
+  EXPECT_EQ("Relief shading of Terrain: changed (-1)", LastLine());
+  EXPECT_NE(before, Drawn());
+  const auto lines = [&] {
+    return std::ranges::count_if(Drawn(), [](const Mark& mark) { return std::holds_alternative<LineMark>(mark); });
+  };
+  const auto few = lines();
+  script.ExpectForm("frmDataIsoline", [&](Form& shown) {
+    user.Choose(Get<ComboBox>(shown, "cmbLineStyle"), 0);
+    Press(user, shown, "cmdOK");
+  });
+  Press(user, *window, "cmdIsolines");
+  EXPECT_EQ("Isolines of Terrain: changed (-1)", LastLine());
+  EXPECT_GT(lines(), few + 100);
 }
 
 TEST_F(ExamplesHost, TheColorSchemesOpen) {

@@ -5,6 +5,7 @@
 #include "tests/layout/LayoutCheck.h"
 #include "tests/maplibrary/pages/PagesTest.h"
 #include "tests/support/RecordedData.h"
+#include "tests/support/RecordedGrid.h"
 
 namespace orx::test {
 namespace {
@@ -34,6 +35,16 @@ class PageLayout : public PagesTest {
     service.ShowDataClassify(&data, 0, 1, 0, isDirty);
     script.ExpectForm("frmDataOptions", lookAt);
     service.ShowDataOptions(&data);
+    bool changed = false;
+    for (const std::int32_t method : {shadeversion::kDarkening, shadeversion::kSunAndShadow}) {
+      shade.HeldShadeVersion = method;
+      script.ExpectForm("frmDataShade", lookAt);
+      modMain::ShowShadeDialog(desktop(), &shade, changed, language);
+    }
+    // A number that is longer than its field scrolls.
+    isolines.HeldLabelDistance = 0.25;
+    script.ExpectForm("frmDataIsoline", lookAt);
+    modMain::ShowIsolineDialog(desktop(), &isolines, changed, language);
     script.ExpectForm("frmManageColors", lookAt);
     modMain::ShowColorsDialog(desktop(), language);
     std::string found;
@@ -45,6 +56,8 @@ class PageLayout : public PagesTest {
 
   RecordedLegends legends;
   RecordedData data;
+  RecordedShade shade;
+  RecordedIsolines isolines;
 };
 
 TEST_F(PageLayout, NothingIsCutOffInEnglish) {

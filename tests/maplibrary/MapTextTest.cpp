@@ -91,7 +91,43 @@ std::vector<Change> DataChanges() {
           {"OutsideAsMissing", with([](LayerData& d) { d.OutsideAsMissing(true); })},
           {"LegendStyle", with([](LayerData& d) { d.LegendStyle(2); })},
           {"FirstClassSize", with([](LayerData& d) { d.FirstClassSize(Next(d.FirstClassSize())); })},
-          {"LastClassSize", with([](LayerData& d) { d.LastClassSize(Next(d.LastClassSize())); })}};
+          {"LastClassSize", with([](LayerData& d) { d.LastClassSize(Next(d.LastClassSize())); })},
+          {"ScaleAutomatic", with([](LayerData& d) { d.Shade().ScaleAutomatic(false); })},
+          {"CombineColors", with([](LayerData& d) { d.Shade().CombineColors(2); })},
+          {"Altitude", with([](LayerData& d) { d.Shade().Altitude(46); })},
+          {"FirstShadeIndex", with([](LayerData& d) { d.Shade().FirstShadeIndex(2); })},
+          {"Azimuth", with([](LayerData& d) { d.Shade().Azimuth(316); })},
+          {"NrOfShades", with([](LayerData& d) { d.Shade().NrOfShades(129); })},
+          {"MinIntensity", with([](LayerData& d) { d.Shade().MinIntensity(Next(50)); })},
+          {"ScaleFactor", with([](LayerData& d) { d.Shade().ScaleFactor(Next(0.001)); })},
+          {"ScaleMultiplier", with([](LayerData& d) { d.Shade().ScaleMultiplier(Next(1)); })},
+          {"AltitudeDefault", with([](LayerData& d) { d.Shade().AltitudeDefault(46); })},
+          {"MidIndexAutomatic", with([](LayerData& d) { d.Shade().MidIndexAutomatic(true); })},
+          {"MaxIntensity", with([](LayerData& d) { d.Shade().MaxIntensity(Next(150)); })},
+          {"MidIntensity", with([](LayerData& d) { d.Shade().MidIntensity(Next(100)); })},
+          {"ShadeVersion", with([](LayerData& d) { d.Shade().ShadeVersion(10); })},
+          {"UseRangeColor", with([](LayerData& d) { d.Lines().UseRangeColor(true); })},
+          {"UseRangeWidth", with([](LayerData& d) { d.Lines().UseRangeWidth(true); })},
+          {"MaxWidth", with([](LayerData& d) { d.Lines().MaxWidth(4); })},
+          {"LabelDistance", with([](LayerData& d) { d.Lines().LabelDistance(Next(0.25)); })},
+          {"LabelUseRangeColor", with([](LayerData& d) { d.Lines().LabelUseRangeColor(true); })},
+          {"LabelVisible", with([](LayerData& d) { d.Lines().LabelVisible(true); })},
+          {"RangeStep", with([](LayerData& d) { d.Lines().RangeStep(2); })},
+          {"LabelAllIsolines", with([](LayerData& d) { d.Lines().LabelAllIsolines(true); })},
+          {"Line.Style", with([](LayerData& d) { d.Lines().Line().Style(0); })},
+          {"Line.Width", with([](LayerData& d) { d.Lines().Line().Width(2); })},
+          {"Line.Color", with([](LayerData& d) {
+             d.Lines().Line().Color({120, 72, 33});
+           })},
+          {"Isoline font name", with([](LayerData& d) { d.Lines().LabelFont().Name("Times"); })},
+          {"Isoline font size", with([](LayerData& d) { d.Lines().LabelFont().Size(8.5F); })},
+          {"Isoline font bold", with([](LayerData& d) { d.Lines().LabelFont().Bold(true); })},
+          {"Isoline font italic", with([](LayerData& d) { d.Lines().LabelFont().Italic(true); })},
+          {"Isoline font underline", with([](LayerData& d) { d.Lines().LabelFont().Underline(true); })},
+          {"Isoline font strikethrough", with([](LayerData& d) { d.Lines().LabelFont().Strikethrough(true); })},
+          {"Isoline font color", with([](LayerData& d) {
+             d.Lines().LabelFont().Color({80, 48, 25});
+           })}};
 }
 
 std::vector<Change> MapChanges() {

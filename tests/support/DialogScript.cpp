@@ -8,6 +8,7 @@ namespace {
 std::string Describe(const Modal& modal) {
   if (modal.ShownForm) return "form " + modal.ShownForm->Name();
   if (modal.ShownColor) return "colors";
+  if (modal.ShownFont) return "fonts";
   if (modal.ShownFiles) return "files \"" + modal.ShownFiles->Title + "\"";
   return "message \"" + modal.ShownMessage->Title + "\": " + modal.ShownMessage->Text;
 }
@@ -15,19 +16,23 @@ std::string Describe(const Modal& modal) {
 }  // namespace
 
 void DialogScript::ExpectForm(const std::string& name, FormAction action) {
-  mExpected.push_back({name, std::move(action), {}, nullptr, nullptr});
+  mExpected.push_back({.FormName = name, .Action = std::move(action)});
 }
 
 void DialogScript::ExpectMessage(const Message& message) {
-  mExpected.push_back({{}, nullptr, message, nullptr, nullptr});
+  mExpected.push_back({.Box = message});
 }
 
 void DialogScript::ExpectFiles(FilesAction action) {
-  mExpected.push_back({{}, nullptr, {}, std::move(action), nullptr});
+  mExpected.push_back({.Choice = std::move(action)});
 }
 
 void DialogScript::ExpectColor(ColorAction action) {
-  mExpected.push_back({{}, nullptr, {}, nullptr, std::move(action)});
+  mExpected.push_back({.Color = std::move(action)});
+}
+
+void DialogScript::ExpectFont(FontAction action) {
+  mExpected.push_back({.Face = std::move(action)});
 }
 
 void DialogScript::Verify() {
@@ -35,6 +40,7 @@ void DialogScript::Verify() {
     ADD_FAILURE() << "Not shown: "
                   << (left.Choice             ? "files"
                       : left.Color            ? "colors"
+                      : left.Face             ? "fonts"
                       : left.FormName.empty() ? "message " + left.Box.Text
                                               : "form " + left.FormName);
   mExpected.clear();
@@ -51,6 +57,8 @@ void DialogScript::CloseAnyway(const Modal& modal) {
     mUser.CancelFiles(*modal.ShownFiles);
   } else if (modal.ShownColor) {
     mUser.CancelColor(*modal.ShownColor);
+  } else if (modal.ShownFont) {
+    mUser.CancelFont(*modal.ShownFont);
   } else {
     mUser.AnswerMessage();
   }
@@ -65,6 +73,8 @@ void DialogScript::ModalOpening(const Modal& modal) {
     EXPECT_TRUE(next.Choice) << Describe(modal);
   } else if (modal.ShownColor) {
     EXPECT_TRUE(next.Color) << Describe(modal);
+  } else if (modal.ShownFont) {
+    EXPECT_TRUE(next.Face) << Describe(modal);
   } else {
     EXPECT_EQ(next.Box.Text, modal.ShownMessage->Text);
     EXPECT_EQ(next.Box.Title, modal.ShownMessage->Title);
@@ -78,6 +88,7 @@ void DialogScript::ModalRunning(const Modal& modal) {
   mExpected.pop_front();
   if (modal.ShownFiles && next.Choice) return next.Choice(*modal.ShownFiles);
   if (modal.ShownColor && next.Color) return next.Color(*modal.ShownColor);
+  if (modal.ShownFont && next.Face) return next.Face(*modal.ShownFont);
   if (!modal.ShownForm || !next.Action) return CloseAnyway(modal);
   // The form may go while the user acts.
   const std::weak_ptr<Form> form = modal.ShownForm->weak_from_this();

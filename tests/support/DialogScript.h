@@ -25,6 +25,9 @@ class DialogScript final : public DesktopHook {
   using ColorAction = std::function<void(ColorRequest&)>;
   /// Expects the platform's dialog for colours; `action` is what the user does in it and must close it.
   void ExpectColor(ColorAction action);
+  using FontAction = std::function<void(FontRequest&)>;
+  /// The same for fonts.
+  void ExpectFont(FontAction action);
   /// Expects the message box and presses its OK button.
   void ExpectMessage(const Message& message);
   /// Fails the test when an expected dialog was not shown.
@@ -43,11 +46,12 @@ class DialogScript final : public DesktopHook {
 
  private:
   struct Expected {
-    std::string FormName;
-    FormAction Action;
-    Message Box;
-    FilesAction Choice;
-    ColorAction Color;
+    std::string FormName = {};
+    FormAction Action = nullptr;
+    Message Box = {};
+    FilesAction Choice = nullptr;
+    ColorAction Color = nullptr;
+    FontAction Face = nullptr;
   };
 
   void Fail(const Modal& modal, const std::string& reason);

@@ -66,6 +66,9 @@ class HeadlessUser final : public User {
   void PickColor(ColorRequest& request, Color color) override { request.Answer = color; }
   void CancelColor(ColorRequest& request) override { request.Answer.reset(); }
 
+  void PickFont(FontRequest& request, const ColoredFont& font) override { request.Answer = font; }
+  void CancelFont(FontRequest& request) override { request.Answer.reset(); }
+
   void AnswerMessage() override {}
 
   Seen See(Control& control) override {

@@ -22,6 +22,7 @@
 
 #include "desktops/qt/ColorDialog.h"
 #include "desktops/qt/FileDialog.h"
+#include "desktops/qt/FontDialog.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Peer.h"
 #include "desktops/qt/QtDesktop.h"
@@ -189,6 +190,24 @@ class QtUser final : public User {
 
   void CancelColor(ColorRequest&) override {
     if (QColorDialog* const dialog = qt::OpenColorDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
+  }
+
+  void PickFont(FontRequest&, const ColoredFont& font) override {
+    qt::ColoredFontDialog* const dialog = qt::OpenFontDialog();
+    if (!dialog) return;
+    QFont chosen(ToQt(font.Face.Name));
+    chosen.setPointSizeF(font.Face.Size);
+    chosen.setBold(font.Face.Bold);
+    chosen.setItalic(font.Face.Italic);
+    chosen.setUnderline(font.Face.Underline);
+    chosen.setStrikeOut(font.Face.Strikethrough);
+    dialog->setCurrentFont(chosen);
+    dialog->ChosenColor(font.Color);
+    QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+  }
+
+  void CancelFont(FontRequest&) override {
+    if (QWidget* const dialog = qt::OpenFontDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
   }
 
   void AnswerMessage() override {

@@ -11,6 +11,7 @@
 #include "forms/ColorRequest.h"
 #include "forms/ComboBox.h"
 #include "forms/Desktop.h"
+#include "forms/FontRequest.h"
 #include "forms/Form.h"
 #include "forms/ListBox.h"
 #include "forms/OpenFileRequest.h"
@@ -67,6 +68,9 @@ class User {
   /// Picks a colour in the dialog for colours that is open, or presses its Cancel.
   virtual void PickColor(ColorRequest& request, Color color) = 0;
   virtual void CancelColor(ColorRequest& request) = 0;
+  /// Picks a font and its colour in the dialog for fonts that is open, or presses its Cancel.
+  virtual void PickFont(FontRequest& request, const ColoredFont& font) = 0;
+  virtual void CancelFont(FontRequest& request) = 0;
   /// Presses OK in the message box that is open.
   virtual void AnswerMessage() = 0;
   virtual Seen See(Control& control) = 0;

@@ -156,6 +156,22 @@ class Win32User final : public User {
     if (const HWND dialog = win32::OpenPlatformDialog()) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
   }
 
+  void PickFont(FontRequest&, const ColoredFont& font) override {
+    const HWND dialog = win32::OpenPlatformDialog();
+    if (!dialog) return;
+    SelectFont(dialog, cmb1, font.Face.Name);
+    SelectEntry(dialog, cmb2, (font.Face.Bold ? 1 : 0) * 2 + (font.Face.Italic ? 1 : 0));
+    SelectFont(dialog, cmb3, std::to_string(static_cast<int>(font.Face.Size)));
+    Tick(dialog, chx1, font.Face.Strikethrough);
+    Tick(dialog, chx2, font.Face.Underline);
+    SelectColor(dialog, RGB(font.Color.Red, font.Color.Green, font.Color.Blue));
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+  }
+
+  void CancelFont(FontRequest&) override {
+    if (const HWND dialog = win32::OpenPlatformDialog()) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  }
+
   void AnswerMessage() override {
     const HWND box = win32::OpenPlatformDialog();
     if (const HWND button = box ? FindWindowExW(box, nullptr, L"BUTTON", nullptr) : nullptr) MouseClick(button);
@@ -176,6 +192,31 @@ class Win32User final : public User {
   std::string SeeCaption(Form& form) override { return Narrowed(TextOf(WindowOf(form))); }
 
  private:
+  /// Selects an entry of a list of the dialog for fonts, as by the mouse.
+  static void SelectEntry(HWND dialog, int list, int index) {
+    const HWND box = GetDlgItem(dialog, list);
+    SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(list, CBN_SELCHANGE), reinterpret_cast<LPARAM>(box));
+  }
+  static void SelectFont(HWND dialog, int list, const std::string& text) {
+    const auto wanted = reinterpret_cast<LPARAM>(Widened(text).c_str());
+    const LRESULT index = SendMessageW(GetDlgItem(dialog, list), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), wanted);
+    EXPECT_NE(CB_ERR, index) << text;
+    SelectEntry(dialog, list, static_cast<int>(index));
+  }
+  static void Tick(HWND dialog, int box, bool isTicked) {
+    const HWND window = GetDlgItem(dialog, box);
+    if ((SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED) != isTicked) SendMessageW(window, BM_CLICK, 0, 0);
+  }
+  static void SelectColor(HWND dialog, COLORREF color) {
+    const HWND box = GetDlgItem(dialog, cmb4);
+    const LRESULT count = SendMessageW(box, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i)
+      if (static_cast<COLORREF>(SendMessageW(box, CB_GETITEMDATA, static_cast<WPARAM>(i), 0)) == color)
+        return SelectEntry(dialog, cmb4, static_cast<int>(i));
+    ADD_FAILURE() << "no colour " << color;
+  }
+
   /// The control of a dialog of the platform, however deep it stands.
   static HWND Inside(HWND dialog, int id) {
     Search search = {id, nullptr};

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "forms/ColorRequest.h"
+#include "forms/FontRequest.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
 
@@ -65,6 +66,12 @@ bool HeadlessDesktop::DoOpenFiles(OpenFileRequest& request) {
 bool HeadlessDesktop::DoChooseColor(ColorRequest& request) {
   ModalIsRunning({.ShownColor = &request});
   if (request.Answer) request.Color = *request.Answer;
+  return request.Answer.has_value();
+}
+
+bool HeadlessDesktop::DoChooseFont(FontRequest& request) {
+  ModalIsRunning({.ShownFont = &request});
+  if (request.Answer) request.Chosen = *request.Answer;
   return request.Answer.has_value();
 }
 

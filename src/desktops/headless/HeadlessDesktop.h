@@ -26,6 +26,7 @@ class HeadlessDesktop final : public Desktop {
   void DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
+  bool DoChooseFont(FontRequest& request) override;
   void DoBeep() override {}
   void DoSetPointer(orx::Pointer) override {}
   void DoShowHelp(const HelpRequest&) override {}

@@ -18,6 +18,7 @@
 #include "desktops/qt/DialogWindow.h"
 #include "desktops/qt/FileDialog.h"
 #include "desktops/qt/FileSettings.h"
+#include "desktops/qt/FontDialog.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
@@ -147,6 +148,10 @@ bool QtDesktop::DoOpenFiles(OpenFileRequest& request) {
 
 bool QtDesktop::DoChooseColor(ColorRequest& request) {
   return RunColorDialog(request, [&] { ModalIsRunning({.ShownColor = &request}); });
+}
+
+bool QtDesktop::DoChooseFont(FontRequest& request) {
+  return RunFontDialog(request, [&] { ModalIsRunning({.ShownFont = &request}); });
 }
 
 void QtDesktop::DoBeep() {

@@ -40,6 +40,7 @@ class QtDesktop final : public Desktop {
   void DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
+  bool DoChooseFont(FontRequest& request) override;
   void DoBeep() override;
   void DoSetPointer(orx::Pointer value) override;
   void DoShowHelp(const HelpRequest& request) override;

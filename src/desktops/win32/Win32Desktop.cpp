@@ -9,6 +9,7 @@
 #include "desktops/win32/ColorDialog.h"
 #include "desktops/win32/DialogWindow.h"
 #include "desktops/win32/FileDialog.h"
+#include "desktops/win32/FontDialog.h"
 #include "desktops/win32/Fonts.h"
 #include "desktops/win32/GuestScope.h"
 #include "desktops/win32/MessageBox.h"
@@ -147,6 +148,11 @@ bool Win32Desktop::DoOpenFiles(OpenFileRequest& request) {
 bool Win32Desktop::DoChooseColor(ColorRequest& request) {
   const GuestScope guest;
   return RunColorDialog(request, [&] { ModalIsRunning({.ShownColor = &request}); });
+}
+
+bool Win32Desktop::DoChooseFont(FontRequest& request) {
+  const GuestScope guest;
+  return RunFontDialog(request, [&] { ModalIsRunning({.ShownFont = &request}); });
 }
 
 void Win32Desktop::DoBeep() {

@@ -42,6 +42,7 @@ class Win32Desktop final : public Desktop {
   void DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
+  bool DoChooseFont(FontRequest& request) override;
   void DoBeep() override;
   void DoSetPointer(orx::Pointer value) override;
   void DoShowHelp(const HelpRequest& request) override;

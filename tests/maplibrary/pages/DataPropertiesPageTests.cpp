@@ -30,8 +30,8 @@ class DataPage : public PagesTest {
  protected:
   DataPage() {
     page->Page->Client(&data);
-    page->Page->BrowseRequested = [this](BrowseRequest& request) { OnBrowse(request); };
-    page->Page->ClassifyRequested = [this](ClassifyRequest& request) { OnClassify(request); };
+    page->Page->BrowseRequested = [this](BrowseRequest& request) { onBrowse(request); };
+    page->Page->ClassifyRequested = [this](ClassifyRequest& request) { onClassify(request); };
   }
   ~DataPage() override { page->Unload(); }
 
@@ -42,8 +42,8 @@ class DataPage : public PagesTest {
 
   FileData data;
   std::shared_ptr<PageForm> page = MakePage(PageKind::DataProperties);
-  std::function<void(BrowseRequest&)> OnBrowse = [](BrowseRequest&) {};
-  std::function<void(ClassifyRequest&)> OnClassify = [](ClassifyRequest&) {};
+  std::function<void(BrowseRequest&)> onBrowse = [](BrowseRequest&) {};
+  std::function<void(ClassifyRequest&)> onClassify = [](ClassifyRequest&) {};
 };
 
 TEST_F(DataPage, ShowsTheSettingsOfTheData) {
@@ -85,7 +85,7 @@ TEST_F(DataPage, OffersAButtonForEachRequestThatItsDialogAnswers) {
 }
 
 TEST_F(DataPage, AChosenFileIsReadWhenThePageIsSaved) {
-  OnBrowse = [](BrowseRequest& request) {
+  onBrowse = [](BrowseRequest& request) {
     EXPECT_EQ("/data/old.bil", request.FileName);
     request = {"/data/new.bil", false};
   };
@@ -100,7 +100,7 @@ TEST_F(DataPage, AChosenFileIsReadWhenThePageIsSaved) {
 }
 
 TEST_F(DataPage, ACancelledChoiceChangesNothing) {
-  OnBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", true}; };
+  onBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", true}; };
   Show();
   Press("cmdBrowse");
   page->Page->SaveChanges();
@@ -109,7 +109,7 @@ TEST_F(DataPage, ACancelledChoiceChangesNothing) {
 }
 
 TEST_F(DataPage, DiscardForgetsAChosenFile) {
-  OnBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
+  onBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
   Show();
   Press("cmdBrowse");
   page->Page->DiscardChanges();
@@ -118,7 +118,7 @@ TEST_F(DataPage, DiscardForgetsAChosenFile) {
 }
 
 TEST_F(DataPage, AFileThatCannotBeReadIsToldToTheDialog) {
-  OnBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
+  onBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
   Show();
   Press("cmdBrowse");
   data.IsBroken = true;
@@ -127,7 +127,7 @@ TEST_F(DataPage, AFileThatCannotBeReadIsToldToTheDialog) {
 }
 
 TEST_F(DataPage, ClassifyHandsOverTheDataWithItsRangeAndShowsWhatChanged) {
-  OnClassify = [this](ClassifyRequest& request) {
+  onClassify = [this](ClassifyRequest& request) {
     EXPECT_EQ(&data, request.Data);
     EXPECT_EQ(-12, request.Minimum);
     EXPECT_EQ(345, request.Maximum);
@@ -148,8 +148,8 @@ TEST_F(DataPage, AnAnswerWithoutAChangeLeavesThePageClean) {
 }
 
 TEST_F(DataPage, AChosenFileOutlivesAChangeOfTheClasses) {
-  OnBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
-  OnClassify = [](ClassifyRequest& request) { request.Changed = true; };
+  onBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
+  onClassify = [](ClassifyRequest& request) { request.Changed = true; };
   Show();
   Press("cmdBrowse");
   Press("cmdClassify");

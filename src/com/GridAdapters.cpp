@@ -1,0 +1,78 @@
+#include "com/GridAdapters.h"
+
+#include <OrvexMapDialogs2.h>
+
+#include "com/Colors.h"
+#include "com/Conversion.h"
+#include "com/Errors.h"
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::com {
+namespace {
+
+/// "Object variable not set", in the numbers of the older Basic.
+constexpr std::int32_t kNoGridObject = 91;
+
+ComPtr<IDispatch> ObjectOf(const LateBound& owner, const char* member) {
+  ComPtr<IDispatch> object = owner.GetObject(member);
+  if (!object) throw RunTimeError(kNoGridObject, std::string(member) + " is Nothing.");
+  return object;
+}
+
+VARIANT ReferenceTo(VARIANT& variable) {
+  VARIANT reference = {};
+  reference.vt = VT_BYREF | VT_VARIANT;
+  reference.pvarVal = &variable;
+  return reference;
+}
+
+}  // namespace
+
+bool ShadeAdapter::SuggestScaleFactor(double& value) {
+  if (const auto published = ComPtr<::ShadeSettings>::From(mObject.Object())) {
+    VARIANT_BOOL success = VARIANT_FALSE;
+    double suggested = 0;
+    Check(published->SuggestScaleFactor(&suggested, &success), "SuggestScaleFactor");
+    if (success != VARIANT_FALSE) value = suggested;
+    return success != VARIANT_FALSE;
+  }
+  // The variables of scripts have no types.
+  Variant suggested(0.0);
+  Variant success(false);
+  VARIANT arguments[] = {ReferenceTo(suggested), ReferenceTo(success)};
+  mObject.Call("SuggestScaleFactor", arguments, 2);
+  Variant number;
+  Variant flag;
+  Check(ConvertValue(suggested, VT_R8, LOCALE_USER_DEFAULT, number), "SuggestScaleFactor");
+  Check(ConvertValue(success, VT_BOOL, LOCALE_USER_DEFAULT, flag), "SuggestScaleFactor");
+  if (flag.boolVal != VARIANT_FALSE) value = number.dblVal;
+  return flag.boolVal != VARIANT_FALSE;
+}
+
+orx::Color LineStyleAdapter::Color() const {
+  return ColorMember(mObject);
+}
+
+void LineStyleAdapter::Color(orx::Color value) {
+  ColorMember(mObject, value);
+}
+
+orx::Color LabelFontAdapter::Color() const {
+  return ColorMember(mObject);
+}
+
+void LabelFontAdapter::Color(orx::Color value) {
+  ColorMember(mObject, value);
+}
+
+orx::ILineStyle& IsolinesAdapter::Line() {
+  mLine = std::make_unique<LineStyleAdapter>(ObjectOf(mObject, "Line"));
+  return *mLine;
+}
+
+orx::ILabelFont& IsolinesAdapter::LabelFont() {
+  mFont = std::make_unique<LabelFontAdapter>(ObjectOf(mObject, "LabelFont"));
+  return *mFont;
+}
+
+}  // namespace orx::com

@@ -1,0 +1,74 @@
+#include "desktops/qt/FontDialog.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QPixmap>
+#include <QPushButton>
+
+#include "desktops/qt/PlatformDialog.h"
+#include "desktops/qt/Text.h"
+#include "forms/FontRequest.h"
+
+namespace orx::qt {
+namespace {
+
+QFont ToNative(const Font& face) {
+  QFont font;
+  if (!face.Name.empty()) font.setFamily(ToQt(face.Name));
+  font.setPointSizeF(face.Size);
+  font.setBold(face.Bold);
+  font.setItalic(face.Italic);
+  font.setUnderline(face.Underline);
+  font.setStrikeOut(face.Strikethrough);
+  return font;
+}
+
+/// What differs from the font that the dialog was given; the rest keeps its exact value.
+void TakeChanges(const QFont& given, const QFont& chosen, Font& face) {
+  if (chosen.family() != given.family()) face.Name = FromQt(chosen.family());
+  if (chosen.pointSizeF() != given.pointSizeF()) face.Size = chosen.pointSizeF();
+  face.Bold = chosen.bold();
+  face.Italic = chosen.italic();
+  face.Underline = chosen.underline();
+  face.Strikethrough = chosen.strikeOut();
+}
+
+}  // namespace
+
+ColoredFontDialog::ColoredFontDialog() {
+  setOption(QFontDialog::DontUseNativeDialog);
+  mButton = findChild<QDialogButtonBox*>()->addButton(tr("&Color..."), QDialogButtonBox::ActionRole);
+  connect(mButton, &QPushButton::clicked, this, [this] { AskForColor(); });
+}
+
+void ColoredFontDialog::ChosenColor(orx::Color value) {
+  mColor = value;
+  QPixmap swatch(16, 16);
+  swatch.fill({value.Red, value.Green, value.Blue});
+  mButton->setIcon(swatch);
+}
+
+void ColoredFontDialog::AskForColor() {
+  const QColor chosen = QColorDialog::getColor({mColor.Red, mColor.Green, mColor.Blue}, this);
+  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+  if (chosen.isValid()) ChosenColor({part(chosen.red()), part(chosen.green()), part(chosen.blue())});
+}
+
+bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {
+  ColoredFontDialog dialog;
+  dialog.setCurrentFont(ToNative(request.Chosen.Face));
+  dialog.ChosenColor(request.Chosen.Color);
+  // The dialog may know no such font, and starts from another one then.
+  const QFont given = dialog.currentFont();
+  if (!RunPlatformDialog(dialog, request.OwnerHandle, running)) return false;
+  TakeChanges(given, dialog.currentFont(), request.Chosen.Face);
+  request.Chosen.Color = dialog.ChosenColor();
+  return true;
+}
+
+ColoredFontDialog* OpenFontDialog() {
+  return dynamic_cast<ColoredFontDialog*>(QApplication::activeModalWidget());
+}
+
+}  // namespace orx::qt

@@ -1,0 +1,137 @@
+// The dialog for the relief shading of a grid: method, intensities, shades, scaling and the light.
+#pragma once
+
+#include <cstdint>
+
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/ComboBox.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/ShownChoice.h"
+#include "forms/ShownNumber.h"
+#include "forms/TextBox.h"
+#include "hostobjects/IGridSettings.h"
+#include "service/DialogForm.h"
+
+namespace orx {
+
+/// Reads each setting into its control when it is loaded, and writes those that differ on OK. An object without the
+/// extended settings has the method "Darkening" alone.
+class frmDataShade final : public DialogForm {
+ public:
+  explicit frmDataShade(Desktop& desktop);
+
+  /// Set by the caller; the dialog does not read it.
+  void Flags(std::int32_t value) { mFlags = value; }
+  /// True when OK has written a setting; false after Cancel.
+  bool Changed() const { return mChanged; }
+  /// The object to edit, used, not owned. Before the form is loaded; without shading the form unloads itself then.
+  void ShadeObject(HostObject* value);
+
+  Frame fraColors{*this, "Frame1(0)", {.Caption = "Colors", .Place = {120, 120, 6900, 3870}}};
+  Label lblMethod{fraColors, "Label1(0)", {.Caption = "Shading method:", .Place = {150, 360, 2370, 240}}};
+  ComboBox cmbShadeVersion{fraColors, "cmbShadeVersion", {.Place = {2610, 300, 4050, 330}}};
+  Frame fraIntensity2{fraColors, "fraIntensity2", {.Caption = "Color Intensity (%)"}};
+  Label lblShades2{fraIntensity2, "Label1", {.Caption = "Number of shades:", .Place = {150, 330, 2430, 240}}};
+  TextBox txtNrOfShades2{fraIntensity2, "txtNrOfShades2", {.Place = {2640, 270, 780, 330}}};
+  CheckBox chkMidIndexAutomatic{
+      fraIntensity2, "chkMidIndexAutomatic", {.Caption = "Use &reference altitude", .Place = {150, 690, 3300, 300}}};
+  TextBox txtAltitudeDefault{
+      fraIntensity2, "txtAltitudeDefault", {.Place = {2640, 1050, 780, 330}, .AccessibleName = "Reference altitude"}};
+  Label lblFullShade{fraIntensity2, "Label2", {.Caption = "Full shade:", .Place = {3660, 330, 1710, 240}}};
+  TextBox txtIntensityMin{fraIntensity2, "txtIntensityMin", {.Place = {5430, 270, 900, 330}}};
+  Label lblMidLight{fraIntensity2, "Label3", {.Caption = "Mid light:", .Place = {3660, 750, 1710, 240}}};
+  TextBox txtIntensityMid{fraIntensity2, "txtIntensityMid", {.Place = {5430, 690, 900, 330}}};
+  Label lblFullSun{fraIntensity2, "Label4", {.Caption = "Full sun:", .Place = {3660, 1170, 1710, 240}}};
+  TextBox txtIntensityMax{fraIntensity2, "txtIntensityMax", {.Place = {5430, 1110, 900, 330}}};
+  Frame fraIntensity1{fraColors, "fraIntensity1", {.Caption = "Intensity", .Place = {150, 810, 6510, 2370}}};
+  Label lblFirstShadeIndex{
+      fraIntensity1, "lblFirstShadeIndex", {.Caption = "First shade index:", .Place = {150, 390, 3690, 240}}};
+  TextBox txtFirstShadeIndex{fraIntensity1, "txtFirstShadeIndex", {.Place = {3930, 330, 1200, 330}}};
+  Label lblNrOfShades{fraIntensity1, "lblNrOfShades", {.Caption = "Number of shades:", .Place = {150, 810, 3690, 240}}};
+  TextBox txtNrOfShades{fraIntensity1, "txtNrOfShades", {.Place = {3930, 750, 1200, 330}}};
+  Label lblMinIntensity{
+      fraIntensity1, "lblMinIntensity", {.Caption = "Minimum Intensity (%) :", .Place = {150, 1230, 3690, 240}}};
+  TextBox txtMinIntensity{fraIntensity1, "txtMinIntensity", {.Place = {3930, 1170, 1200, 330}}};
+  Label lblCombine{fraColors, "Label1(1)", {.Caption = "Combine colors:", .Place = {150, 3420, 2370, 240}}};
+  ComboBox cmbCombine{fraColors, "cmbCombine", {.Place = {2610, 3360, 4050, 330}}};
+
+  Frame fraScaling{*this, "Frame1(1)", {.Caption = "Scaling", .Place = {120, 4110, 6900, 1590}}};
+  CheckBox chkScaleAutomatic{
+      fraScaling, "chkScaleAutomatic", {.Caption = "Scale automatic:", .Place = {150, 300, 3120, 300}}};
+  Button cmdScaleFactor{
+      fraScaling, "cmdScaleFactor", {.Caption = "Suggest Scale factor", .Place = {3660, 270, 3000, 375}}};
+  Label lblScaleFactor{fraScaling, "Label1(2)", {.Caption = "Scale factor:", .Place = {150, 750, 2370, 240}}};
+  TextBox txtScaleFactor{fraScaling, "txtScaleFactor", {.Place = {2610, 690, 4050, 330}}};
+  Label lblScaleMultiplier{fraScaling, "Label1(3)", {.Caption = "Scale multiplier:", .Place = {150, 1170, 2370, 240}}};
+  TextBox txtScaleMultiplier{fraScaling, "txtScaleMultiplier", {.Place = {2610, 1110, 4050, 330}}};
+
+  Frame fraIllumination{*this, "Frame1(2)", {.Caption = "Illumination", .Place = {120, 5820, 6900, 840}}};
+  Label lblAzimuth{fraIllumination, "Label1(4)", {.Caption = "Azimuth (0' - 360'):", .Place = {150, 390, 2580, 240}}};
+  TextBox txtAzimuth{fraIllumination, "txtAzimuth", {.Place = {2790, 330, 660, 330}}};
+  Label lblAltitude{fraIllumination, "Label1(5)", {.Caption = "Altitude (0' - 90'):", .Place = {3570, 390, 2430, 240}}};
+  TextBox txtAltitude{fraIllumination, "txtAltitude", {.Place = {6060, 330, 660, 330}}};
+
+  Button cmdOK{
+      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 6780, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+  Button cmdCancel{
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 6780, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+
+ protected:
+  void Form_Load() override;
+  void Form_Resize() override { fraIntensity2.Place(fraIntensity1.Place()); }
+  void Form_Unload() override;
+
+ private:
+  void ShowDesignTexts();
+  void FillLists();
+  void ReadBasic();
+  void ReadExtended();
+  /// Keeps the texts of two fields for one setting alike.
+  void Couple(TextBox& one, TextBox& other);
+  void cmbShadeVersion_Click();
+  void cmbCombine_Click();
+  void cmdScaleFactor_Click();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+
+  bool Validate();
+  bool IsDarkening() const { return cmbShadeVersion.ListIndex() < 1; }
+  bool IsNumber(const ShownNumber& field);
+  bool IsWhole(const ShownNumber& field, double low, double high);
+  bool IsWithin(const ShownNumber& field, double low, double high);
+  bool Refuse(const char* title, const char* text, const ShownNumber& field);
+
+  void Apply();
+  void ApplyShades();
+  void ApplyScaling();
+  template <class Value>
+  void Write(Value now, Value (ShadeSettings::*read)() const, void (ShadeSettings::*write)(Value));
+  template <class Value>
+  void Write2(Value now, Value (ShadeSettings2::*read)() const, void (ShadeSettings2::*write)(Value));
+
+  HostObject* mObject = nullptr;
+  ShadeSettings* mShade = nullptr;
+  /// Null for an object with the basic settings only.
+  ShadeSettings2* mShade2 = nullptr;
+  std::int32_t mFlags = 0;
+  bool mChanged = false;
+  bool mIsCopying = false;
+  ShownChoice mVersion{cmbShadeVersion};
+  ShownChoice mCombine{cmbCombine};
+  ShownNumber mShades2{txtNrOfShades2};
+  ShownNumber mReference{txtAltitudeDefault};
+  ShownNumber mFullShade{txtIntensityMin};
+  ShownNumber mMidLight{txtIntensityMid};
+  ShownNumber mFullSun{txtIntensityMax};
+  ShownNumber mFirstIndex{txtFirstShadeIndex};
+  ShownNumber mShades{txtNrOfShades};
+  ShownNumber mMinimum{txtMinIntensity};
+  ShownNumber mFactor{txtScaleFactor};
+  ShownNumber mMultiplier{txtScaleMultiplier};
+  ShownNumber mAzimuth{txtAzimuth};
+  ShownNumber mAltitude{txtAltitude};
+};
+
+}  // namespace orx
