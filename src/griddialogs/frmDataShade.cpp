@@ -25,7 +25,7 @@ std::int32_t LongOf(const ShownNumber& field) {
 }  // namespace
 
 frmDataShade::frmDataShade(Desktop& desktop)
-    : DialogForm(desktop, "frmDataShade", {.Caption = "Data shade", .Client = {7140, 7275}}) {
+    : DialogForm(desktop, "frmDataShade", {.Caption = "Data shade", .Client = {7140, 6525}}) {
   cmbShadeVersion.Click = [this] { cmbShadeVersion_Click(); };
   cmbCombine.Click = [this] { cmbCombine_Click(); };
   Couple(txtMinIntensity, txtIntensityMin);

@@ -29,7 +29,7 @@ class frmDataShade final : public DialogForm {
   /// The object to edit, used, not owned. Before the form is loaded; without shading the form unloads itself then.
   void ShadeObject(HostObject* value);
 
-  Frame fraColors{*this, "Frame1(0)", {.Caption = "Colors", .Place = {120, 120, 6900, 3870}}};
+  Frame fraColors{*this, "Frame1(0)", {.Caption = "Colors", .Place = {120, 120, 6900, 3120}}};
   Label lblMethod{fraColors, "Label1(0)", {.Caption = "Shading method:", .Place = {150, 360, 2370, 240}}};
   ComboBox cmbShadeVersion{fraColors, "cmbShadeVersion", {.Place = {2610, 300, 4050, 330}}};
   Frame fraIntensity2{fraColors, "fraIntensity2", {.Caption = "Color Intensity (%)"}};
@@ -38,14 +38,14 @@ class frmDataShade final : public DialogForm {
   CheckBox chkMidIndexAutomatic{
       fraIntensity2, "chkMidIndexAutomatic", {.Caption = "Use &reference altitude", .Place = {150, 690, 3300, 300}}};
   TextBox txtAltitudeDefault{
-      fraIntensity2, "txtAltitudeDefault", {.Place = {2640, 1050, 780, 330}, .AccessibleName = "Reference altitude"}};
+      fraIntensity2, "txtAltitudeDefault", {.Place = {2640, 1110, 780, 330}, .AccessibleName = "Reference altitude"}};
   Label lblFullShade{fraIntensity2, "Label2", {.Caption = "Full shade:", .Place = {3660, 330, 1710, 240}}};
   TextBox txtIntensityMin{fraIntensity2, "txtIntensityMin", {.Place = {5430, 270, 900, 330}}};
   Label lblMidLight{fraIntensity2, "Label3", {.Caption = "Mid light:", .Place = {3660, 750, 1710, 240}}};
   TextBox txtIntensityMid{fraIntensity2, "txtIntensityMid", {.Place = {5430, 690, 900, 330}}};
   Label lblFullSun{fraIntensity2, "Label4", {.Caption = "Full sun:", .Place = {3660, 1170, 1710, 240}}};
   TextBox txtIntensityMax{fraIntensity2, "txtIntensityMax", {.Place = {5430, 1110, 900, 330}}};
-  Frame fraIntensity1{fraColors, "fraIntensity1", {.Caption = "Intensity", .Place = {150, 810, 6510, 2370}}};
+  Frame fraIntensity1{fraColors, "fraIntensity1", {.Caption = "Intensity", .Place = {150, 810, 6510, 1620}}};
   Label lblFirstShadeIndex{
       fraIntensity1, "lblFirstShadeIndex", {.Caption = "First shade index:", .Place = {150, 390, 3690, 240}}};
   TextBox txtFirstShadeIndex{fraIntensity1, "txtFirstShadeIndex", {.Place = {3930, 330, 1200, 330}}};
@@ -54,10 +54,10 @@ class frmDataShade final : public DialogForm {
   Label lblMinIntensity{
       fraIntensity1, "lblMinIntensity", {.Caption = "Minimum Intensity (%) :", .Place = {150, 1230, 3690, 240}}};
   TextBox txtMinIntensity{fraIntensity1, "txtMinIntensity", {.Place = {3930, 1170, 1200, 330}}};
-  Label lblCombine{fraColors, "Label1(1)", {.Caption = "Combine colors:", .Place = {150, 3420, 2370, 240}}};
-  ComboBox cmbCombine{fraColors, "cmbCombine", {.Place = {2610, 3360, 4050, 330}}};
+  Label lblCombine{fraColors, "Label1(1)", {.Caption = "Combine colors:", .Place = {150, 2670, 2370, 240}}};
+  ComboBox cmbCombine{fraColors, "cmbCombine", {.Place = {2610, 2610, 4050, 330}}};
 
-  Frame fraScaling{*this, "Frame1(1)", {.Caption = "Scaling", .Place = {120, 4110, 6900, 1590}}};
+  Frame fraScaling{*this, "Frame1(1)", {.Caption = "Scaling", .Place = {120, 3360, 6900, 1590}}};
   CheckBox chkScaleAutomatic{
       fraScaling, "chkScaleAutomatic", {.Caption = "Scale automatic:", .Place = {150, 300, 3120, 300}}};
   Button cmdScaleFactor{
@@ -67,16 +67,16 @@ class frmDataShade final : public DialogForm {
   Label lblScaleMultiplier{fraScaling, "Label1(3)", {.Caption = "Scale multiplier:", .Place = {150, 1170, 2370, 240}}};
   TextBox txtScaleMultiplier{fraScaling, "txtScaleMultiplier", {.Place = {2610, 1110, 4050, 330}}};
 
-  Frame fraIllumination{*this, "Frame1(2)", {.Caption = "Illumination", .Place = {120, 5820, 6900, 840}}};
+  Frame fraIllumination{*this, "Frame1(2)", {.Caption = "Illumination", .Place = {120, 5070, 6900, 840}}};
   Label lblAzimuth{fraIllumination, "Label1(4)", {.Caption = "Azimuth (0' - 360'):", .Place = {150, 390, 2580, 240}}};
   TextBox txtAzimuth{fraIllumination, "txtAzimuth", {.Place = {2790, 330, 660, 330}}};
   Label lblAltitude{fraIllumination, "Label1(5)", {.Caption = "Altitude (0' - 90'):", .Place = {3570, 390, 2430, 240}}};
   TextBox txtAltitude{fraIllumination, "txtAltitude", {.Place = {6060, 330, 660, 330}}};
 
   Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 6780, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 6030, 1500, 375}, .Pinned = true}, ButtonRole::Default};
   Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 6780, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 6030, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
 
  protected:
   void Form_Load() override;

@@ -199,8 +199,9 @@ class Win32User final : public User {
     SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(list, CBN_SELCHANGE), reinterpret_cast<LPARAM>(box));
   }
   static void SelectFont(HWND dialog, int list, const std::string& text) {
-    const auto wanted = reinterpret_cast<LPARAM>(Widened(text).c_str());
-    const LRESULT index = SendMessageW(GetDlgItem(dialog, list), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), wanted);
+    const std::wstring wanted = Widened(text);
+    const LRESULT index = SendMessageW(GetDlgItem(dialog, list), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                       reinterpret_cast<LPARAM>(wanted.c_str()));
     EXPECT_NE(CB_ERR, index) << text;
     SelectEntry(dialog, list, static_cast<int>(index));
   }

@@ -33,6 +33,17 @@ TEST_F(Win32Control, TheSelectionOfTheUserIsCountedInCharacters) {
   EXPECT_EQ(2, form->txtName.SelLength());
 }
 
+TEST_F(Win32Control, WhatStandsInADisabledFrameLooksDisabled) {
+  ShowForm();
+  form->fraFirst.Enabled(false);
+  EXPECT_FALSE(IsWindowEnabled(WindowOf(form->txtFirst)));
+  form->txtFirst.Enabled(false);
+  form->fraFirst.Enabled(true);
+  EXPECT_FALSE(IsWindowEnabled(WindowOf(form->txtFirst)));
+  form->txtFirst.Enabled(true);
+  EXPECT_TRUE(IsWindowEnabled(WindowOf(form->txtFirst)));
+}
+
 TEST_F(Win32Control, TheSelectionOfTheProgramIsShown) {
   ShowForm();
   form->txtName.Text("\U0001F30Dabc");

@@ -50,7 +50,8 @@ bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {
   RunPlatformDialog(native.hwndOwner, running, IDCANCEL, [&] { chosen = ChooseFontW(&native) != FALSE; });
   if (!chosen) return false;
   Font& face = request.Chosen.Face;
-  face.Name = Narrowed(font.lfFaceName);
+  // Without an entry for the font that it was given, the dialog has none until the user picks one.
+  if (font.lfFaceName[0] != L'\0') face.Name = Narrowed(font.lfFaceName);
   // The height is in whole pixels; a size that was not changed keeps its fraction.
   if (font.lfHeight != given.lfHeight) face.Size = native.iPointSize / kTenths;
   face.Bold = font.lfWeight >= FW_SEMIBOLD;

@@ -3,6 +3,7 @@
 #include "desktops/win32/Accessible.h"
 #include "desktops/win32/Text.h"
 #include "desktops/win32/WindowClasses.h"
+#include "forms/Container.h"
 #include "forms/Form.h"
 
 namespace orx::win32 {
@@ -146,8 +147,7 @@ void Peer::Mirror(Aspect aspect) {
       if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
       return;
     case Aspect::Enabled:
-      EnableWindow(mWindow, mControl.Enabled());
-      return;
+      return MirrorEnabled();
     case Aspect::ToolTip:
       return mDialog.ToolTip(mFocus, mControl.ToolTipText());
     case Aspect::Accessible:
@@ -155,6 +155,17 @@ void Peer::Mirror(Aspect aspect) {
     default:
       return;
   }
+}
+
+void Peer::MirrorEnabled() {
+  // The platform lets what stands in a disabled window look as if it could be used.
+  bool isEnabled = true;
+  for (const Control* at = &mControl; at; at = at->Parent().ContainerControl()) isEnabled = isEnabled && at->Enabled();
+  EnableWindow(mWindow, isEnabled);
+  const Container* const inner = mControl.AsContainer();
+  if (!inner) return;
+  for (const Control* const child : inner->Children())
+    if (ControlPeer* const peer = child->Peer()) peer->Update(Aspect::Enabled);
 }
 
 void Peer::MirrorName() {

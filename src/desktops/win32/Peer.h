@@ -72,6 +72,7 @@ class Peer : public ControlPeer {
                                        DWORD_PTR peer);
   void FocusCame();
   void MirrorPlace();
+  void MirrorEnabled();
   void MirrorName();
   void KeepFocus() const;
 
