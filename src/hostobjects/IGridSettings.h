@@ -79,8 +79,11 @@ class ShadeSettings2 : public ShadeSettings {
   virtual double MaxIntensity() const = 0;
   virtual void MaxIntensity(double value) = 0;
   /// Intensity in mid light in percent.
+  // A letter tells it from MinIntensity, on purpose.
+  // NOLINTBEGIN(bugprone-virtual-near-miss)
   virtual double MidIntensity() const = 0;
   virtual void MidIntensity(double value) = 0;
+  // NOLINTEND(bugprone-virtual-near-miss)
   /// A number of shadeversion.
   virtual std::int32_t ShadeVersion() const = 0;
   virtual void ShadeVersion(std::int32_t value) = 0;
