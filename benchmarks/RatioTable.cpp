@@ -18,7 +18,12 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs) {
     if (run.run_type != Run::RT_Aggregate || run.aggregate_name != "median") continue;
     const std::string name = run.run_name.function_name;
     const std::size_t slash = name.find('/');
-    mMedians[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedRealTime();
+    const std::string row = name.substr(0, slash);
+    if (const auto cells = run.counters.find("cells"); cells != run.counters.end()) {
+      mPerCell[row] = run.GetAdjustedRealTime() / cells->second;
+    } else {
+      mMedians[row][name.substr(slash + 1)] = run.GetAdjustedRealTime();
+    }
   }
 }
 
@@ -36,6 +41,7 @@ void RatioTable::Finalize() {
     if (medians.contains("headless")) std::printf(" %14.0f", median("headless"));
     std::printf("\n");
   }
+  for (const auto& [row, nanoseconds] : mPerCell) std::printf("%-30s %8.1f ns a cell\n", row.c_str(), nanoseconds);
 }
 
 }  // namespace orx::bench

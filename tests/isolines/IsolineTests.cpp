@@ -11,6 +11,11 @@ using Calls = std::vector<std::string>;
 /// A font beside Arial that every desktop has.
 const std::string kOtherFont = "DejaVu Sans";
 
+/// What OK writes when everything but the font was changed.
+const Calls kAllWrites = {
+    "RangeStep=", "Line.Color=",   "Line.Width=",       "Line.Style=",         "UseRangeColor=", "UseRangeWidth=",
+    "MaxWidth=",  "LabelVisible=", "LabelAllIsolines=", "LabelUseRangeColor=", "LabelDistance="};
+
 class Isolines : public DesktopTest {
  protected:
   template <class Acts>
@@ -28,6 +33,31 @@ class Isolines : public DesktopTest {
   bool IsTicked(CheckBox& box) { return user.See(box).Value == 1; }
   void Cancel() { user.Click(form->cmdCancel); }
   Calls Writes() const { return WritesIn(lines.Log); }
+
+  /// Changes every setting but the font, and OK.
+  bool EditEverything() {
+    return Edit([this] {
+      user.Choose(form->cmbRangeStep, 6);
+      script.ExpectColor([this](ColorRequest& request) { user.PickColor(request, {1, 2, 3}); });
+      user.Click(form->pctColor);
+      user.Type(form->txtLineWidth, "7");
+      user.Choose(form->cmbLineStyle, 4);
+      for (CheckBox* const box : {&form->chkLineUseRangeColor, &form->chkLineUseRangeWidth, &form->chkLabelVisible,
+                                  &form->chkLabelAllIsolines, &form->chkLabelUseRangeColor})
+        user.Toggle(*box);
+      user.Type(form->txtLineMaxWidth, "9");
+      user.Type(form->cmbLabelDistance, "0.7");
+    });
+  }
+  /// The settings that EditEverything changes, so that it can change them again.
+  void PutBack() {
+    lines.HeldRangeStep = 2;
+    lines.Pen.HeldColor = {10, 20, 30};
+    lines.Pen.HeldWidth = 3;
+    lines.Pen.HeldStyle = 2;
+    lines.HeldMaxWidth = 5;
+    lines.HeldLabelDistance = 0.25;
+  }
 
   RecordedIsolines lines;
   bool changed = false;
@@ -74,21 +104,8 @@ TEST_F(Isolines, OKAsLoadedWritesNothing) {
 }
 
 TEST_F(Isolines, EverySettingIsWrittenInOrder) {
-  EXPECT_TRUE(Edit([this] {
-    user.Choose(form->cmbRangeStep, 6);
-    script.ExpectColor([this](ColorRequest& request) { user.PickColor(request, {1, 2, 3}); });
-    user.Click(form->pctColor);
-    user.Type(form->txtLineWidth, "7");
-    user.Choose(form->cmbLineStyle, 4);
-    for (CheckBox* const box : {&form->chkLineUseRangeColor, &form->chkLineUseRangeWidth, &form->chkLabelVisible,
-                                &form->chkLabelAllIsolines, &form->chkLabelUseRangeColor})
-      user.Toggle(*box);
-    user.Type(form->txtLineMaxWidth, "9");
-    user.Type(form->cmbLabelDistance, "0.7");
-  }));
-  EXPECT_EQ((Calls{"RangeStep=", "Line.Color=", "Line.Width=", "Line.Style=", "UseRangeColor=", "UseRangeWidth=",
-                   "MaxWidth=", "LabelVisible=", "LabelAllIsolines=", "LabelUseRangeColor=", "LabelDistance="}),
-            Writes());
+  EXPECT_TRUE(EditEverything());
+  EXPECT_EQ(kAllWrites, Writes());
   EXPECT_EQ(7, lines.HeldRangeStep);
   EXPECT_EQ((Color{1, 2, 3}), lines.Pen.HeldColor);
   EXPECT_EQ(4, lines.Pen.HeldStyle);
@@ -234,19 +251,12 @@ TEST_F(Isolines, ASettingThatCannotBeReadIsSkippedAndTheRestWorks) {
 }
 
 TEST_F(Isolines, ASettingThatCannotBeWrittenIsPassedOver) {
-  for (const std::string setting : {"RangeStep=", "Line.Width=", "MaxWidth=", "LabelVisible=", "LabelDistance="}) {
-    lines.Log.Failing = {setting};
-    lines.HeldUseRangeWidth = false;
-    EXPECT_TRUE(Edit([this] {
-      user.Type(form->cmbRangeStep, "9");
-      user.Type(form->txtLineWidth, "9");
-      user.Type(form->txtLineMaxWidth, "9");
-      user.Type(form->cmbLabelDistance, "9");
-      user.Toggle(form->chkLabelVisible);
-      user.Toggle(form->chkLineUseRangeWidth);
-    })) << setting;
-    EXPECT_TRUE(lines.HeldUseRangeWidth) << setting;
-    lines.HeldRangeStep = 2;
+  for (const std::string& write : kAllWrites) {
+    PutBack();
+    lines.Log.Failing = {write};
+    EXPECT_TRUE(EditEverything()) << write;
+    EXPECT_EQ(kAllWrites, Writes()) << write;
+    EXPECT_EQ(write == "LabelDistance=" ? 0.25 : 0.7, lines.HeldLabelDistance) << write;
   }
 }
 

@@ -12,6 +12,12 @@ using Calls = std::vector<std::string>;
 const Message kNoNumber{"Valid number required.", "Invalid number", MessageIcon::Information};
 const Message kNotInRange{"Number not within range.", "Invalid range", MessageIcon::Information};
 
+/// What OK writes when everything was changed. The first index is put right behind the user's own.
+const Calls kAllWrites = {"ShadeVersion=",      "Altitude=",       "Azimuth=",      "CombineColors=",
+                          "MinIntensity=",      "MidIntensity=",   "MaxIntensity=", "AltitudeDefault=",
+                          "MidIndexAutomatic=", "NrOfShades=",     "ShadeCount=",   "FirstShadeIndex=",
+                          "FirstShadeIndex=",   "ScaleAutomatic=", "ScaleFactor=",  "ScaleMultiplier="};
+
 class Shading : public DesktopTest {
  protected:
   template <class Acts>
@@ -38,6 +44,44 @@ class Shading : public DesktopTest {
     Calls writes = WritesIn(shade.Log);
     std::erase(writes, "ShadeCount=");
     return writes;
+  }
+
+  /// Changes every setting there is, and OK.
+  bool EditEverything() {
+    return Edit([this] {
+      user.Choose(form->cmbShadeVersion, 0);
+      user.Type(form->txtAltitude, "50");
+      user.Type(form->txtAzimuth, "10");
+      user.Choose(form->cmbCombine, 2);
+      user.Type(form->txtMinIntensity, "30");
+      user.Type(form->txtNrOfShades, "99");
+      user.Type(form->txtFirstShadeIndex, "3");
+      user.Choose(form->cmbShadeVersion, 1);
+      user.Type(form->txtIntensityMid, "90");
+      user.Type(form->txtIntensityMax, "110");
+      user.Type(form->txtAltitudeDefault, "20");
+      user.Toggle(form->chkMidIndexAutomatic);
+      user.Toggle(form->chkScaleAutomatic);
+      user.Type(form->txtScaleFactor, "0.5");
+      user.Type(form->txtScaleMultiplier, "4");
+    });
+  }
+  /// The settings that EditEverything changes, so that it can change them again.
+  void PutBack() {
+    shade.HeldShadeVersion = shadeversion::kDarkening;
+    shade.HeldAltitude = 45;
+    shade.HeldAzimuth = 315;
+    shade.HeldCombineColors = 1;
+    shade.HeldMinIntensity = 40.5;
+    shade.HeldMidIntensity = 100;
+    shade.HeldMaxIntensity = 150;
+    shade.HeldAltitudeDefault = 35;
+    shade.HeldMidIndexAutomatic = true;
+    shade.HeldNrOfShades = 200;
+    shade.HeldFirstShadeIndex = 1;
+    shade.HeldScaleAutomatic = false;
+    shade.HeldScaleFactor = 1;
+    shade.HeldScaleMultiplier = 2;
   }
 
   RecordedShade shade;
@@ -93,27 +137,9 @@ TEST_F(Shading, OKUntouchedWritesNothingButTheCount) {
 }
 
 TEST_F(Shading, EverySettingIsWrittenInOrder) {
-  shade.HeldShadeVersion = shadeversion::kDarkening;
-  EXPECT_TRUE(Edit([this] {
-    user.Type(form->txtAltitude, "50");
-    user.Type(form->txtAzimuth, "10");
-    user.Choose(form->cmbCombine, 2);
-    user.Type(form->txtMinIntensity, "30");
-    user.Type(form->txtNrOfShades, "99");
-    user.Type(form->txtFirstShadeIndex, "3");
-    user.Choose(form->cmbShadeVersion, 1);
-    user.Type(form->txtIntensityMid, "90");
-    user.Type(form->txtIntensityMax, "110");
-    user.Type(form->txtAltitudeDefault, "20");
-    user.Toggle(form->chkMidIndexAutomatic);
-    user.Toggle(form->chkScaleAutomatic);
-    user.Type(form->txtScaleFactor, "0.5");
-    user.Type(form->txtScaleMultiplier, "4");
-  }));
-  EXPECT_EQ((Calls{"ShadeVersion=", "Altitude=", "Azimuth=", "CombineColors=", "MinIntensity=", "MidIntensity=",
-                   "MaxIntensity=", "AltitudeDefault=", "MidIndexAutomatic=", "NrOfShades=", "ShadeCount=",
-                   "FirstShadeIndex=", "FirstShadeIndex=", "ScaleAutomatic=", "ScaleFactor=", "ScaleMultiplier="}),
-            WritesIn(shade.Log));
+  PutBack();
+  EXPECT_TRUE(EditEverything());
+  EXPECT_EQ(kAllWrites, WritesIn(shade.Log));
   EXPECT_EQ(30, shade.HeldMinIntensity);
   EXPECT_EQ(99, shade.Count);
   EXPECT_EQ(1, shade.HeldFirstShadeIndex);
@@ -275,21 +301,12 @@ TEST_F(Shading, ASettingThatCannotBeReadIsSkippedAndTheRestWorks) {
 }
 
 TEST_F(Shading, ASettingThatCannotBeWrittenIsPassedOver) {
-  shade.HeldShadeVersion = shadeversion::kDarkening;
-  for (const std::string setting : {"Altitude", "Azimuth", "MinIntensity", "NrOfShades", "ScaleFactor"}) {
+  for (const std::string setting : kSettings) {
+    PutBack();
     shade.Log.Failing = {setting + "="};
-    shade.HeldAltitude = 45;
-    shade.HeldScaleMultiplier = 2;
-    EXPECT_TRUE(Edit([this] {
-      user.Type(form->txtAltitude, "1");
-      user.Type(form->txtAzimuth, "2");
-      user.Type(form->txtMinIntensity, "3");
-      user.Type(form->txtNrOfShades, "4");
-      user.Type(form->txtScaleFactor, "5");
-      user.Type(form->txtScaleMultiplier, "6");
-    })) << setting;
-    EXPECT_EQ(6, shade.HeldScaleMultiplier) << setting;
-    EXPECT_EQ(setting == "Altitude" ? 45 : 1, shade.HeldAltitude);
+    EXPECT_TRUE(EditEverything()) << setting;
+    EXPECT_EQ(kAllWrites, WritesIn(shade.Log)) << setting;
+    EXPECT_EQ(setting == "ScaleMultiplier" ? 2 : 4, shade.HeldScaleMultiplier) << setting;
   }
 }
 

@@ -16,16 +16,6 @@ QRect RectOf(const Rect& place) {
   return {place.Left, place.Top, place.Width, place.Height};
 }
 
-QFont FontOf(const Font& face, QFont font) {
-  if (!face.Name.empty()) font.setFamily(ToQt(face.Name));
-  font.setPointSizeF(face.Size);
-  font.setBold(face.Bold);
-  font.setItalic(face.Italic);
-  font.setUnderline(face.Underline);
-  font.setStrikeOut(face.Strikethrough);
-  return font;
-}
-
 /// Paints one mark; the painter is restored after each.
 class MarkPainter {
  public:
@@ -69,6 +59,16 @@ class MarkPainter {
 };
 
 }  // namespace
+
+QFont FontOf(const Font& face, QFont font) {
+  if (!face.Name.empty()) font.setFamily(ToQt(face.Name));
+  font.setPointSizeF(face.Size);
+  font.setBold(face.Bold);
+  font.setItalic(face.Italic);
+  font.setUnderline(face.Underline);
+  font.setStrikeOut(face.Strikethrough);
+  return font;
+}
 
 void PaintCanvas(QPainter& painter, const Canvas& canvas, const QFont& dialogFont) {
   MarkPainter paint(painter, dialogFont);

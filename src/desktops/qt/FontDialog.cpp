@@ -6,23 +6,13 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include "desktops/qt/CanvasPainter.h"
 #include "desktops/qt/PlatformDialog.h"
 #include "desktops/qt/Text.h"
 #include "forms/FontRequest.h"
 
 namespace orx::qt {
 namespace {
-
-QFont ToNative(const Font& face) {
-  QFont font;
-  if (!face.Name.empty()) font.setFamily(ToQt(face.Name));
-  font.setPointSizeF(face.Size);
-  font.setBold(face.Bold);
-  font.setItalic(face.Italic);
-  font.setUnderline(face.Underline);
-  font.setStrikeOut(face.Strikethrough);
-  return font;
-}
 
 /// What differs from the font that the dialog was given; the rest keeps its exact value.
 void TakeChanges(const QFont& given, const QFont& chosen, Font& face) {
@@ -57,7 +47,7 @@ void ColoredFontDialog::AskForColor() {
 
 bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {
   ColoredFontDialog dialog;
-  dialog.setCurrentFont(ToNative(request.Chosen.Face));
+  dialog.setCurrentFont(FontOf(request.Chosen.Face, QApplication::font()));
   dialog.ChosenColor(request.Chosen.Color);
   // The dialog may know no such font, and starts from another one then.
   const QFont given = dialog.currentFont();

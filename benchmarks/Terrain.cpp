@@ -1,0 +1,58 @@
+// What a cell of the demo's terrain costs to shade, to contour and to paint.
+#include <benchmark/benchmark.h>
+
+#include "maplibrary/Contours.h"
+#include "maplibrary/DrawIsolines.h"
+#include "maplibrary/RenderGrid.h"
+#include "maplibrary/SampleMap.h"
+
+namespace orx::bench {
+namespace {
+
+using namespace maplibrary;
+
+/// The terrain with nine classes.
+struct Terrain {
+  Terrain() { Data.NumberOfClasses(9); }
+
+  std::unique_ptr<Map> Sample = MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil");
+  Layer& First = dynamic_cast<Layer&>(*Sample->Layer(1));
+  LayerData& Data = *First.Data();
+  const GridData& Grid = *Data.Grid();
+};
+
+/// Runs `act` on the terrain; the table tells the time for one cell.
+template <class Act>
+void PerCell(benchmark::State& state, Act&& act) {
+  Terrain terrain;
+  while (state.KeepRunning()) act(terrain);
+  state.counters["cells"] = static_cast<double>(terrain.Grid.Values.size());
+}
+
+void Shade(benchmark::State& state) {
+  PerCell(state, [](Terrain& terrain) { benchmark::DoNotOptimize(LightOf(terrain.Grid, 315, 45, 1E-5)); });
+}
+
+void Contour(benchmark::State& state) {
+  PerCell(state, [](Terrain& terrain) {
+    for (const double level : IsolineLevels(terrain.Data)) benchmark::DoNotOptimize(ContoursOf(terrain.Grid, level));
+  });
+}
+
+void Paint(benchmark::State& state) {
+  PerCell(state, [](Terrain& terrain) {
+    Image image = BlankImage({terrain.Grid.Columns, terrain.Grid.Rows});
+    PaintGrid(image, terrain.Grid.Edges(), terrain.First.Grids().front(), {236, 1076});
+    benchmark::DoNotOptimize(image);
+  });
+}
+
+const bool kRegistered = [] {
+  benchmark::RegisterBenchmark("shade the terrain/cell", Shade);
+  benchmark::RegisterBenchmark("contour it at 8 levels/cell", Contour);
+  benchmark::RegisterBenchmark("paint it/cell", Paint);
+  return true;
+}();
+
+}  // namespace
+}  // namespace orx::bench
