@@ -30,7 +30,7 @@ void PerCell(benchmark::State& state, Act&& act) {
 }
 
 void Shade(benchmark::State& state) {
-  PerCell(state, [](Terrain& terrain) { benchmark::DoNotOptimize(LightOf(terrain.Grid, 315, 45, 1E-5)); });
+  PerCell(state, [](Terrain& terrain) { benchmark::DoNotOptimize(LightSource(315, 45).On(terrain.Grid, 1E-5)); });
 }
 
 void Contour(benchmark::State& state) {

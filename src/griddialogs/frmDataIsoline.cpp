@@ -119,15 +119,10 @@ void frmDataIsoline::cmdFont_Click() {
   cmdFont.SetFocus();
 }
 
-double frmDataIsoline::NumberOf(const ComboBox& field) {
+template <class Field>
+double frmDataIsoline::NumberOf(Field& field) const {
   const std::optional<double> value = numbers::ToDouble(field.Text(), OwnerDesktop().Separators());
-  if (!value) throw NoNumber{const_cast<ComboBox*>(&field)};
-  return *value;
-}
-
-double frmDataIsoline::NumberOf(const TextBox& field) {
-  const std::optional<double> value = numbers::ToDouble(field.Text(), OwnerDesktop().Separators());
-  if (!value) throw NoNumber{const_cast<TextBox*>(&field)};
+  if (!value) throw NoNumber{&field};
   return *value;
 }
 

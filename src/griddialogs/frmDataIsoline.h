@@ -82,8 +82,8 @@ class frmDataIsoline final : public DialogForm {
   void ApplyFont();
   std::string NumberText(double value) const;
   /// The number of a field; throws NoNumber where there is none.
-  double NumberOf(const ComboBox& field);
-  double NumberOf(const TextBox& field);
+  template <class Field>
+  double NumberOf(Field& field) const;
   std::int32_t LongOf(double value, Control& field) const;
   template <class Object, class Value, class Given>
   void Write(Object& object, const Given& now, Value (Object::*read)() const, void (Object::*write)(Given));

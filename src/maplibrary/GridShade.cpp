@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <utility>
 
 #include "maplibrary/Errors.h"
 
@@ -110,23 +111,33 @@ void GridShade::ShadeVersion(std::int32_t value) {
   mVersion = value;
 }
 
-bool GridShade::SuggestScaleFactor(double& value) {
-  if (!mGrid) return false;
+void GridShade::Grid(std::shared_ptr<const GridData> value) {
+  mGrid = std::move(value);
+  mIsWorkedOut = false;
+}
+
+const std::optional<double>& GridShade::Suggested() const {
+  if (std::exchange(mIsWorkedOut, true)) return mSuggested;
+  mSuggested.reset();
+  if (!mGrid) return mSuggested;
   const GroundRect edges = mGrid->Edges();
   const double latitude = (edges.Bottom + edges.Top) / 2;
   // Between the length of a degree of longitude and that of a degree of latitude.
   const double unit =
       IsInDegrees(*mGrid) ? kMetresPerDegree * std::sqrt(std::max(std::cos(latitude * kRadians), 0.1)) : 1;
   const double slope = MeanSlope(*mGrid, 1 / unit);
-  if (!(slope > 0) || !std::isfinite(slope)) return false;
-  value = ToThreeDigits(std::clamp(kVisibleSlope / slope, 1.0, kMostExaggeration) / unit);
-  return true;
+  if (slope > 0 && std::isfinite(slope))
+    mSuggested = ToThreeDigits(std::clamp(kVisibleSlope / slope, 1.0, kMostExaggeration) / unit);
+  return mSuggested;
+}
+
+bool GridShade::SuggestScaleFactor(double& value) {
+  value = Suggested().value_or(value);
+  return Suggested().has_value();
 }
 
 double GridShade::HeightScale() const {
-  double factor = mFactor;
-  // The suggestion reads the grid and changes nothing.
-  if (mScaleAutomatic) const_cast<GridShade*>(this)->SuggestScaleFactor(factor);
+  const double factor = mScaleAutomatic ? Suggested().value_or(mFactor) : mFactor;
   return factor * mMultiplier;
 }
 
@@ -158,28 +169,25 @@ Slope SlopeOf(const GridData& grid, std::int32_t row, std::int32_t column, doubl
   return {scale * east / (8 * grid.CellWidth), scale * north / (8 * grid.CellHeight)};
 }
 
-double LightOn(const Slope& slope, double azimuth, double altitude) {
-  const double away = std::cos(altitude * kRadians) *
-                      (std::sin(azimuth * kRadians) * slope.East + std::cos(azimuth * kRadians) * slope.North);
-  const double light = (std::sin(altitude * kRadians) - away) / std::hypot(1, slope.East, slope.North);
-  return std::max(light, 0.0);
+LightSource::LightSource(double azimuth, double altitude)
+    : mEast(std::cos(altitude * kRadians) * std::sin(azimuth * kRadians)),
+      mNorth(std::cos(altitude * kRadians) * std::cos(azimuth * kRadians)),
+      mUp(std::sin(altitude * kRadians)) {
 }
 
-std::vector<float> LightOf(const GridData& grid, double azimuth, double altitude, double scale) {
+double LightSource::On(const Slope& slope) const {
+  const double length = std::sqrt(1 + slope.East * slope.East + slope.North * slope.North);
+  return std::max((mUp - mEast * slope.East - mNorth * slope.North) / length, 0.0);
+}
+
+std::vector<float> LightSource::On(const GridData& grid, double scale) const {
   std::vector<float> light;
   light.reserve(grid.Values.size());
-  const double east = std::cos(altitude * kRadians) * std::sin(azimuth * kRadians);
-  const double north = std::cos(altitude * kRadians) * std::cos(azimuth * kRadians);
-  const double up = std::sin(altitude * kRadians);
   for (std::int32_t row = 0; row < grid.Rows; ++row) {
     for (std::int32_t column = 0; column < grid.Columns; ++column) {
-      if (std::isnan(grid.At(row, column))) {
-        light.push_back(std::numeric_limits<float>::quiet_NaN());
-        continue;
-      }
-      const Slope slope = SlopeOf(grid, row, column, scale);
-      const double length = std::sqrt(1 + slope.East * slope.East + slope.North * slope.North);
-      light.push_back(static_cast<float>(std::max((up - east * slope.East - north * slope.North) / length, 0.0)));
+      const bool hasValue = !std::isnan(grid.At(row, column));
+      light.push_back(hasValue ? static_cast<float>(On(SlopeOf(grid, row, column, scale)))
+                               : std::numeric_limits<float>::quiet_NaN());
     }
   }
   return light;

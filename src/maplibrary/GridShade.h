@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "hostobjects/IGridSettings.h"
@@ -47,7 +48,7 @@ class GridShade final : public ShadeSettings2 {
   void ShadeVersion(std::int32_t value) override;
 
   /// The grid that a scale factor is suggested for.
-  void Grid(std::shared_ptr<const GridData> value) { mGrid = std::move(value); }
+  void Grid(std::shared_ptr<const GridData> value);
   bool IsOn() const { return mCombine != combinecolors::kNone; }
   /// What heights are multiplied by: the factor, or the suggested one, times the multiplier.
   double HeightScale() const;
@@ -55,7 +56,12 @@ class GridShade final : public ShadeSettings2 {
   double IntensityOf(double light) const;
 
  private:
+  /// Worked out once for a grid; none when it does not allow it.
+  const std::optional<double>& Suggested() const;
+
   std::shared_ptr<const GridData> mGrid;
+  mutable bool mIsWorkedOut = false;
+  mutable std::optional<double> mSuggested;
   bool mScaleAutomatic = true;
   std::int16_t mCombine = combinecolors::kNone;
   std::int32_t mAltitude = 45;
@@ -85,11 +91,21 @@ struct Slope {
 /// A neighbour without value, or beyond the edge, counts as the cell itself. Heights are multiplied by `scale`.
 Slope SlopeOf(const GridData& grid, std::int32_t row, std::int32_t column, double scale);
 
-/// The light on ground of that slope, from 0 to 1: the cosine of the angle between the light and the normal of the
-/// ground, 0 where the ground turns away. Azimuth clockwise from north and altitude above the horizon, in degrees.
-double LightOn(const Slope& slope, double azimuth, double altitude);
+/// Light from one direction: azimuth clockwise from north and altitude above the horizon, in degrees.
+class LightSource {
+ public:
+  LightSource(double azimuth, double altitude);
 
-/// The light on each cell, row by row; NaN where the grid has no value.
-std::vector<float> LightOf(const GridData& grid, double azimuth, double altitude, double scale);
+  /// The light on ground of that slope, from 0 to 1: the cosine of the angle between the light and the normal of the
+  /// ground, 0 where the ground turns away.
+  double On(const Slope& slope) const;
+  /// The light on each cell, row by row; NaN where the grid has no value. Heights are multiplied by `scale`.
+  std::vector<float> On(const GridData& grid, double scale) const;
+
+ private:
+  double mEast;
+  double mNorth;
+  double mUp;
+};
 
 }  // namespace orx::maplibrary

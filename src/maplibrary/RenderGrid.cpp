@@ -74,7 +74,7 @@ class Shader {
     if (!placed.Data || !placed.Data->Shade().IsOn()) return;
     const GridShade& shade = placed.Data->Shade();
     mOverDevice = shade.CombineColors() == combinecolors::kShadeAndDevice;
-    mLight = LightOf(mGrid, shade.Azimuth(), shade.Altitude(), shade.HeightScale());
+    mLight = LightSource(shade.Azimuth(), shade.Altitude()).On(mGrid, shade.HeightScale());
     for (int i = 0; i <= kSteps; ++i) mIntensity.push_back(shade.IntensityOf(static_cast<double>(i) / kSteps) / 100);
   }
 

@@ -56,20 +56,20 @@ TEST(RendererShade, APlaneHasItsSlopeEverywhereInside) {
 TEST(RendererShade, GroundAcrossTheLightIsFullyLitAndGroundTurnedAwayIsDark) {
   // A slope of 45 degrees that falls to the east, lit from the east and from the west at 45 degrees.
   const Slope falling{-1, 0};
-  EXPECT_NEAR(LightOn(falling, 90, 45), 1, 1e-12);
-  EXPECT_NEAR(LightOn(falling, 270, 45), 0, 1e-12);
-  EXPECT_NEAR(LightOn({}, 123, 45), kLevelLight, 1e-12);
-  EXPECT_NEAR(LightOn({}, 0, 90), 1, 1e-12);
-  EXPECT_EQ(LightOn({-5, 0}, 270, 10), 0);
+  EXPECT_NEAR(LightSource(90, 45).On(falling), 1, 1e-12);
+  EXPECT_NEAR(LightSource(270, 45).On(falling), 0, 1e-12);
+  EXPECT_NEAR(LightSource(123, 45).On(Slope{}), kLevelLight, 1e-12);
+  EXPECT_NEAR(LightSource(0, 90).On(Slope{}), 1, 1e-12);
+  EXPECT_EQ(LightSource(270, 10).On(Slope{-5, 0}), 0);
   // North counts as 0 degrees, clockwise.
-  EXPECT_GT(LightOn({0, -1}, 0, 45), 0.99);
-  EXPECT_GT(LightOn({-1, -1}, 45, 35), 0.99);
+  EXPECT_GT(LightSource(0, 45).On(Slope{0, -1}), 0.99);
+  EXPECT_GT(LightSource(45, 35).On(Slope{-1, -1}), 0.99);
 }
 
 TEST(RendererShade, AConeIsLitAllAroundByItsAspect) {
   constexpr double kMiddle = 20;
   const GridData grid = GridOf(41, 41, [](double x, double y) { return 50 - std::hypot(x - kMiddle, y - kMiddle); });
-  const std::vector<float> light = LightOf(grid, 315, 45, 1);
+  const std::vector<float> light = LightSource(315, 45).On(grid, 1);
   for (int degrees = 0; degrees < 360; degrees += 15) {
     const double aspect = degrees * 3.14159265358979 / 180;
     const auto column = static_cast<std::size_t>(std::lround(kMiddle + 15 * std::sin(aspect)));
@@ -82,7 +82,7 @@ TEST(RendererShade, AConeIsLitAllAroundByItsAspect) {
 
 TEST(RendererShade, CellsWithoutValueHaveNoLightAndDoNotSpoilTheirNeighbours) {
   GridData grid = SmallGrid(3, 3, {5, 5, 5, 5, 5, kNone, 5, 5, 5});
-  const std::vector<float> light = LightOf(grid, 315, 45, 1);
+  const std::vector<float> light = LightSource(315, 45).On(grid, 1);
   EXPECT_TRUE(std::isnan(light[5]));
   for (const std::size_t cell : {0U, 1U, 4U, 8U}) EXPECT_NEAR(light[cell], kLevelLight, 1e-6) << cell;
 }
