@@ -6,6 +6,7 @@
 #include <numbers>
 #include <span>
 
+#include "maplibrary/ClipLine.h"
 #include "maplibrary/Contours.h"
 #include "maplibrary/ValueColors.h"
 #include "numbers/Numbers.h"
@@ -16,6 +17,8 @@ namespace {
 constexpr std::int32_t kMostLevels = 256;
 /// A label needs this many times its width of line.
 constexpr double kRoom = 1.5;
+/// Pixels between labels at least, however small they are.
+constexpr double kLeastDistance = 16;
 
 /// What of a line is drawn and left out, in turn, in pixels; the platform's pen styles.
 std::span<const double> PatternOf(std::int32_t style) {
@@ -96,7 +99,8 @@ class IsolineDrawing {
 
   void DrawLevel(double level, double share) {
     std::vector<std::vector<PixelPoint>> lines;
-    for (const Contour& contour : ContoursOf(*mPlaced.Grid, level)) lines.push_back(OnPicture(contour));
+    for (const Contour& contour : ContoursOf(*mPlaced.Grid, level))
+      for (auto& piece : OnPicture(contour)) lines.push_back(std::move(piece));
     if (lines.empty()) return;
     const GridIsolines& settings = mData.Lines();
     const Color ranged = ClassColor(static_cast<std::int32_t>(std::lround(share * (kShades - 1))), kShades);
@@ -124,7 +128,8 @@ class IsolineDrawing {
     return std::max(1, static_cast<int>(std::lround(width + (most - width) * share)));
   }
 
-  std::vector<PixelPoint> OnPicture(const Contour& contour) const {
+  /// What of a contour the picture shows.
+  std::vector<std::vector<PixelPoint>> OnPicture(const Contour& contour) const {
     const GridData& grid = *mPlaced.Grid;
     const GroundRect& place = mPlaced.Place;
     std::vector<PixelPoint> line;
@@ -132,7 +137,7 @@ class IsolineDrawing {
     for (const GridPlace& point : contour.Points)
       line.push_back(mView.ToPixel({place.Left + (point.Column + 0.5) / grid.Columns * place.Width(),
                                     place.Top - (point.Row + 0.5) / grid.Rows * place.Height()}));
-    return line;
+    return ClippedLine(line, mView.Pixels());
   }
 
   void DrawLine(const std::vector<PixelPoint>& line, const LineMark& pen) {
@@ -142,16 +147,8 @@ class IsolineDrawing {
         const Point rounded = Rounded(point);
         if (mark.Points.empty() || mark.Points.back() != rounded) mark.Points.push_back(rounded);
       }
-      if (mark.Points.size() > 1 && IsSeen(mark.Points)) mCanvas.Draw(std::move(mark));
+      if (mark.Points.size() > 1) mCanvas.Draw(std::move(mark));
     }
-  }
-
-  /// False for lines that lie wholly beside the picture.
-  bool IsSeen(const std::vector<Point>& points) const {
-    const Rect picture = mView.Pixels();
-    const auto [left, right] = std::ranges::minmax(points, {}, &Point::X);
-    const auto [top, bottom] = std::ranges::minmax(points, {}, &Point::Y);
-    return right.X >= picture.Left && left.X <= picture.Right() && bottom.Y >= picture.Top && top.Y <= picture.Bottom();
   }
 
   void DrawLabels(const std::vector<PixelPoint>& line, const std::string& text, Color ink) {
@@ -159,18 +156,13 @@ class IsolineDrawing {
     const double width = mLettering.WidthOf(text, font);
     const double length = LengthOf(line);
     if (font.Size <= 0 || length < kRoom * width) return;
-    const double distance = std::max(mData.Lines().LabelDistance() * mView.Pixels().Width, 2 * width);
+    const double distance = std::max({mData.Lines().LabelDistance() * mView.Pixels().Width, 2 * width, kLeastDistance});
     for (double at = std::min(distance, length) / 2; at + width / 2 <= length; at += distance) {
       const PixelPoint from = PointAt(line, std::max(at - width / 2, 0.0));
       const PixelPoint to = PointAt(line, at + width / 2);
       const PixelPoint middle = PointAt(line, at);
-      if (!Holds(mView.Pixels(), middle)) continue;
       mLettering.DrawHaloed(middle, text, font, ink, Upright(std::atan2(from.Y - to.Y, to.X - from.X)));
     }
-  }
-
-  static bool Holds(const Rect& picture, const PixelPoint& point) {
-    return point.X >= picture.Left && point.X < picture.Right() && point.Y >= picture.Top && point.Y < picture.Bottom();
   }
 
   /// Degrees counterclockwise for a direction in radians, turned so that the text does not stand on its head.

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <vector>
+
+#include "maplibrary/ClipLine.h"
 
 namespace orx::maplibrary {
 namespace {
@@ -13,32 +15,6 @@ constexpr Color kEdgeColor = {90, 60, 20};
 /// The side of a point's square and the width of a line, in points.
 constexpr double kPointSize = 4;
 constexpr double kLineWidth = 1;
-
-struct Segment {
-  PixelPoint From;
-  PixelPoint To;
-};
-
-/// The part of a segment inside the frame, after Liang and Barsky: "A New Concept and Method for Line Clipping", ACM
-/// Transactions on Graphics 3 (1984).
-std::optional<Segment> Clipped(const Segment& whole, const Rect& frame) {
-  const double dx = whole.To.X - whole.From.X;
-  const double dy = whole.To.Y - whole.From.Y;
-  double start = 0;
-  double end = 1;
-  const auto cut = [&](double direction, double room) {
-    if (direction == 0) return room >= 0;
-    const double at = room / direction;
-    if (direction < 0) start = std::max(start, at);
-    if (direction > 0) end = std::min(end, at);
-    return start <= end;
-  };
-  const bool isSeen = cut(-dx, whole.From.X - frame.Left) && cut(dx, frame.Right() - whole.From.X) &&
-                      cut(-dy, whole.From.Y - frame.Top) && cut(dy, frame.Bottom() - whole.From.Y);
-  if (!isSeen) return std::nullopt;
-  const auto at = [&](double share) { return PixelPoint{whole.From.X + share * dx, whole.From.Y + share * dy}; };
-  return Segment{at(start), at(end)};
-}
 
 class ShapePainter {
  public:
@@ -75,22 +51,13 @@ class ShapePainter {
   }
 
   void DrawLine(const std::vector<GroundPoint>& points, Color pen) {
-    LineMark line{{}, pen, mWidth};
-    for (std::size_t i = 1; i < points.size(); ++i) {
-      const std::optional<Segment> seen = Clipped({Place(points[i - 1]), Place(points[i])}, mView.Pixels());
-      if (!seen) continue;
-      if (line.Points.empty() || line.Points.back() != Rounded(seen->From)) {
-        Finish(line);
-        line.Points.push_back(Rounded(seen->From));
-      }
-      line.Points.push_back(Rounded(seen->To));
+    std::vector<PixelPoint> line;
+    for (const GroundPoint& point : points) line.push_back(Place(point));
+    for (const std::vector<PixelPoint>& piece : ClippedLine(line, mView.Pixels())) {
+      LineMark mark{{}, pen, mWidth};
+      for (const PixelPoint& point : piece) mark.Points.push_back(Rounded(point));
+      mCanvas.Draw(std::move(mark));
     }
-    Finish(line);
-  }
-
-  void Finish(LineMark& line) {
-    if (!line.Points.empty()) mCanvas.Draw(line);
-    line.Points.clear();
   }
 
   const VectorLayer& mLayer;

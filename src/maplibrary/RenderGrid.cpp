@@ -79,8 +79,10 @@ class Shader {
   }
 
   void Put(const Color& color, const AxisSample& row, const AxisSample& column, std::uint8_t* pixel) const {
-    if (mLight.empty()) return Fill(pixel, color, 255);
-    const double intensity = mIntensity[static_cast<std::size_t>(std::lround(LightAt(row, column) * kSteps))];
+    const double light = mLight.empty() ? std::numeric_limits<double>::quiet_NaN() : LightAt(row, column);
+    // A filled place without data has no slope.
+    if (std::isnan(light)) return Fill(pixel, color, 255);
+    const double intensity = mIntensity[static_cast<std::size_t>(std::lround(light * kSteps))];
     if (!mOverDevice)
       return Fill(pixel, {Times(color.Red, intensity), Times(color.Green, intensity), Times(color.Blue, intensity)},
                   255);
@@ -93,7 +95,7 @@ class Shader {
   static constexpr int kSteps = 1024;
 
   static std::uint8_t Times(std::uint8_t part, double factor) {
-    return static_cast<std::uint8_t>(std::min(std::lround(part * factor), 255L));
+    return static_cast<std::uint8_t>(std::lround(std::min(part * factor, 255.0)));
   }
   static void Fill(std::uint8_t* pixel, const Color& color, std::uint8_t alpha) {
     pixel[0] = color.Red;
@@ -105,12 +107,10 @@ class Shader {
     return mLight[static_cast<std::size_t>(row) * static_cast<std::size_t>(mGrid.Columns) +
                   static_cast<std::size_t>(column)];
   }
+  /// NaN where the grid has no value.
   double LightAt(const AxisSample& row, const AxisSample& column) const {
     const double light = Blended(row, column, [&](std::int32_t r, std::int32_t c) -> double { return At(r, c); });
-    if (!std::isnan(light)) return std::min(light, 1.0);
-    const double own = At(row.Nearest, column.Nearest);
-    // A filled place without data lies flat.
-    return std::isnan(own) ? 1 : std::min(own, 1.0);
+    return std::min<double>(std::isnan(light) ? At(row.Nearest, column.Nearest) : light, 1);
   }
 
   const GridData& mGrid;

@@ -164,6 +164,25 @@ TEST(RendererIsolines, LabelsHaveTheFontAndTheColourSet) {
   EXPECT_NE(Drawing(*map, kPicture).Texts().front().Pen, (Color{9, 8, 7}));
 }
 
+TEST(RendererIsolines, NothingIsDrawnBesideThePictureAndAFarZoomIsQuick) {
+  const auto map = Plane();
+  GridIsolines& lines = DataOf(*map).Lines();
+  lines.LabelVisible(true);
+  lines.LabelDistance(0);
+  for (const double width : {3.0, 1e-3, 1e-9}) {
+    map->Extent()->Place({4.5 - width / 3, 4.5 + width, 4, 4 + width});
+    for (const std::int32_t style : {0, 2}) {
+      lines.Line().Style(style);
+      const std::vector<LineMark> marks = LinesOf(*map);
+      EXPECT_FALSE(marks.empty()) << width;
+      EXPECT_LT(marks.size(), 2000u) << width;
+      for (const LineMark& mark : marks)
+        for (const Point& point : mark.Points)
+          EXPECT_TRUE(point.X >= 0 && point.X <= 400 && point.Y >= 0 && point.Y <= 400) << point.X << " " << point.Y;
+    }
+  }
+}
+
 TEST(RendererIsolines, SettingsOutsideTheirRangesAreRefused) {
   GridIsolines lines;
   EXPECT_THROW(lines.RangeStep(0), RunTimeError);

@@ -192,6 +192,29 @@ TEST(RendererShade, ShadesDarkenAndLightenTheColours) {
     EXPECT_EQ(sunny[static_cast<std::size_t>(part)], std::min(2 * plain[static_cast<std::size_t>(part)], 255)) << part;
 }
 
+TEST(RendererShade, EndlessIntensityIsWhiteAndNotBeyond) {
+  const auto layer = SmallLayer("A", GridOf(5, 5, [](double x, double) { return -x; }));
+  GridShade& shade = layer->Data()->Shade();
+  shade.CombineColors(combinecolors::kShadeAndColors);
+  shade.Azimuth(90);
+  shade.MaxIntensity(1e300);
+  Image image = BlankImage({1, 1});
+  PaintGrid(image, {2, 3, 2, 3}, layer->Grids().front(), {-4, 0});
+  EXPECT_EQ(image.Pixels, (std::vector<std::uint8_t>{255, 255, 255, 255}));
+}
+
+TEST(RendererShade, AFilledPlaceWithoutDataKeepsItsColour) {
+  const auto layer = SmallLayer("A", SmallGrid(1, 1, {kNone}));
+  layer->Data()->NoDataValue().Transparent(false);
+  layer->Data()->NoDataValue().Color({10, 20, 30});
+  for (const std::int16_t combine : {combinecolors::kShadeAndColors, combinecolors::kShadeAndDevice}) {
+    layer->Data()->Shade().CombineColors(combine);
+    Image image = BlankImage({1, 1});
+    PaintGrid(image, {0, 1, 0, 1}, layer->Grids().front(), {0, 1});
+    EXPECT_EQ(image.Pixels, (std::vector<std::uint8_t>{10, 20, 30, 255}));
+  }
+}
+
 TEST(RendererShade, OverTheDeviceShadesAreVeils) {
   EXPECT_EQ(Painted(combinecolors::kShadeAndDevice, 270, shadeversion::kDarkening),
             (std::vector<std::uint8_t>{0, 0, 0, 255}));
