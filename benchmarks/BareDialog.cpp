@@ -11,6 +11,7 @@
 #include "forms/PictureBox.h"
 #include "forms/TabControl.h"
 #include "forms/TextBox.h"
+#include "forms/TreeList.h"
 
 namespace orx::bench {
 namespace {
@@ -60,6 +61,21 @@ class BareMaker final : public ControlVisitor {
   void Visit(TabControl& control) override {
     auto* const tabs = Keep(new QTabWidget(&mParent));
     for (int i = 0; i < control.TabCount(); ++i) tabs->addTab(new QWidget, ToQt(control.TabCaption(i)));
+  }
+  void Visit(TreeList& control) override {
+    auto* const tree = Keep(new QTreeWidget(&mParent));
+    tree->setHeaderHidden(true);
+    tree->setUniformRowHeights(true);
+    QList<QTreeWidgetItem*> levels;
+    QList<QTreeWidgetItem*> top;
+    for (int row = 0; row < control.ListCount(); ++row) {
+      auto* const item = new QTreeWidgetItem(QStringList(ToQt(control.Row(row).Text)));
+      levels.resize(control.Row(row).Level);
+      levels.isEmpty() ? top.push_back(item) : levels.back()->addChild(item);
+      levels.push_back(item);
+    }
+    tree->addTopLevelItems(top);
+    for (QTreeWidgetItem* const item : top) item->setExpanded(true);
   }
   void Visit(TextBox& control) override {
     Keep(new QLineEdit(ToQt(control.Text()), &mParent))->setReadOnly(control.Locked());

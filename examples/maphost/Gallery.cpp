@@ -45,7 +45,7 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     window->cboLanguage.UserPick(language);
     desktop.ProcessPendingEvents();
     photographer.Take(*window);
-    for (orx::Button* button : {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates,
+    for (orx::Button* button : {&window->cmdManager, &window->cmdSettings, &window->cmdData, &window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates,
                                 &window->cmdLegends, &window->cmdClassify, &window->cmdOptions, &window->cmdShade,
                                 &window->cmdIsolines, &window->cmdColors, &window->cmdLost})
       button->UserPress();

@@ -24,6 +24,9 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
     : Form(desktop, "frmHost", {.Caption = "Map", .Client = {15600, 10800}, .Border = orx::BorderStyle::Sizable}),
       mMap(map),
       mLanguages(languages) {
+  cmdManager.Click = [this] { cmdManager_Click(); };
+  cmdSettings.Click = [this] { cmdSettings_Click(); };
+  cmdData.Click = [this] { ShowFor("Data", &orx::CCommonMapDialogs::ShowDataProperties); };
   cmdProperties.Click = [this] { ShowFor("Properties", &orx::CCommonMapDialogs::ShowProperties); };
   cmdLabels.Click = [this] { ShowFor("Labels", &orx::CCommonMapDialogs::ShowLabels); };
   cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
@@ -37,6 +40,10 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdLost.Click = [this] { cmdLost_Click(); };
   cboLayer.Click = [this] { EnableDialogs(); };
   cboLanguage.Click = [this] { cboLanguage_Click(); };
+  mMap.Changed = [this] {
+    FillLayers();
+    DrawMap();
+  };
 }
 
 void HostWindow::Form_Load() {
@@ -60,7 +67,7 @@ void HostWindow::FillLayers() {
   }
   cboLayer.Clear();
   for (const Choice& choice : mChoices) cboLayer.AddItem(choice.Name);
-  cboLayer.ListIndex(before < 0 ? 1 : before);
+  cboLayer.ListIndex(std::min(before < 0 ? 1 : before, cboLayer.ListCount() - 1));
 }
 
 void HostWindow::FillLanguages() {
@@ -72,7 +79,7 @@ void HostWindow::EnableDialogs() {
   orx::HostObject* const object = Chosen().Object;
   cmdProperties.Enabled(QueryKind<orx::ILayer>(object) != nullptr);
   cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
-  for (orx::Button* button : {&cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines})
+  for (orx::Button* button : {&cmdData, &cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines})
     button->Enabled(ChosenData() != nullptr);
 }
 
@@ -93,9 +100,9 @@ void HostWindow::Form_Resize() {
   stack(cboLayer, 360, 240);
   constexpr int kGap = 90;
   constexpr int kButtonHeight = 420;
-  orx::Button* const buttons[] = {&cmdProperties, &cmdLabels,   &cmdCoordinates, &cmdLegends,
-                                  &cmdClassify,   &cmdOptions,  &cmdShade,       &cmdIsolines,
-                                  &cmdColors,     &cmdAddLayer, &cmdLost};
+  orx::Button* const buttons[] = {&cmdManager, &cmdSettings, &cmdProperties, &cmdLabels,  &cmdCoordinates,
+                                  &cmdData,    &cmdClassify, &cmdOptions,    &cmdShade,   &cmdIsolines,
+                                  &cmdLegends, &cmdColors,   &cmdAddLayer,   &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
   for (orx::Button* const button : buttons) {
@@ -124,6 +131,15 @@ void HostWindow::ShowFor(const std::string& what, Member member) {
   const Choice choice = Chosen();
   const std::int32_t result = (mDialogs.*member)(choice.Object, {}, Mode(), {this, 0});
   ReportPages(what + " of " + choice.Name, result);
+}
+
+void HostWindow::cmdManager_Click() {
+  ReportPages("Layer manager", mDialogs.Show(&mLayers, 0, {}, Mode(), {this, 0}));
+}
+
+void HostWindow::cmdSettings_Click() {
+  const Choice choice = Chosen();
+  ReportPages("Settings of " + choice.Name, mDialogs.Show(choice.Object, 0, {}, Mode(), {this, 0}));
 }
 
 void HostWindow::cmdLegends_Click() {

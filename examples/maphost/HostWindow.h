@@ -20,26 +20,30 @@ class HostWindow final : public orx::Form {
  public:
   /// The map and the languages must outlive the window.
   HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const Languages& languages);
+  ~HostWindow() override { mMap.Changed = nullptr; }
 
   orx::PictureBox pctMap{*this, "pctMap", {.ToolTipText = "The map", .AccessibleName = "Map"}};
   orx::Label lblLayer{*this, "lblLayer", {.Caption = "La&yer:"}};
   orx::ComboBox cboLayer{*this, "cboLayer", {}};
+  orx::Button cmdManager{*this, "cmdManager", {.Caption = "Layer &manager..."}};
+  orx::Button cmdSettings{*this, "cmdSettings", {.Caption = "&Settings..."}};
+  orx::Button cmdData{*this, "cmdData", {.Caption = "Da&ta..."}};
   orx::Button cmdProperties{*this, "cmdProperties", {.Caption = "&Properties..."}};
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
   orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "Le&gends..."}};
   orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
   orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
-  orx::Button cmdShade{*this, "cmdShade", {.Caption = "Relief s&hading..."}};
+  orx::Button cmdShade{*this, "cmdShade", {.Caption = "&Relief shading..."}};
   orx::Button cmdIsolines{*this, "cmdIsolines", {.Caption = "&Isolines..."}};
-  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sche&mes..."}};
+  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sc&hemes..."}};
   orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
   orx::Button cmdLost{
       *this, "cmdLost", {.Caption = "Missing fil&e...", .ToolTipText = "Opens a layer whose file is gone"}};
   orx::CheckBox chkModeless{*this, "chkModeless", {.Caption = "&Keep dialogs open"}};
   orx::Label lblLanguage{*this, "lblLanguage", {.Caption = "L&anguage:"}};
   orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
-  orx::Label lblLog{*this, "lblLog", {.Caption = "Call-backs and &results:"}};
+  orx::Label lblLog{*this, "lblLog", {.Caption = "Call-backs and res&ults:"}};
   orx::TextBox txtLog{*this, "txtLog", {}, orx::TextLines::Multiple, true};
 
  protected:
@@ -64,6 +68,8 @@ class HostWindow final : public orx::Form {
   orx::ShowMode Mode() const;
   /// Shows a dialog for the chosen layer and writes its result down.
   void ShowFor(const std::string& what, Member member);
+  void cmdManager_Click();
+  void cmdSettings_Click();
   void cmdLegends_Click();
   void cmdClassify_Click();
   void cmdOptions_Click();
@@ -81,6 +87,7 @@ class HostWindow final : public orx::Form {
   void Report(const std::string& what, std::int32_t result);
 
   orx::maplibrary::Map& mMap;
+  orx::maplibrary::Layers mLayers{mMap};
   const Languages& mLanguages;
   DesignedCaptions mDesigned{*this};
   std::vector<Choice> mChoices;

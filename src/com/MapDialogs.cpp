@@ -101,6 +101,21 @@ HRESULT MapDialogs::ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::F
   });
 }
 
+HRESULT MapDialogs::Show(IDispatch** mObj, long* mFlags, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                         long* result) noexcept {
+  if (!mFlags) return E_POINTER;
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    return mService.Show(call.Client, *mFlags, call.Caption, call.Mode, call.Owner);
+  });
+}
+
+HRESULT MapDialogs::ShowDataProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
+                                       long* result) noexcept {
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    return mService.ShowDataProperties(call.Client, call.Caption, call.Mode, call.Owner);
+  });
+}
+
 HRESULT MapDialogs::ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, ::FormShowMode* mModal,
                                 VARIANT* OwnerForm, long* result) noexcept {
   return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
@@ -198,14 +213,6 @@ HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFil
 }
 
 // The members below have no dialog yet.
-
-HRESULT MapDialogs::Show(IDispatch**, long*, BSTR*, ::FormShowMode*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowDataProperties(IDispatch**, BSTR*, ::FormShowMode*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
-}
 
 HRESULT MapDialogs::ShowGeoReference(IDispatch**, ::CheckState*, BSTR*, BSTR*, VARIANT*, long*) noexcept {
   return E_NOTIMPL;

@@ -28,4 +28,11 @@ Control* Container::Find(std::string_view name) const {
   return nullptr;
 }
 
+void Container::PutFirst(const std::vector<Control*>& children) {
+  for (auto child = children.rbegin(); child != children.rend(); ++child) {
+    const auto found = std::ranges::find(mChildren, *child);
+    if (found != mChildren.end()) std::rotate(mChildren.begin(), found, found + 1);
+  }
+}
+
 }  // namespace orx

@@ -24,6 +24,9 @@ class Container {
   /// All controls here and below, each container before its children.
   std::vector<Control*> All() const;
 
+  /// Moves some of the children to the front of the order, before a window is opened: Tab comes to them first.
+  void PutFirst(const std::vector<Control*>& children);
+
   /// The form that this is or stands in.
   virtual Form& ContainingForm() = 0;
   /// The control that this container is; null for a form.

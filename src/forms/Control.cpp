@@ -4,30 +4,9 @@
 
 #include "forms/Form.h"
 #include "forms/Label.h"
+#include "forms/Letters.h"
 
 namespace orx {
-namespace {
-
-/// The character at the start of a UTF-8 text, 0 when it is empty.
-char32_t FirstCharacter(std::string_view text) {
-  if (text.empty()) return 0;
-  const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
-  if (byte(0) < 0x80) return byte(0);
-  if (byte(0) < 0xE0) return ((byte(0) & 0x1FU) << 6) | (byte(1) & 0x3FU);
-  if (byte(0) < 0xF0) return ((byte(0) & 0x0FU) << 12) | ((byte(1) & 0x3FU) << 6) | (byte(2) & 0x3FU);
-  return ((byte(0) & 0x07U) << 18) | ((byte(1) & 0x3FU) << 12) | ((byte(2) & 0x3FU) << 6) | (byte(3) & 0x3FU);
-}
-
-/// Lower case of the alphabets that dialog texts are written in: Latin, Greek, Cyrillic.
-char32_t Lower(char32_t c) {
-  const bool plain = (c >= U'A' && c <= U'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7);
-  const bool greekOrCyrillic = (c >= 0x391 && c <= 0x3A9) || (c >= 0x410 && c <= 0x42F);
-  if (plain || greekOrCyrillic) return c + 32;
-  return c >= 0x400 && c <= 0x40F ? c + 80 : c;
-}
-
-}  // namespace
-
 std::string WithoutMnemonic(std::string_view caption) {
   std::string text;
   for (std::size_t i = 0; i < caption.size(); ++i) {
@@ -67,6 +46,7 @@ void Control::Place(const Rect& value) {
   if (mDesign.Place == value) return;
   mDesign.Place = value;
   Changed(Aspect::Place);
+  Placed();
 }
 
 void Control::Left(int value) {
@@ -103,7 +83,7 @@ bool Control::IsShown() const {
 
 bool Control::IsReachable() const {
   const Control* const outer = mParent.ContainerControl();
-  return mDesign.Enabled && IsShown() && (!outer || outer->IsReachable());
+  return mDesign.Enabled && IsShown() && (outer ? outer->IsReachable() : OwnerForm().Enabled());
 }
 
 bool Control::IsTabStop() const {
@@ -138,7 +118,7 @@ char32_t Control::Mnemonic() const {
   const std::string& caption = mDesign.Caption;
   for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
     if (caption[i] != '&') continue;
-    if (caption[i + 1] != '&') return Lower(FirstCharacter(std::string_view(caption).substr(i + 1)));
+    if (caption[i + 1] != '&') return LowerCase(FirstCharacter(std::string_view(caption).substr(i + 1)));
     ++i;
   }
   return 0;

@@ -121,6 +121,8 @@ class Control {
  protected:
   /// Tells the native mirror, when there is one.
   void Changed(Aspect aspect);
+  /// Runs when the control was moved or sized.
+  virtual void Placed() {}
   /// The state that all kinds of controls share, as it is now.
   const Design& Drawn() const { return mDesign; }
 

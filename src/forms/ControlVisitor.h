@@ -15,6 +15,7 @@ class Panel;
 class PictureBox;
 class TabControl;
 class TextBox;
+class TreeList;
 
 /// One member for each kind of control; Control::Accept calls the one that fits.
 class ControlVisitor {
@@ -32,6 +33,7 @@ class ControlVisitor {
   virtual void Visit(PictureBox& control) = 0;
   virtual void Visit(TabControl& control) = 0;
   virtual void Visit(TextBox& control) = 0;
+  virtual void Visit(TreeList& control) = 0;
 };
 
 }  // namespace orx

@@ -16,8 +16,8 @@
 
 namespace orx {
 
-/// Whether a user may size the window.
-enum class BorderStyle { Fixed, Sizable };
+/// Whether a user may size the window; SizableHeight: by its lower edge only.
+enum class BorderStyle { Fixed, Sizable, SizableHeight };
 
 /// The screen in twips: its size, the part not covered by task bars, and what a window's frame adds to the client area.
 struct ScreenMetrics {
@@ -59,6 +59,8 @@ class Desktop {
 
   /// The screen that dialogs open on, and the frame of a window with that border.
   virtual ScreenMetrics Metrics(BorderStyle border) const = 0;
+  /// The parts of all screens that are not covered by task bars, in twips, that of the main screen first.
+  virtual std::vector<Rect> WorkAreas() const { return {Metrics(BorderStyle::Fixed).WorkArea}; }
   /// Pixels in 15 twips: 1 at 96 dpi, 1.5 at 144 dpi.
   virtual double Scale() const = 0;
   /// Lengths converted by the scale, rounded to the nearest.

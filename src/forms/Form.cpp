@@ -1,6 +1,7 @@
 #include "forms/Form.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <stdexcept>
 
 #include "forms/Control.h"
@@ -52,8 +53,25 @@ void Form::Center() {
   Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2);
 }
 
+Rect Form::NearestWorkArea() const {
+  const std::int64_t right = std::int64_t{mLeft} + Width();
+  const std::int64_t bottom = std::int64_t{mTop} + Height();
+  // What two spans have in common; negative: the gap between them.
+  const auto overlap = [](std::int64_t low, std::int64_t high, std::int64_t otherLow, std::int64_t otherHigh) {
+    return std::min(high, otherHigh) - std::max(low, otherLow);
+  };
+  const auto nearness = [&](const Rect& area) {
+    const std::int64_t across = overlap(mLeft, right, area.Left, area.Right());
+    const std::int64_t down = overlap(mTop, bottom, area.Top, area.Bottom());
+    if (across > 0 && down > 0) return across * down;
+    return std::min(across, std::int64_t{0}) + std::min(down, std::int64_t{0});
+  };
+  const std::vector<Rect> areas = mDesktop.WorkAreas();
+  return *std::ranges::max_element(areas, {}, nearness);
+}
+
 void Form::KeepOnScreen() {
-  const Rect area = mDesktop.Metrics(mDesign.Border).WorkArea;
+  const Rect area = NearestWorkArea();
   const int left = std::max(area.Left, std::min(mLeft, area.Right() - Width()));
   const int top = std::max(area.Top, std::min(mTop, area.Bottom() - Height()));
   if (left != mLeft || top != mTop) Move(left, top);
@@ -108,6 +126,12 @@ void Form::DropWindow() {
   mWindow = nullptr;
 }
 
+void Form::Enabled(bool value) {
+  if (mEnabled == value) return;
+  mEnabled = value;
+  if (mWindow) mWindow->UpdateEnabled();
+}
+
 void Form::Refresh() {
   if (mWindow) mWindow->Repaint();
 }
@@ -139,6 +163,18 @@ void Form::UserResize(Size client) {
 void Form::UserMove(int left, int top) {
   mLeft = left;
   mTop = top;
+}
+
+void Form::UserMouseMove(Point at) {
+  UserAct([&] { Form_MouseMove(at); });
+}
+
+void Form::UserMouseDown(Point at) {
+  UserAct([&] { Form_MouseDown(at); });
+}
+
+void Form::DragBottomEdge() {
+  if (mWindow) mWindow->DragBottomEdge();
 }
 
 }  // namespace orx

@@ -72,6 +72,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Unload();
   /// Repaints the form.
   void Refresh();
+  /// While false, nothing that the user does reaches the form; it looks as before. True at first.
+  bool Enabled() const { return mEnabled; }
+  void Enabled(bool value);
   /// True while the form is on the screen.
   bool Visible() const { return mVisible; }
 
@@ -98,6 +101,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// The user has sized or moved the window.
   void UserResize(Size client);
   void UserMove(int left, int top);
+  /// The mouse was moved over the window or its button was pressed beside the controls; in pixels of the client area.
+  void UserMouseMove(Point at);
+  void UserMouseDown(Point at);
 
   /// The native window, null while there is none.
   FormWindow* Window() const { return mWindow.get(); }
@@ -110,6 +116,12 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   virtual void Form_Load() {}
   virtual void Form_Resize() {}
   virtual void Form_Unload() {}
+  /// Run as the mouse moves over the window, also to a place outside its client area, and when its button is pressed
+  /// where no control is. In pixels from the upper left corner of the client area.
+  virtual void Form_MouseMove(Point) {}
+  virtual void Form_MouseDown(Point) {}
+  /// Called from Form_MouseDown: the user goes on to drag the lower edge of the window.
+  void DragBottomEdge();
 
  private:
   friend class Control;
@@ -117,6 +129,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
   /// Closes the window; the peers go with it.
   void DropWindow();
+  /// The work area that the window lies in for the greater part, or that is nearest to it.
+  Rect NearestWorkArea() const;
   void KeepOnScreen();
   /// Runs the focus events until the focus rests.
   void SettleFocus(Control* to);
@@ -134,6 +148,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   int mTop = 0;
   bool mLoaded = false;
   bool mVisible = false;
+  bool mEnabled = true;
   std::unique_ptr<FormWindow> mWindow;
   Control* mActive = nullptr;
   Control* mFocusTarget = nullptr;

@@ -34,8 +34,12 @@ class FormWindow {
   /// Takes over the form's caption and place.
   virtual void UpdateCaption() = 0;
   virtual void UpdatePlace() = 0;
+  /// Drops what the user does while the form is not enabled, without another look.
+  virtual void UpdateEnabled() = 0;
   /// Paints the window and its controls anew.
   virtual void Repaint() = 0;
+  /// Lets the user drag the lower edge, as if the mouse button that is down had been pressed there.
+  virtual void DragBottomEdge() = 0;
   /// The handle that the platform's help engine and owned windows need; 0 when there is none.
   virtual std::uintptr_t NativeHandle() const = 0;
   /// The form lets the window go: neither the form nor its controls may be touched from now on, whatever native events

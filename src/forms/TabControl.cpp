@@ -30,6 +30,11 @@ TabControl::TabControl(Container& parent, std::string name, Design design, std::
   for (int tab = 0; tab < TabCount(); ++tab) mPages.push_back(std::make_unique<TabPage>(*this, tab));
 }
 
+void TabControl::Placed() {
+  for (const std::unique_ptr<TabPage>& page : mPages)
+    page->Place({kBorder, kStrip, PageSize().Width, PageSize().Height});
+}
+
 Size TabControl::PageSize() const {
   return {Place().Width - 2 * kBorder, Place().Height - kStrip - kBorder};
 }

@@ -59,6 +59,9 @@ class TabControl final : public Control, public Container {
   Control* ContainerControl() override { return this; }
   void Accept(ControlVisitor& visitor) override;
 
+ protected:
+  void Placed() override;
+
  private:
   std::vector<std::string> mCaptions;
   std::vector<std::unique_ptr<TabPage>> mPages;

@@ -24,7 +24,9 @@ void* Map::Query(Kind kind) {
 }
 
 MapLayer* Map::AddLayer(const std::string& path, const std::string&) {
-  return &AddLayer(ReadLayerFile(path));
+  MapLayer& added = AddLayer(ReadLayerFile(path));
+  Changed.Raise();
+  return &added;
 }
 
 maplibrary::Legend& Map::Legend(std::int32_t index) {

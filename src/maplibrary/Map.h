@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/Event.h"
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IMap.h"
 #include "maplibrary/LayerStack.h"
@@ -28,14 +29,17 @@ class Map : public HostObject, public IMap, public ILegends, private PlacedExten
   MapLayer* Layer(std::int32_t index) override { return &mLayers.At(index); }
   /// Reads a file as ReadLayerFile does.
   MapLayer* AddLayer(const std::string& path, const std::string& options) override;
-  bool RemoveLayer(std::int32_t index) override { return mLayers.Remove(index); }
-  bool MoveLayerUp(std::int32_t index) override { return mLayers.MoveUp(index); }
-  bool MoveLayerDown(std::int32_t index) override { return mLayers.MoveDown(index); }
+  bool RemoveLayer(std::int32_t index) override { return Told(mLayers.Remove(index)); }
+  bool MoveLayerUp(std::int32_t index) override { return Told(mLayers.MoveUp(index)); }
+  bool MoveLayerDown(std::int32_t index) override { return Told(mLayers.MoveDown(index)); }
   PlacedExtent* Extent() override { return this; }
 
   std::int32_t LegendCount() override { return static_cast<std::int32_t>(mLegends.size()); }
   maplibrary::Legend& Legend(std::int32_t index) override;
   maplibrary::Legend& AddLegend(LegendKind kind, const std::string& title, LegendCorner corner);
+
+  /// Raised when a layer was added from a file, removed or moved, so that who shows the map can draw it anew.
+  Event<> Changed;
 
   std::string Name() const { return mName; }
   void Name(const std::string& value) { mName = value; }
@@ -49,6 +53,11 @@ class Map : public HostObject, public IMap, public ILegends, private PlacedExten
   GroundRect Natural() const override { return mLayers.Bounds(); }
 
  private:
+  bool Told(bool isDone) const {
+    if (isDone) Changed.Raise();
+    return isDone;
+  }
+
   std::string mName;
   LayerStack mLayers;
   std::vector<std::unique_ptr<maplibrary::Legend>> mLegends;

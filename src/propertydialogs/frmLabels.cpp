@@ -1,20 +1,16 @@
 #include "propertydialogs/frmLabels.h"
 
 namespace orx {
-namespace {
 
-constexpr PageHostDesign kLabelsDesign{
-    .FormName = "frmLabels",
-    .Caption = "Properties",
-    .TabCaption = "Labels",
-    .HelpKey = "_HelpLayerLabels",
-    .Page = PageKind::LabelProperties,
-    .PageName = "LabelProperties1",
-};
-
-}  // namespace
-
-frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages) : PageHostForm(desktop, pages, kLabelsDesign) {
+frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages)
+    : PageHostForm(desktop, pages,
+                   {
+                       .FormName = "frmLabels",
+                       .Caption = "Properties",
+                       .HelpKey = "_HelpLayerLabels",
+                       .TabCaptions = {"Labels"},
+                   },
+                   {.Kind = PageKind::LabelProperties, .Name = "LabelProperties1"}) {
 }
 
 }  // namespace orx

@@ -2,11 +2,15 @@
 
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
+#include "hostobjects/IMap.h"
 #include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
+#include "propertydialogs/frmDataDialog.h"
 #include "propertydialogs/frmLabels.h"
 #include "propertydialogs/frmLegend.h"
+#include "propertydialogs/frmMapSettings.h"
 #include "propertydialogs/frmProperties.h"
+#include "propertydialogs/frmSettings.h"
 #include "service/modDialog.h"
 #include "service/modMain.h"
 #include "service/modMainDialogs.h"
@@ -22,7 +26,8 @@ bool IsBlank(const std::string& text) {
 
 struct CCommonMapDialogs::Request {
   HostObject* Client;
-  std::int32_t Index;
+  /// The index of a legend, or the flags of the layer manager.
+  std::int32_t Number;
   const std::string& Caption;
   ShowMode Mode;
   OwnerWindow Owner;
@@ -45,7 +50,8 @@ std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
   if constexpr (isLegend) trap.Step(giveCallBack);
   trap.Step([&] { form->RegisterClient(request.Client, mRegistryKey); });
   if constexpr (!isLegend) trap.Step(giveCallBack);
-  if constexpr (isLegend) trap.Step([&] { form->StartUpIndex(request.Index); });
+  if constexpr (isLegend) trap.Step([&] { form->StartUpIndex(request.Number); });
+  if constexpr (std::is_same_v<HostForm, frmMapSettings>) trap.Step([&] { form->RegisterFlags(request.Number); });
   trap.Step([&] { form->RefreshContents(); });
   if (!IsBlank(request.Caption)) trap.Step([&] { form->Caption(request.Caption); });
   trap.Step([&] { form->Show(request.Mode, request.Owner); });
@@ -55,6 +61,20 @@ std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
   });
   if (request.Mode == ShowMode::Modal) trap.Step([&] { form->Unload(); });
   return result;
+}
+
+std::int32_t CCommonMapDialogs::Show(HostObject* mObj, std::int32_t mFlags, const std::string& mCaption,
+                                     ShowMode mModal, OwnerWindow OwnerForm) {
+  const Request request{mObj, mFlags, mCaption, mModal, OwnerForm};
+  bool isMap = false;
+  ErrorTrap trap;
+  trap.Step([&] { isMap = QueryKind<IMap>(mObj) || QueryKind<ILayers>(mObj); });
+  return isMap ? ShowPage<frmMapSettings>(request) : ShowPage<frmSettings>(request);
+}
+
+std::int32_t CCommonMapDialogs::ShowDataProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
+                                                   OwnerWindow OwnerForm) {
+  return ShowPage<frmDataDialog>({mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLegends(HostObject* mObj, std::int32_t Index, const std::string& mCaption,

@@ -47,6 +47,13 @@ class CCommonMapDialogs {
   ILanguage* Language() const { return mLanguage; }
   void Language(ILanguage* value);
 
+  /// All settings of a layer on four pages; of a map (IMap) or a layer collection (ILayers) the layer manager, which
+  /// `mFlags` is handed to. Where a dialog stood is kept under RegistryKey.
+  std::int32_t Show(HostObject* mObj, std::int32_t mFlags, const std::string& mCaption = {},
+                    ShowMode mModal = ShowMode::Modal, OwnerWindow OwnerForm = {});
+  /// The data of a layer (an object with ILayer or IData).
+  std::int32_t ShowDataProperties(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
+                                  OwnerWindow OwnerForm = {});
   /// The legends of a map (an object with ILegends). `Index` is the legend shown first, counted from 0.
   std::int32_t ShowLegends(HostObject* mObj, std::int32_t Index = 0, const std::string& mCaption = {},
                            ShowMode mModal = ShowMode::Modal, OwnerWindow OwnerForm = {});

@@ -14,4 +14,9 @@ extern const Glyph kCross;
 /// A sheet with a list and marks before its lines: properties.
 extern const Glyph kSheet;
 
+/// A plus: add. Arrows: change places with the one above or below.
+extern const Glyph kPlus;
+extern const Glyph kUp;
+extern const Glyph kDown;
+
 }  // namespace orx::glyphs

@@ -83,6 +83,10 @@ bool ShowIsolineDialog(Desktop& desktop, HostObject* data, bool& changed, ILangu
   return ShowDataDialog(desktop, data, changed, language, give, &frmDataIsoline::Changed);
 }
 
+void ShowDataStyleNotice(Desktop& desktop) {
+  desktop.ShowMessage({"Sorry, Data Style not yet supported", "Data Style", MessageIcon::Information});
+}
+
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner) noexcept {
   ErrorTrap trap;
   std::shared_ptr<frmManageColors> form;

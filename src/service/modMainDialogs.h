@@ -55,6 +55,9 @@ bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, IL
 bool ShowShadeDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
 bool ShowIsolineDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
 
+/// Tells the user that there are no data styles.
+void ShowDataStyleNotice(Desktop& desktop);
+
 /// Shows the window for colour schemes, modal, in that language. True when nothing has failed.
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner = {}) noexcept;
 

@@ -45,6 +45,33 @@ class HeadlessUser final : public User {
 
   void PressKey(Form& form, int keyCode) override {
     if (auto* const box = dynamic_cast<PictureBox*>(form.ActiveControl())) box->UserKeyDown(keyCode);
+    if (auto* const list = dynamic_cast<TreeList*>(form.ActiveControl())) list->UserKeyDown(keyCode);
+  }
+
+  void Click(TreeList& list, int row) override {
+    if (list.IsReachable() && list.PositionOf(row) >= 0) list.UserClick(row);
+  }
+
+  void Fold(TreeList& list, int row) override {
+    if (list.IsReachable() && list.PositionOf(row) >= 0) list.UserFold(row);
+  }
+
+  void TypeCharacters(Form& form, const std::string& text) override {
+    for (const char character : text)
+      if (auto* const list = dynamic_cast<TreeList*>(form.ActiveControl()))
+        list->UserCharacter(static_cast<unsigned char>(character));
+  }
+
+  void DragFromBottom(Form& form, int above, int by) override {
+    const Desktop& desktop = form.OwnerDesktop();
+    const Size client = form.ClientSize();
+    const Point at{desktop.ToPixels(client.Width / 2), desktop.ToPixels(client.Height) - above};
+    form.UserMouseMove(at);
+    form.UserMouseDown(at);
+    // Nobody but the form says whether the press has taken hold of the edge.
+    if (desktop.Pointer() == Pointer::SizeNS)
+      form.UserResize({client.Width, client.Height + desktop.ToTwips(by)});
+    form.UserMouseMove({at.X, 0});
   }
 
   void SelectTab(TabControl& tabs, int tab) override {
@@ -79,12 +106,23 @@ class HeadlessUser final : public User {
     if (auto* list = dynamic_cast<ListControl*>(&control)) seen.Value = list->ListIndex();
     if (auto* list = dynamic_cast<ListBox*>(&control))
       seen.Text = list->ListIndex() < 0 ? std::string() : list->List(list->ListIndex());
+    if (auto* list = dynamic_cast<TreeList*>(&control)) {
+      seen.Value = list->ListIndex();
+      seen.Text = list->ListIndex() < 0 ? std::string() : list->Row(list->ListIndex()).Text;
+    }
     if (auto* tabs = dynamic_cast<TabControl*>(&control)) {
       seen.Text = WithoutMnemonic(tabs->TabCaption(tabs->Tab()));
       seen.Value = tabs->Tab();
     }
     return seen;
   }
+
+  std::vector<std::string> SeeRows(TreeList& list) override {
+    std::vector<std::string> texts;
+    for (int i = 0; i < list.ShownCount(); ++i) texts.push_back(list.Row(list.ShownRow(i)).Text);
+    return texts;
+  }
+  bool SeesRow(TreeList& list, int row) override { return list.PositionOf(row) >= 0; }
 
   std::string SeeCaption(Form& form) override { return form.Caption(); }
 };

@@ -19,6 +19,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <map>
+#include <optional>
 
 #include "desktops/qt/ColorDialog.h"
 #include "desktops/qt/FileDialog.h"
@@ -93,6 +95,17 @@ Qt::Key NativeKey(const KeyStroke& stroke) {
   return static_cast<Qt::Key>(QChar::toUpper(stroke.Character));
 }
 
+Qt::Key NativeKey(int keyCode) {
+  static const std::map<int, Qt::Key> kKeys = {
+      {kKeyCodeShift, Qt::Key_Shift}, {kKeyCodePageUp, Qt::Key_PageUp}, {kKeyCodePageDown, Qt::Key_PageDown},
+      {kKeyCodeEnd, Qt::Key_End},     {kKeyCodeHome, Qt::Key_Home},     {kKeyCodeLeft, Qt::Key_Left},
+      {kKeyCodeUp, Qt::Key_Up},       {kKeyCodeRight, Qt::Key_Right},   {kKeyCodeDown, Qt::Key_Down},
+      {kKeyCodePlus, Qt::Key_Plus},   {kKeyCodeMinus, Qt::Key_Minus},   {kKeyCodeF1, Qt::Key_F1}};
+  const auto found = kKeys.find(keyCode);
+  // Letters, digits and the space have the same numbers on both sides.
+  return found == kKeys.end() ? static_cast<Qt::Key>(keyCode) : found->second;
+}
+
 class QtUser final : public User {
  public:
   void Click(Button& button) override {
@@ -141,9 +154,37 @@ class QtUser final : public User {
   void PressKey(Form& form, int keyCode) override {
     QWidget& dialog = WindowOf(form);
     Activate(dialog);
-    // Letters, digits and the space have the same numbers on both sides.
-    const Qt::Key key = keyCode == kKeyCodeShift ? Qt::Key_Shift : static_cast<Qt::Key>(keyCode);
-    QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, key);
+    QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, NativeKey(keyCode));
+  }
+
+  void Click(TreeList& list, int row) override {
+    if (const std::optional<QRect> place = PlaceOf(list, row))
+      MouseClick(*As<QListView>(list)->viewport(), {place->right() - 5, place->center().y()});
+  }
+
+  void Fold(TreeList& list, int row) override {
+    const int level = list.OwnerForm().OwnerDesktop().ToPixels(240);
+    if (const std::optional<QRect> place = PlaceOf(list, row))
+      MouseClick(*As<QListView>(list)->viewport(), {level * list.Row(row).Level + level / 2, place->center().y()});
+  }
+
+  void TypeCharacters(Form& form, const std::string& text) override {
+    QWidget& dialog = WindowOf(form);
+    Activate(dialog);
+    if (dialog.focusWidget()) QTest::keyClicks(dialog.focusWidget(), ToQt(text));
+  }
+
+  void DragFromBottom(Form& form, int above, int by) override {
+    QWidget& dialog = WindowOf(form);
+    Activate(dialog);
+    const QPoint from(dialog.width() / 2, dialog.height() - above);
+    QWindow& window = *dialog.windowHandle();
+    QTest::mouseMove(&window, from);
+    QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(&window, from + QPoint(0, by));
+    QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, from + QPoint(0, by));
+    QTest::mouseMove(&window, QPoint(from.x(), 1));
+    QCoreApplication::processEvents();
   }
 
   void SelectTab(TabControl& tabs, int tab) override {
@@ -222,13 +263,36 @@ class QtUser final : public User {
     if (const auto* const box = As<QCheckBox>(control)) seen.Value = ShownState(box->checkState());
     if (const auto* const combo = As<QComboBox>(control)) seen.Value = combo->currentIndex();
     if (const auto* const list = As<QListView>(control)) seen.Value = list->currentIndex().row();
+    if (const auto* const tree = dynamic_cast<TreeList*>(&control); tree && seen.Value >= 0)
+      seen.Value = tree->ShownRow(seen.Value);
     if (const auto* const tabs = As<QTabWidget>(control)) seen.Value = tabs->currentIndex();
     return seen;
+  }
+
+  std::vector<std::string> SeeRows(TreeList& list) override {
+    const QAbstractItemModel& rows = *As<QListView>(list)->model();
+    std::vector<std::string> texts;
+    for (int i = 0; i < rows.rowCount(); ++i) texts.push_back(FromQt(rows.index(i, 0).data().toString()));
+    return texts;
+  }
+  bool SeesRow(TreeList& list, int row) override {
+    const QListView& view = *As<QListView>(list);
+    if (list.PositionOf(row) < 0) return false;
+    const QRect place = view.visualRect(view.model()->index(list.PositionOf(row), 0));
+    return view.viewport()->rect().contains(place);
   }
 
   std::string SeeCaption(Form& form) override { return FromQt(WindowOf(form).windowTitle()); }
 
  private:
+  /// The place of a row in the view, scrolled to; none when it is folded away or out of reach.
+  static std::optional<QRect> PlaceOf(TreeList& list, int row) {
+    if (!CanReach(list) || list.PositionOf(row) < 0) return std::nullopt;
+    QListView& view = *As<QListView>(list);
+    const QModelIndex index = view.model()->index(list.PositionOf(row), 0);
+    view.scrollTo(index);
+    return view.visualRect(index);
+  }
   /// Types into the name field and presses Open, which the toolkit enables when it has read the folder.
   static void EnterName(QFileDialog& dialog, const QString& text) {
     dialog.findChild<QLineEdit*>("fileNameEdit")->setText(text);

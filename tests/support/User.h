@@ -18,6 +18,7 @@
 #include "forms/PictureBox.h"
 #include "forms/TabControl.h"
 #include "forms/TextBox.h"
+#include "forms/TreeList.h"
 
 namespace orx::test {
 
@@ -26,9 +27,9 @@ struct Seen {
   bool Visible = false;
   bool Enabled = false;
   bool Focused = false;
-  /// Caption or text; of a list that of the selected entry, of a tab control the caption of the selected tab.
+  /// Caption or text; of a list that of the selected entry or row, of a tab control the caption of the selected tab.
   std::string Text;
-  /// Check state, index of the selected entry or tab; otherwise 0.
+  /// Check state, index of the selected entry, row or tab; otherwise 0.
   int Value = 0;
   bool operator==(const Seen&) const = default;
 };
@@ -58,6 +59,13 @@ class User {
   virtual void Click(PictureBox& box) = 0;
   /// Presses a key where the focus is, by its code (forms/Keys.h).
   virtual void PressKey(Form& form, int keyCode) = 0;
+  /// Clicks on a row that can be seen or scrolled to, or on the mark before it that folds it.
+  virtual void Click(TreeList& list, int row) = 0;
+  virtual void Fold(TreeList& list, int row) = 0;
+  /// Types characters where the focus is.
+  virtual void TypeCharacters(Form& form, const std::string& text) = 0;
+  /// Presses the mouse in the middle of the window, so many pixels above its lower edge, drags and releases it.
+  virtual void DragFromBottom(Form& form, int above, int by) = 0;
   virtual void SelectTab(TabControl& tabs, int tab) = 0;
   /// Presses a dialog key where the focus is in that form.
   virtual void Press(Form& form, const KeyStroke& stroke) = 0;
@@ -74,6 +82,10 @@ class User {
   /// Presses OK in the message box that is open.
   virtual void AnswerMessage() = 0;
   virtual Seen See(Control& control) = 0;
+  /// The texts of all rows that are not folded away, whether scrolled to or not.
+  virtual std::vector<std::string> SeeRows(TreeList& list) = 0;
+  /// True when the row is in view.
+  virtual bool SeesRow(TreeList& list, int row) = 0;
   /// The title that the form's window shows.
   virtual std::string SeeCaption(Form& form) = 0;
 };

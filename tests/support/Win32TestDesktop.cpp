@@ -84,6 +84,46 @@ class Win32User final : public User {
     KeyTo(GetFocus(), static_cast<WPARAM>(keyCode));
   }
 
+  void Click(TreeList& list, int row) override {
+    RECT place = {};
+    if (!FindRow(list, row, place)) return;
+    MouseClickAt(PeerOf(list)->Window(), {place.right - 5, (place.top + place.bottom) / 2});
+  }
+
+  void Fold(TreeList& list, int row) override {
+    RECT place = {};
+    if (!FindRow(list, row, place)) return;
+    const int level = mDesktop.ToPixels(240);
+    MouseClickAt(PeerOf(list)->Window(), {list.Row(row).Level * level + level / 2, (place.top + place.bottom) / 2});
+  }
+
+  void TypeCharacters(Form& form, const std::string& text) override {
+    Activate(WindowOf(form));
+    for (const wchar_t unit : Widened(text)) PostMessageW(GetFocus(), WM_CHAR, unit, 1);
+    mDesktop.ProcessPendingEvents();
+  }
+
+  void DragFromBottom(Form& form, int above, int by) override {
+    const HWND window = WindowOf(form);
+    Activate(window);
+    RECT client = {};
+    GetClientRect(window, &client);
+    POINT from = {client.right / 2, client.bottom - above};
+    const LPARAM where = MAKELPARAM(from.x, from.y);
+    const HWND hit = WindowAt(window, from);
+    ClientToScreen(window, &from);
+    SetCursorPos(from.x, from.y);
+    // The platform drags in a loop of its own, and looks where the real mouse is.
+    theDrag = {from.x, from.y + by};
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, MoveAndRelease);
+    PostMessageW(hit, WM_MOUSEMOVE, 0, where);
+    PostMessageW(hit, WM_LBUTTONDOWN, MK_LBUTTON, where);
+    mDesktop.ProcessPendingEvents();
+    KillTimer(nullptr, timer);
+    PostMessageW(hit, WM_MOUSEMOVE, 0, MAKELPARAM(client.right / 2, 1));
+    mDesktop.ProcessPendingEvents();
+  }
+
   void SelectTab(TabControl& tabs, int tab) override {
     if (!CanReach(tabs)) return;
     RECT place = {};
@@ -185,13 +225,62 @@ class Win32User final : public User {
     if (dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, BM_GETCHECK, 0, 0));
     if (dynamic_cast<ComboBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
     if (dynamic_cast<ListBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, LB_GETCURSEL, 0, 0));
+    if (auto* const tree = dynamic_cast<TreeList*>(&control)) {
+      seen.Value = static_cast<int>(SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+      seen.Text = seen.Value < 0 ? std::string() : RowText(window, seen.Value);
+      if (seen.Value >= 0) seen.Value = tree->ShownRow(seen.Value);
+    }
     if (dynamic_cast<TabControl*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, TCM_GETCURSEL, 0, 0));
     return seen;
+  }
+
+  std::vector<std::string> SeeRows(TreeList& list) override {
+    const HWND window = PeerOf(list)->Window();
+    std::vector<std::string> texts;
+    for (int i = 0; i < SendMessageW(window, LVM_GETITEMCOUNT, 0, 0); ++i) texts.push_back(RowText(window, i));
+    return texts;
+  }
+  bool SeesRow(TreeList& list, int row) override {
+    const HWND window = PeerOf(list)->Window();
+    RECT place = {LVIR_BOUNDS, 0, 0, 0};
+    if (list.PositionOf(row) < 0 || !SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(list.PositionOf(row)),
+                                                  reinterpret_cast<LPARAM>(&place)))
+      return false;
+    return place.top >= 0 && place.bottom <= HeightOf(window);
   }
 
   std::string SeeCaption(Form& form) override { return Narrowed(TextOf(WindowOf(form))); }
 
  private:
+  static inline POINT theDrag = {};
+  static void CALLBACK MoveAndRelease(HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    SetCursorPos(theDrag.x, theDrag.y);
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    SendInput(1, &input, sizeof(input));
+  }
+
+  static std::string RowText(HWND list, int position) {
+    wchar_t text[260] = {};
+    LVITEMW item = {};
+    item.pszText = text;
+    item.cchTextMax = static_cast<int>(std::size(text));
+    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
+    return Narrowed(text);
+  }
+
+  /// The place of a row in the list, scrolled to. False when it is folded away or out of reach.
+  static bool FindRow(TreeList& list, int row, RECT& place) {
+    if (!CanReach(list) || list.PositionOf(row) < 0) return false;
+    const HWND window = PeerOf(list)->Window();
+    const auto position = static_cast<WPARAM>(list.PositionOf(row));
+    SendMessageW(window, LVM_ENSUREVISIBLE, position, FALSE);
+    place.left = LVIR_BOUNDS;
+    return SendMessageW(window, LVM_GETITEMRECT, position, reinterpret_cast<LPARAM>(&place)) != 0;
+  }
+
   /// Selects an entry of a list of the dialog for fonts, as by the mouse.
   static void SelectEntry(HWND dialog, int list, int index) {
     const HWND box = GetDlgItem(dialog, list);

@@ -28,7 +28,9 @@ class HeadlessWindow final : public FormWindow {
   void EndModal() override { mEnded = true; }
   void UpdateCaption() override {}
   void UpdatePlace() override {}
+  void UpdateEnabled() override {}
   void Repaint() override {}
+  void DragBottomEdge() override {}
   std::uintptr_t NativeHandle() const override { return 0; }
   void Abandon() override {}
 
@@ -46,6 +48,12 @@ HeadlessDesktop::~HeadlessDesktop() {
 
 ScreenMetrics HeadlessDesktop::Metrics(BorderStyle) const {
   return {mScreen, {0, 0, mScreen.Width, mScreen.Height}, kFrame};
+}
+
+std::vector<Rect> HeadlessDesktop::WorkAreas() const {
+  std::vector<Rect> areas = Desktop::WorkAreas();
+  areas.insert(areas.end(), mFurtherScreens.begin(), mFurtherScreens.end());
+  return areas;
 }
 
 std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {

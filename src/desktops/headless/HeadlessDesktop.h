@@ -12,6 +12,7 @@ class HeadlessDesktop final : public Desktop {
   ~HeadlessDesktop() override;
 
   ScreenMetrics Metrics(BorderStyle border) const override;
+  std::vector<Rect> WorkAreas() const override;
   double Scale() const override { return 1; }
   numbers::Separators Separators() const override { return mSeparators; }
   SettingsStore& Settings() override { return mSettings; }
@@ -19,6 +20,8 @@ class HeadlessDesktop final : public Desktop {
 
   /// The size of the screen in twips; 1920 x 1080 pixels unless set.
   void ScreenSize(Size value) { mScreen = value; }
+  /// Further screens beside the main one, by the places of their work areas in twips.
+  void FurtherScreens(std::vector<Rect> value) { mFurtherScreens = std::move(value); }
   void Separators(const numbers::Separators& value) { mSeparators = value; }
 
  protected:
@@ -34,6 +37,7 @@ class HeadlessDesktop final : public Desktop {
  private:
   MemorySettings mSettings;
   numbers::Separators mSeparators;
+  std::vector<Rect> mFurtherScreens;
   Size mScreen{1920 * kTwipsPerPixel, 1080 * kTwipsPerPixel};
 };
 

@@ -1,7 +1,10 @@
 #include "desktops/qt/Dialog.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWindow>
 
 #include "desktops/qt/Application.h"
 #include "desktops/qt/Text.h"
@@ -17,10 +20,11 @@ Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
   Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (form.Border() == BorderStyle::Fixed) flags |= Qt::MSWindowsFixedSizeDialogHint;
   setWindowFlags(flags);
+  setMouseTracking(true);
 }
 
 void Dialog::Report(const std::function<void()>& act) {
-  if (mRetired || mQuiet > 0 || !mForm.Visible()) return;
+  if (mRetired || mQuiet > 0 || !mForm.Visible() || !mForm.Enabled()) return;
   ++mActs;
   {
     const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
@@ -36,6 +40,31 @@ bool Dialog::ReportKey(const QKeyEvent& event) {
   Report([&] { handled = mForm.UserKey(*stroke); });
   // A letter with Alt is a command, though none may answer to it; Qt would type the letter.
   return handled || stroke->Key == Key::Character;
+}
+
+void Dialog::BlockInput(bool block) {
+  if (block) {
+    qApp->installEventFilter(this);
+  } else {
+    qApp->removeEventFilter(this);
+  }
+}
+
+bool Dialog::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride: {
+      const auto* const widget = qobject_cast<QWidget*>(watched);
+      return widget && widget->window() == this;
+    }
+    default:
+      return false;
+  }
 }
 
 void Dialog::Retire() {
@@ -71,6 +100,40 @@ void Dialog::moveEvent(QMoveEvent* event) {
   const Desktop& desktop = mForm.OwnerDesktop();
   if (x() == desktop.ToPixels(mForm.Left()) && y() == desktop.ToPixels(mForm.Top())) return;
   Report([&] { mForm.UserMove(desktop.ToTwips(x()), desktop.ToTwips(y())); });
+}
+
+void Dialog::ReportMouse() {
+  const QPoint at = mapFromGlobal(QCursor::pos());
+  Report([&] { mForm.UserMouseMove({at.x(), at.y()}); });
+}
+
+void Dialog::DragBottomEdge() {
+  if (windowHandle() && windowHandle()->startSystemResize(Qt::BottomEdge)) return;
+  mDragged = height() - mPressedAt.y();
+}
+
+void Dialog::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  mPressedAt = event->position().toPoint();
+  Report([this] { mForm.UserMouseDown({mPressedAt.x(), mPressedAt.y()}); });
+}
+
+void Dialog::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (mDragged) {
+    resize(width(), std::max(1, at.y() + *mDragged));
+  } else {
+    Report([&] { mForm.UserMouseMove({at.x(), at.y()}); });
+  }
+}
+
+void Dialog::mouseReleaseEvent(QMouseEvent*) {
+  mDragged.reset();
+}
+
+void Dialog::leaveEvent(QEvent* event) {
+  QDialog::leaveEvent(event);
+  Report([this] { mForm.UserMouseMove({-1, -1}); });
 }
 
 }  // namespace orx::qt

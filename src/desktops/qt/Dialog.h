@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <functional>
+#include <optional>
 
 #include "desktops/qt/Surface.h"
 
@@ -21,6 +22,12 @@ class Dialog final : public QDialog {
   void Report(const std::function<void()>& act);
   /// Hands a key press to the form. True when it is dealt with.
   bool ReportKey(const QKeyEvent& event);
+  /// Tells the form where the mouse is.
+  void ReportMouse();
+  /// Has the window system drag the lower edge, or does so itself where that cannot.
+  void DragBottomEdge();
+  /// Has all presses of mouse and keys in this window come to nothing.
+  void BlockInput(bool block);
   /// Cuts the dialog off from its form and deletes it as soon as no event of it runs.
   void Retire();
 
@@ -44,6 +51,11 @@ class Dialog final : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   Form& mForm;
@@ -51,6 +63,9 @@ class Dialog final : public QDialog {
   int mQuiet = 0;
   int mActs = 0;
   bool mRetired = false;
+  QPoint mPressedAt;
+  /// While the dialog drags its edge itself: how far the edge stands below the mouse.
+  std::optional<int> mDragged;
 };
 
 }  // namespace orx::qt

@@ -109,14 +109,23 @@ void DialogWindow::UpdatePlace() {
   if (mForm.Border() == BorderStyle::Fixed) {
     mDialog->setFixedSize(size);
   } else {
+    if (mForm.Border() == BorderStyle::SizableHeight) mDialog->setFixedWidth(size.width());
     mDialog->resize(size);
   }
   mDialog->move(desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()));
   mDialog->Ground().Arrange();
 }
 
+void DialogWindow::UpdateEnabled() {
+  mDialog->BlockInput(!mForm.Enabled());
+}
+
 void DialogWindow::Repaint() {
   mDialog->repaint();
+}
+
+void DialogWindow::DragBottomEdge() {
+  mDialog->DragBottomEdge();
 }
 
 std::uintptr_t DialogWindow::NativeHandle() const {

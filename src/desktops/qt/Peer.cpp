@@ -24,6 +24,7 @@ Peer::Peer(Control& control, Dialog& dialog, QWidget* widget, QWidget* focus)
     : mControl(control), mDialog(dialog), mWidget(widget), mFocus(focus ? focus : widget) {
   mWidget->setObjectName(ToQt(control.Name()));
   mFocus->installEventFilter(this);
+  if (mWidget != mFocus) mWidget->installEventFilter(this);
 }
 
 void Peer::Update(Aspect aspect) {
@@ -89,6 +90,9 @@ void Peer::FocusCame(QObject& watched, QEvent& event) {
 }
 
 bool Peer::eventFilter(QObject* watched, QEvent* event) {
+  // Over a widget the dialog is not told of the mouse.
+  if (event->type() == QEvent::Enter) mDialog.ReportMouse();
+  if (watched != mFocus) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride:
       // The press itself follows; no shortcut of Qt or of the host is to act on a dialog key.

@@ -21,6 +21,7 @@ std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, QWidget& parent);
+std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, QWidget& parent);
 
 /// Makes the peer of a control of any kind.
 class PeerMaker final : public ControlVisitor {
@@ -44,6 +45,7 @@ class PeerMaker final : public ControlVisitor {
   void Visit(PictureBox& control) override { Take(control); }
   void Visit(TabControl& control) override { Take(control); }
   void Visit(TextBox& control) override { Take(control); }
+  void Visit(TreeList& control) override { Take(control); }
 
  private:
   template <class Kind>

@@ -50,6 +50,11 @@ bool Save(QWidget& window, const std::string& pngPath) {
   return window.grab().save(ToQt(pngPath), "PNG");
 }
 
+Rect InTwips(const Desktop& desktop, const QRect& place) {
+  return {desktop.ToTwips(place.x()), desktop.ToTwips(place.y()), desktop.ToTwips(place.width()),
+          desktop.ToTwips(place.height())};
+}
+
 }  // namespace
 
 struct QtDesktop::State {
@@ -74,19 +79,24 @@ QtDesktop::~QtDesktop() {
 }
 
 ScreenMetrics QtDesktop::Metrics(BorderStyle) const {
-  const auto inTwips = [this](const QRect& place) {
-    return Rect{ToTwips(place.x()), ToTwips(place.y()), ToTwips(place.width()), ToTwips(place.height())};
-  };
   ScreenMetrics metrics;
   if (const QScreen* const screen = QGuiApplication::primaryScreen()) {
-    const Rect whole = inTwips(screen->geometry());
+    const Rect whole = InTwips(*this, screen->geometry());
     metrics.Screen = {whole.Width, whole.Height};
-    metrics.WorkArea = inTwips(screen->availableGeometry());
+    metrics.WorkArea = InTwips(*this, screen->availableGeometry());
   }
   if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
   const QSize frame = FrameSize();
   metrics.Frame = {ToTwips(frame.width()), ToTwips(frame.height())};
   return metrics;
+}
+
+std::vector<Rect> QtDesktop::WorkAreas() const {
+  std::vector<Rect> areas = Desktop::WorkAreas();
+  if (mState->WorkArea) return areas;
+  for (const QScreen* const screen : QGuiApplication::screens())
+    if (screen != QGuiApplication::primaryScreen()) areas.push_back(InTwips(*this, screen->availableGeometry()));
+  return areas;
 }
 
 double QtDesktop::Scale() const {

@@ -27,6 +27,9 @@ Surface::Surface(QWidget& dialog, const Form& form)
   // The dialog's own background shows through, as if nothing stood between.
   mScroll->viewport()->setAutoFillBackground(false);
   mBody->setAutoFillBackground(false);
+  // The dialog follows the mouse beside its controls.
+  for (QWidget* const ground : {static_cast<QWidget*>(mScroll), mScroll->viewport(), mBody})
+    ground->setMouseTracking(true);
 }
 
 QWidget& Surface::HomeOf(const Control& control) {

@@ -89,6 +89,8 @@ int KeyCodeOf(const QKeyEvent& event) {
                                             {Qt::Key_Up, 38},
                                             {Qt::Key_Right, 39},
                                             {Qt::Key_Down, 40},
+                                            {Qt::Key_Plus, kKeyCodePlus},
+                                            {Qt::Key_Minus, kKeyCodeMinus},
                                             {Qt::Key_Insert, 45},
                                             {Qt::Key_Delete, 46}};
   for (const auto& [native, code] : kCodes)

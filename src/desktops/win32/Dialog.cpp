@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <windowsx.h>
 
 #include <algorithm>
 
@@ -43,12 +44,14 @@ BOOL CALLBACK Dialog::ReleaseFrom(HWND window, LPARAM owner) {
 }
 
 DWORD Dialog::Style() const {
-  const DWORD border = mForm.Border() == BorderStyle::Sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX : 0;
+  DWORD border = 0;
+  if (mForm.Border() == BorderStyle::Sizable) border = WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX;
+  if (mForm.Border() == BorderStyle::SizableHeight) border = WS_THICKFRAME;
   return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | border;
 }
 
 void Dialog::Report(const std::function<void()>& act) {
-  if (mRetired || mQuiet > 0 || !mForm.Visible()) return;
+  if (mRetired || mQuiet > 0 || !mForm.Visible() || !mForm.Enabled()) return;
   const Busy busy(*this);
   const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
   act();
@@ -202,7 +205,38 @@ void Dialog::Destroyed() {
   Report([this] { mForm.UserClose(); });
 }
 
-bool Dialog::ShowPointer() const {
+void Dialog::DragBottomEdge() {
+  ReleaseCapture();
+  const DWORD at = GetMessagePos();
+  SendMessageW(mWindow, WM_NCLBUTTONDOWN, HTBOTTOM, static_cast<LPARAM>(at));
+  if (!mRetired) InvalidateRect(mWindow, nullptr, TRUE);
+}
+
+LRESULT Dialog::HitTest(WPARAM wParam, LPARAM lParam) const {
+  const LRESULT part = DefWindowProcW(mWindow, WM_NCHITTEST, wParam, lParam);
+  if (mForm.Border() != BorderStyle::SizableHeight || part < HTSIZEFIRST || part > HTSIZELAST) return part;
+  const bool isBelow = part == HTBOTTOM || part == HTBOTTOMLEFT || part == HTBOTTOMRIGHT;
+  return isBelow ? HTBOTTOM : HTBORDER;
+}
+
+void Dialog::LimitSize(MINMAXINFO& limits) const {
+  if (mForm.Border() != BorderStyle::SizableHeight) return;
+  RECT frame = {0, 0, mGround.WindowSize().cx, 0};
+  AdjustWindowRectEx(&frame, Style(), FALSE, static_cast<DWORD>(GetWindowLongPtrW(mWindow, GWL_EXSTYLE)));
+  limits.ptMinTrackSize.x = limits.ptMaxTrackSize.x = frame.right - frame.left;
+}
+
+void Dialog::ReportMouse() {
+  POINT at = {};
+  GetCursorPos(&at);
+  ScreenToClient(mWindow, &at);
+  Report([&] { mForm.UserMouseMove({static_cast<int>(at.x), static_cast<int>(at.y)}); });
+}
+
+bool Dialog::ShowPointer() {
+  // The platform asks here whatever control the mouse is over.
+  ReportMouse();
+  if (mRetired) return true;
   const HCURSOR pointer = CursorOf(mForm.OwnerDesktop().Pointer());
   if (pointer) SetCursor(pointer);
   return pointer != nullptr;
@@ -216,7 +250,7 @@ LRESULT CALLBACK Dialog::WindowProc(HWND window, UINT message, WPARAM wParam, LP
 }
 
 LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (Reflect(message, wParam, lParam)) return 0;
+  if (const std::optional<LRESULT> answer = Reflect(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_CLOSE:
       Report([this] { mForm.UserClose(); });
@@ -235,6 +269,17 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_MOVE:
       Moved();
+      return 0;
+    case WM_MOUSEMOVE:
+      Report([&] { mForm.UserMouseMove({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); });
+      return 0;
+    case WM_LBUTTONDOWN:
+      Report([&] { mForm.UserMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); });
+      return 0;
+    case WM_NCHITTEST:
+      return HitTest(wParam, lParam);
+    case WM_GETMINMAXINFO:
+      LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
       return 0;
     case WM_SETCURSOR:
       if (ShowPointer()) return TRUE;

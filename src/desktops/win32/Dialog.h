@@ -52,6 +52,8 @@ class Dialog {
   void Hide();
   /// Shows a text while the mouse rests on the window; an empty one takes it away.
   void ToolTip(HWND tool, const std::string& text);
+  /// Has the platform drag the lower edge until the mouse button is released.
+  void DragBottomEdge();
   /// Cuts the window off from its form and destroys it as soon as no message of it is dealt with.
   void Retire();
 
@@ -94,7 +96,11 @@ class Dialog {
   bool NoticeFocus();
   void Sized();
   void Moved();
-  bool ShowPointer() const;
+  bool ShowPointer();
+  void ReportMouse();
+  /// Where the height alone can be changed, only the lower edge takes hold of the mouse.
+  LRESULT HitTest(WPARAM wParam, LPARAM lParam) const;
+  void LimitSize(MINMAXINFO& limits) const;
   void Redeliver();
   DWORD Style() const;
 

@@ -94,8 +94,17 @@ void DialogWindow::UpdatePlace() {
   mDialog->UpdatePlace();
 }
 
+void DialogWindow::UpdateEnabled() {
+  // Input is dropped as it is taken from the queue. The platform's own way would have another program's window activated
+  // when a dialog closes that belongs to this one.
+}
+
 void DialogWindow::Repaint() {
   RedrawWindow(mDialog->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void DialogWindow::DragBottomEdge() {
+  mDialog->DragBottomEdge();
 }
 
 std::uintptr_t DialogWindow::NativeHandle() const {

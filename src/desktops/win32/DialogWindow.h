@@ -20,7 +20,9 @@ class DialogWindow final : public FormWindow {
   void EndModal() override;
   void UpdateCaption() override;
   void UpdatePlace() override;
+  void UpdateEnabled() override;
   void Repaint() override;
+  void DragBottomEdge() override;
   std::uintptr_t NativeHandle() const override;
   void Abandon() override;
 

@@ -1,12 +1,24 @@
 #include "desktops/win32/Keys.h"
 
 #include "desktops/win32/Dialog.h"
+#include "forms/Form.h"
 
 namespace orx::win32 {
 namespace {
 
 bool IsDown(int key) {
   return GetKeyState(key) < 0;
+}
+
+bool IsInput(const MSG& message) {
+  const auto isBetween = [&](UINT first, UINT last) { return message.message >= first && message.message <= last; };
+  return isBetween(WM_KEYFIRST, WM_KEYLAST) || isBetween(WM_LBUTTONDOWN, WM_MOUSELAST) ||
+         isBetween(WM_NCLBUTTONDOWN, WM_NCMBUTTONDBLCLK);
+}
+
+bool IsBlocked(HWND window) {
+  const Dialog* const dialog = Dialog::Around(window);
+  return dialog && !dialog->IsRetired() && !dialog->Owner().Enabled();
 }
 
 LRESULT CALLBACK SeeMessage(int code, WPARAM removed, LPARAM data) {
@@ -65,6 +77,7 @@ bool HandleOneMessage(MSG& message) {
     PostQuitMessage(static_cast<int>(message.wParam));
     return false;
   }
+  if (IsInput(message) && IsBlocked(message.hwnd)) return true;
   if (!DealWithKey(message)) {
     TranslateMessage(&message);
     DispatchMessageW(&message);

@@ -54,8 +54,7 @@ LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
       OnCommand(static_cast<int>(wParam));
       return 0;
     case kChildNotify:
-      OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
-      return 0;
+      return OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
     case WM_SETFOCUS: {
       Dialog& dialog = mDialog;
       const LRESULT result = Subclass::CallNext(window, message, wParam, lParam);

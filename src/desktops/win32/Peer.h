@@ -54,7 +54,7 @@ class Peer : public ControlPeer {
   virtual LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   /// The window's notifications, by their codes.
   virtual void OnCommand(int) {}
-  virtual void OnNotify(const NMHDR&) {}
+  virtual LRESULT OnNotify(const NMHDR&) { return 0; }
   /// What SetFocus does; by default the focus window takes the focus.
   virtual void FocusNative() { SetFocus(mFocus); }
 

@@ -32,6 +32,7 @@ std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, const WindowSite&
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, const WindowSite& site);
 
 /// Makes the peer of a control of any kind.
 class PeerMaker final : public ControlVisitor {
@@ -55,6 +56,7 @@ class PeerMaker final : public ControlVisitor {
   void Visit(PictureBox& control) override { Take(control); }
   void Visit(TabControl& control) override { Take(control); }
   void Visit(TextBox& control) override { Take(control); }
+  void Visit(TreeList& control) override { Take(control); }
 
  private:
   template <class Kind>

@@ -78,11 +78,12 @@ class TabControlPeer final : public Peer {
     FillRect(context.Get(), &body, GetSysColorBrush(COLOR_BTNFACE));
   }
 
-  void OnNotify(const NMHDR& notice) override {
-    if (notice.code != TCN_SELCHANGE) return;
+  LRESULT OnNotify(const NMHDR& notice) override {
+    if (notice.code != TCN_SELCHANGE) return 0;
     const auto tab = static_cast<int>(Send(TCM_GETCURSEL));
     TabControl& control = mControl;
     if (tab >= 0) Report([&] { control.UserSelect(tab); });
+    return 0;
   }
 
   TabControl& mControl;

@@ -57,6 +57,15 @@ double MeasureScale() {
   return SystemDpi() / kDesignDotsPerInch * (DialogFontPoints() / kDesignPoints);
 }
 
+/// Adds the work area of a screen that is not the main one.
+BOOL CALLBACK AddMonitor(HMONITOR monitor, HDC, RECT*, LPARAM areas) {
+  MONITORINFO info = {};
+  info.cbSize = sizeof(info);
+  if (GetMonitorInfoW(monitor, &info) && !(info.dwFlags & MONITORINFOF_PRIMARY))
+    reinterpret_cast<std::vector<RECT>*>(areas)->push_back(info.rcWork);
+  return TRUE;
+}
+
 }  // namespace
 
 struct Win32Desktop::State {
@@ -86,6 +95,18 @@ ScreenMetrics Win32Desktop::Metrics(BorderStyle border) const {
   const SIZE frame = FrameSize(border);
   metrics.Frame = {twips(frame.cx), twips(frame.cy)};
   return metrics;
+}
+
+std::vector<Rect> Win32Desktop::WorkAreas() const {
+  std::vector<Rect> areas = Desktop::WorkAreas();
+  if (mState->WorkArea) return areas;
+  const GuestScope guest;
+  std::vector<RECT> further;
+  EnumDisplayMonitors(nullptr, nullptr, AddMonitor, reinterpret_cast<LPARAM>(&further));
+  const auto twips = [this](LONG pixels) { return ToTwips(static_cast<int>(pixels)); };
+  for (const RECT& area : further)
+    areas.push_back({twips(area.left), twips(area.top), twips(area.right - area.left), twips(area.bottom - area.top)});
+  return areas;
 }
 
 double Win32Desktop::Scale() const {
@@ -129,7 +150,8 @@ bool Win32Desktop::SaveMessagePicture(const std::string& pngPath) const {
 
 std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
   const GuestScope guest;
-  INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
+  INITCOMMONCONTROLSEX controls = {sizeof(controls),
+                                   ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES | ICC_LISTVIEW_CLASSES};
   InitCommonControlsEx(&controls);
   return std::make_unique<DialogWindow>(form);
 }

@@ -20,6 +20,7 @@ class Win32Desktop final : public Desktop {
   ~Win32Desktop() override;
 
   ScreenMetrics Metrics(BorderStyle border) const override;
+  std::vector<Rect> WorkAreas() const override;
   double Scale() const override;
   numbers::Separators Separators() const override;
   SettingsStore& Settings() override;

@@ -12,7 +12,7 @@ std::mutex theLock;
 int theUsers = 0;
 
 LRESULT CALLBACK PaneProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (Reflect(message, wParam, lParam)) return 0;
+  if (const std::optional<LRESULT> answer = Reflect(message, wParam, lParam)) return *answer;
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
@@ -43,16 +43,12 @@ WindowClasses::~WindowClasses() {
   UnregisterClassW(kPane, ThisModule());
 }
 
-bool Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_COMMAND && lParam != 0) {
-    SendMessageW(reinterpret_cast<HWND>(lParam), kChildCommand, HIWORD(wParam), 0);
-    return true;
-  }
-  if (message == WM_NOTIFY) {
-    SendMessageW(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, kChildNotify, 0, lParam);
-    return true;
-  }
-  return false;
+std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_COMMAND && lParam != 0)
+    return SendMessageW(reinterpret_cast<HWND>(lParam), kChildCommand, HIWORD(wParam), 0);
+  if (message == WM_NOTIFY)
+    return SendMessageW(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, kChildNotify, 0, lParam);
+  return std::nullopt;
 }
 
 }  // namespace orx::win32

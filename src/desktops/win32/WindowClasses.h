@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 namespace orx::win32 {
 
 /// The messages that windows of these classes send to their children in place of the platform's own, which go to the
@@ -25,7 +27,7 @@ class WindowClasses {
   static constexpr wchar_t kPane[] = L"OrvexMapDialogs2.Pane";
 };
 
-/// Sends notifications of a child back to it. True when the message was one.
-bool Reflect(UINT message, WPARAM wParam, LPARAM lParam);
+/// Sends notifications of a child back to it and gives its answer; none when the message was no notification.
+std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);
 
 }  // namespace orx::win32

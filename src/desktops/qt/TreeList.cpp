@@ -1,0 +1,209 @@
+#include "forms/TreeList.h"
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "desktops/qt/Peers.h"
+#include "desktops/qt/Text.h"
+#include "forms/Desktop.h"
+#include "forms/Form.h"
+
+namespace orx::qt {
+namespace {
+
+/// In twips: what a row is higher than its text, and the width that a level takes.
+constexpr int kRowGap = 60;
+constexpr int kLevelWidth = 240;
+
+/// Reads the rows that can be seen from the control when the view wants to show them.
+class ShownRows final : public QAbstractListModel {
+ public:
+  ShownRows(const TreeList& control, QObject* parent) : QAbstractListModel(parent), mControl(&control) {}
+
+  int rowCount(const QModelIndex& parent) const override {
+    return mControl && !parent.isValid() ? mControl->ShownCount() : 0;
+  }
+  QVariant data(const QModelIndex& index, int role) const override {
+    const TreeRow* const row = At(index);
+    return row && role == Qt::DisplayRole ? ToQt(row->Text) : QVariant();
+  }
+  /// Null when the control has let the view go.
+  const TreeRow* At(const QModelIndex& index) const {
+    if (!mControl || index.row() < 0 || index.row() >= mControl->ShownCount()) return nullptr;
+    return &mControl->Row(mControl->ShownRow(index.row()));
+  }
+  bool HasChildren(const QModelIndex& index) const {
+    return At(index) && mControl->HasChildren(mControl->ShownRow(index.row()));
+  }
+  void Renew() {
+    beginResetModel();
+    endResetModel();
+  }
+  void Forget() {
+    mControl = nullptr;
+    Renew();
+  }
+
+ private:
+  const TreeList* mControl;
+};
+
+/// Paints a row with its mark for folding, in the look of the platform.
+class RowPainter final : public QStyledItemDelegate {
+ public:
+  RowPainter(const ShownRows& rows, int levelWidth, int gap, QObject* parent)
+      : QStyledItemDelegate(parent), mRows(rows), mLevelWidth(levelWidth), mGap(gap) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const TreeRow* const row = mRows.At(index);
+    if (!row) return;
+    QStyleOptionViewItem item(option);
+    initStyleOption(&item, index);
+    const QStyle& style = *item.widget->style();
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
+    if (mRows.HasChildren(index)) {
+      QStyleOption mark;
+      mark.rect = MarkOf(*row, item.rect);
+      mark.palette = item.palette;
+      mark.state = QStyle::State_Children | (item.state & (QStyle::State_Enabled | QStyle::State_Selected));
+      if (row->Expanded) mark.state |= QStyle::State_Open;
+      style.drawPrimitive(QStyle::PE_IndicatorBranch, &mark, painter, item.widget);
+    }
+    item.rect.setLeft(MarkOf(*row, item.rect).right() + 1);
+    style.drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
+  }
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+    return {1, std::max(hint.height(), option.fontMetrics.height() + mGap)};
+  }
+
+  QRect MarkOf(const TreeRow& row, const QRect& place) const {
+    return {place.left() + row.Level * mLevelWidth, place.top(), mLevelWidth, place.height()};
+  }
+
+ private:
+  const ShownRows& mRows;
+  int mLevelWidth;
+  int mGap;
+};
+
+/// Shows rows and scrolls; mouse and keys are the control's business. The peer empties the functions when it goes.
+class NativeRows final : public QListView {
+ public:
+  using QListView::QListView;
+  std::function<void(QPoint, bool)> Pressed;
+  std::function<bool(const QKeyEvent&)> KeyPressed;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override { Press(*event, false); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { Press(*event, true); }
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent*) override {}
+  void keyPressEvent(QKeyEvent* event) override {
+    const auto keyPressed = KeyPressed;
+    if (!keyPressed || !keyPressed(*event)) event->ignore();
+  }
+
+ private:
+  void Press(const QMouseEvent& event, bool twice) {
+    // What the press sets off may take the functions away.
+    const auto pressed = Pressed;
+    if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint(), twice);
+  }
+};
+
+class TreeListPeer final : public Peer {
+ public:
+  TreeListPeer(TreeList& control, Dialog& dialog, NativeRows* native)
+      : Peer(control, dialog, native), mControl(control), mNative(*native), mRows(*new ShownRows(control, native)) {
+    const Desktop& desktop = dialog.Owner().OwnerDesktop();
+    mPainter = new RowPainter(mRows, desktop.ToPixels(kLevelWidth), desktop.ToPixels(kRowGap), native);
+    mNative.setUniformItemSizes(true);
+    mNative.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    mNative.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    mNative.setTextElideMode(Qt::ElideRight);
+    // A press of the mouse must not move the focus by itself: the field that loses it may refuse.
+    mNative.setFocusPolicy(Qt::TabFocus);
+    mNative.setItemDelegate(mPainter);
+    mNative.setModel(&mRows);
+    mNative.Pressed = [this](QPoint at, bool twice) { Pressed(at, twice); };
+    mNative.KeyPressed = [this](const QKeyEvent& event) { return KeyPressed(event); };
+    // Assistive software selects rows without mouse and keys.
+    connect(mNative.selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
+      Report([&] {
+        if (mRows.At(index)) mControl.UserClick(mControl.ShownRow(index.row()));
+      });
+    });
+  }
+  ~TreeListPeer() override {
+    mNative.Pressed = nullptr;
+    mNative.KeyPressed = nullptr;
+    mRows.Forget();
+  }
+
+ private:
+  void Pressed(QPoint at, bool twice) {
+    const QModelIndex index = mNative.indexAt(at);
+    TreeList& control = mControl;
+    const TreeRow* const row = mRows.At(index);
+    if (!row) return Report([&] { control.OwnerForm().UserFocus(control); });
+    const bool isOnMark = mPainter->MarkOf(*row, mNative.visualRect(index)).contains(at);
+    const bool folds = mRows.HasChildren(index) && (isOnMark || twice);
+    const int which = control.ShownRow(index.row());
+    Report([&] { folds ? control.UserFold(which) : control.UserClick(which); });
+  }
+
+  bool KeyPressed(const QKeyEvent& event) {
+    TreeList& control = mControl;
+    Dialog& dialog = Window();
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+    const int height = std::max(1, mNative.sizeHintForRow(0));
+    control.PageRows(mNative.viewport()->height() / height);
+    const QString typed = event.text();
+    const int code = KeyCodeOf(event);
+    if (code != 0) dialog.Report([&] { control.UserKeyDown(code); });
+    if (!typed.isEmpty() && typed[0].isPrint())
+      dialog.Report([&] { control.UserCharacter(typed.toUcs4().front()); });
+    return code != 0 || !typed.isEmpty();
+  }
+
+  void Mirror(Aspect aspect) override {
+    if (aspect == Aspect::Items) MirrorRows();
+    if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorSelection();
+    if (aspect == Aspect::Text) mNative.viewport()->update();
+    Peer::Mirror(aspect);
+  }
+
+  void MirrorRows() {
+    // Anew, but from the same row on as before.
+    const int first = mNative.verticalScrollBar()->value();
+    mRows.Renew();
+    mNative.doItemsLayout();
+    mNative.verticalScrollBar()->setValue(first);
+  }
+
+  void MirrorSelection() {
+    const bool isSelected = mControl.ListIndex() >= 0;
+    const QModelIndex index = isSelected ? mRows.index(mControl.PositionOf(mControl.ListIndex())) : QModelIndex();
+    if (index != mNative.currentIndex()) mNative.setCurrentIndex(index);
+    if (isSelected) mNative.scrollTo(index);
+  }
+
+  TreeList& mControl;
+  NativeRows& mNative;
+  ShownRows& mRows;
+  RowPainter* mPainter = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, QWidget& parent) {
+  return std::make_unique<TreeListPeer>(control, dialog, new NativeRows(&parent));
+}
+
+}  // namespace orx::qt

@@ -1,0 +1,217 @@
+#include "forms/TreeList.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "forms/ControlVisitor.h"
+#include "forms/Form.h"
+#include "forms/Letters.h"
+
+namespace orx {
+namespace {
+
+/// After a pause of this length, a typed letter begins a new search.
+constexpr std::chrono::milliseconds kTypingPause{1000};
+
+}  // namespace
+
+void TreeList::RowsChanged() {
+  mShownIsKnown = false;
+  Tell(Aspect::Items);
+}
+
+void TreeList::Tell(Aspect aspect) {
+  if (mRedraw) Changed(aspect);
+}
+
+void TreeList::Text(int row, const std::string& value) {
+  std::string& text = mRows.at(static_cast<std::size_t>(row)).Text;
+  if (text == value) return;
+  text = value;
+  Tell(Aspect::Text);
+}
+
+void TreeList::AddRow(TreeRow row) {
+  mRows.push_back(std::move(row));
+  RowsChanged();
+}
+
+void TreeList::Clear() {
+  mRows.clear();
+  mListIndex = -1;
+  RowsChanged();
+}
+
+void TreeList::Redraw(bool value) {
+  if (mRedraw == value) return;
+  mRedraw = value;
+  Tell(Aspect::Items);
+  Tell(Aspect::Value);
+}
+
+bool TreeList::HasChildren(int row) const {
+  return row + 1 < ListCount() && Row(row + 1).Level > Row(row).Level;
+}
+
+int TreeList::ParentOf(int row) const {
+  const int level = Row(row).Level;
+  while (--row >= 0)
+    if (Row(row).Level < level) return row;
+  return -1;
+}
+
+void TreeList::Expand(int row, bool expanded) {
+  TreeRow& changed = mRows.at(static_cast<std::size_t>(row));
+  if (changed.Expanded == expanded) return;
+  changed.Expanded = expanded;
+  RowsChanged();
+  if (mListIndex >= 0 && PositionOf(mListIndex) < 0) ListIndex(row);
+}
+
+void TreeList::Select(int row) {
+  mListIndex = row;
+  bool hasUnfolded = false;
+  for (int above = row < 0 ? -1 : ParentOf(row); above >= 0; above = ParentOf(above))
+    hasUnfolded = !std::exchange(mRows[static_cast<std::size_t>(above)].Expanded, true) || hasUnfolded;
+  if (hasUnfolded) RowsChanged();
+  Tell(Aspect::Value);
+}
+
+void TreeList::ListIndex(int row) {
+  if (row < -1 || row >= ListCount()) throw std::out_of_range(Name() + ": no row " + std::to_string(row));
+  if (row == mListIndex) return;
+  Select(row);
+  Click.Raise();
+}
+
+void TreeList::FindShown() const {
+  if (std::exchange(mShownIsKnown, true)) return;
+  mShown.clear();
+  mPositions.assign(mRows.size(), -1);
+  // Rows below a folded one are passed over until one comes that is not deeper.
+  int foldedLevel = -1;
+  for (int row = 0; row < ListCount(); ++row) {
+    const TreeRow& each = mRows[static_cast<std::size_t>(row)];
+    if (foldedLevel >= 0 && each.Level > foldedLevel) continue;
+    foldedLevel = each.Expanded ? -1 : each.Level;
+    mPositions[static_cast<std::size_t>(row)] = static_cast<int>(mShown.size());
+    mShown.push_back(row);
+  }
+}
+
+int TreeList::ShownCount() const {
+  FindShown();
+  return static_cast<int>(mShown.size());
+}
+
+int TreeList::ShownRow(int position) const {
+  FindShown();
+  return mShown.at(static_cast<std::size_t>(position));
+}
+
+int TreeList::PositionOf(int row) const {
+  FindShown();
+  return mPositions.at(static_cast<std::size_t>(row));
+}
+
+void TreeList::UserClick(int row) {
+  OwnerForm().UserAct([&] {
+    // A native list may still show rows that are gone by now.
+    if (!OwnerForm().MoveFocus(*this) || !IsRow(row)) return;
+    if (row != mListIndex) Select(row);
+    Click.Raise();
+  });
+}
+
+void TreeList::UserFold(int row) {
+  OwnerForm().UserAct([&] {
+    if (OwnerForm().MoveFocus(*this) && IsRow(row) && HasChildren(row)) Expand(row, !Row(row).Expanded);
+  });
+}
+
+void TreeList::UserKeyDown(int keyCode) {
+  OwnerForm().UserAct([&] {
+    Navigate(keyCode);
+    KeyDown.Raise(keyCode);
+  });
+}
+
+void TreeList::SelectPosition(int position) {
+  if (ShownCount() == 0) return;
+  const int row = ShownRow(std::clamp(position, 0, ShownCount() - 1));
+  if (row != mListIndex) Select(row);
+}
+
+void TreeList::GoLeft() {
+  if (mListIndex < 0) return;
+  if (HasChildren(mListIndex) && Row(mListIndex).Expanded) return Expand(mListIndex, false);
+  if (const int above = ParentOf(mListIndex); above >= 0) Select(above);
+}
+
+void TreeList::GoRight() {
+  if (mListIndex < 0 || !HasChildren(mListIndex)) return;
+  if (!Row(mListIndex).Expanded) return Expand(mListIndex, true);
+  Select(mListIndex + 1);
+}
+
+void TreeList::Navigate(int keyCode) {
+  const int at = mListIndex < 0 ? -1 : PositionOf(mListIndex);
+  switch (keyCode) {
+    case kKeyCodeUp:
+      return SelectPosition(at - 1);
+    case kKeyCodeDown:
+      return SelectPosition(at + 1);
+    case kKeyCodePageUp:
+      return SelectPosition(at - mPageRows + 1);
+    case kKeyCodePageDown:
+      return SelectPosition(at + mPageRows - 1);
+    case kKeyCodeHome:
+      return SelectPosition(0);
+    case kKeyCodeEnd:
+      return SelectPosition(ShownCount() - 1);
+    case kKeyCodeLeft:
+      return GoLeft();
+    case kKeyCodeRight:
+      return GoRight();
+    case kKeyCodePlus:
+    case kKeyCodeMinus:
+      if (mListIndex >= 0 && HasChildren(mListIndex)) Expand(mListIndex, keyCode == kKeyCodePlus);
+      return;
+    default:
+      return;
+  }
+}
+
+void TreeList::UserCharacter(char32_t character) {
+  OwnerForm().UserAct([&] {
+    const auto now = std::chrono::steady_clock::now();
+    if (now - mTypedAt > kTypingPause) mTyped.clear();
+    // A blank belongs to a name only behind other letters.
+    if (character < U' ' || (character == U' ' && mTyped.empty())) return;
+    mTypedAt = now;
+    mTyped += character;
+    const int before = mListIndex;
+    Seek();
+    if (mListIndex != before) KeyDown.Raise(0);
+  });
+}
+
+void TreeList::Seek() {
+  if (ShownCount() == 0) return;
+  // The same letter again and again goes from one row to the next.
+  const bool isRepeated = std::ranges::all_of(mTyped, [&](char32_t each) { return each == mTyped.front(); });
+  const std::u32string_view start = isRepeated ? std::u32string_view(mTyped).substr(0, 1) : mTyped;
+  const int at = std::max(mListIndex < 0 ? -1 : PositionOf(mListIndex), -1);
+  const int first = at < 0 ? 0 : at + (start.size() == 1 ? 1 : 0);
+  for (int step = 0; step < ShownCount(); ++step) {
+    const int row = ShownRow((first + step) % ShownCount());
+    if (BeginsWith(Row(row).Text, start)) return SelectPosition(PositionOf(row));
+  }
+}
+
+void TreeList::Accept(ControlVisitor& visitor) {
+  visitor.Visit(*this);
+}
+
+}  // namespace orx

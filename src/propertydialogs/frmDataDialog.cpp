@@ -1,0 +1,112 @@
+#include "propertydialogs/frmDataDialog.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "hostobjects/ErrorTrap.h"
+#include "propertydialogs/PageRequests.h"
+
+namespace orx {
+namespace {
+
+/// The room around the controls, in twips, and the height of the strip, in pixels.
+constexpr int kMargin = 8 * kTwipsPerPixel;
+constexpr int kStripHeight = 3;
+
+constexpr char kPageName[] = "DataProperties1";
+
+/// Mouse positions count in 16 bits.
+std::int16_t Narrow(int value) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
+}
+
+}  // namespace
+
+frmDataDialog::frmDataDialog(Desktop& desktop, IPageFactory& pages)
+    : PageHostForm(desktop, pages,
+                   {
+                       .FormName = "frmDataDialog",
+                       .Caption = "Data Classify",
+                       .HelpKey = "_HelpLayerDataProperties",
+                       .TabCaptions = {"Data"},
+                       .Layout =
+                           {
+                               .Client = {6465, 5910},
+                               .Tab = {120, 120, 6255, 5175},
+                               .ButtonTop = 5415,
+                               .HelpLeft = 120,
+                               .OKLeft = 2340,
+                               .CancelLeft = 3720,
+                               .ApplyLeft = 5100,
+                           },
+                       .Border = BorderStyle::SizableHeight,
+                   },
+                   {.Kind = PageKind::DataProperties, .Name = kPageName}) {
+}
+
+Placement frmDataDialog::Kept() const {
+  return {OwnerDesktop(), RegistryKey(), "DataDialog"};
+}
+
+void frmDataDialog::Position() {
+  Kept().Restore(*this);
+  const int frame = OwnerDesktop().Metrics(Border()).Frame.Height;
+  if (const std::optional<int> height = Kept().Read("Height")) ClientSize({ClientSize().Width, *height - frame});
+}
+
+void frmDataDialog::AnswerRequests(PropertyPage& page) {
+  AnswerDataRequests(page, *this);
+}
+
+void frmDataDialog::Form_Resize() {
+  ErrorTrap trap;
+  trap.Step([&] { CloseUpButtons(); });
+  trap.Step([&] { LayOut(); });
+  trap.Step([&] { RefreshContents(); });
+}
+
+void frmDataDialog::LayOut() {
+  const Desktop& desktop = OwnerDesktop();
+  const Size client = ShownClientSize();
+  mStrip = {.Left = 0, .Right = desktop.ToPixels(client.Width), .Bottom = desktop.ToPixels(client.Height)};
+  mStrip.Top = mStrip.Bottom - kStripHeight;
+  const int top = ClientSize().Height - kMargin - cmdHelp.Place().Height;
+  for (Button* const button : {&cmdHelp, &cmdOK, &cmdCancel, &cmdApply}) button->Top(top);
+  // In a window lower than its buttons nothing is left for the page.
+  const Rect tab = ssTab.Place();
+  ssTab.Place({tab.Left, tab.Top, tab.Width, std::max(0, top - kMargin - tab.Top)});
+  Control* const page = ssTab.Page(0).Find(kPageName);
+  const int height = ssTab.Place().Height - tab.Top - TabControl::kStrip - kMargin;
+  if (page) page->Place({0, 0, page->Place().Width, std::max(0, height)});
+}
+
+bool frmDataDialog::IsOnStrip(Point at) const {
+  return modMain::PointInRect(Narrow(at.X), Narrow(at.Y), mStrip);
+}
+
+void frmDataDialog::Form_MouseMove(Point at) {
+  Desktop& desktop = OwnerDesktop();
+  if (IsOnStrip(at)) {
+    if (desktop.Pointer() != Pointer::SizeNS) desktop.Pointer(Pointer::SizeNS);
+  } else if (desktop.Pointer() != Pointer::Default) {
+    desktop.Pointer(Pointer::Default);
+  }
+}
+
+void frmDataDialog::Form_MouseDown(Point at) {
+  if (!IsOnStrip(at)) return;
+  DragBottomEdge();
+  // The user may have closed the window meanwhile.
+  if (!Visible()) return;
+  Refresh();
+  Form_Resize();
+}
+
+void frmDataDialog::Form_Unload() {
+  Kept().Keep(*this);
+  Kept().Write("Height", Height());
+  PageHostForm::Form_Unload();
+}
+
+}  // namespace orx

@@ -1,0 +1,327 @@
+#include "propertydialogs/frmMapSettings.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "service/modDialog.h"
+#include "service/modMain.h"
+
+namespace orx {
+namespace {
+
+constexpr PropertyLayout kMapLayout{.Client = {9420, 5670},
+                                    .Tab = {3075, 120, 6255, 4995},
+                                    .ButtonTop = 5220,
+                                    .HelpLeft = 120,
+                                    .OKLeft = 5295,
+                                    .CancelLeft = 6675,
+                                    .ApplyLeft = 8055};
+
+/// The marks of rows, which tell by a part of them what a row is.
+constexpr char kMapTag[] = "Map";
+constexpr char kLayerTag[] = "Layer";
+constexpr char kTileTag[] = "Tile";
+
+bool Marks(const std::string& tag, const char* what) {
+  std::string lower(tag);
+  std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
+  return lower.find(what) != std::string::npos;
+}
+
+bool IsBlankName(const std::string& name) {
+  return name.find_first_not_of(' ') == std::string::npos;
+}
+
+/// The name of a layer, or what stands for it.
+std::string NameOr(const std::string& name, const char* otherwise, std::int32_t number) {
+  return IsBlankName(name) ? otherwise + std::to_string(number) : name;
+}
+
+class Flag {
+ public:
+  explicit Flag(bool& flag) : mFlag(flag), mBefore(std::exchange(flag, true)) {}
+  ~Flag() { mFlag = mBefore; }
+  Flag(const Flag&) = delete;
+  Flag& operator=(const Flag&) = delete;
+
+ private:
+  bool& mFlag;
+  bool mBefore;
+};
+
+/// Keeps the list as the screen shows it until all of it is filled, also when a name cannot be had.
+class Filling {
+ public:
+  explicit Filling(TreeList& list) : mList(list) { mList.Redraw(false); }
+  ~Filling() { mList.Redraw(true); }
+  Filling(const Filling&) = delete;
+  Filling& operator=(const Filling&) = delete;
+
+ private:
+  TreeList& mList;
+};
+
+}  // namespace
+
+Design frmMapSettings::PictureDesign(const char* toolTip, int position) {
+  return {.Place = {2595, 120 + position * 465, 405, 405}, .ToolTipText = toolTip, .AccessibleName = toolTip};
+}
+
+frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
+    : PropertyDialog(desktop,
+                     {
+                         .FormName = "frmMapSettings",
+                         .Caption = "Map Layer Properties",
+                         .HelpKey = "_HelpMapSettings",
+                         .TabCaptions = {LayerPages::kTabCaptions.begin(), LayerPages::kTabCaptions.end()},
+                         .Layout = kMapLayout,
+                     }),
+      mFactory(pages) {
+  PutFirst({&sftLayers, &cmdAdd, &cmdUp, &cmdDown, &cmdRemove});
+  sftLayers.Click = [this] { sftLayers_Click(); };
+  sftLayers.KeyDown = [this](int keyCode) { sftLayers_KeyDown(keyCode); };
+  cmdAdd.Click = [this] { cmdAdd_Click(); };
+  cmdUp.Click = [this] { Move(&IMap::MoveLayerUp, -1); };
+  cmdDown.Click = [this] { Move(&IMap::MoveLayerDown, 1); };
+  cmdRemove.Click = [this] { cmdRemove_Click(); };
+  ssTab.Click = [this](int) {
+    if (mPages) mPages->Select(ssTab.Tab());
+  };
+}
+
+void frmMapSettings::RegisterClient(HostObject* client, const std::string& registryKey) {
+  RegistryKey(registryKey);
+  if (IMap* const map = QueryKind<IMap>(client)) {
+    Hold(client);
+    mClient = client;
+    mMap = mCurrentMap = map;
+    // An empty map has no first layer.
+    mCurrentObject = map->LayerCount() > 0 ? map->Layer(1) : nullptr;
+  } else if (ILayers* const layers = QueryKind<ILayers>(client)) {
+    Hold(client);
+    mLayers = layers;
+    mClient = mCurrentObject = client;
+    mMap = mCurrentMap = QueryKind<IMap>(layers->Map());
+  } else {
+    OwnerDesktop().ShowMessage(
+        {"Object does not support IMap or ILayers interface!", "Register", MessageIcon::Critical});
+  }
+}
+
+void frmMapSettings::IsDirty(bool value) {
+  Load();
+  if (mPages) mPages->IsDirty(value);
+  mListChanged = value;
+}
+
+void frmMapSettings::RefreshContents() {
+  if (!mMap) return;
+  Load();
+  if (!mPages) return;
+  mPages->Client(mCurrentObject);
+  mPages->Do(&PropertyPage::RefreshContents);
+}
+
+void frmMapSettings::Form_Load() {
+  mPages.emplace(mFactory, ssTab, *this);
+  mPages->Page(LayerPages::kProperties).NameChanged = [this](const std::string& name) { NameChanged(name); };
+  Kept().Restore(*this);
+  mPages->Select(ssTab.Tab());
+  EnableMoving();
+  TakeLanguage();
+  mPages->Language(Language());
+  Translate();
+  FillList();
+  SelectRow(0);
+}
+
+// The list.
+
+void frmMapSettings::FillList() {
+  const Filling filling(sftLayers);
+  const Flag selecting(mIsSelecting);
+  sftLayers.Clear();
+  if (mLayers) {
+    const std::string name = mLayers->Name();
+    sftLayers.AddRow({IsBlankName(name) ? "Map" : name, 0, 0, kMapTag, true});
+  }
+  if (mMap) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
+}
+
+void frmMapSettings::AddRows(IMap& map, const char* defaultName, const char* tag, int level) {
+  const std::int32_t count = map.LayerCount();
+  for (std::int32_t i = 1; i <= count; ++i) {
+    sftLayers.AddRow({NameOr(map.LayerName(i), defaultName, i), level, i, tag});
+    if (&map == mMap) AddTiles(map.Layer(i), level + 1);
+  }
+}
+
+void frmMapSettings::AddTiles(HostObject* layer, int level) {
+  IMap* const tiles = QueryKind<IMap>(layer);
+  if (tiles && tiles->LayerCount() > 1) AddRows(*tiles, "Tile ", kTileTag, level);
+}
+
+void frmMapSettings::sftLayers_Click() {
+  if (!mIsSelecting) SelectRow(sftLayers.ListIndex());
+}
+
+void frmMapSettings::sftLayers_KeyDown(int keyCode) {
+  if (keyCode == kKeyCodeF1) return modMain::ShowHelpFinder(*this, modMain::HelpFile(), sftLayers.HelpContextId());
+  const bool isArrow = keyCode >= kKeyCodeLeft && keyCode <= kKeyCodeDown;
+  if (isArrow && !sftLayers.Redraw()) sftLayers.Redraw(true);
+  // The other keys count when they have led to another row.
+  if (isArrow || sftLayers.ListIndex() != mSelectedRow) SelectRow(sftLayers.ListIndex());
+}
+
+bool frmMapSettings::ShowSelection(int row) {
+  const Flag selecting(mIsSelecting);
+  mSelectedRow = std::clamp(row, -1, sftLayers.ListCount() - 1);
+  if (mSelectedRow < 0 && sftLayers.ListCount() > 0) mSelectedRow = 0;
+  sftLayers.ListIndex(mSelectedRow);
+  return mSelectedRow >= 0;
+}
+
+void frmMapSettings::SelectRow(int row) {
+  // The list shows the row already when the events are let through.
+  ShowSelection(row);
+  OwnerDesktop().ProcessPendingEvents();
+  if (!IsLoaded()) return;
+  mSelectedLayer = 0;
+  if (ShowSelection(row)) {
+    TakeObject();
+  } else {
+    mCurrentMap = mMap;
+    mCurrentObject = nullptr;
+  }
+  EnableMoving();
+  RefreshContents();
+}
+
+void frmMapSettings::TakeObject() {
+  const TreeRow& row = sftLayers.Row(mSelectedRow);
+  if (Marks(row.Tag, "tile")) {
+    HostObject* const layer = mMap->Layer(sftLayers.Row(sftLayers.ParentOf(mSelectedRow)).Data);
+    if (IMap* const tiles = QueryKind<IMap>(layer)) {
+      mCurrentMap = tiles;
+      mCurrentObject = tiles->Layer(row.Data);
+    }
+  } else if (Marks(row.Tag, "layer")) {
+    mCurrentMap = mMap;
+    mCurrentObject = mMap->Layer(row.Data);
+    mSelectedLayer = row.Data;
+  } else {
+    mCurrentMap = mMap;
+    mCurrentObject = mClient;
+  }
+}
+
+void frmMapSettings::EnableMoving() {
+  for (Button* const button : {&cmdUp, &cmdDown, &cmdRemove}) button->Enabled(mSelectedLayer != 0);
+}
+
+void frmMapSettings::NameChanged(const std::string& name) {
+  ErrorTrap trap;
+  trap.Step([&] { sftLayers.Text(mSelectedRow, name); });
+}
+
+// The buttons beside the list. What a map throws counts as its refusal.
+
+void frmMapSettings::Move(MoveLayer move, int rows) {
+  ErrorTrap trap;
+  if (!mCurrentMap || mSelectedLayer == 0) return;
+  bool isMoved = false;
+  trap.Step([&] { isMoved = (mCurrentMap->*move)(mSelectedLayer); });
+  if (!isMoved) return trap.Step([&] { OwnerDesktop().Beep(); });
+  trap.Step([&] { FillList(); });
+  trap.Step([&] { SelectRow(mSelectedRow + rows); });
+  mListChanged = true;
+}
+
+void frmMapSettings::cmdRemove_Click() {
+  ErrorTrap trap;
+  if (!mCurrentMap || mSelectedLayer == 0) return;
+  bool isRemoved = false;
+  trap.Step([&] { isRemoved = mCurrentMap->RemoveLayer(mSelectedLayer); });
+  if (isRemoved) {
+    trap.Step([&] { FillList(); });
+    mListChanged = true;
+  }
+  trap.Step([&] { SelectRow(mSelectedRow - 1); });
+}
+
+void frmMapSettings::cmdAdd_Click() {
+  if (!mMap) return;
+  ErrorTrap trap;
+  Desktop& desktop = OwnerDesktop();
+  Enabled(false);
+  std::vector<std::string> files;
+  trap.Step([&] {
+    const std::uintptr_t handle = Window() ? Window()->NativeHandle() : 0;
+    if (!modDialog::ChooseFiles({desktop, handle, modDialog::FileKind::Layers, Language()}, true, files)) files.clear();
+  });
+  for (const std::string& path : files) {
+    trap.Step([&] { desktop.Pointer(Pointer::Hourglass); });
+    trap.Step([&] { AddFile(path); });
+  }
+  if (!files.empty()) trap.Step([&] { SelectRow(sftLayers.ListCount() - 1); });
+  Enabled(true);
+  trap.Step([&] { desktop.Pointer(Pointer::Default); });
+}
+
+void frmMapSettings::AddFile(const std::string& path) {
+  if (!mMap->AddLayer(path, {})) return;
+  ErrorTrap trap;
+  trap.Step([&] { FillList(); });
+  trap.Step([&] { RefreshContents(); });
+  mListChanged = true;
+}
+
+// The buttons along the bottom.
+
+bool frmMapSettings::IsAnyDirty() const {
+  return mPages->IsAnyDirty() || mListChanged;
+}
+
+void frmMapSettings::Notify(ErrorTrap& trap, void (IDialogCallBack::*notify)(bool)) {
+  if (!CallBack()) return;
+  trap.Step([&] { mLastChange = IsAnyDirty(); });
+  trap.Step([&] { (CallBack()->*notify)(mLastChange); });
+}
+
+void frmMapSettings::cmdApply_Click() {
+  ErrorTrap trap;
+  if (!mPages) return;
+  mPages->Do(&PropertyPage::ApplyChanges, trap);
+  if (CallBack()) {
+    trap.Step([&] { OwnerDesktop().Pointer(Pointer::Hourglass); });
+    Notify(trap, &IDialogCallBack::ApplyNotify);
+    trap.Step([&] { IsDirty(false); });
+  }
+  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+}
+
+void frmMapSettings::cmdOK_Click() {
+  ErrorTrap trap;
+  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Hourglass); });
+  if (mPages) mPages->Do(&PropertyPage::SaveChanges, trap);
+  if (mPages) Notify(trap, &IDialogCallBack::OKNotify);
+  trap.Step([&] { Close(false); });
+  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+}
+
+void frmMapSettings::cmdCancel_Click() {
+  ErrorTrap trap;
+  if (mPages) mPages->Do(&PropertyPage::DiscardChanges, trap);
+  if (mPages) Notify(trap, &IDialogCallBack::CancelNotify);
+  trap.Step([&] { Close(true); });
+  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+}
+
+void frmMapSettings::Form_Unload() {
+  Kept().Keep(*this);
+  mPages.reset();
+  PropertyDialog::Form_Unload();
+}
+
+}  // namespace orx

@@ -1,0 +1,96 @@
+// The layer manager: the layers of a map and their tiles in a list, which the user adds, moves and removes, and beside
+// it the four property pages of the selected one.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "forms/TreeList.h"
+#include "hostobjects/ErrorTrap.h"
+#include "hostobjects/IMap.h"
+#include "propertydialogs/LayerPages.h"
+#include "propertydialogs/Placement.h"
+#include "propertydialogs/PropertyDialog.h"
+#include "service/Glyphs.h"
+
+namespace orx {
+
+class frmMapSettings final : public PropertyDialog {
+ public:
+  frmMapSettings(Desktop& desktop, IPageFactory& pages);
+
+  /// What the host has to say to the dialog; kept, and without a meaning so far.
+  void RegisterFlags(std::int32_t flags) { mFlags = flags; }
+  std::int32_t Flags() const { return mFlags; }
+  /// Hands over a map (IMap) or a layer collection (ILayers), used and not owned, and the host's registry key. The user
+  /// is told of other objects, and nothing is kept of them.
+  void RegisterClient(HostObject* client, const std::string& registryKey);
+  /// Whether layers were added, moved, removed or changed, their labels left out.
+  bool IsDirty() const { return mListChanged || (mPages && mPages->IsDirtyBesideLabels()); }
+  void IsDirty(bool value);
+  /// Shows the selected object on the pages. Does nothing without a map. Loads the form.
+  void RefreshContents();
+
+  /// What the host was last told by the call-back, and where the user is: the position of the selected layer in its
+  /// map, from 1; 0 for the row of the map, for tiles, and while nothing is selected.
+  bool LastChange() const { return mLastChange; }
+  std::int32_t SelectedLayer() const { return mSelectedLayer; }
+
+  TreeList sftLayers{*this, "sftLayers", {.Place = {120, 120, 2400, 4995}, .AccessibleName = "Layers"}};
+  Button cmdAdd{*this, "cmdAdd", PictureDesign("Add layer", 0), glyphs::kPlus};
+  Button cmdUp{*this, "cmdUp", PictureDesign("Move selected layer up", 1), glyphs::kUp};
+  Button cmdDown{*this, "cmdDown", PictureDesign("Move selected layer down", 2), glyphs::kDown};
+  Button cmdRemove{*this, "cmdRemove", PictureDesign("Remove selected layer", 3), glyphs::kCross};
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  using MoveLayer = bool (IMap::*)(std::int32_t);
+
+  static Design PictureDesign(const char* toolTip, int position);
+  void cmdApply_Click() override;
+  void cmdOK_Click() override;
+  void cmdCancel_Click() override;
+  void cmdAdd_Click();
+  void cmdRemove_Click();
+  void Move(MoveLayer move, int rows);
+  void sftLayers_Click();
+  void sftLayers_KeyDown(int keyCode);
+  void NameChanged(const std::string& name);
+
+  Placement Kept() const { return {OwnerDesktop(), RegistryKey(), "MapSettings"}; }
+  void FillList();
+  void AddRows(IMap& map, const char* defaultName, const char* tag, int level);
+  void AddTiles(HostObject* layer, int level);
+  void AddFile(const std::string& path);
+  /// Selects a row and shows its object; a row outside the list stands for the nearest one.
+  void SelectRow(int row);
+  bool ShowSelection(int row);
+  void TakeObject();
+  /// Up, Down and Remove work with a layer only.
+  void EnableMoving();
+  bool IsAnyDirty() const;
+  /// Tells the call-back, if there is one, what has changed. Errors are skipped.
+  void Notify(ErrorTrap& trap, void (IDialogCallBack::*notify)(bool));
+
+  IPageFactory& mFactory;
+  std::int32_t mFlags = 0;
+  HostObject* mClient = nullptr;
+  ILayers* mLayers = nullptr;
+  IMap* mMap = nullptr;
+  HostObject* mCurrentObject = nullptr;
+  IMap* mCurrentMap = nullptr;
+  std::int32_t mSelectedLayer = 0;
+  int mSelectedRow = 0;
+  bool mListChanged = false;
+  bool mLastChange = false;
+  /// True while the form itself moves the selection.
+  bool mIsSelecting = false;
+  // Below the controls: the pages' own controls stand on the tabs and go first.
+  std::optional<LayerPages> mPages;
+};
+
+}  // namespace orx
