@@ -149,7 +149,7 @@ void Form::UserAct(const std::function<void()>& act) {
 }
 
 void Form::UserClose() {
-  UserAct([this] { Unload(); });
+  if (mEnabled) UserAct([this] { Unload(); });
 }
 
 void Form::UserResize(Size client) {
@@ -166,11 +166,11 @@ void Form::UserMove(int left, int top) {
 }
 
 void Form::UserMouseMove(Point at) {
-  UserAct([&] { Form_MouseMove(at); });
+  if (mEnabled) UserAct([&] { Form_MouseMove(at); });
 }
 
 void Form::UserMouseDown(Point at) {
-  UserAct([&] { Form_MouseDown(at); });
+  if (mEnabled) UserAct([&] { Form_MouseDown(at); });
 }
 
 void Form::DragBottomEdge() {

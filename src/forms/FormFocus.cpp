@@ -106,6 +106,7 @@ bool Form::PressMnemonic(char32_t letter) {
 
 bool Form::UserKey(const KeyStroke& stroke) {
   bool handled = false;
+  if (!mEnabled) return false;
   UserAct([&] {
     switch (stroke.Key) {
       case Key::Tab:

@@ -263,8 +263,11 @@ class QtUser final : public User {
     if (const auto* const box = As<QCheckBox>(control)) seen.Value = ShownState(box->checkState());
     if (const auto* const combo = As<QComboBox>(control)) seen.Value = combo->currentIndex();
     if (const auto* const list = As<QListView>(control)) seen.Value = list->currentIndex().row();
-    if (const auto* const tree = dynamic_cast<TreeList*>(&control); tree && seen.Value >= 0)
-      seen.Value = tree->ShownRow(seen.Value);
+    if (const auto* const tree = dynamic_cast<TreeList*>(&control)) {
+      const QModelIndexList selected = As<QListView>(control)->selectionModel()->selectedIndexes();
+      seen.Value = selected.isEmpty() ? -1 : tree->ShownRow(selected.front().row());
+      if (selected.isEmpty()) seen.Text.clear();
+    }
     if (const auto* const tabs = As<QTabWidget>(control)) seen.Value = tabs->currentIndex();
     return seen;
   }

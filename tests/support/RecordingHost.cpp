@@ -4,44 +4,48 @@
 
 namespace orx::test {
 
-RecordingPage::RecordingPage(CallLog& log, const PageSite& site)
+RecordingPage::RecordingPage(CallLog& log, const PageSite& site, std::string name,
+                             std::function<std::string(HostObject*)> nameOf)
     : mLog(log),
+      mName(std::move(name)),
+      mNameOf(std::move(nameOf)),
       mPanel(site.Parent, site.Name, {.Place = site.Place}),
       txtValue(mPanel, "txtValue", {.Place = {120, 120, 2400, 330}, .AccessibleName = "Value"}) {
 }
 
 void RecordingPage::Client(HostObject* value) {
-  mLog.Call(value ? "Page.Client(object)" : "Page.Client(none)");
+  const std::string object = value && mNameOf ? mNameOf(value) : "object";
+  Call("Client(" + (value ? object : "none") + ")");
   mClient = value;
 }
 
 void RecordingPage::Language(ILanguage* value) {
-  mLog.Call(value ? "Page.Language(object)" : "Page.Language(none)");
+  Call(value ? "Language(object)" : "Language(none)");
   mLanguage = value;
 }
 
 bool RecordingPage::IsDirty() const {
-  mLog.Call("Page.IsDirty");
+  Call("IsDirty");
   return mDirty;
 }
 
 void RecordingPage::IsDirty(bool value) {
-  mLog.Call(value ? "Page.IsDirty(True)" : "Page.IsDirty(False)");
+  Call(value ? "IsDirty(True)" : "IsDirty(False)");
   mDirty = value;
 }
 
 std::int32_t RecordingPage::StartUpIndex() const {
-  mLog.Call("Page.StartUpIndex");
+  Call("StartUpIndex");
   return PropertyPage::StartUpIndex();
 }
 
 void RecordingPage::StartUpIndex(std::int32_t value) {
-  mLog.Call("Page.StartUpIndex(" + std::to_string(value) + ")");
+  Call("StartUpIndex(" + std::to_string(value) + ")");
   PropertyPage::StartUpIndex(value);
 }
 
 void RecordingPage::Write(const std::string& call) {
-  mLog.Call(call);
+  Call(call);
   mDirty = mDirty || mWritten != txtValue.Text();
   mWritten = txtValue.Text();
 }
@@ -49,7 +53,9 @@ void RecordingPage::Write(const std::string& call) {
 std::unique_ptr<PropertyPage> RecordingPages::CreatePage(PageKind kind, const PageSite& site) {
   mLog.Call(std::string("Pages.CreatePage(") + PageKindName(kind) + ", " + site.Name + ")");
   if (Created) Created(site.Parent);
-  return std::make_unique<RecordingPage>(mLog, site);
+  auto page = std::make_unique<RecordingPage>(mLog, site, NamesPages ? PageKindName(kind) : "Page", NameOf);
+  Made[kind] = page.get();
+  return page;
 }
 
 std::string RecordingLanguage::TranslateText(const std::string& key) {

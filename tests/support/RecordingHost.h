@@ -41,8 +41,10 @@ class PlainObject final : public HostObject {
 /// One text field; what is typed there is dirty once it was saved or applied.
 class RecordingPage final : public PropertyPage {
  public:
-  RecordingPage(CallLog& log, const PageSite& site);
-  ~RecordingPage() override { mLog.Calls.push_back("Page.Gone"); }
+  /// `name` stands before its calls; `nameOf` tells what to write for a client.
+  RecordingPage(CallLog& log, const PageSite& site, std::string name,
+                std::function<std::string(HostObject*)> nameOf = nullptr);
+  ~RecordingPage() override { mLog.Calls.push_back(mName + ".Gone"); }
 
   HostObject* Client() const override { return mClient; }
   void Client(HostObject* value) override;
@@ -52,15 +54,20 @@ class RecordingPage final : public PropertyPage {
   void IsDirty(bool value) override;
   std::int32_t StartUpIndex() const override;
   void StartUpIndex(std::int32_t value) override;
-  void RefreshContents() override { mLog.Call("Page.RefreshContents"); }
-  void SaveChanges() override { Write("Page.SaveChanges"); }
-  void DiscardChanges() override { mLog.Call("Page.DiscardChanges"); }
-  void ApplyChanges() override { Write("Page.ApplyChanges"); }
+  void RefreshContents() override { Call("RefreshContents"); }
+  void SaveChanges() override { Write("SaveChanges"); }
+  void DiscardChanges() override { Call("DiscardChanges"); }
+  void ApplyChanges() override { Write("ApplyChanges"); }
+  /// The field that the user edits.
+  TextBox& Field() { return txtValue; }
 
  private:
+  void Call(const std::string& call) const { mLog.Call(mName + "." + call); }
   void Write(const std::string& call);
 
   CallLog& mLog;
+  std::string mName;
+  std::function<std::string(HostObject*)> mNameOf;
   HostObject* mClient = nullptr;
   ILanguage* mLanguage = nullptr;
   bool mDirty = false;
@@ -76,6 +83,11 @@ class RecordingPages final : public IPageFactory {
 
   /// Told of each page's parent.
   std::function<void(Container&)> Created;
+  /// Pages write their kind before their calls, in place of "Page".
+  bool NamesPages = false;
+  std::function<std::string(HostObject*)> NameOf;
+  /// The pages that were made last, by their kind.
+  std::map<PageKind, RecordingPage*> Made;
 
  private:
   CallLog& mLog;

@@ -190,7 +190,8 @@ class TreeListPeer final : public Peer {
   void MirrorSelection() {
     const bool isSelected = mControl.ListIndex() >= 0;
     const QModelIndex index = isSelected ? mRows.index(mControl.PositionOf(mControl.ListIndex())) : QModelIndex();
-    if (index != mNative.currentIndex()) mNative.setCurrentIndex(index);
+    // A view that takes the focus makes its first row the current one, without selecting it.
+    if (!isSelected || !mNative.selectionModel()->isSelected(index)) mNative.setCurrentIndex(index);
     if (isSelected) mNative.scrollTo(index);
   }
 
