@@ -52,7 +52,10 @@ Placement frmDataDialog::Kept() const {
 void frmDataDialog::Position() {
   Kept().Restore(*this);
   const int frame = OwnerDesktop().Metrics(Border()).Frame.Height;
-  if (const std::optional<int> height = Kept().Read("Height")) ClientSize({ClientSize().Width, *height - frame});
+  // However low the window was kept, its buttons can be reached.
+  const int smallest = 2 * kMargin + cmdHelp.Place().Height;
+  if (const std::optional<int> height = Kept().Read("Height"))
+    ClientSize({ClientSize().Width, std::max(smallest, *height - frame)});
 }
 
 void frmDataDialog::AnswerRequests(PropertyPage& page) {

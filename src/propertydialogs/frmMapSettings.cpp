@@ -65,7 +65,11 @@ class Filling {
 }  // namespace
 
 Design frmMapSettings::PictureDesign(const char* toolTip, int position) {
-  return {.Place = {2595, 120 + position * 465, 405, 405}, .ToolTipText = toolTip, .AccessibleName = toolTip};
+  // The caption is not to be seen; it is the key: Alt with the number of the button.
+  return {.Caption = "&" + std::to_string(position + 1),
+          .Place = {2595, 120 + position * 465, 405, 405},
+          .ToolTipText = toolTip,
+          .AccessibleName = toolTip};
 }
 
 frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
@@ -82,8 +86,8 @@ frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
   sftLayers.Click = [this] { sftLayers_Click(); };
   sftLayers.KeyDown = [this](int keyCode) { sftLayers_KeyDown(keyCode); };
   cmdAdd.Click = [this] { cmdAdd_Click(); };
-  cmdUp.Click = [this] { Move(&IMap::MoveLayerUp, -1); };
-  cmdDown.Click = [this] { Move(&IMap::MoveLayerDown, 1); };
+  cmdUp.Click = [this] { MoveSelected(&IMap::MoveLayerUp, -1); };
+  cmdDown.Click = [this] { MoveSelected(&IMap::MoveLayerDown, 1); };
   cmdRemove.Click = [this] { cmdRemove_Click(); };
   ssTab.Click = [this](int) {
     if (mPages) mPages->Select(ssTab.Tab());
@@ -227,7 +231,7 @@ void frmMapSettings::NameChanged(const std::string& name) {
 
 // The buttons beside the list. What a map throws counts as its refusal.
 
-void frmMapSettings::Move(MoveLayer move, int rows) {
+void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
   ErrorTrap trap;
   if (!mCurrentMap || mSelectedLayer == 0) return;
   bool isMoved = false;

@@ -56,7 +56,7 @@ class frmMapSettings final : public PropertyDialog {
   void cmdCancel_Click() override;
   void cmdAdd_Click();
   void cmdRemove_Click();
-  void Move(MoveLayer move, int rows);
+  void MoveSelected(MoveLayer move, int rows);
   void sftLayers_Click();
   void sftLayers_KeyDown(int keyCode);
   void NameChanged(const std::string& name);

@@ -63,7 +63,7 @@ TEST_F(FormsSizing, ThePressIsToldWithItsPlaceInPixels) {
 TEST_F(FormsSizing, ThePointerFollowsTheMouse) {
   script.Pointers.clear();
   user.DragFromBottom(*form, 2, 20);
-  EXPECT_EQ(1, std::ranges::count(script.Pointers, Pointer::SizeNS));
+  EXPECT_GE(std::ranges::count(script.Pointers, Pointer::SizeNS), 1);
   EXPECT_EQ(Pointer::Default, script.Pointers.back());
 }
 

@@ -120,6 +120,7 @@ class Win32User final : public User {
     PostMessageW(hit, WM_LBUTTONDOWN, MK_LBUTTON, where);
     mDesktop.ProcessPendingEvents();
     KillTimer(nullptr, timer);
+    SetCursorPos(from.x, from.y - client.bottom + above + 1);
     PostMessageW(hit, WM_MOUSEMOVE, 0, MAKELPARAM(client.right / 2, 1));
     mDesktop.ProcessPendingEvents();
   }

@@ -168,8 +168,9 @@ void Peer::MirrorEnabled() {
 }
 
 void Peer::MirrorName() {
-  // A caption is the window's text, which is its name already.
-  if (mControl.Caption().empty()) mIsAnnotated = SetAccessibleName(mFocus, mControl.AccessibleName());
+  // A caption is the window's text, which is its name already, unless another one was designed.
+  const std::string name = mControl.AccessibleName();
+  if (name != WithoutMnemonic(mControl.Caption())) mIsAnnotated = SetAccessibleName(mFocus, name);
 }
 
 void Peer::MirrorPlace() {
