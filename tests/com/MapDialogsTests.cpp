@@ -1,4 +1,5 @@
 // The members of CCommonMapDialogs, called through the slots as compiled hosts do.
+#include "forms/TreeList.h"
 #include "service/modMain.h"
 #include "tests/com/support/MapDialogsTest.h"
 
@@ -116,6 +117,12 @@ TEST_F(MapDialogsTest, PlacesForResultsAreRequired) {
   EXPECT_EQ(dialogs->ShowProperties(nullptr, nullptr, nullptr, nullptr, &result), E_POINTER);
   EXPECT_EQ(dialogs->ShowProperties(&object, nullptr, nullptr, nullptr, nullptr), E_POINTER);
   EXPECT_EQ(dialogs->ShowLegends(nullptr, nullptr, nullptr, nullptr, nullptr, &result), E_POINTER);
+  long flags = 0;
+  EXPECT_EQ(dialogs->Show(nullptr, &flags, nullptr, nullptr, nullptr, &result), E_POINTER);
+  EXPECT_EQ(dialogs->Show(&object, nullptr, nullptr, nullptr, nullptr, &result), E_POINTER);
+  EXPECT_EQ(dialogs->Show(&object, &flags, nullptr, nullptr, nullptr, nullptr), E_POINTER);
+  EXPECT_EQ(dialogs->ShowDataProperties(nullptr, nullptr, nullptr, nullptr, &result), E_POINTER);
+  EXPECT_EQ(dialogs->ShowDataProperties(&object, nullptr, nullptr, nullptr, nullptr), E_POINTER);
   EXPECT_TRUE(shown.empty());
 }
 
@@ -125,10 +132,45 @@ TEST_F(MapDialogsTest, EachMemberShowsItsDialog) {
   EXPECT_EQ(dialogs->ShowLabels(&object, nullptr, nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(dialogs->ShowCoordinates(&object, nullptr, nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(dialogs->ShowLegends(&object, nullptr, nullptr, nullptr, nullptr, &result), S_OK);
-  std::vector<std::string> names;
-  for (const std::string& shown : shown) names.push_back(shown.substr(0, shown.find(':')));
-  EXPECT_EQ(names, (std::vector<std::string>{"frmProperties", "frmLabels", "frmCoordinates", "frmLegend"}));
+  EXPECT_EQ(dialogs->ShowDataProperties(&object, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(ShownNames(), (std::vector<std::string>{"frmProperties", "frmLabels", "frmCoordinates", "frmLegend",
+                                                    "frmDataDialog"}));
   EXPECT_EQ(result, 0);
+}
+
+TEST_F(MapDialogsTest, ShowOpensTheLayerManagerForMapsAndCollectionsAndTheSettingsForOthers) {
+  const auto map = MakeCounted<ScriptObject>(
+      std::map<std::string, Variant>{{"LayerCount", Variant(std::int32_t{0})}, {"Layer", Variant(std::int32_t{0})}});
+  const auto layers = MakeCounted<ScriptObject>(
+      std::map<std::string, Variant>{{"Name", Variant("Layers")}, {"Map", Variant(static_cast<IDispatch*>(map.Get()))}});
+  const auto layer = MakeCounted<ScriptObject>(std::map<std::string, Variant>{{"Name", Variant("Roads")}});
+  long flags = 3;
+  for (IDispatch* object : {static_cast<IDispatch*>(map.Get()), static_cast<IDispatch*>(layers.Get()),
+                            static_cast<IDispatch*>(layer.Get()), static_cast<IDispatch*>(nullptr)})
+    EXPECT_EQ(dialogs->Show(&object, &flags, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(ShownNames(),
+            (std::vector<std::string>{"frmMapSettings", "frmMapSettings", "frmSettings", "frmSettings"}));
+  EXPECT_EQ(result, 0);
+}
+
+TEST_F(MapDialogsTest, TheLayerManagerListsTheObjectsOfACollection) {
+  const auto map = MakeCounted<ScriptObject>(
+      std::map<std::string, Variant>{{"LayerCount", Variant(std::int32_t{0})}, {"Layer", Variant(std::int32_t{0})}});
+  const auto layers = MakeCounted<ScriptObject>(
+      std::map<std::string, Variant>{{"Name", Variant("Layers")}, {"Map", Variant(static_cast<IDispatch*>(map.Get()))}});
+  long flags = 0;
+  int rows = 0;
+  std::string first;
+  answer = [&](Form& form) {
+    auto& list = dynamic_cast<TreeList&>(*form.Find("sftLayers"));
+    rows = list.ListCount();
+    if (rows > 0) first = list.Row(0).Text;
+    form.UserClose();
+  };
+  IDispatch* object = layers.Get();
+  ASSERT_EQ(dialogs->Show(&object, &flags, nullptr, nullptr, nullptr, &result), S_OK);
+  EXPECT_EQ(rows, 1);
+  EXPECT_EQ(first, "Layers");
 }
 
 TEST_F(MapDialogsTest, TheCaptionIsTakenAsItIsUnlessBlank) {

@@ -233,6 +233,15 @@ TEST_F(FormsTree, TheSelectedRowIsInViewAndARefilledListDoesNotJump) {
   EXPECT_TRUE(user.SeesRow(list, last));
 }
 
+TEST_F(FormsTree, FoldingAboveTheSelectedRowLeavesItSelectedAndTheListWhereItIs) {
+  list.ListIndex(5);
+  user.Fold(list, 1);
+  EXPECT_EQ("Brooks", user.See(list).Text);
+  EXPECT_EQ(5, user.See(list).Value);
+  user.Fold(list, 1);
+  EXPECT_EQ(5, user.See(list).Value);
+}
+
 TEST_F(FormsTree, AnEmptyListTakesMouseAndKeys) {
   user.ClickInto(list);
   list.Clear();

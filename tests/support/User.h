@@ -96,6 +96,8 @@ class TestDesktop {
   virtual ~TestDesktop() = default;
   virtual Desktop& Get() = 0;
   virtual User& Person() = 0;
+  /// How many acts in a row a test may ask of the user, as fast as he is.
+  virtual int Patience() const { return 10000; }
   /// Gives the number separators of the user's locale for this test.
   virtual void Separators(const numbers::Separators& value) = 0;
 };

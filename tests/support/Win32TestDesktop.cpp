@@ -452,6 +452,7 @@ class Win32TestDesktop final : public TestDesktop {
  public:
   Desktop& Get() override { return mDesktop; }
   User& Person() override { return mUser; }
+  int Patience() const override { return 600; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
 
  private:

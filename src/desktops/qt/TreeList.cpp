@@ -174,7 +174,7 @@ class TreeListPeer final : public Peer {
 
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Items) MirrorRows();
-    if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorSelection();
+    if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorSelection(aspect == Aspect::Value);
     if (aspect == Aspect::Text) mNative.viewport()->update();
     Peer::Mirror(aspect);
   }
@@ -187,12 +187,17 @@ class TreeListPeer final : public Peer {
     mNative.verticalScrollBar()->setValue(first);
   }
 
-  void MirrorSelection() {
+  /// Folding rows must not make the list jump to the selected one.
+  void MirrorSelection(bool scrolls) {
     const bool isSelected = mControl.ListIndex() >= 0;
     const QModelIndex index = isSelected ? mRows.index(mControl.PositionOf(mControl.ListIndex())) : QModelIndex();
     // A view that takes the focus makes its first row the current one, without selecting it.
-    if (!isSelected || !mNative.selectionModel()->isSelected(index)) mNative.setCurrentIndex(index);
-    if (isSelected) mNative.scrollTo(index);
+    if (!isSelected || !mNative.selectionModel()->isSelected(index)) {
+      mNative.setAutoScroll(false);
+      mNative.setCurrentIndex(index);
+      mNative.setAutoScroll(true);
+    }
+    if (scrolls && isSelected) mNative.scrollTo(index);
   }
 
   TreeList& mControl;

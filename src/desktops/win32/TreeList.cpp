@@ -47,7 +47,7 @@ class TreeListPeer final : public Peer {
 
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Items) MirrorRows();
-    if (aspect == Aspect::Value) MirrorSelection();
+    if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorSelection(aspect == Aspect::Value);
     if (aspect == Aspect::Text) InvalidateRect(Window(), nullptr, FALSE);
     Peer::Mirror(aspect);
     if (aspect == Aspect::Items || aspect == Aspect::Place) FillWidth();
@@ -58,13 +58,14 @@ class TreeListPeer final : public Peer {
     InvalidateRect(Window(), nullptr, TRUE);
   }
 
-  void MirrorSelection() const {
+  /// Folding rows must not make the list jump to the selected one.
+  void MirrorSelection(bool scrolls) const {
     const int position = mControl.ListIndex() < 0 ? -1 : mControl.PositionOf(mControl.ListIndex());
     if (Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED) != position) {
       SetState(-1, 0);
       if (position >= 0) SetState(position, LVIS_SELECTED | LVIS_FOCUSED);
     }
-    if (position >= 0) Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(position), FALSE);
+    if (scrolls && position >= 0) Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(position), FALSE);
   }
 
   void SetState(int position, UINT state) const {

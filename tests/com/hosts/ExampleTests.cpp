@@ -1,4 +1,8 @@
 // The examples, run from outside with their dialogs operated as automation tools do it.
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include "tests/com/hosts/HostTest.h"
 #include "tests/files/FilesTest.h"
 
@@ -64,6 +68,28 @@ TEST_F(Examples, AScriptEditsTheExtentAndTheLegendsOfItsMap) {
   Click(ControlNamed(legends, L"cmdOK"));
   EXPECT_EQ(script.Wait(), kDone);
   EXPECT_EQ(script.Output(), Lines({"Extent: -1 250 1000", "Legends: 0 Places", "DONE"}));
+}
+
+TEST_F(Examples, AScriptHasItsLayersMovedRemovedAndEdited) {
+  Program script(Script(L"layers.vbs"));
+  const HWND manager = script.WaitForWindow(L"Manager of a script");
+  ASSERT_TRUE(manager) << script.Output();
+  const HWND list = ControlNamed(manager, L"sftLayers");
+  ASSERT_TRUE(list);
+  EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 4);
+  // From the row of the collection to the second layer, which goes up; the layer behind it goes.
+  for (int row = 0; row < 2; ++row) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
+  Click(ControlNamed(manager, L"cmdUp"));
+  SendMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
+  Click(ControlNamed(manager, L"cmdRemove"));
+  EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 3);
+  SendMessageW(ControlNamed(manager, L"txtName"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Streams"));
+  Click(ControlNamed(manager, L"cmdOK"));
+  const HWND settings = script.WaitForWindow(L"Settings of a script");
+  ASSERT_TRUE(settings) << script.Output();
+  Click(ControlNamed(settings, L"cmdOK"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"Layers: -1 Streams Relief", "Settings: 0 Streams Relief", "DONE"}));
 }
 
 TEST_F(Examples, AScriptIsGivenTheChosenFilesInItsVariables) {

@@ -26,6 +26,12 @@ void MapDialogsTest::ModalRunning(const Modal& modal) {
   if (modal.ShownForm->Visible()) modal.ShownForm->UserClose();
 }
 
+std::vector<std::string> MapDialogsTest::ShownNames() const {
+  std::vector<std::string> names;
+  for (const std::string& each : shown) names.push_back(each.substr(0, each.find(':')));
+  return names;
+}
+
 HRESULT MapDialogsTest::ShowProperties(IDispatch* object, VARIANT* owner) {
   return dialogs->ShowProperties(&object, nullptr, nullptr, owner, &result);
 }

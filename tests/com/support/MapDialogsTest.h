@@ -27,6 +27,8 @@ class MapDialogsTest : public testing::Test, private DesktopHook {
 
   /// The modal forms that were shown: "frmProperties: Layer Properties".
   std::vector<std::string> shown;
+  /// The names of those forms.
+  std::vector<std::string> ShownNames() const;
   /// What the user does in a modal form; unless set, the close box is pressed.
   std::function<void(Form&)> answer;
   /// What the user does in the dialog for files; unless set, Cancel is pressed.
