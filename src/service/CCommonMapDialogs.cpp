@@ -2,6 +2,7 @@
 
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
+#include "hostobjects/IMap.h"
 #include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
 #include "propertydialogs/frmLabels.h"
@@ -96,6 +97,12 @@ std::int32_t CCommonMapDialogs::ShowDataOptions(HostObject* mObj, const std::str
     if (QueryKind<IData>(mObj)) modMain::ShowDataOptionsDialog(mDesktop, mObj, changed, mLanguage);
   });
   return changed ? -1 : 0;
+}
+
+std::int32_t CCommonMapDialogs::ShowGeoReference(HostObject* mObj, CheckState, const std::string&, const std::string&,
+                                                 OwnerWindow OwnerForm) {
+  if (!QueryKind<IMap>(mObj)) return 0;
+  return modMain::ShowGeoreferenceDialog(mDesktop, mObj, mLanguage, OwnerForm) ? -1 : 0;
 }
 
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
