@@ -22,7 +22,7 @@ std::string WithoutBlanksAround(const std::string& text) {
 }  // namespace
 
 frmGeoreference::frmGeoreference(Desktop& desktop)
-    : DialogForm(desktop, "frmGeoreference", {.Caption = "Georeference", .Client = {4530, 3285}}) {
+    : DialogForm(desktop, "frmGeoreference", {.Caption = "Georeference", .Client = {4830, 3165}}) {
   for (int i = 0; i < kEdges; ++i) {
     txtInput[i].GotFocus = [this, i] { txtInput_GotFocus(i); };
     txtInput[i].LostFocus = [this, i] { txtInput_LostFocus(i); };

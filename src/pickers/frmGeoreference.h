@@ -35,12 +35,12 @@ class frmGeoreference final : public DialogForm {
   bool Canceled() const { return mCanceled; }
 
   static constexpr int kEdges = 4;
-  Frame fraGeoreference{*this, "fraGeoreference", {.Place = {120, 90, 4290, 3075}}};
+  Frame fraGeoreference{*this, "fraGeoreference", {.Place = {120, 90, 4590, 2955}}};
   /// Each edge in a row of its own, so that its label stands right in front of its field and gives it its name.
-  Panel Row[kEdges]{{fraGeoreference, "Row(0)", {.Place = {150, 270, 3990, 330}}},
-                    {fraGeoreference, "Row(1)", {.Place = {150, 690, 3990, 330}}},
-                    {fraGeoreference, "Row(2)", {.Place = {150, 1110, 3990, 330}}},
-                    {fraGeoreference, "Row(3)", {.Place = {150, 1530, 3990, 330}}}};
+  Panel Row[kEdges]{{fraGeoreference, "Row(0)", {.Place = {150, 210, 4290, 330}}},
+                    {fraGeoreference, "Row(1)", {.Place = {150, 630, 4290, 330}}},
+                    {fraGeoreference, "Row(2)", {.Place = {150, 1050, 4290, 330}}},
+                    {fraGeoreference, "Row(3)", {.Place = {150, 1470, 4290, 330}}}};
   Label lblHelp[kEdges]{{Row[0], "lblHelp(0)", {.Caption = "Left", .Place = kLabel}},
                         {Row[1], "lblHelp(1)", {.Caption = "Right", .Place = kLabel}},
                         {Row[2], "lblHelp(2)", {.Caption = "Bottom", .Place = kLabel}},
@@ -52,11 +52,11 @@ class frmGeoreference final : public DialogForm {
   /// Tells that the ratio is kept; the user has no say in it.
   CheckBox chkAspectRatio{fraGeoreference,
                           "chkAspectRatio",
-                          {.Caption = "Keep aspect ratio", .Place = {1350, 1980, 2790, 300}, .Enabled = false},
+                          {.Caption = "Keep aspect ratio", .Place = {1350, 1905, 3090, 300}, .Enabled = false},
                           CheckState::Grayed};
-  Button cmdOK{fraGeoreference, "cmdOK", {.Caption = "&OK", .Place = {1035, 2535, 1500, 375}}, ButtonRole::Default};
+  Button cmdOK{fraGeoreference, "cmdOK", {.Caption = "&OK", .Place = {1335, 2430, 1500, 375}}, ButtonRole::Default};
   Button cmdCancel{
-      fraGeoreference, "cmdCancel", {.Caption = "&Cancel", .Place = {2640, 2535, 1500, 375}}, ButtonRole::Cancel};
+      fraGeoreference, "cmdCancel", {.Caption = "&Cancel", .Place = {2940, 2430, 1500, 375}}, ButtonRole::Cancel};
 
  protected:
   void Form_Load() override;
@@ -65,7 +65,7 @@ class frmGeoreference final : public DialogForm {
  private:
   // Places in each row.
   static constexpr Rect kLabel{0, 60, 1110, 240};
-  static constexpr Rect kField{1200, 0, 2790, 330};
+  static constexpr Rect kField{1200, 0, 3090, 330};
 
   void txtInput_GotFocus(int index);
   void txtInput_LostFocus(int index);
