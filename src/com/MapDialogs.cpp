@@ -149,6 +149,15 @@ HRESULT MapDialogs::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShow
   });
 }
 
+HRESULT MapDialogs::ShowGeoReference(IDispatch** mObj, ::CheckState* mKeepRatio, BSTR* mFormat, BSTR* mCaption,
+                                     VARIANT* OwnerForm, long* result) noexcept {
+  return ShowDialog(mObj, mCaption, nullptr, OwnerForm, result, [&](const DialogCall& call) {
+    const auto keepRatio = mKeepRatio ? static_cast<orx::CheckState>(*mKeepRatio) : orx::CheckState::Grayed;
+    return mService.ShowGeoReference(call.Client, keepRatio, mFormat ? TextOf(*mFormat) : "0.0000", call.Caption,
+                                     call.Owner);
+  });
+}
+
 HRESULT MapDialogs::ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                  VARIANT_BOOL* result) noexcept {
   return ChooseFiles(&orx::CCommonMapDialogs::ShowAddLayer, hWnd, multiselect, files, result);
@@ -204,10 +213,6 @@ HRESULT MapDialogs::Show(IDispatch**, long*, BSTR*, ::FormShowMode*, VARIANT*, l
 }
 
 HRESULT MapDialogs::ShowDataProperties(IDispatch**, BSTR*, ::FormShowMode*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
-}
-
-HRESULT MapDialogs::ShowGeoReference(IDispatch**, ::CheckState*, BSTR*, BSTR*, VARIANT*, long*) noexcept {
   return E_NOTIMPL;
 }
 

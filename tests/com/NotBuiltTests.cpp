@@ -13,8 +13,6 @@ struct Missing {
 constexpr Missing kMissingDialogs[] = {
     {"Show", [](auto& d) { return d.Show(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowDataProperties", [](auto& d) { return d.ShowDataProperties(nullptr, nullptr, nullptr, nullptr, nullptr); }},
-    {"ShowGeoReference",
-     [](auto& d) { return d.ShowGeoReference(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowCharacterSelection",
      [](auto& d) { return d.ShowCharacterSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowListSelection",
