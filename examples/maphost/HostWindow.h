@@ -28,6 +28,8 @@ class HostWindow final : public orx::Form {
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
   orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "Le&gends..."}};
+  orx::Button cmdGeoreference{
+      *this, "cmdGeoreference", {.Caption = "Georefere&nce...", .ToolTipText = "Moves the map on the ground"}};
   orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
   orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
   orx::Button cmdShade{*this, "cmdShade", {.Caption = "Relief s&hading..."}};
@@ -65,6 +67,7 @@ class HostWindow final : public orx::Form {
   /// Shows a dialog for the chosen layer and writes its result down.
   void ShowFor(const std::string& what, Member member);
   void cmdLegends_Click();
+  void cmdGeoreference_Click();
   void cmdClassify_Click();
   void cmdOptions_Click();
   using GridDialog = bool (*)(orx::Desktop&, orx::HostObject*, bool&, orx::ILanguage*);
@@ -79,6 +82,7 @@ class HostWindow final : public orx::Form {
   /// Writes the result of a property dialog down, which may be open still, and of one that has closed.
   void ReportPages(const std::string& what, std::int32_t result);
   void Report(const std::string& what, std::int32_t result);
+  void Redraw();
 
   orx::maplibrary::Map& mMap;
   const Languages& mLanguages;
