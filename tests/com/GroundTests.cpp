@@ -115,6 +115,7 @@ TEST_F(GroundDialog, ANumberAsOwnerWillDoAndATextWillNot) {
   Variant text("Main window");
   EXPECT_EQ(dialogs->ShowGeoReference(&object, nullptr, nullptr, nullptr, &text, &result),
             static_cast<HRESULT>(0x800A000D));
+  EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
   EXPECT_TRUE(shown.empty());
   Variant none(std::int32_t{0});
   EXPECT_EQ(dialogs->ShowGeoReference(&object, nullptr, nullptr, nullptr, &none, &result), S_OK);
