@@ -76,22 +76,25 @@ TEST_F(GeoreferenceHost, AnExtentWithoutARatioIsRefusedWithABeep) {
 }
 
 TEST_F(GeoreferenceHost, AnEdgeThatCannotBeWrittenIsPassedOver) {
-  const std::pair<const char*, Calls> kept[] = {{"Left=", {"Right=(90)", "Bottom=(-10)", "Top=(40)"}},
-                                                {"Right=", {"Left=(-10)", "Bottom=(-10)", "Top=(40)"}},
-                                                {"Bottom=", {"Left=(-10)", "Right=(90)", "Top=(40)"}},
-                                                {"Top=", {"Left=(-10)", "Right=(90)", "Bottom=(-10)"}}};
-  for (const auto& [failing, written] : kept) {
+  const struct {
+    const char* Failing;
+    Calls Written;
+  } kept[] = {{"Left=", {"Right=(90)", "Bottom=(-10)", "Top=(40)"}},
+              {"Right=", {"Left=(-10)", "Bottom=(-10)", "Top=(40)"}},
+              {"Bottom=", {"Left=(-10)", "Right=(90)", "Top=(40)"}},
+              {"Top=", {"Left=(-10)", "Right=(90)", "Bottom=(-10)"}}};
+  for (const auto& one : kept) {
     map.Edges(0, 100, 0, 50);
     map.Log = {};
     EXPECT_FALSE(Edit([&] {
       Type(kLeft, "-10");
       Type(kRight, "90");
       Type(kBottom, "-10");
-      map.Log.Failing = {failing};
-    })) << failing;
+      map.Log.Failing = {one.Failing};
+    })) << one.Failing;
     Calls done = map.Writes();
-    std::erase_if(done, [&](const std::string& call) { return call.starts_with(failing); });
-    EXPECT_EQ(written, done) << failing;
+    std::erase_if(done, [&](const std::string& call) { return call.starts_with(one.Failing); });
+    EXPECT_EQ(one.Written, done) << one.Failing;
   }
 }
 

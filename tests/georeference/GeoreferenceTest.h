@@ -25,7 +25,11 @@ class GeoreferenceTest : public DesktopTest {
   }
   bool Open() { return modMain::ShowGeoreferenceDialog(desktop(), &map, language); }
 
-  enum Field { kLeft, kRight, kBottom, kTop };
+  using Field = int;
+  static constexpr Field kLeft = 0;
+  static constexpr Field kRight = 1;
+  static constexpr Field kBottom = 2;
+  static constexpr Field kTop = 3;
   TextBox& At(Field field) { return form->txtInput[field]; }
   std::string Seen(Field field) { return user.See(At(field)).Text; }
   void Type(Field field, const std::string& text) { user.Type(At(field), text); }

@@ -190,14 +190,15 @@ TEST_F(MapLibraryPagesGeoreference, TheDialogIsOfferedForAMapWhereItIsAnswered) 
 }
 
 TEST_F(MapLibraryPagesGeoreference, TheRequestBringsTheMapAndAChangeIsShown) {
-  const auto page = PageOf(map, [this](GeoreferenceRequest& request) {
-    EXPECT_EQ(&map, request.Map);
-    EXPECT_FALSE(request.Changed);
+  HostObject* asked = nullptr;
+  const auto page = PageOf(map, [this, &asked](GeoreferenceRequest& request) {
+    asked = request.Map;
     map.HeldExtent.HeldLeft = -90;
     map.HeldExtent.HeldTop = 40.5;
     request.Changed = true;
   });
   Press("cmdGeoreference");
+  EXPECT_EQ(&map, asked);
   EXPECT_EQ("-90", Seen("txtLeft"));
   EXPECT_EQ("40.5", Seen("txtTop"));
   EXPECT_EQ("4.5", Seen("txtHeight"));
