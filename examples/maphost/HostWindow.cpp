@@ -31,6 +31,7 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdLabels.Click = [this] { ShowFor("Labels", &orx::CCommonMapDialogs::ShowLabels); };
   cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
   cmdLegends.Click = [this] { cmdLegends_Click(); };
+  cmdGeoreference.Click = [this] { cmdGeoreference_Click(); };
   cmdClassify.Click = [this] { cmdClassify_Click(); };
   cmdOptions.Click = [this] { cmdOptions_Click(); };
   cmdShade.Click = [this] { ShowGridDialog("Relief shading", orx::modMain::ShowShadeDialog); };
@@ -100,9 +101,9 @@ void HostWindow::Form_Resize() {
   stack(cboLayer, 360, 240);
   constexpr int kGap = 90;
   constexpr int kButtonHeight = 420;
-  orx::Button* const buttons[] = {&cmdManager, &cmdSettings, &cmdProperties, &cmdLabels,  &cmdCoordinates,
-                                  &cmdData,    &cmdClassify, &cmdOptions,    &cmdShade,   &cmdIsolines,
-                                  &cmdLegends, &cmdColors,   &cmdAddLayer,   &cmdLost};
+  orx::Button* const buttons[] = {&cmdManager,  &cmdSettings, &cmdProperties,   &cmdLabels,   &cmdCoordinates,
+                                  &cmdData,     &cmdClassify, &cmdOptions,      &cmdShade,    &cmdIsolines,
+                                  &cmdLegends,  &cmdColors,   &cmdGeoreference, &cmdAddLayer, &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
   for (orx::Button* const button : buttons) {
@@ -144,6 +145,12 @@ void HostWindow::cmdSettings_Click() {
 
 void HostWindow::cmdLegends_Click() {
   ReportPages("Legends", mDialogs.ShowLegends(&mMap, 0, {}, Mode(), {this, 0}));
+}
+
+void HostWindow::cmdGeoreference_Click() {
+  const std::int32_t result = mDialogs.ShowGeoReference(&mMap, orx::CheckState::Grayed, "0.0000", {}, {this, 0});
+  mLog.Write(std::string("Georeference: ") + (result != 0 ? "done (" : "failed (") + std::to_string(result) + ")");
+  Redraw();
 }
 
 orx::HostObject* HostWindow::ChosenData() const {
@@ -201,8 +208,7 @@ void HostWindow::AddLayers(const std::vector<std::string>& files) {
       OwnerDesktop().ShowMessage({error.what(), Caption(), orx::MessageIcon::Exclamation});
     }
   }
-  FillLayers();
-  DrawMap();
+  Redraw();
 }
 
 void HostWindow::cboLanguage_Click() {
@@ -218,6 +224,10 @@ void HostWindow::ReportPages(const std::string& what, std::int32_t result) {
 
 void HostWindow::Report(const std::string& what, std::int32_t result) {
   mLog.Write(what + (result != 0 ? ": changed (" : ": not changed (") + std::to_string(result) + ")");
+  Redraw();
+}
+
+void HostWindow::Redraw() {
   FillLayers();
   DrawMap();
 }

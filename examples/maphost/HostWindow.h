@@ -32,6 +32,8 @@ class HostWindow final : public orx::Form {
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
   orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "Le&gends..."}};
+  orx::Button cmdGeoreference{
+      *this, "cmdGeoreference", {.Caption = "Georefere&nce...", .ToolTipText = "Moves the map on the ground"}};
   orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
   orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
   orx::Button cmdShade{*this, "cmdShade", {.Caption = "&Relief shading..."}};
@@ -71,6 +73,7 @@ class HostWindow final : public orx::Form {
   void cmdManager_Click();
   void cmdSettings_Click();
   void cmdLegends_Click();
+  void cmdGeoreference_Click();
   void cmdClassify_Click();
   void cmdOptions_Click();
   using GridDialog = bool (*)(orx::Desktop&, orx::HostObject*, bool&, orx::ILanguage*);
@@ -85,6 +88,7 @@ class HostWindow final : public orx::Form {
   /// Writes the result of a property dialog down, which may be open still, and of one that has closed.
   void ReportPages(const std::string& what, std::int32_t result);
   void Report(const std::string& what, std::int32_t result);
+  void Redraw();
 
   orx::maplibrary::Map& mMap;
   orx::maplibrary::Layers mLayers{mMap};

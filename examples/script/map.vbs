@@ -1,4 +1,4 @@
-' Edits the extent and the legends of a map that is written in this script:
+' Edits the extent and the legends of a map that is written in this script, and moves the map on the ground:
 '   cscript //nologo map.vbs
 Option Explicit
 
@@ -69,6 +69,10 @@ WScript.Echo "Extent: " & result & " " & edited.Extent.Left & " " & edited.Exten
 ' The second legend first.
 result = dialogs.ShowLegends(edited, 1, "Legends of a script")
 WScript.Echo "Legends: " & result & " " & edited.Legend(1).Title
+
+' The top edge follows the other three.
+result = dialogs.ShowGeoReference(edited)
+WScript.Echo "Georeference: " & result & " " & edited.Extent.Left & " " & edited.Extent.Top
 
 WScript.Echo "DONE"
 WScript.Quit 9

@@ -164,6 +164,15 @@ HRESULT MapDialogs::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShow
   });
 }
 
+HRESULT MapDialogs::ShowGeoReference(IDispatch** mObj, ::CheckState* mKeepRatio, BSTR* mFormat, BSTR* mCaption,
+                                     VARIANT* OwnerForm, long* result) noexcept {
+  return ShowDialog(mObj, mCaption, nullptr, OwnerForm, result, [&](const DialogCall& call) {
+    const auto keepRatio = mKeepRatio ? static_cast<orx::CheckState>(*mKeepRatio) : orx::CheckState::Grayed;
+    return mService.ShowGeoReference(call.Client, keepRatio, mFormat ? TextOf(*mFormat) : "0.0000", call.Caption,
+                                     call.Owner);
+  });
+}
+
 HRESULT MapDialogs::ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                  VARIANT_BOOL* result) noexcept {
   return ChooseFiles(&orx::CCommonMapDialogs::ShowAddLayer, hWnd, multiselect, files, result);
@@ -213,10 +222,6 @@ HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFil
 }
 
 // The members below have no dialog yet.
-
-HRESULT MapDialogs::ShowGeoReference(IDispatch**, ::CheckState*, BSTR*, BSTR*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
-}
 
 HRESULT MapDialogs::ShowCharacterSelection(BSTR*, long*, double*, VARIANT_BOOL*, BSTR*, VARIANT*, long*) noexcept {
   return E_NOTIMPL;

@@ -63,6 +63,13 @@ void RaiseColorsRequested(PropertyPage& page, const EventArguments& arguments) {
   page.ColorsRequested.Raise(AdaptLanguage(object.Get()).get());
 }
 
+void RaiseGeoreferenceRequested(PropertyPage& page, const EventArguments& arguments) {
+  const std::shared_ptr<HostObject> map = AdaptHostObject(arguments.Object(0).Get());
+  GeoreferenceRequest request{map.get(), arguments.Flag(1)};
+  page.GeoreferenceRequested.Raise(request);
+  arguments.Answer(1, Variant(request.Changed));
+}
+
 constexpr PageEvent kEvents[] = {
     {1, "CharacterRequested", 4, RaiseCharacterRequested},
     {2, "NameChanged", 1, RaiseNameChanged},
@@ -73,6 +80,7 @@ constexpr PageEvent kEvents[] = {
     {7, "IsolineRequested", 2, RaiseDataRequested<&PropertyPage::IsolineRequested>},
     {8, "DataStyleRequested", 0, RaiseDataStyleRequested},
     {9, "ColorsRequested", 1, RaiseColorsRequested},
+    {10, "GeoreferenceRequested", 2, RaiseGeoreferenceRequested},
 };
 
 ComPtr<IConnectionPoint> PointOf(IUnknown& control, REFIID source) {

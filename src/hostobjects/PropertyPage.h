@@ -44,6 +44,13 @@ struct DataRequest {
   bool Changed = false;
 };
 
+/// The change of a map's extent that keeps its ratio of width to height.
+struct GeoreferenceRequest {
+  HostObject* Map = nullptr;
+  /// True when the extent was changed.
+  bool Changed = false;
+};
+
 /// A page edits its client in fields of its own and writes to it only in SaveChanges and ApplyChanges. What a page
 /// throws ends the handler that called it and reaches the service.
 class PropertyPage {
@@ -86,6 +93,7 @@ class PropertyPage {
   Event<> DataStyleRequested;
   /// With the language that the window for colour schemes is to speak; null for none.
   Event<ILanguage*> ColorsRequested;
+  Event<GeoreferenceRequest&> GeoreferenceRequested;
 
  private:
   std::int32_t mStartUpIndex = 0;

@@ -24,6 +24,7 @@ LayerPages::LayerPages(IPageFactory& factory, TabControl& tabs, DialogForm& form
     mPages[i] = RequirePage(factory, kPages[i].Kind,
                             {tabs.Page(static_cast<int>(i)), kPages[i].Name, {0, 0, size.Width, size.Height}});
   AnswerDataRequests(Page(kData), form);
+  AnswerGeoreferenceRequest(Page(kCoordinates), form);
 }
 
 void LayerPages::Client(HostObject* value) {

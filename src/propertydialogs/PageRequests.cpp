@@ -1,5 +1,10 @@
 #include "propertydialogs/PageRequests.h"
 
+#include <array>
+#include <optional>
+
+#include "hostobjects/ErrorTrap.h"
+#include "hostobjects/IMap.h"
 #include "service/modMainDialogs.h"
 
 namespace orx {
@@ -11,6 +16,18 @@ void AnswerBrowse(DialogForm& form, BrowseRequest& request) {
   modMain::BrowseDataFile(form.OwnerDesktop(), handle, form.Language(), file);
   request.FileName = file.FileName;
   request.Cancel = file.Cancel;
+}
+
+/// The edges of a map; none when they cannot be read.
+std::optional<std::array<double, 4>> EdgesOf(HostObject* object) {
+  std::optional<std::array<double, 4>> edges;
+  ErrorTrap trap;
+  trap.Step([&] {
+    IMap* const map = QueryKind<IMap>(object);
+    if (const IExtent* const extent = map ? map->Extent() : nullptr)
+      edges = {extent->Left(), extent->Right(), extent->Bottom(), extent->Top()};
+  });
+  return edges;
 }
 
 using DataDialog = bool (*)(Desktop&, HostObject*, bool&, ILanguage*);
@@ -35,6 +52,15 @@ void AnswerDataRequests(PropertyPage& page, DialogForm& form) {
   page.DataStyleRequested = [&form] { modMain::ShowDataStyleNotice(form.OwnerDesktop()); };
   page.ColorsRequested = [&form](ILanguage* language) {
     modMain::ShowColorsDialog(form.OwnerDesktop(), language ? language : form.Language(), {&form, 0});
+  };
+}
+
+void AnswerGeoreferenceRequest(PropertyPage& page, DialogForm& form) {
+  page.GeoreferenceRequested = [&form](GeoreferenceRequest& request) {
+    // The routine tells whether it went well, also when the user has cancelled.
+    const auto before = EdgesOf(request.Map);
+    modMain::ShowGeoreferenceDialog(form.OwnerDesktop(), request.Map, form.Language(), {&form, 0});
+    request.Changed = EdgesOf(request.Map) != before;
   };
 }
 

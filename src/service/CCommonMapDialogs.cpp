@@ -118,6 +118,12 @@ std::int32_t CCommonMapDialogs::ShowDataOptions(HostObject* mObj, const std::str
   return changed ? -1 : 0;
 }
 
+std::int32_t CCommonMapDialogs::ShowGeoReference(HostObject* mObj, CheckState, const std::string&, const std::string&,
+                                                 OwnerWindow OwnerForm) {
+  if (!QueryKind<IMap>(mObj)) return 0;
+  return modMain::ShowGeoreferenceDialog(mDesktop, mObj, mLanguage, OwnerForm) ? -1 : 0;
+}
+
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
   return modDialog::ChooseFiles({mDesktop, hWnd, modDialog::FileKind::Layers, mLanguage}, Multiselect, Files);
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/CheckBox.h"
 #include "forms/Desktop.h"
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IDialogCallBack.h"
@@ -77,6 +78,14 @@ class CCommonMapDialogs {
   /// How missing values, zeros and places without data of a data object (IData) are treated; as ShowDataClassify.
   std::int32_t ShowDataOptions(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                OwnerWindow OwnerForm = {});
+
+  /// Where a map (IMap) lies on the ground; the edges keep their ratio of width to height. The first three settings
+  /// have no effect: the ratio is always kept, and the dialog has a number format and a title of its own. -1 when no
+  /// error has occurred, also when the user cancelled, else 0. Other objects: 0, and nothing is shown. Throws what the
+  /// object throws when it is asked what it is.
+  std::int32_t ShowGeoReference(HostObject* mObj, CheckState mKeepRatio = CheckState::Grayed,
+                                const std::string& mFormat = "0.0000", const std::string& mCaption = {},
+                                OwnerWindow OwnerForm = {});
 
   /// Has the user choose the files of new layers, several if wanted whatever `Multiselect` says; the dialog belongs to
   /// the window `hWnd` (HWND on Windows, WId on Qt; 0: none) and opens on the first of `Files`. True when files of an

@@ -1,5 +1,6 @@
 #include "service/modMainDialogs.h"
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <vector>
@@ -9,7 +10,11 @@
 #include "datadialogs/frmManageColors.h"
 #include "griddialogs/frmDataIsoline.h"
 #include "griddialogs/frmDataShade.h"
+#include "hostobjects/EdgeOrder.h"
 #include "hostobjects/ErrorTrap.h"
+#include "hostobjects/IMap.h"
+#include "hostobjects/RunTimeError.h"
+#include "pickers/frmGeoreference.h"
 #include "service/modDialog.h"
 
 namespace orx::modMain {
@@ -42,6 +47,40 @@ bool ShowDataDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage
   changed = isDirty;
   trap.Step([&] { form->Unload(); });
   return isDirty;
+}
+
+/// The extent of the map as it is now, asked for with each value.
+IExtent& ExtentOf(HostObject* map) {
+  IMap* const asked = QueryKind<IMap>(map);
+  IExtent* const extent = asked ? asked->Extent() : nullptr;
+  if (!extent) throw RunTimeError(kErrorNotLoaded, "The map has no extent.");
+  return *extent;
+}
+
+/// Two opposite edges of an extent.
+struct EdgePair {
+  double Lower;
+  double Upper;
+  bool IsInOrder() const { return Lower < Upper; }
+};
+
+using EdgeSetter = void (IExtent::*)(double);
+
+void WriteEdges(ErrorTrap& trap, HostObject* map, EdgePair held, EdgePair now, EdgeSetter setLower,
+                EdgeSetter setUpper) {
+  const bool keepsOrder = held.IsInOrder() && now.IsInOrder();
+  const auto write = [&](double EdgePair::*edge, EdgeSetter set) {
+    EdgePair next = held;
+    next.*edge = now.*edge;
+    // The opposite edge is in the way only when the map has refused to move it.
+    if (keepsOrder && !next.IsInOrder()) return;
+    trap.Step([&] {
+      (ExtentOf(map).*set)(now.*edge);
+      held = next;
+    });
+  };
+  WriteInOrder(
+      now.Lower > held.Lower, [&] { write(&EdgePair::Lower, setLower); }, [&] { write(&EdgePair::Upper, setUpper); });
 }
 
 }  // namespace
@@ -94,6 +133,42 @@ bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner) 
   if (!form) return false;
   trap.Step([&] { form->Language(language); });
   trap.Step([&] { form->Show(ShowMode::Modal, owner); });
+  const bool isDone = !trap.IsPending();
+  trap.Step([&] { form->Unload(); });
+  return isDone;
+}
+
+bool ShowGeoreferenceDialog(Desktop& desktop, HostObject* map, ILanguage* language, OwnerWindow owner) noexcept {
+  EdgePair across{};
+  EdgePair up{};
+  ErrorTrap trap;
+  trap.Step([&] { across.Lower = ExtentOf(map).Left(); });
+  trap.Step([&] { across.Upper = ExtentOf(map).Right(); });
+  trap.Step([&] { up.Lower = ExtentOf(map).Bottom(); });
+  trap.Step([&] { up.Upper = ExtentOf(map).Top(); });
+  // What cannot be read must not be written back as something else.
+  const double ratio = (across.Upper - across.Lower) / (up.Upper - up.Lower);
+  if (trap.IsPending() || !std::isfinite(ratio) || ratio == 0) {
+    trap.Step([&] { desktop.Beep(); });
+    return false;
+  }
+  std::shared_ptr<frmGeoreference> form;
+  trap.Step([&] { form = std::make_shared<frmGeoreference>(desktop); });
+  if (!form) return false;
+  trap.Step([&] { form->Language(language); });
+  form->LeftEdge(across.Lower);
+  form->RightEdge(across.Upper);
+  form->BottomEdge(up.Lower);
+  form->TopEdge(up.Upper);
+  bool isConfirmed = false;
+  trap.Step([&] {
+    form->Show(ShowMode::Modal, owner);
+    isConfirmed = !form->Canceled();
+  });
+  if (isConfirmed) {
+    WriteEdges(trap, map, across, {form->LeftEdge(), form->RightEdge()}, &IExtent::Left, &IExtent::Right);
+    WriteEdges(trap, map, up, {form->BottomEdge(), form->TopEdge()}, &IExtent::Bottom, &IExtent::Top);
+  }
   const bool isDone = !trap.IsPending();
   trap.Step([&] { form->Unload(); });
   return isDone;

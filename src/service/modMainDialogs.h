@@ -61,5 +61,11 @@ void ShowDataStyleNotice(Desktop& desktop);
 /// Shows the window for colour schemes, modal, in that language. True when nothing has failed.
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner = {}) noexcept;
 
+/// Shows the dialog that moves a map (an object with IMap) on the ground, modal, in that language, and writes the edges
+/// that come back from it. True when nothing has failed, also when the user has cancelled. A map whose extent cannot be
+/// read, or has no width or no height that can be reckoned with: a beep and False, and nothing is shown. An edge that
+/// the map refuses is passed over.
+bool ShowGeoreferenceDialog(Desktop& desktop, HostObject* map, ILanguage* language, OwnerWindow owner = {}) noexcept;
+
 }  // namespace modMain
 }  // namespace orx

@@ -11,8 +11,6 @@ struct Missing {
 };
 
 constexpr Missing kMissingDialogs[] = {
-    {"ShowGeoReference",
-     [](auto& d) { return d.ShowGeoReference(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowCharacterSelection",
      [](auto& d) { return d.ShowCharacterSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowListSelection",

@@ -173,6 +173,27 @@ TEST_F(ExamplesHost, TheColorSchemesOpen) {
   EXPECT_EQ("Color schemes: closed", LastLine());
 }
 
+TEST_F(ExamplesHost, TheMapIsGeoreferencedWhateverIsChosen) {
+  user.Choose(window->cboLayer, 3);
+  const std::string before = maplibrary::Serialise(*map);
+  script.ExpectForm("frmGeoreference", [&](Form& shown) { Press(user, shown, "cmdOK"); });
+  Press(user, *window, "cmdGeoreference");
+  EXPECT_EQ("Georeference: done (-1)", LastLine());
+  EXPECT_EQ(before, maplibrary::Serialise(*map));
+  const std::vector<Mark> drawn = Drawn();
+  const double top = map->Extent()->Top();
+  script.ExpectForm("frmGeoreference", [&](Form& shown) {
+    user.Type(Get<TextBox>(shown, "txtInput(1)"), "-80");
+    EXPECT_EQ("-80", user.See(*shown.Find("txtInput(1)")).Text);
+    EXPECT_TRUE(user.See(*shown.Find("txtInput(1)")).Focused);
+    Press(user, shown, "cmdOK");
+  });
+  Press(user, *window, "cmdGeoreference");
+  EXPECT_EQ(-80, map->Extent()->Right());
+  EXPECT_GT(map->Extent()->Top(), top);
+  EXPECT_NE(drawn, Drawn());
+}
+
 TEST_F(ExamplesHost, TheWholeMapHasCoordinatesAndLegendsOnly) {
   user.Choose(window->cboLayer, 0);
   EXPECT_FALSE(user.See(window->cmdProperties).Enabled);

@@ -47,6 +47,8 @@ class PageLayout : public PagesTest {
     modMain::ShowIsolineDialog(desktop(), &isolines, changed, language);
     script.ExpectForm("frmManageColors", lookAt);
     modMain::ShowColorsDialog(desktop(), language);
+    script.ExpectForm("frmGeoreference", lookAt);
+    service.ShowGeoReference(&map);
     std::string found;
     bool cancelAll = false;
     script.ExpectForm("frmMsgBox", lookAt);
@@ -58,6 +60,7 @@ class PageLayout : public PagesTest {
   RecordedData data;
   RecordedShade shade;
   RecordedIsolines isolines;
+  RecordedMap map;
 };
 
 TEST_F(PageLayout, NothingIsCutOffInEnglish) {
@@ -85,15 +88,18 @@ TEST_F(PageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {
   page->Unload();
 }
 
-TEST_F(PageLayout, NothingIsCutOffOnThePageOfTheData) {
-  const auto page = MakePage(PageKind::DataProperties);
-  HandleAllRequests(*page->Page);
-  page->Page->Client(&data);
-  page->Page->RefreshContents();
-  maplibrary::PseudoLanguage().TranslateForm(*page);
-  page->Show(ShowMode::Modeless);
-  EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*page));
-  page->Unload();
+TEST_F(PageLayout, NothingIsCutOffOnPagesThatOfferAllTheirDialogs) {
+  for (const auto& [kind, client] :
+       {std::pair<PageKind, HostObject*>{PageKind::DataProperties, &data}, {PageKind::Coordinates, &map}}) {
+    const auto page = MakePage(kind);
+    HandleAllRequests(*page->Page);
+    page->Page->Client(client);
+    page->Page->RefreshContents();
+    maplibrary::PseudoLanguage().TranslateForm(*page);
+    page->Show(ShowMode::Modeless);
+    EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*page)) << PageKindName(kind);
+    page->Unload();
+  }
 }
 
 }  // namespace

@@ -101,6 +101,19 @@ TEST_F(QtWindow, AnotherWindowThatBecomesActiveTakesNoFocusFromTheForm) {
   EXPECT_EQ(&form->txtName, form->ActiveControl());
 }
 
+TEST_F(QtWindow, AFieldThatIsClickedBeforeItsWindowIsActiveHasTheFocusOfTheForm) {
+  ShowSettled();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  Native<QWidget>(form->txtSize).setFocus(Qt::MouseFocusReason);
+  ASSERT_EQ(&form->txtName, form->ActiveControl());
+  DialogOf(*form).activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&DialogOf(*form)));
+  EXPECT_EQ(&form->txtSize, form->ActiveControl());
+}
+
 TEST_F(QtWindow, MessagesAreShownAsPlainTextWithTheirIcon) {
   struct Look final : DesktopHook {
     void ModalRunning(const Modal&) override {

@@ -82,7 +82,8 @@ void Peer::FocusCame(QObject& watched, QEvent& event) {
   QWidget& widget = *mWidget;
   Control& control = mControl;
   watched.event(&event);
-  if (IsOutsideTheForm(reason)) return;
+  // A control that was clicked while the window was not yet the active one gets the focus along with the window.
+  if (IsOutsideTheForm(reason) && control.HasFocus()) return;
   dialog.Report([&] {
     dialog.Ground().Reveal(widget);
     dialog.Owner().UserFocus(control);

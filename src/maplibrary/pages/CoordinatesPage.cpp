@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "forms/Form.h"
+#include "hostobjects/EdgeOrder.h"
 #include "hostobjects/IMap.h"
 
 namespace orx::maplibrary {
@@ -22,6 +23,7 @@ CoordinatesPage::CoordinatesPage(const PageSite& site) : PageBase(site) {
   for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) Watch(*field);
   mHorizontal.Changed = [this] { ShowSizes(); };
   mVertical.Changed = [this] { ShowSizes(); };
+  cmdGeoreference.Click = [this] { cmdGeoreference_Click(); };
 }
 
 IExtent* CoordinatesPage::Extent() const {
@@ -43,6 +45,7 @@ void CoordinatesPage::ShowValues() {
     for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) field->Clear();
   }
   ShowSizes();
+  cmdGeoreference.Visible(GeoreferenceRequested.HasHandler() && QueryKind<IMap>(Client()));
 }
 
 void CoordinatesPage::ShowSizes() {
@@ -62,14 +65,17 @@ void CoordinatesPage::WriteClient() {
   const auto right = [&] { Write(read.Right, mRight.Value(), [&](double value) { extent.Right(value); }); };
   const auto bottom = [&] { Write(read.Bottom, mBottom.Value(), [&](double value) { extent.Bottom(value); }); };
   const auto top = [&] { Write(read.Top, mTop.Value(), [&](double value) { extent.Top(value); }); };
-  // The edge in front goes first, so that the opposite one never passes it.
-  const auto inOrder = [](bool upperFirst, const auto& lower, const auto& upper) {
-    if (upperFirst) upper();
-    lower();
-    if (!upperFirst) upper();
-  };
-  inOrder(mLeft.Value() > read.Left, left, right);
-  inOrder(mBottom.Value() > read.Bottom, bottom, top);
+  WriteInOrder(mLeft.Value() > read.Left, left, right);
+  WriteInOrder(mBottom.Value() > read.Bottom, bottom, top);
+}
+
+void CoordinatesPage::cmdGeoreference_Click() {
+  GeoreferenceRequest request{Client()};
+  GeoreferenceRequested.Raise(request);
+  if (!request.Changed) return;
+  IsDirty(true);
+  ReadClient();
+  WhileBusy([this] { ShowValues(); });
 }
 
 }  // namespace orx::maplibrary

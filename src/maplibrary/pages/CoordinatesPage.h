@@ -1,6 +1,7 @@
 // The page for the extent of a layer or a map (IExtent, or the extent of an IMap): four edges and what they enclose.
 #pragma once
 
+#include "forms/Button.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/NumberField.h"
@@ -15,7 +16,9 @@ namespace orx::maplibrary {
 
 /// Drawn for a panel of 6135 x 4545 twips. Opposite edges are compared when the focus leaves the two (NumberSpan), so
 /// an extent can be moved by typing one edge after the other; an extent without width or height is refused. The edges
-/// are written so that the client's extent is in order at each step.
+/// are written so that the client's extent is in order at each step. For a map the page asks for the georeference
+/// dialog, which writes to the map by itself; what it changed counts as changed at once, and takes the place of pending
+/// edits.
 class CoordinatesPage final : public PageBase {
  public:
   explicit CoordinatesPage(const PageSite& site);
@@ -39,9 +42,11 @@ class CoordinatesPage final : public PageBase {
   Label lblUnit{
       Surface,
       "lblUnit",
-      {.Caption = "All values are in the unit of the map: degrees or meters.", .Place = {120, 3825, 5895, 600}},
+      {.Caption = "All values are in the unit of the map: degrees or meters.", .Place = {120, 3765, 3600, 660}},
       Alignment::Left,
       true};
+  Button cmdGeoreference{
+      Surface, "cmdGeoreference", {.Caption = "Geore&ference...", .Place = {3840, 3825, 2175, 375}, .Visible = false}};
 
  protected:
   bool IsSupported() const override { return Extent() != nullptr; }
@@ -61,6 +66,7 @@ class CoordinatesPage final : public PageBase {
 
   IExtent* Extent() const;
   void ShowSizes();
+  void cmdGeoreference_Click();
 
   NumberField mLeft{txtLeft};
   NumberField mRight{txtRight};

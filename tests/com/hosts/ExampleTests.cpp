@@ -57,7 +57,7 @@ TEST_F(Examples, AScriptInTheOtherLanguageEditsItsLayer) {
   EXPECT_EQ(script.Output(), Lines({"OK: true", "Properties: -1 Hills", "DONE"}));
 }
 
-TEST_F(Examples, AScriptEditsTheExtentAndTheLegendsOfItsMap) {
+TEST_F(Examples, AScriptEditsTheExtentAndTheLegendsOfItsMapAndMovesIt) {
   Program script(Script(L"map.vbs"));
   const HWND extent = script.WaitForWindow(L"Extent of a script");
   ASSERT_TRUE(extent) << script.Output();
@@ -66,8 +66,13 @@ TEST_F(Examples, AScriptEditsTheExtentAndTheLegendsOfItsMap) {
   const HWND legends = script.WaitForWindow(L"Legends of a script");
   ASSERT_TRUE(legends) << script.Output();
   Click(ControlNamed(legends, L"cmdOK"));
+  const HWND ground = script.WaitForWindow(L"Georeference");
+  ASSERT_TRUE(ground) << script.Output();
+  // Its width was 750 and its height is 500; the first field has the focus.
+  SendMessageW(ControlNamed(ground, L"txtInput(0)"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"-500"));
+  Click(ControlNamed(ground, L"cmdOK"));
   EXPECT_EQ(script.Wait(), kDone);
-  EXPECT_EQ(script.Output(), Lines({"Extent: -1 250 1000", "Legends: 0 Places", "DONE"}));
+  EXPECT_EQ(script.Output(), Lines({"Extent: -1 250 1000", "Legends: 0 Places", "Georeference: -1 -500 1000", "DONE"}));
 }
 
 TEST_F(Examples, AScriptHasItsLayersMovedRemovedAndEdited) {

@@ -148,6 +148,17 @@ TEST_F(PageEventsTest, RequestsForADataObjectAreAnsweredThroughTheirFlag) {
   }
 }
 
+TEST_F(PageEventsTest, AGeoreferenceRequestBringsTheMapAndIsAnsweredThroughItsFlag) {
+  Page().GeoreferenceRequested = [](GeoreferenceRequest& request) {
+    EXPECT_NE(nullptr, request.Map);
+    EXPECT_FALSE(request.Changed);
+    request.Changed = true;
+  };
+  VARIANT_BOOL changed = VARIANT_FALSE;
+  EXPECT_EQ(S_OK, Control().Raise(10, {com::Variant(static_cast<IDispatch*>(&Control())), Reference(changed)}));
+  EXPECT_EQ(VARIANT_TRUE, changed);
+}
+
 TEST_F(PageEventsTest, RequestsWithoutAnAnswerReachThePage) {
   int styles = 0;
   bool hasLanguage = false;

@@ -1,5 +1,6 @@
 // The page for the extent of a layer or a map.
 #include <cmath>
+#include <functional>
 
 #include "tests/maplibrary/pages/PagesTest.h"
 
@@ -158,6 +159,61 @@ TEST_F(MapLibraryPagesCoordinates, TheExtentOfAMapIsEdited) {
   InDialog("frmCoordinates", [this] { Type("txtTop", "40"); });
   EXPECT_EQ(-1, service.ShowCoordinates(&map));
   EXPECT_EQ(Calls{"Top(40)"}, map.Log.Calls);
+}
+
+class MapLibraryPagesGeoreference : public PagesTest {
+ protected:
+  /// A page of the map, with `answer` for its request.
+  std::shared_ptr<PageForm> PageOf(HostObject& client, std::function<void(GeoreferenceRequest&)> answer) {
+    auto made = MakePage(PageKind::Coordinates);
+    if (answer) made->Page->GeoreferenceRequested = std::move(answer);
+    made->Page->Client(&client);
+    made->Page->RefreshContents();
+    made->Show(ShowMode::Modeless);
+    return made;
+  }
+  ~MapLibraryPagesGeoreference() override { desktop().CloseOpenForms(); }
+  bool IsOffered() { return user.See(*form->Find("cmdGeoreference")).Visible; }
+
+  RecordedMap map;
+};
+
+TEST_F(MapLibraryPagesGeoreference, TheDialogIsOfferedForAMapWhereItIsAnswered) {
+  const auto answered = PageOf(map, [](GeoreferenceRequest&) {});
+  EXPECT_TRUE(IsOffered());
+  answered->Page->Client(&layer);
+  answered->Page->RefreshContents();
+  EXPECT_FALSE(IsOffered());
+  answered->Unload();
+  const auto alone = PageOf(map, {});
+  EXPECT_FALSE(IsOffered());
+}
+
+TEST_F(MapLibraryPagesGeoreference, TheRequestBringsTheMapAndAChangeIsShown) {
+  HostObject* asked = nullptr;
+  const auto page = PageOf(map, [this, &asked](GeoreferenceRequest& request) {
+    asked = request.Map;
+    map.HeldExtent.HeldLeft = -90;
+    map.HeldExtent.HeldTop = 40.5;
+    request.Changed = true;
+  });
+  Press("cmdGeoreference");
+  EXPECT_EQ(&map, asked);
+  EXPECT_EQ("-90", Seen("txtLeft"));
+  EXPECT_EQ("40.5", Seen("txtTop"));
+  EXPECT_EQ("4.5", Seen("txtHeight"));
+  EXPECT_TRUE(page->Page->IsDirty());
+  page->Page->SaveChanges();
+  EXPECT_EQ(Calls{}, map.Log.Calls);
+}
+
+TEST_F(MapLibraryPagesGeoreference, WithoutAChangeThePageKeepsItsEdits) {
+  const auto page = PageOf(map, [this](GeoreferenceRequest&) { map.HeldExtent.HeldTop = 40.5; });
+  Type("txtLeft", "-90");
+  Press("cmdGeoreference");
+  EXPECT_EQ("-90", Seen("txtLeft"));
+  EXPECT_EQ("36.25", Seen("txtTop"));
+  EXPECT_FALSE(page->Page->IsDirty());
 }
 
 TEST_F(MapLibraryPagesCoordinates, EdgesAreReadInTheUsersLocale) {

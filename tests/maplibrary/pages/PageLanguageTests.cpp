@@ -51,7 +51,9 @@ constexpr Dialog kDialogs[] = {
      }},
     {"frmDataOptions", [](CCommonMapDialogs& service, HostObject* client) { return service.ShowDataOptions(client); }},
     {"frmDataShade", nullptr},
-    {"frmDataIsoline", nullptr}};
+    {"frmDataIsoline", nullptr},
+    {"frmGeoreference",
+     [](CCommonMapDialogs& service, HostObject* client) { return service.ShowGeoReference(client); }}};
 
 class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInterface<Dialog> {
  protected:
@@ -78,8 +80,11 @@ class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInter
       return;
     }
     InDialog(GetParam().Form, acts);
-    const bool isLegends = std::string_view(GetParam().Form) == "frmLegend";
-    GetParam().Show(service, isLegends ? &legends : static_cast<HostObject*>(&layer));
+    const std::string_view name = GetParam().Form;
+    HostObject* const client = name == "frmLegend"         ? &legends
+                               : name == "frmGeoreference" ? &map
+                                                           : static_cast<HostObject*>(&layer);
+    GetParam().Show(service, client);
   }
   /// The mnemonics of the form that are there more than once.
   std::string DoubleMnemonics() {
@@ -95,6 +100,7 @@ class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInter
   RecordedData data;
   RecordedShade shade;
   RecordedIsolines isolines;
+  RecordedMap map;
   TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
 };
 

@@ -37,6 +37,7 @@ inline void HandleAllRequests(PropertyPage& page) {
   page.IsolineRequested = [](DataRequest&) {};
   page.DataStyleRequested = [] {};
   page.ColorsRequested = [](ILanguage*) {};
+  page.GeoreferenceRequested = [](GeoreferenceRequest&) {};
 }
 
 /// Hears what a dialog tells its host, so that Apply is shown.
