@@ -101,9 +101,9 @@ void HostWindow::Form_Resize() {
   stack(cboLayer, 360, 240);
   constexpr int kGap = 90;
   constexpr int kButtonHeight = 420;
-  orx::Button* const buttons[] = {&cmdManager,  &cmdSettings, &cmdProperties,   &cmdLabels,   &cmdCoordinates,
-                                  &cmdData,     &cmdClassify, &cmdOptions,      &cmdShade,    &cmdIsolines,
-                                  &cmdLegends,  &cmdColors,   &cmdGeoreference, &cmdAddLayer, &cmdLost};
+  orx::Button* const buttons[] = {&cmdManager, &cmdSettings, &cmdProperties,   &cmdLabels,   &cmdCoordinates,
+                                  &cmdData,    &cmdClassify, &cmdOptions,      &cmdShade,    &cmdIsolines,
+                                  &cmdLegends, &cmdColors,   &cmdGeoreference, &cmdAddLayer, &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
   for (orx::Button* const button : buttons) {

@@ -25,7 +25,7 @@ class HostWindow final : public orx::Form {
   orx::PictureBox pctMap{*this, "pctMap", {.ToolTipText = "The map", .AccessibleName = "Map"}};
   orx::Label lblLayer{*this, "lblLayer", {.Caption = "La&yer:"}};
   orx::ComboBox cboLayer{*this, "cboLayer", {}};
-  orx::Button cmdManager{*this, "cmdManager", {.Caption = "Layer &manager..."}};
+  orx::Button cmdManager{*this, "cmdManager", {.Caption = "Layer manage&r..."}};
   orx::Button cmdSettings{*this, "cmdSettings", {.Caption = "&Settings..."}};
   orx::Button cmdData{*this, "cmdData", {.Caption = "Da&ta..."}};
   orx::Button cmdProperties{*this, "cmdProperties", {.Caption = "&Properties..."}};
@@ -36,9 +36,9 @@ class HostWindow final : public orx::Form {
       *this, "cmdGeoreference", {.Caption = "Georefere&nce...", .ToolTipText = "Moves the map on the ground"}};
   orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
   orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
-  orx::Button cmdShade{*this, "cmdShade", {.Caption = "&Relief shading..."}};
+  orx::Button cmdShade{*this, "cmdShade", {.Caption = "Relief s&hading..."}};
   orx::Button cmdIsolines{*this, "cmdIsolines", {.Caption = "&Isolines..."}};
-  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sc&hemes..."}};
+  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sche&mes..."}};
   orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
   orx::Button cmdLost{
       *this, "cmdLost", {.Caption = "Missing fil&e...", .ToolTipText = "Opens a layer whose file is gone"}};

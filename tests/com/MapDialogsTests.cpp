@@ -133,31 +133,30 @@ TEST_F(MapDialogsTest, EachMemberShowsItsDialog) {
   EXPECT_EQ(dialogs->ShowCoordinates(&object, nullptr, nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(dialogs->ShowLegends(&object, nullptr, nullptr, nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(dialogs->ShowDataProperties(&object, nullptr, nullptr, nullptr, &result), S_OK);
-  EXPECT_EQ(ShownNames(), (std::vector<std::string>{"frmProperties", "frmLabels", "frmCoordinates", "frmLegend",
-                                                    "frmDataDialog"}));
+  EXPECT_EQ(ShownNames(),
+            (std::vector<std::string>{"frmProperties", "frmLabels", "frmCoordinates", "frmLegend", "frmDataDialog"}));
   EXPECT_EQ(result, 0);
 }
 
 TEST_F(MapDialogsTest, ShowOpensTheLayerManagerForMapsAndCollectionsAndTheSettingsForOthers) {
   const auto map = MakeCounted<ScriptObject>(
       std::map<std::string, Variant>{{"LayerCount", Variant(std::int32_t{0})}, {"Layer", Variant(std::int32_t{0})}});
-  const auto layers = MakeCounted<ScriptObject>(
-      std::map<std::string, Variant>{{"Name", Variant("Layers")}, {"Map", Variant(static_cast<IDispatch*>(map.Get()))}});
+  const auto layers = MakeCounted<ScriptObject>(std::map<std::string, Variant>{
+      {"Name", Variant("Layers")}, {"Map", Variant(static_cast<IDispatch*>(map.Get()))}});
   const auto layer = MakeCounted<ScriptObject>(std::map<std::string, Variant>{{"Name", Variant("Roads")}});
   long flags = 3;
   for (IDispatch* object : {static_cast<IDispatch*>(map.Get()), static_cast<IDispatch*>(layers.Get()),
                             static_cast<IDispatch*>(layer.Get()), static_cast<IDispatch*>(nullptr)})
     EXPECT_EQ(dialogs->Show(&object, &flags, nullptr, nullptr, nullptr, &result), S_OK);
-  EXPECT_EQ(ShownNames(),
-            (std::vector<std::string>{"frmMapSettings", "frmMapSettings", "frmSettings", "frmSettings"}));
+  EXPECT_EQ(ShownNames(), (std::vector<std::string>{"frmMapSettings", "frmMapSettings", "frmSettings", "frmSettings"}));
   EXPECT_EQ(result, 0);
 }
 
 TEST_F(MapDialogsTest, TheLayerManagerListsTheObjectsOfACollection) {
   const auto map = MakeCounted<ScriptObject>(
       std::map<std::string, Variant>{{"LayerCount", Variant(std::int32_t{0})}, {"Layer", Variant(std::int32_t{0})}});
-  const auto layers = MakeCounted<ScriptObject>(
-      std::map<std::string, Variant>{{"Name", Variant("Layers")}, {"Map", Variant(static_cast<IDispatch*>(map.Get()))}});
+  const auto layers = MakeCounted<ScriptObject>(std::map<std::string, Variant>{
+      {"Name", Variant("Layers")}, {"Map", Variant(static_cast<IDispatch*>(map.Get()))}});
   long flags = 0;
   int rows = 0;
   std::string first;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "forms/TreeList.h"
 #include "maplibrary/MapText.h"
 #include "maplibrary/SampleMap.h"
 #include "tests/files/FilesTest.h"
@@ -58,6 +59,40 @@ TEST_F(ExamplesHost, OKUntouchedInEveryDialogLeavesEveryBitOfTheMap) {
       EXPECT_EQ(before, maplibrary::Serialise(*map)) << form << " of " << window->cboLayer.Text();
     }
   }
+}
+
+TEST_F(ExamplesHost, TheLayerManagerMovesAndRemovesLayersWhileTheMapIsRedrawn) {
+  script.ExpectForm("frmMapSettings", [&](Form& shown) {
+    auto& list = Get<TreeList>(shown, "sftLayers");
+    EXPECT_EQ((std::vector<std::string>{"jacksboro", "Terrain", "Quarters"}), user.SeeRows(list));
+    const std::vector<Mark> before = Drawn();
+    user.Click(list, 1);
+    Press(user, shown, "cmdDown");
+    EXPECT_NE(before, Drawn());
+    EXPECT_EQ("Quarters", window->cboLayer.List(1));
+    const std::vector<Mark> moved = Drawn();
+    Press(user, shown, "cmdRemove");
+    EXPECT_NE(moved, Drawn());
+    EXPECT_EQ(6, window->cboLayer.ListCount());
+    Press(user, shown, "cmdOK");
+  });
+  user.Click(window->cmdManager);
+  EXPECT_EQ("Layer manager: changed (-1)", LastLine());
+}
+
+TEST_F(ExamplesHost, TheSettingsAndTheDataOfTheChosenLayerAreEdited) {
+  script.ExpectForm("frmSettings", [&](Form& shown) {
+    user.Type(Get<TextBox>(shown, "txtName"), "Hills");
+    Press(user, shown, "cmdOK");
+  });
+  user.Click(window->cmdSettings);
+  EXPECT_EQ("Settings of Terrain: changed (-1)", LastLine());
+  EXPECT_EQ("Hills", user.See(window->cboLayer).Text);
+  script.ExpectForm("frmDataDialog", [&](Form& shown) { Press(user, shown, "cmdOK"); });
+  user.Click(window->cmdData);
+  EXPECT_EQ("Data of Hills: not changed (0)", LastLine());
+  user.Choose(window->cboLayer, 2);
+  EXPECT_FALSE(user.See(window->cmdData).Enabled);
 }
 
 TEST_F(ExamplesHost, ApplyRedrawsTheMapBehindTheOpenDialog) {

@@ -3,7 +3,6 @@
 
 #include "tests/forms/SampleForm.h"
 
-
 namespace orx::test {
 namespace {
 
@@ -15,9 +14,7 @@ struct StripForm final : Form {
   int Edge() const { return OwnerDesktop().ToPixels(ClientSize().Height); }
   bool IsOnStrip(Point at) const { return at.Y >= Edge() - 3 && at.Y <= Edge(); }
   void Form_Resize() override { ++Resizes; }
-  void Form_MouseMove(Point at) override {
-    OwnerDesktop().Pointer(IsOnStrip(at) ? Pointer::SizeNS : Pointer::Default);
-  }
+  void Form_MouseMove(Point at) override { OwnerDesktop().Pointer(IsOnStrip(at) ? Pointer::SizeNS : Pointer::Default); }
   void Form_MouseDown(Point at) override {
     Pressed.push_back(Edge() - at.Y);
     if (IsOnStrip(at)) DragBottomEdge();

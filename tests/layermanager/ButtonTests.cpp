@@ -13,7 +13,8 @@ const std::vector<Pointer> kDefault{Pointer::Default};
 /// Those of the calls that begin so.
 Calls Of(const Calls& calls, const std::string& start) {
   Calls found;
-  std::ranges::copy_if(calls, std::back_inserter(found), [&](const std::string& call) { return call.starts_with(start); });
+  std::ranges::copy_if(calls, std::back_inserter(found),
+                       [&](const std::string& call) { return call.starts_with(start); });
   return found;
 }
 
@@ -66,24 +67,25 @@ TEST_F(LayerManagerButtons, EachOtherPageCounts) {
 }
 
 TEST_F(LayerManagerButtons, ApplyTellsAndCleansAndStaysOpen) {
-  EXPECT_EQ(0, Show([&](frmMapSettings& form) {
-              EditPage(form, PageKind::Properties, "x");
-              user.Click(form.sftLayers, 1);
-              user.Click(form.cmdUp);
-              log.Calls.clear();
-              script.Pointers.clear();
-              Press(form, "cmdApply");
-              Calls calls = NewCalls();
-              EXPECT_EQ(EachPage("ApplyChanges"), (Calls{calls.begin(), calls.begin() + 4}));
-              EXPECT_EQ(Calls{"CallBack.ApplyNotify(True)"}, Of(calls, "CallBack."));
-              EXPECT_EQ(EachPage("IsDirty(False)"), (Calls{calls.end() - 4, calls.end()}));
-              EXPECT_EQ(kWaited, script.Pointers);
-              EXPECT_FALSE(form.IsDirty());
-              EXPECT_TRUE(form.Visible());
-              Press(form, "cmdApply");
-              Press(form, "cmdOK");
-              EXPECT_EQ((Calls{"CallBack.ApplyNotify(False)", "CallBack.OKNotify(False)"}), Of(NewCalls(), "CallBack."));
-            }));
+  EXPECT_EQ(
+      0, Show([&](frmMapSettings& form) {
+        EditPage(form, PageKind::Properties, "x");
+        user.Click(form.sftLayers, 1);
+        user.Click(form.cmdUp);
+        log.Calls.clear();
+        script.Pointers.clear();
+        Press(form, "cmdApply");
+        Calls calls = NewCalls();
+        EXPECT_EQ(EachPage("ApplyChanges"), (Calls{calls.begin(), calls.begin() + 4}));
+        EXPECT_EQ(Calls{"CallBack.ApplyNotify(True)"}, Of(calls, "CallBack."));
+        EXPECT_EQ(EachPage("IsDirty(False)"), (Calls{calls.end() - 4, calls.end()}));
+        EXPECT_EQ(kWaited, script.Pointers);
+        EXPECT_FALSE(form.IsDirty());
+        EXPECT_TRUE(form.Visible());
+        Press(form, "cmdApply");
+        Press(form, "cmdOK");
+        EXPECT_EQ((Calls{"CallBack.ApplyNotify(False)", "CallBack.OKNotify(False)"}), Of(NewCalls(), "CallBack."));
+      }));
 }
 
 TEST_F(LayerManagerButtons, WithoutACallBackApplyStaysVisibleAndLeavesTheDirtyState) {
@@ -170,9 +172,10 @@ TEST_F(LayerManagerButtons, TheServiceGivesLanguageClientCallBackAndFlagsInOrder
     const Calls calls = NewCalls();
     EXPECT_EQ("Language.EntryCount", calls.at(0));
     EXPECT_EQ("CallBack.RegisterNotify", calls.at(1));
-    EXPECT_EQ((Calls{"Pages.CreatePage(Properties, Properties1)", "Pages.CreatePage(LabelProperties, LabelProperties1)",
-                     "Pages.CreatePage(DataProperties, DataProperties1)", "Pages.CreatePage(Coordinates, Coordinates1)"}),
-              Of(calls, "Pages."));
+    EXPECT_EQ(
+        (Calls{"Pages.CreatePage(Properties, Properties1)", "Pages.CreatePage(LabelProperties, LabelProperties1)",
+               "Pages.CreatePage(DataProperties, DataProperties1)", "Pages.CreatePage(Coordinates, Coordinates1)"}),
+        Of(calls, "Pages."));
     EXPECT_EQ((Calls{"Properties.Language(object)"}), Of(calls, "Properties.Language"));
     EXPECT_EQ((Calls{"Language.EntryCount", "Language.EntryCount", "Language.TranslateText(_HelpMapSettings)",
                      "Language.TranslateForm(frmMapSettings)", "Language.TranslateText(Map Layer Properties)"}),

@@ -164,7 +164,8 @@ class LayerManagerWalk : public LayerManager {
       ++beeps;
       return;
     }
-    std::swap(account.Layers[static_cast<std::size_t>(number) - 1], account.Layers[static_cast<std::size_t>(other) - 1]);
+    std::swap(account.Layers[static_cast<std::size_t>(number) - 1],
+              account.Layers[static_cast<std::size_t>(other) - 1]);
     account.ListChanged = true;
     account.Refill();
     account.Select(account.Selected + (up ? -1 : 1));

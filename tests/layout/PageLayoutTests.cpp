@@ -1,5 +1,6 @@
 // The dialogs of the map library's pages show all their text, in every language and at every resolution.
 #include "maplibrary/PseudoLanguage.h"
+#include "maplibrary/SampleMap.h"
 #include "maplibrary/TextLanguage.h"
 #include "service/modMainDialogs.h"
 #include "tests/layout/LayoutCheck.h"
@@ -26,6 +27,23 @@ class PageLayout : public PagesTest {
     service.ShowCoordinates(&layer);
     InDialog("frmLegend", look);
     service.ShowLegends(&legends);
+    const auto lookAtTabs = [this](Form& shown) {
+      auto& tabs = dynamic_cast<TabControl&>(*shown.Find("ssTab"));
+      for (int tab = 0; tab < tabs.TabCount(); ++tab) {
+        user.SelectTab(tabs, tab);
+        EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(shown)) << "tab " << tab;
+      }
+      user.CloseBox(shown);
+    };
+    layer.Behind = &data;
+    script.ExpectForm("frmSettings", lookAtTabs);
+    service.Show(&layer, 0);
+    const auto sample = maplibrary::MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil");
+    sample->Layer(1)->Name("A layer with a name that is longer than the list is wide");
+    script.ExpectForm("frmMapSettings", lookAtTabs);
+    service.Show(sample.get(), 0);
+    script.ExpectForm("frmDataDialog", lookAtTabs);
+    service.ShowDataProperties(&layer);
     const auto lookAt = [this](Form& shown) {
       EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(shown));
       user.CloseBox(shown);

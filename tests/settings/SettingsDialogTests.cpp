@@ -64,14 +64,15 @@ TEST_F(SettingsDialog, IsOpenedInItsOrder) {
   script.ExpectForm("frmSettings", [&](Form& form) {
     const Calls calls = NewCalls();
     EXPECT_EQ("Language.EntryCount", calls.front());
-    EXPECT_EQ((Calls{"Pages.CreatePage(Properties, Properties1)", "Pages.CreatePage(LabelProperties, LabelProperties1)",
-                     "Pages.CreatePage(DataProperties, DataProperties1)", "Pages.CreatePage(Coordinates, Coordinates1)"}),
-              Of(calls, "Pages."));
-    EXPECT_EQ((Calls{"Language.EntryCount", "Language.EntryCount", "Language.TranslateText(_HelpMapLayerSettings)",
-                     "Language.TranslateForm(frmSettings)", "Language.TranslateText(Properties)",
-                     "Language.TranslateText(Label)", "Language.TranslateText(Data)",
-                     "Language.TranslateText(Coordinates)"}),
-              Of(calls, "Language."));
+    EXPECT_EQ(
+        (Calls{"Pages.CreatePage(Properties, Properties1)", "Pages.CreatePage(LabelProperties, LabelProperties1)",
+               "Pages.CreatePage(DataProperties, DataProperties1)", "Pages.CreatePage(Coordinates, Coordinates1)"}),
+        Of(calls, "Pages."));
+    EXPECT_EQ(
+        (Calls{"Language.EntryCount", "Language.EntryCount", "Language.TranslateText(_HelpMapLayerSettings)",
+               "Language.TranslateForm(frmSettings)", "Language.TranslateText(Properties)",
+               "Language.TranslateText(Label)", "Language.TranslateText(Data)", "Language.TranslateText(Coordinates)"}),
+        Of(calls, "Language."));
     EXPECT_EQ((Calls{"LabelProperties.Language(object)", "LabelProperties.Client(object)",
                      "LabelProperties.RefreshContents", "LabelProperties.RefreshContents"}),
               Of(calls, "LabelProperties."));

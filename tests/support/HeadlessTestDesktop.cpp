@@ -69,8 +69,7 @@ class HeadlessUser final : public User {
     form.UserMouseMove(at);
     form.UserMouseDown(at);
     // Nobody but the form says whether the press has taken hold of the edge.
-    if (desktop.Pointer() == Pointer::SizeNS)
-      form.UserResize({client.Width, client.Height + desktop.ToTwips(by)});
+    if (desktop.Pointer() == Pointer::SizeNS) form.UserResize({client.Width, client.Height + desktop.ToTwips(by)});
     form.UserMouseMove({at.X, 0});
   }
 

@@ -42,7 +42,7 @@ class KeptPlacement {
 
 /// What other programs and people write into settings.
 inline const std::vector<std::string> kHostileNumbers{
-    "", "abc", "-1", "-99999", "2147483647", "-2147483648", "99999999999999999999", "1E300", "-1E300", "nan", "inf",
-    "12,5", "&H10", "1e5x", "\xD9\xA1\xD9\xA2"};
+    "",       "abc", "-1",  "-99999", "2147483647", "-2147483648", "99999999999999999999", "1E300",
+    "-1E300", "nan", "inf", "12,5",   "&H10",       "1e5x",        "\xD9\xA1\xD9\xA2"};
 
 }  // namespace orx::test

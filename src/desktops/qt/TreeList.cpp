@@ -167,8 +167,7 @@ class TreeListPeer final : public Peer {
     const QString typed = event.text();
     const int code = KeyCodeOf(event);
     if (code != 0) dialog.Report([&] { control.UserKeyDown(code); });
-    if (!typed.isEmpty() && typed[0].isPrint())
-      dialog.Report([&] { control.UserCharacter(typed.toUcs4().front()); });
+    if (!typed.isEmpty() && typed[0].isPrint()) dialog.Report([&] { control.UserCharacter(typed.toUcs4().front()); });
     return code != 0 || !typed.isEmpty();
   }
 

@@ -95,8 +95,8 @@ void DialogWindow::UpdatePlace() {
 }
 
 void DialogWindow::UpdateEnabled() {
-  // Input is dropped as it is taken from the queue. The platform's own way would have another program's window activated
-  // when a dialog closes that belongs to this one.
+  // Input is dropped as it is taken from the queue. The platform's own way would have another program's window
+  // activated when a dialog closes that belongs to this one.
 }
 
 void DialogWindow::Repaint() {

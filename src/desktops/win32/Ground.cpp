@@ -45,7 +45,8 @@ LRESULT CALLBACK Ground::PaneProc(HWND window, UINT message, WPARAM wParam, LPAR
     if (message == WM_VSCROLL) self.ScrollBy(SB_VERT, LOWORD(wParam));
     if (message == WM_HSCROLL) self.ScrollBy(SB_HORZ, LOWORD(wParam));
     // The area covers the dialog from the same corner on.
-    if (message == WM_MOUSEMOVE || message == WM_LBUTTONDOWN) return SendMessageW(self.mDialog, message, wParam, lParam);
+    if (message == WM_MOUSEMOVE || message == WM_LBUTTONDOWN)
+      return SendMessageW(self.mDialog, message, wParam, lParam);
   }
   return Subclass::CallNext(window, message, wParam, lParam);
 }
