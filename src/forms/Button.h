@@ -31,6 +31,7 @@ class Button final : public Control {
   /// takes it back, the press is dropped.
   void UserPress();
   void UserMnemonic() override { UserPress(); }
+  bool ShowsCaption() const override { return !mPicture; }
   void Accept(ControlVisitor& visitor) override;
 
  private:

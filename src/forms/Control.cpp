@@ -76,6 +76,11 @@ void Control::ToolTipText(const std::string& value) {
   Changed(Aspect::ToolTip);
 }
 
+void Control::GivenName(const std::string& value) {
+  mDesign.AccessibleName = value;
+  Changed(Aspect::Accessible);
+}
+
 bool Control::IsShown() const {
   const Control* const outer = mParent.ContainerControl();
   return mDesign.Visible && mParent.ShowsChildren() && (!outer || outer->IsShown());
@@ -105,11 +110,12 @@ bool Control::HasFocus() const {
 
 std::string Control::AccessibleName() const {
   if (!mDesign.AccessibleName.empty()) return mDesign.AccessibleName;
-  if (!mDesign.Caption.empty()) return WithoutMnemonic(mDesign.Caption);
+  if (ShowsCaption() && !mDesign.Caption.empty()) return WithoutMnemonic(mDesign.Caption);
   const std::vector<Control*>& siblings = mParent.Children();
   const auto self = std::find(siblings.begin(), siblings.end(), this);
   if (self != siblings.begin() && self != siblings.end())
     if (const auto* label = dynamic_cast<const Label*>(*(self - 1))) return WithoutMnemonic(label->Caption());
+  if (!mDesign.ToolTipText.empty()) return mDesign.ToolTipText;
   const Control* const outer = mParent.ContainerControl();
   return outer ? outer->AccessibleName() : std::string();
 }

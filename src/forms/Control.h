@@ -38,7 +38,7 @@ struct Design {
   /// Keeps the control in reach at the bottom of the window when the form is too high for the screen and scrolls.
   bool Pinned = false;
   std::string ToolTipText = {};
-  /// What assistive software reads; empty: derived from the caption or the label in front of the control.
+  /// What assistive software reads; empty: derived, see Control::AccessibleName.
   std::string AccessibleName = {};
 };
 
@@ -88,9 +88,12 @@ class Control {
   /// Whether the control stays in reach at the bottom while the form scrolls.
   bool Pinned() const { return mDesign.Pinned; }
 
-  /// What assistive software reads for the control: the designed name, else the caption without its mnemonic mark, else
-  /// the caption of the label or frame in front of it.
+  /// What assistive software reads for the control: the name given to it, else the caption that it shows, without the
+  /// mnemonic mark, else the caption of the label in front of it, its tool tip, or the name of what it stands in.
   std::string AccessibleName() const;
+  /// The name given to it, empty for none.
+  const std::string& GivenName() const { return mDesign.AccessibleName; }
+  void GivenName(const std::string& value);
   /// The mnemonic letter of the caption in lower case, 0 when there is none.
   char32_t Mnemonic() const;
 
@@ -109,6 +112,8 @@ class Control {
 
   /// What the mnemonic of the caption does; by default the focus comes here, or to the next control for a label.
   virtual void UserMnemonic();
+  /// False where the caption stands for a mnemonic only.
+  virtual bool ShowsCaption() const { return true; }
   /// The children when the control is a container, else null.
   virtual Container* AsContainer() { return nullptr; }
   /// Calls the Visit of the control's kind.

@@ -13,7 +13,7 @@ PropertyDialog::PropertyDialog(Desktop& desktop, const PropertyDesign& design)
     : DialogForm(desktop, design.FormName,
                  {.Caption = design.Caption, .Client = design.Layout.Client, .Border = design.Border}),
       mHelpKey(design.HelpKey),
-      ssTab(*this, "ssTab", {.Place = design.Layout.Tab}, design.TabCaptions),
+      ssTab(*this, "ssTab", {.Place = design.Layout.Tab, .AccessibleName = "Pages"}, design.TabCaptions),
       cmdHelp(*this, "cmdHelp", ButtonDesign("&Help", design.Layout.HelpLeft, design.Layout.ButtonTop)),
       cmdOK(*this, "cmdOK", ButtonDesign("&OK", design.Layout.OKLeft, design.Layout.ButtonTop), ButtonRole::Default),
       cmdCancel(*this, "cmdCancel", ButtonDesign("&Cancel", design.Layout.CancelLeft, design.Layout.ButtonTop),

@@ -68,8 +68,7 @@ Design frmMapSettings::PictureDesign(const char* toolTip, int position) {
   // The caption is not to be seen; it is the key: Alt with the number of the button.
   return {.Caption = "&" + std::to_string(position + 1),
           .Place = {2595, 120 + position * 465, 405, 405},
-          .ToolTipText = toolTip,
-          .AccessibleName = toolTip};
+          .ToolTipText = toolTip};
 }
 
 frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
@@ -202,6 +201,15 @@ void frmMapSettings::SelectRow(int row) {
   RefreshContents();
 }
 
+void frmMapSettings::SelectPosition(int position) {
+  const int count = sftLayers.ShownCount();
+  SelectRow(count == 0 ? -1 : sftLayers.ShownRow(std::clamp(position, 0, count - 1)));
+}
+
+int frmMapSettings::FoldedPosition() const {
+  return (mLayers ? 1 : 0) + mSelectedLayer - 1;
+}
+
 void frmMapSettings::TakeObject() {
   const TreeRow& row = sftLayers.Row(mSelectedRow);
   if (Marks(row.Tag, "tile")) {
@@ -234,24 +242,27 @@ void frmMapSettings::NameChanged(const std::string& name) {
 void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
   ErrorTrap trap;
   if (!mCurrentMap || mSelectedLayer == 0) return;
+  const int position = FoldedPosition() + rows;
   bool isMoved = false;
   trap.Step([&] { isMoved = (mCurrentMap->*move)(mSelectedLayer); });
   if (!isMoved) return trap.Step([&] { OwnerDesktop().Beep(); });
   trap.Step([&] { FillList(); });
-  trap.Step([&] { SelectRow(mSelectedRow + rows); });
+  trap.Step([&] { SelectPosition(position); });
   mListChanged = true;
 }
 
 void frmMapSettings::cmdRemove_Click() {
   ErrorTrap trap;
   if (!mCurrentMap || mSelectedLayer == 0) return;
+  int position = sftLayers.PositionOf(mSelectedRow);
   bool isRemoved = false;
   trap.Step([&] { isRemoved = mCurrentMap->RemoveLayer(mSelectedLayer); });
   if (isRemoved) {
+    position = FoldedPosition();
     trap.Step([&] { FillList(); });
     mListChanged = true;
   }
-  trap.Step([&] { SelectRow(mSelectedRow - 1); });
+  trap.Step([&] { SelectPosition(position - 1); });
 }
 
 void frmMapSettings::cmdAdd_Click() {
@@ -268,7 +279,7 @@ void frmMapSettings::cmdAdd_Click() {
     trap.Step([&] { desktop.Pointer(Pointer::Hourglass); });
     trap.Step([&] { AddFile(path); });
   }
-  if (!files.empty()) trap.Step([&] { SelectRow(sftLayers.ListCount() - 1); });
+  if (!files.empty()) trap.Step([&] { SelectPosition(sftLayers.ShownCount() - 1); });
   Enabled(true);
   trap.Step([&] { desktop.Pointer(Pointer::Default); });
 }

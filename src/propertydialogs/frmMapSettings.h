@@ -68,6 +68,10 @@ class frmMapSettings final : public PropertyDialog {
   void AddFile(const std::string& path);
   /// Selects a row and shows its object; a row outside the list stands for the nearest one.
   void SelectRow(int row);
+  /// The same by the position among the rows that can be seen.
+  void SelectPosition(int position);
+  /// Where the selected layer stands among the rows while all are folded, as they are when the list was just filled.
+  int FoldedPosition() const;
   bool ShowSelection(int row);
   void TakeObject();
   /// Up, Down and Remove work with a layer only.

@@ -124,15 +124,50 @@ TEST_F(LayerManagerMoves, ARefusedRemovalSelectsTheRowBeforeAllTheSame) {
   }
 }
 
-TEST_F(LayerManagerMoves, RowsOfTilesCountWhenTheRowBeforeIsSelected) {
+TEST_F(LayerManagerMoves, TheLayerBeforeIsSelectedAndNotATileOfIt) {
+  for (const bool isUnfolded : {false, true}) {
+    map.Layers.clear();
+    map.AddTiled("Hills", 2);
+    Fill({"Roads"});
+    Show([&](frmMapSettings& form) {
+      if (isUnfolded) user.Fold(form.sftLayers, 0);
+      user.Click(form.sftLayers, 3);
+      user.Click(form.cmdRemove);
+      EXPECT_EQ("Hills", Shown());
+      EXPECT_EQ(Texts{"Hills"}, Rows(form));
+    });
+  }
+}
+
+TEST_F(LayerManagerMoves, ALayerStaysSelectedAsItPassesOneWithTiles) {
+  for (const bool isUnfolded : {false, true}) {
+    map.Layers.clear();
+    map.AddTiled("Hills", 3);
+    Fill({"Roads"});
+    ShowLayers([&](frmMapSettings& form) {
+      if (isUnfolded) user.Fold(form.sftLayers, 1);
+      user.Click(form.sftLayers, 5);
+      user.Click(form.cmdUp);
+      EXPECT_EQ("Roads", Shown());
+      EXPECT_EQ(1, Selected(form));
+      if (isUnfolded) user.Fold(form.sftLayers, 2);
+      user.Click(form.cmdDown);
+      EXPECT_EQ("Roads", Shown());
+      EXPECT_EQ((Texts{"All layers", "Hills", "Roads"}), Rows(form));
+    });
+  }
+}
+
+TEST_F(LayerManagerMoves, ARefusedRemovalSelectsTheTileAboveWhenItIsSeen) {
   map.AddTiled("Hills", 2);
   Fill({"Roads"});
   Show([&](frmMapSettings& form) {
+    user.Fold(form.sftLayers, 0);
     user.Click(form.sftLayers, 3);
+    Make("RemoveLayer", Mood::Refuse);
     user.Click(form.cmdRemove);
-    EXPECT_EQ(2, Selected(form));
+    map.Answers = nullptr;
     EXPECT_EQ("Hills/2", Shown());
-    EXPECT_TRUE(user.SeesRow(form.sftLayers, 2));
   });
 }
 

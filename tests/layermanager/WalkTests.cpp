@@ -85,6 +85,8 @@ class Account {
     Selected = std::clamp(row, 0, static_cast<int>(Rows().size()) - 1);
     for (int above = Above(Selected); above >= 0; above = Above(above)) mOpen.insert(above);
   }
+  /// Selects by the place among the rows that are seen.
+  void SelectSeen(int place) { Select(Seen().at(static_cast<std::size_t>(std::max(place, 0)))); }
   void Refill() { mOpen = {0}; }
   void Fold(int row) {
     if (!Holds(row)) return;
@@ -168,7 +170,7 @@ class LayerManagerWalk : public LayerManager {
               account.Layers[static_cast<std::size_t>(other) - 1]);
     account.ListChanged = true;
     account.Refill();
-    account.Select(account.Selected + (up ? -1 : 1));
+    account.SelectSeen(other);
   }
 
   void Remove(frmMapSettings& form) {
@@ -180,8 +182,12 @@ class LayerManagerWalk : public LayerManager {
       account.Layers.erase(account.Layers.begin() + (number - 1));
       account.ListChanged = true;
       account.Refill();
+      // The row before; the collection stands above the layers.
+      account.SelectSeen(number - 1);
+    } else {
+      const std::vector<int> seen = account.Seen();
+      account.SelectSeen(static_cast<int>(std::ranges::find(seen, account.Selected) - seen.begin()) - 1);
     }
-    account.Select(account.Selected - 1);
   }
 
   void Add(frmMapSettings& form) {
@@ -192,7 +198,7 @@ class LayerManagerWalk : public LayerManager {
     account.Layers.push_back({name, {}});
     account.ListChanged = true;
     account.Refill();
-    account.Select(static_cast<int>(account.Rows().size()) - 1);
+    account.SelectSeen(static_cast<int>(account.Layers.size()));
   }
 
   void Rename() {

@@ -42,7 +42,7 @@ class ButtonPeer final : public Peer {
   }
 
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Text && !mControl.Picture()) mNative.setText(ToQt(mControl.Caption()));
+    if (aspect == Aspect::Text && mControl.ShowsCaption()) mNative.setText(ToQt(mControl.Caption()));
     Peer::Mirror(aspect);
   }
 

@@ -45,7 +45,7 @@ class ButtonPeer final : public Peer {
  private:
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Enabled && mControl.Picture()) ShowPicture();
-    if (aspect == Aspect::Text && !mControl.Picture()) ShowText(Window(), mControl.Caption());
+    if (aspect == Aspect::Text && mControl.ShowsCaption()) ShowText(Window(), mControl.Caption());
     Peer::Mirror(aspect);
   }
 

@@ -168,9 +168,9 @@ void Peer::MirrorEnabled() {
 }
 
 void Peer::MirrorName() {
-  // A caption is the window's text, which is its name already, unless another one was designed.
-  const std::string name = mControl.AccessibleName();
-  if (name != WithoutMnemonic(mControl.Caption())) mIsAnnotated = SetAccessibleName(mFocus, name);
+  // A caption is the window's text, which is its name already.
+  if (mControl.Caption().empty() || !mControl.ShowsCaption())
+    mIsAnnotated = SetAccessibleName(mFocus, mControl.AccessibleName());
 }
 
 void Peer::MirrorPlace() {

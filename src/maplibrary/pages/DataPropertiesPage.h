@@ -21,20 +21,20 @@ class DataPropertiesPage final : public PageBase {
   explicit DataPropertiesPage(const PageSite& site);
 
   Label lblFile{Surface, "lblFile", {.Caption = "Data &file:", .Place = {120, 180, 1620, 240}}};
-  TextBox txtFile{Surface, "txtFile", {.Place = {1860, 120, 2700, 330}}, TextLines::Single, true};
-  Button cmdBrowse{Surface, "cmdBrowse", {.Caption = "&Browse...", .Place = {4680, 90, 1335, 375}, .Visible = false}};
+  TextBox txtFile{Surface, "txtFile", {.Place = {1860, 120, 2580, 330}}, TextLines::Single, true};
+  Button cmdBrowse{Surface, "cmdBrowse", {.Caption = "&Browse...", .Place = {4545, 90, 1470, 375}, .Visible = false}};
 
   Frame fraClasses{Surface, "fraClasses", {.Caption = "Classification", .Place = {120, 600, 5895, 2040}}};
   Label lblMethod{fraClasses, "lblMethod", {.Caption = "Method:", .Place = {150, 360, 1740, 240}}};
-  TextBox txtMethod{fraClasses, "txtMethod", {.Place = {1950, 300, 2370, 330}}, TextLines::Single, true};
+  TextBox txtMethod{fraClasses, "txtMethod", {.Place = {1950, 300, 2250, 330}}, TextLines::Single, true};
   Label lblRange{fraClasses, "lblRange", {.Caption = "Range:", .Place = {150, 780, 1740, 240}}};
-  TextBox txtRange{fraClasses, "txtRange", {.Place = {1950, 720, 2370, 330}}, TextLines::Single, true};
+  TextBox txtRange{fraClasses, "txtRange", {.Place = {1950, 720, 2250, 330}}, TextLines::Single, true};
   Label lblCount{fraClasses, "lblCount", {.Caption = "Classes:", .Place = {150, 1200, 1740, 240}}};
-  TextBox txtCount{fraClasses, "txtCount", {.Place = {1950, 1140, 2370, 330}}, TextLines::Single, true};
+  TextBox txtCount{fraClasses, "txtCount", {.Place = {1950, 1140, 2250, 330}}, TextLines::Single, true};
   Label lblFormat{fraClasses, "lblFormat", {.Caption = "Value format:", .Place = {150, 1620, 1740, 240}}};
-  TextBox txtFormat{fraClasses, "txtFormat", {.Place = {1950, 1560, 2370, 330}}, TextLines::Single, true};
+  TextBox txtFormat{fraClasses, "txtFormat", {.Place = {1950, 1560, 2250, 330}}, TextLines::Single, true};
   Button cmdClassify{
-      fraClasses, "cmdClassify", {.Caption = "C&lassify...", .Place = {4410, 270, 1335, 375}, .Visible = false}};
+      fraClasses, "cmdClassify", {.Caption = "C&lassify...", .Place = {4290, 270, 1455, 375}, .Visible = false}};
 
   Button cmdOptions{
       Surface, "cmdOptions", {.Caption = "Data op&tions...", .Place = {120, 2820, 2850, 375}, .Visible = false}};
