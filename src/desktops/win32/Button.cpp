@@ -21,11 +21,24 @@ GdiObject<HBITMAP> ColorsOf(const Image& image) {
   return bitmap;
 }
 
+/// One bit for each pixel, rows of whole words: set where the picture is transparent. A disabled button draws the shape
+/// that is left.
+GdiObject<HBITMAP> MaskOf(const Image& image) {
+  const auto width = static_cast<std::size_t>(image.Width);
+  const std::size_t stride = (width + 15) / 16 * 2;
+  std::vector<std::uint8_t> bits(stride * static_cast<std::size_t>(image.Height), 0);
+  for (std::size_t i = 0; i * 4 < image.Pixels.size(); ++i) {
+    const std::size_t x = i % width;
+    if (image.Pixels[i * 4 + 3] < 128) bits[i / width * stride + x / 8] |= static_cast<std::uint8_t>(0x80U >> (x % 8));
+  }
+  return GdiObject<HBITMAP>(CreateBitmap(image.Width, image.Height, 1, 1, bits.data()));
+}
+
 class Icon {
  public:
   explicit Icon(const Image& image) {
     const GdiObject<HBITMAP> colors = ColorsOf(image);
-    const GdiObject<HBITMAP> mask(CreateBitmap(image.Width, image.Height, 1, 1, nullptr));
+    const GdiObject<HBITMAP> mask = MaskOf(image);
     ICONINFO info = {TRUE, 0, 0, mask.get(), colors.get()};
     mIcon = CreateIconIndirect(&info);
   }
@@ -40,20 +53,21 @@ class Icon {
 
 class ButtonPeer final : public Peer {
  public:
-  ButtonPeer(Button& control, Dialog& dialog, HWND window) : Peer(control, dialog, window), mControl(control) {}
+  ButtonPeer(Button& control, Dialog& dialog, HWND window) : Peer(control, dialog, window), mControl(control) {
+    if (control.Picture()) ShowPicture(*control.Picture());
+  }
 
  private:
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Enabled && mControl.Picture()) ShowPicture();
     if (aspect == Aspect::Text && mControl.ShowsCaption()) ShowText(Window(), mControl.Caption());
     Peer::Mirror(aspect);
   }
 
-  void ShowPicture() {
+  void ShowPicture(const Glyph& picture) {
+    // The platform itself draws it otherwise while the button is disabled.
     const int pixels = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
-    auto icon = std::make_unique<Icon>(DrawGlyph(*mControl.Picture(), pixels, !mControl.Enabled()));
-    SendMessageW(Window(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon->Get()));
-    mIcon = std::move(icon);
+    mIcon = std::make_unique<Icon>(DrawGlyph(picture, pixels, false));
+    SendMessageW(Window(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(mIcon->Get()));
   }
 
   bool LeavesArrowKeys() const override { return true; }
