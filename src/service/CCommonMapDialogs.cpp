@@ -53,6 +53,8 @@ std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
   if constexpr (isLegend) trap.Step([&] { form->StartUpIndex(request.Number); });
   if constexpr (std::is_same_v<HostForm, frmMapSettings>) trap.Step([&] { form->RegisterFlags(request.Number); });
   trap.Step([&] { form->RefreshContents(); });
+  // Loading translates the designed caption, so that it has to come before another one.
+  trap.Step([&] { form->Load(); });
   if (!IsBlank(request.Caption)) trap.Step([&] { form->Caption(request.Caption); });
   trap.Step([&] { form->Show(request.Mode, request.Owner); });
   std::int32_t result = 0;

@@ -1,4 +1,5 @@
 // The public service: its settings, the order of what it does with a dialog, captions, modes, results and failures.
+#include "tests/support/ModelMap.h"
 #include "tests/support/PageHostTest.h"
 
 namespace orx::test {
@@ -21,7 +22,13 @@ class Service : public PageHostTest {
             {"frmCoordinates", "Properties",
              [this](const std::string& c, ShowMode m) { return service.ShowCoordinates(&object, c, m); }},
             {"frmLegend", "Map Annotation Properties",
-             [this](const std::string& c, ShowMode m) { return service.ShowLegends(&object, 0, c, m); }}};
+             [this](const std::string& c, ShowMode m) { return service.ShowLegends(&object, 0, c, m); }},
+            {"frmSettings", "Properties",
+             [this](const std::string& c, ShowMode m) { return service.Show(&object, 0, c, m); }},
+            {"frmMapSettings", "Map Layer Properties",
+             [this](const std::string& c, ShowMode m) { return service.Show(&layers, 0, c, m); }},
+            {"frmDataDialog", "Data Classify",
+             [this](const std::string& c, ShowMode m) { return service.ShowDataProperties(&object, c, m); }}};
   }
 
   /// The captions that the user sees when each member is called with that caption.
@@ -36,6 +43,9 @@ class Service : public PageHostTest {
     }
     return captions;
   }
+
+  ModelMap map;
+  ModelLayers layers{map};
 };
 
 TEST_F(Service, StartsWithoutSettings) {
@@ -107,18 +117,19 @@ TEST_F(Service, TheLegendDialogGetsTheCallBackFirstAndTheIndexBeforeTheContents)
 }
 
 TEST_F(Service, BlankCaptionsLeaveTheDesignedOnes) {
-  const std::vector<std::string> designed{"Layer Properties", "Properties", "Properties", "Map Annotation Properties"};
+  std::vector<std::string> designed;
+  for (const Entry& member : Members()) designed.push_back(member.Caption);
   EXPECT_EQ(designed, CaptionsFor(""));
   EXPECT_EQ(designed, CaptionsFor("   "));
 }
 
 TEST_F(Service, CaptionsKeepTheirBlanks) {
-  EXPECT_EQ((std::vector<std::string>(4, " Rivers ")), CaptionsFor(" Rivers "));
+  EXPECT_EQ((std::vector<std::string>(Members().size(), " Rivers ")), CaptionsFor(" Rivers "));
 }
 
 TEST_F(Service, ACaptionWinsOverTheTranslatedOne) {
   service.Language(&language);
-  EXPECT_EQ((std::vector<std::string>(4, "Fl\u00fcsse")), CaptionsFor("Fl\u00fcsse"));
+  EXPECT_EQ((std::vector<std::string>(Members().size(), "Fl\u00fcsse")), CaptionsFor("Fl\u00fcsse"));
 }
 
 TEST_F(Service, EachMemberReturnsMinusOneForChangedAndZeroForNot) {
