@@ -1,37 +1,20 @@
 #include "forms/ListBox.h"
 
-#include <QAbstractListModel>
 #include <QListView>
 
 #include "desktops/qt/Peers.h"
-#include "desktops/qt/Text.h"
+#include "desktops/qt/RowModel.h"
 
 namespace orx::qt {
 namespace {
 
-/// Reads the entries from the control when the view wants to show them.
-class Entries final : public QAbstractListModel {
+class Entries final : public RowModel<ListBox> {
  public:
-  explicit Entries(const ListBox& control, QObject* parent) : QAbstractListModel(parent), mControl(&control) {}
-
-  int rowCount(const QModelIndex& parent) const override {
-    return mControl && !parent.isValid() ? mControl->ListCount() : 0;
-  }
-  QVariant data(const QModelIndex& index, int role) const override {
-    if (!mControl || role != Qt::DisplayRole || index.row() >= mControl->ListCount()) return {};
-    return ToQt(mControl->List(index.row()));
-  }
-  void Renew() {
-    beginResetModel();
-    endResetModel();
-  }
-  void Forget() {
-    mControl = nullptr;
-    Renew();
-  }
+  using RowModel::RowModel;
 
  private:
-  const ListBox* mControl;
+  int Count(const ListBox& control) const override { return control.ListCount(); }
+  const std::string& Text(const ListBox& control, int row) const override { return control.List(row); }
 };
 
 class ListBoxPeer final : public Peer {

@@ -1,6 +1,5 @@
 #include "forms/TreeList.h"
 
-#include <QAbstractListModel>
 #include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,6 +7,7 @@
 #include <QStyledItemDelegate>
 
 #include "desktops/qt/Peers.h"
+#include "desktops/qt/RowModel.h"
 #include "desktops/qt/Text.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
@@ -19,37 +19,23 @@ namespace {
 constexpr int kRowGap = 60;
 constexpr int kLevelWidth = 240;
 
-/// Reads the rows that can be seen from the control when the view wants to show them.
-class ShownRows final : public QAbstractListModel {
+class ShownRows final : public RowModel<TreeList> {
  public:
-  ShownRows(const TreeList& control, QObject* parent) : QAbstractListModel(parent), mControl(&control) {}
+  using RowModel::RowModel;
 
-  int rowCount(const QModelIndex& parent) const override {
-    return mControl && !parent.isValid() ? mControl->ShownCount() : 0;
-  }
-  QVariant data(const QModelIndex& index, int role) const override {
-    const TreeRow* const row = At(index);
-    return row && role == Qt::DisplayRole ? ToQt(row->Text) : QVariant();
-  }
   /// Null when the control has let the view go.
   const TreeRow* At(const QModelIndex& index) const {
-    if (!mControl || index.row() < 0 || index.row() >= mControl->ShownCount()) return nullptr;
-    return &mControl->Row(mControl->ShownRow(index.row()));
+    return Holds(index) ? &Source().Row(Source().ShownRow(index.row())) : nullptr;
   }
   bool HasChildren(const QModelIndex& index) const {
-    return At(index) && mControl->HasChildren(mControl->ShownRow(index.row()));
-  }
-  void Renew() {
-    beginResetModel();
-    endResetModel();
-  }
-  void Forget() {
-    mControl = nullptr;
-    Renew();
+    return Holds(index) && Source().HasChildren(Source().ShownRow(index.row()));
   }
 
  private:
-  const TreeList* mControl;
+  int Count(const TreeList& control) const override { return control.ShownCount(); }
+  const std::string& Text(const TreeList& control, int row) const override {
+    return control.Row(control.ShownRow(row)).Text;
+  }
 };
 
 /// Paints a row with its mark for folding, in the look of the platform.

@@ -6,28 +6,11 @@
 #include "forms/TreeList.h"
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/SampleMap.h"
-#include "maplibrary/TextLanguage.h"
-#include "maplibrary/Trimmed.h"
+#include "tests/maplibrary/pages/CheckedLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
 
 namespace orx::test {
 namespace {
-
-/// Asks a language, and keeps the keys that it has no text for.
-class MissingTexts final : public maplibrary::FormLanguage {
- public:
-  explicit MissingTexts(maplibrary::TextLanguage& language) : mLanguage(language) {}
-  std::int32_t EntryCount() override { return mLanguage.EntryCount(); }
-  std::string TranslateText(const std::string& key) override {
-    if (!mLanguage.HasText(std::string(maplibrary::Trimmed(key))) && !key.starts_with('_')) Missing.insert(key);
-    return mLanguage.TranslateText(key);
-  }
-
-  std::set<std::string> Missing;
-
- private:
-  maplibrary::TextLanguage& mLanguage;
-};
 
 class MapLibraryLayerDialogs : public PagesTest {
  protected:
@@ -57,7 +40,7 @@ class MapLibraryLayerDialogs : public PagesTest {
 };
 
 TEST_F(MapLibraryLayerDialogs, EveryTextIsInTheGermanFile) {
-  MissingTexts checked(german);
+  CheckedLanguage checked(german);
   OnEachTab(&checked, [] {});
   EXPECT_EQ(std::set<std::string>{}, checked.Missing);
 }

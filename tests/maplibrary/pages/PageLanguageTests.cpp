@@ -5,9 +5,9 @@
 #include "forms/FieldTexts.h"
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"
-#include "maplibrary/Trimmed.h"
 #include "maplibrary/pages/PageTexts.h"
 #include "service/modMainDialogs.h"
+#include "tests/maplibrary/pages/CheckedLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
 #include "tests/support/RecordedData.h"
 #include "tests/support/RecordedGrid.h"
@@ -17,22 +17,6 @@ namespace {
 
 using maplibrary::PseudoLanguage;
 using maplibrary::TextLanguage;
-
-/// Asks a language, and keeps the keys that it has no text for.
-class CheckedLanguage final : public maplibrary::FormLanguage {
- public:
-  explicit CheckedLanguage(TextLanguage& language) : mLanguage(language) {}
-  std::int32_t EntryCount() override { return mLanguage.EntryCount(); }
-  std::string TranslateText(const std::string& key) override {
-    if (!mLanguage.HasText(std::string(maplibrary::Trimmed(key))) && !key.starts_with('_')) Missing.insert(key);
-    return mLanguage.TranslateText(key);
-  }
-
-  std::set<std::string> Missing;
-
- private:
-  TextLanguage& mLanguage;
-};
 
 struct Dialog {
   const char* Form;
