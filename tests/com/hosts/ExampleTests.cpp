@@ -81,13 +81,17 @@ TEST_F(Examples, AScriptHasItsLayersMovedRemovedAndEdited) {
   ASSERT_TRUE(manager) << script.Output();
   const HWND list = ControlNamed(manager, L"sftLayers");
   ASSERT_TRUE(list);
-  EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 4);
+  const auto rows = [list] { return SendMessageW(list, LVM_GETITEMCOUNT, 0, 0); };
+  const auto selected = [list] { return SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED); };
+  EXPECT_EQ(rows(), 4);
   // From the row of the collection to the second layer, which goes up; the layer behind it goes.
   for (int row = 0; row < 2; ++row) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
+  EXPECT_EQ(selected(), 2);
   Click(ControlNamed(manager, L"cmdUp"));
+  EXPECT_TRUE(script.WaitFor([&] { return selected() == 1; }));
   SendMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
   Click(ControlNamed(manager, L"cmdRemove"));
-  EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 3);
+  EXPECT_TRUE(script.WaitFor([&] { return rows() == 3 && selected() == 1; }));
   SendMessageW(ControlNamed(manager, L"txtName"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Streams"));
   Click(ControlNamed(manager, L"cmdOK"));
   const HWND settings = script.WaitForWindow(L"Settings of a script");

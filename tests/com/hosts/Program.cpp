@@ -109,6 +109,15 @@ HWND Program::WaitForWindow(const std::wstring& title) const {
   return search.Found;
 }
 
+bool Program::WaitFor(const std::function<bool()>& isSo) const {
+  bool came = false;
+  Await([&] {
+    came = isSo();
+    return came || HasEnded();
+  });
+  return came;
+}
+
 int Program::Wait() {
   const auto patience = static_cast<DWORD>(std::chrono::milliseconds(kPatience).count());
   if (WaitForSingleObject(mProcess.hProcess, patience) != WAIT_OBJECT_0) return -1;

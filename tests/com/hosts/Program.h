@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <thread>
 
@@ -20,6 +21,8 @@ class Program {
   /// Waits for a visible window of the program with that title and gives it; null when the program ends before or does
   /// not show one in time.
   HWND WaitForWindow(const std::wstring& title) const;
+  /// Waits until something has come about; false when it does not in time, or the program ends before.
+  bool WaitFor(const std::function<bool()>& isSo) const;
   /// Waits for the end; the exit code, or -1 when it takes too long.
   int Wait();
   /// What was printed; complete after Wait.
