@@ -188,8 +188,10 @@ bool frmMapSettings::ShowSelection(int row) {
 void frmMapSettings::SelectRow(int row) {
   // The list shows the row already when the events are let through.
   ShowSelection(row);
+  const int turn = ++mSelections;
   OwnerDesktop().ProcessPendingEvents();
-  if (!IsLoaded()) return;
+  // What the user has done meanwhile counts: another row was selected, or the window is closed.
+  if (!IsLoaded() || turn != mSelections) return;
   mSelectedLayer = 0;
   if (ShowSelection(row)) {
     TakeObject();

@@ -89,6 +89,8 @@ class frmMapSettings final : public PropertyDialog {
   IMap* mCurrentMap = nullptr;
   std::int32_t mSelectedLayer = 0;
   int mSelectedRow = 0;
+  /// How often a row was selected.
+  int mSelections = 0;
   bool mListChanged = false;
   bool mLastChange = false;
   /// True while the form itself moves the selection.

@@ -91,8 +91,14 @@ TEST_F(Examples, AScriptHasItsLayersMovedRemovedAndEdited) {
   EXPECT_TRUE(script.WaitFor([&] { return selected() == 1; }));
   SendMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
   Click(ControlNamed(manager, L"cmdRemove"));
-  EXPECT_TRUE(script.WaitFor([&] { return rows() == 3 && selected() == 1; }));
-  SendMessageW(ControlNamed(manager, L"txtName"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Streams"));
+  const HWND name = ControlNamed(manager, L"txtName");
+  const auto named = [name] {
+    wchar_t text[50] = {};
+    SendMessageW(name, WM_GETTEXT, 50, reinterpret_cast<LPARAM>(text));
+    return std::wstring(text);
+  };
+  EXPECT_TRUE(script.WaitFor([&] { return rows() == 3 && selected() == 1 && named() == L"Rivers"; }));
+  SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Streams"));
   Click(ControlNamed(manager, L"cmdOK"));
   const HWND settings = script.WaitForWindow(L"Settings of a script");
   ASSERT_TRUE(settings) << script.Output();
