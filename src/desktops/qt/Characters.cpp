@@ -12,8 +12,17 @@ namespace {
 
 /// Fonts of signs keep them in a private range, under the codes.
 constexpr char32_t kSigns = 0xF000;
+/// In front of it other fonts have something else in that range.
+constexpr int kFirstSign = 0x20;
 
 }  // namespace
+
+std::optional<char32_t> CharacterFor(int code, const std::function<bool(char32_t)>& isInFont) {
+  const char32_t letter = AnsiCharacter(code);
+  if (isInFont(letter)) return letter;
+  const char32_t sign = kSigns + static_cast<char32_t>(code);
+  return code >= kFirstSign && isInFont(sign) ? std::optional(sign) : std::nullopt;
+}
 
 CharacterFont::CharacterFont(const Font& face, const QFont& dialogFont)
     : mFace(face),
@@ -21,11 +30,9 @@ CharacterFont::CharacterFont(const Font& face, const QFont& dialogFont)
 }
 
 quint32 CharacterFont::GlyphOf(int code) const {
-  const char32_t sign = kSigns + static_cast<char32_t>(code);
-  for (const char32_t character : {AnsiCharacter(code), sign})
-    if (mRaw.supportsCharacter(static_cast<uint>(character)))
-      return mRaw.glyphIndexesForString(QString::fromUcs4(&character, 1)).value(0);
-  return 0;
+  const auto isInFont = [this](char32_t character) { return mRaw.supportsCharacter(static_cast<uint>(character)); };
+  const std::optional<char32_t> character = CharacterFor(code, isInFont);
+  return character ? mRaw.glyphIndexesForString(QString::fromUcs4(&*character, 1)).value(0) : 0;
 }
 
 Size CharacterFont::Measure(int code) const {

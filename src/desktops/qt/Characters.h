@@ -3,12 +3,17 @@
 
 #include <QFont>
 #include <QRawFont>
+#include <functional>
+#include <optional>
 
 #include "forms/Canvas.h"
 
 class QPainter;
 
 namespace orx::qt {
+
+/// The character that a font has under a code: the letter, else the sign in the private range; none without both.
+std::optional<char32_t> CharacterFor(int code, const std::function<bool(char32_t)>& isInFont);
 
 /// A font with its characters under single-byte codes. No other font lends it a character that it lacks: its sign for
 /// missing ones stands in.
