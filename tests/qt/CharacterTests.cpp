@@ -60,6 +60,13 @@ TEST_F(QtCharacters, TheSelectedCellHasTheColorOfSelections) {
   EXPECT_EQ(Known(SystemColor::Window), PixelIn('A'));
 }
 
+TEST_F(QtCharacters, AssistiveSoftwareReadsTheSelectedCharacter) {
+  picker->Show(ShowMode::Modeless);
+  EXPECT_EQ("Selected character: 65", Native<QWidget>(picker->picFont).accessibleName());
+  picker->picFont.UserMouseDown(CharacterGrid(desktop().Scale()).PlaceOf('L'));
+  EXPECT_EQ("Selected character: 76", Native<QWidget>(picker->picFont).accessibleName());
+}
+
 TEST_F(QtCharacters, LettersStandUnderTheirCodesAndSpacesShowNothing) {
   picker->Show(ShowMode::Modeless);
   const QImage grid = Grid();
