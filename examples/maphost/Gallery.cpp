@@ -47,8 +47,8 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     photographer.Take(*window);
     for (orx::Button* button :
          {&window->cmdManager, &window->cmdSettings, &window->cmdData, &window->cmdProperties, &window->cmdLabels,
-          &window->cmdCoordinates, &window->cmdLegends, &window->cmdClassify, &window->cmdOptions, &window->cmdShade,
-          &window->cmdIsolines, &window->cmdColors, &window->cmdGeoreference, &window->cmdLost})
+          &window->cmdSymbol, &window->cmdCoordinates, &window->cmdLegends, &window->cmdClassify, &window->cmdOptions,
+          &window->cmdShade, &window->cmdIsolines, &window->cmdColors, &window->cmdGeoreference, &window->cmdLost})
       button->UserPress();
   }
   window->UserClose();

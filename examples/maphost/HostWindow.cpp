@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "hostobjects/IData.h"
+#include "maplibrary/CharacterText.h"
 #include "maplibrary/DrawMap.h"
 #include "service/modMainDialogs.h"
 
@@ -32,6 +33,7 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
   cmdLegends.Click = [this] { cmdLegends_Click(); };
   cmdGeoreference.Click = [this] { cmdGeoreference_Click(); };
+  cmdSymbol.Click = [this] { cmdSymbol_Click(); };
   cmdClassify.Click = [this] { cmdClassify_Click(); };
   cmdOptions.Click = [this] { cmdOptions_Click(); };
   cmdShade.Click = [this] { ShowGridDialog("Relief shading", orx::modMain::ShowShadeDialog); };
@@ -78,7 +80,7 @@ void HostWindow::FillLanguages() {
 
 void HostWindow::EnableDialogs() {
   orx::HostObject* const object = Chosen().Object;
-  cmdProperties.Enabled(QueryKind<orx::ILayer>(object) != nullptr);
+  for (orx::Button* button : {&cmdProperties, &cmdSymbol}) button->Enabled(QueryKind<orx::ILayer>(object) != nullptr);
   cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
   for (orx::Button* button : {&cmdData, &cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines})
     button->Enabled(ChosenData() != nullptr);
@@ -101,9 +103,9 @@ void HostWindow::Form_Resize() {
   stack(cboLayer, 360, 240);
   constexpr int kGap = 90;
   constexpr int kButtonHeight = 420;
-  orx::Button* const buttons[] = {&cmdManager, &cmdSettings, &cmdProperties,   &cmdLabels,   &cmdCoordinates,
-                                  &cmdData,    &cmdClassify, &cmdOptions,      &cmdShade,    &cmdIsolines,
-                                  &cmdLegends, &cmdColors,   &cmdGeoreference, &cmdAddLayer, &cmdLost};
+  orx::Button* const buttons[] = {
+      &cmdManager, &cmdSettings, &cmdProperties, &cmdLabels,  &cmdSymbol, &cmdCoordinates,  &cmdData,     &cmdClassify,
+      &cmdOptions, &cmdShade,    &cmdIsolines,   &cmdLegends, &cmdColors, &cmdGeoreference, &cmdAddLayer, &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
   for (orx::Button* const button : buttons) {
@@ -151,6 +153,23 @@ void HostWindow::cmdGeoreference_Click() {
   const std::int32_t result = mDialogs.ShowGeoReference(&mMap, orx::CheckState::Grayed, "0.0000", {}, {this, 0});
   mLog.Write(std::string("Georeference: ") + (result != 0 ? "done (" : "failed (") + std::to_string(result) + ")");
   Redraw();
+}
+
+void HostWindow::cmdSymbol_Click() {
+  const Choice choice = Chosen();
+  auto& layer = *QueryKind<orx::ILayer>(choice.Object);
+  const std::int32_t before = layer.SymbolCharacter();
+  std::string font = layer.SymbolFont();
+  std::int32_t code = orx::maplibrary::FontCode(before);
+  double rotation = layer.SymbolRotation();
+  bool changed = false;
+  mDialogs.ShowCharacterSelection(font, code, rotation, changed, {}, {this, 0});
+  if (changed) {
+    layer.SymbolFont(font);
+    layer.SymbolCharacter(orx::maplibrary::CharacterOf(code, before));
+    layer.SymbolRotation(rotation);
+  }
+  Report("Symbol of " + choice.Name, changed ? -1 : 0);
 }
 
 orx::HostObject* HostWindow::ChosenData() const {

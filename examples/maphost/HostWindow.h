@@ -30,6 +30,8 @@ class HostWindow final : public orx::Form {
   orx::Button cmdData{*this, "cmdData", {.Caption = "Da&ta..."}};
   orx::Button cmdProperties{*this, "cmdProperties", {.Caption = "&Properties..."}};
   orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
+  orx::Button cmdSymbol{
+      *this, "cmdSymbol", {.Caption = "Sym&bol...", .ToolTipText = "Picks the character that marks points"}};
   orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
   orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "Le&gends..."}};
   orx::Button cmdGeoreference{
@@ -74,6 +76,7 @@ class HostWindow final : public orx::Form {
   void cmdSettings_Click();
   void cmdLegends_Click();
   void cmdGeoreference_Click();
+  void cmdSymbol_Click();
   void cmdClassify_Click();
   void cmdOptions_Click();
   using GridDialog = bool (*)(orx::Desktop&, orx::HostObject*, bool&, orx::ILanguage*);

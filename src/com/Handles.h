@@ -6,6 +6,7 @@
 
 #include <oleauto.h>
 
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -124,6 +125,10 @@ class Variant : public VARIANT {
   explicit Variant(IDispatch* object) : Variant() {
     pdispVal = ComPtr<IDispatch>(object).Detach();
     vt = VT_DISPATCH;
+  }
+  Variant(const Variant& other) : Variant() {
+    // Some of the platform's headers take the source without const.
+    if (FAILED(VariantCopy(this, const_cast<Variant*>(&other)))) throw std::bad_alloc();
   }
   Variant(Variant&& other) noexcept : VARIANT(other) { VariantInit(&other); }
   Variant& operator=(Variant&& other) noexcept {

@@ -221,11 +221,27 @@ HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFil
   });
 }
 
-// The members below have no dialog yet.
-
-HRESULT MapDialogs::ShowCharacterSelection(BSTR*, long*, double*, VARIANT_BOOL*, BSTR*, VARIANT*, long*) noexcept {
-  return E_NOTIMPL;
+HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, double* mRotation, VARIANT_BOOL* mChanged,
+                                           BSTR* mCaption, VARIANT* OwnerForm, long* result) noexcept {
+  if (!mFontName || !mCharacter || !mRotation || !mChanged || !result) return E_POINTER;
+  *result = 0;
+  return Guarded(kDialogsSource, [&] {
+    std::string font = TextOf(*mFontName);
+    std::int32_t character = *mCharacter;
+    double rotation = *mRotation;
+    bool isChanged = *mChanged != VARIANT_FALSE;
+    const std::string before = font;
+    const ComPtr<IDispatch> self(this);
+    *result = mService.ShowCharacterSelection(font, character, rotation, isChanged,
+                                              mCaption ? TextOf(*mCaption) : std::string(), OwnerOf(OwnerForm));
+    if (font != before) SysFreeString(std::exchange(*mFontName, Bstr(font).Detach()));
+    *mCharacter = character;
+    *mRotation = rotation;
+    *mChanged = isChanged ? VARIANT_TRUE : VARIANT_FALSE;
+  });
 }
+
+// The member below has no dialog yet.
 
 HRESULT MapDialogs::ShowListSelection(SAFEARRAY**, VARIANT_BOOL*, long*, BSTR*, VARIANT_BOOL*, BSTR*, SAFEARRAY**,
                                       long*) noexcept {

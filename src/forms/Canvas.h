@@ -59,8 +59,23 @@ struct FocusMark {
   bool operator==(const FocusMark&) const = default;
 };
 
+/// One character of a font by its single-byte code, from 0 to 255, in the cell behind it.
+struct CharacterMark {
+  /// The upper left corner of the character.
+  Point Place;
+  int Code = 0;
+  /// A face name that is longer than kLongestFaceName names no font: the character has the one that the painter starts
+  /// with.
+  Font Face;
+  Color Ink;
+  /// Filled before the character is drawn; a cell without width is not.
+  Rect Cell = {};
+  Color Ground = {};
+  bool operator==(const CharacterMark&) const = default;
+};
+
 /// One piece of a drawing.
-using Mark = std::variant<FillMark, LineMark, TextMark, ImageMark, FocusMark>;
+using Mark = std::variant<FillMark, LineMark, TextMark, ImageMark, FocusMark, CharacterMark>;
 
 /// What was drawn, oldest mark first. Places are in pixels from the upper left corner.
 class Canvas {
@@ -71,6 +86,8 @@ class Canvas {
   void Draw(Mark mark);
   /// Draws the focus rectangle, or takes it away again when it stands at that place already.
   void ToggleFocus(const Rect& place);
+  /// Draws a character on top, in place of the one that was drawn at that place before.
+  void Redraw(const CharacterMark& character);
 
  private:
   std::vector<Mark> mMarks;

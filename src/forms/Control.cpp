@@ -40,6 +40,10 @@ void Control::Caption(const std::string& value) {
   if (mDesign.Caption == value) return;
   mDesign.Caption = value;
   Changed(Aspect::Text);
+  // The control behind a label has its name from it.
+  const std::vector<Control*>& siblings = mParent.Children();
+  const auto self = std::find(siblings.begin(), siblings.end(), this);
+  if (self != siblings.end() && self + 1 != siblings.end()) (*(self + 1))->Changed(Aspect::Accessible);
 }
 
 void Control::Place(const Rect& value) {

@@ -5,6 +5,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "forms/Appearance.h"
@@ -66,6 +67,12 @@ class Desktop {
   /// Lengths converted by the scale, rounded to the nearest.
   int ToPixels(int twips) const;
   int ToTwips(int pixels) const;
+  /// The face names of the fonts for the screen, in the system's order.
+  virtual std::vector<std::string> ScreenFonts() const = 0;
+  /// A colour of the user's scheme.
+  virtual Color SystemColor(orx::SystemColor which) const = 0;
+  /// The width and height in pixels that a CharacterMark with this font and code takes.
+  virtual Size MeasureCharacter(const Font& face, int code) const = 0;
   /// The separators of the user's locale.
   virtual numbers::Separators Separators() const = 0;
   /// Where settings are kept between runs; lives as long as the desktop.

@@ -40,4 +40,13 @@ bool BeginsWith(std::string_view text, std::u32string_view start) {
   return true;
 }
 
+bool EqualInAnyCase(std::string_view one, std::string_view other) {
+  while (!one.empty() && !other.empty()) {
+    if (LowerCase(FirstCharacter(one)) != LowerCase(FirstCharacter(other))) return false;
+    one.remove_prefix(std::min(LengthOf(one), one.size()));
+    other.remove_prefix(std::min(LengthOf(other), other.size()));
+  }
+  return one.empty() && other.empty();
+}
+
 }  // namespace orx

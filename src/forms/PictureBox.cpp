@@ -1,6 +1,7 @@
 #include "forms/PictureBox.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/ControlVisitor.h"
 #include "forms/Desktop.h"
@@ -22,6 +23,14 @@ void Canvas::ToggleFocus(const Rect& place) {
   }
 }
 
+void Canvas::Redraw(const CharacterMark& character) {
+  std::erase_if(mMarks, [&](const Mark& mark) {
+    const auto* const drawn = std::get_if<CharacterMark>(&mark);
+    return drawn && drawn->Place == character.Place;
+  });
+  mMarks.push_back(character);
+}
+
 void PictureBox::BackColor(Color value) {
   if (mBackColor == value) return;
   mBackColor = value;
@@ -35,10 +44,28 @@ Color PictureBox::ShownBackColor() const {
   return {paled(mBackColor.Red), paled(mBackColor.Green), paled(mBackColor.Blue)};
 }
 
-void PictureBox::UserClick() {
+void PictureBox::UserMouseDown(Point at) {
+  mIsPressed = false;
   if (!TakesFocus()) return;
+  OwnerForm().UserAct([&] {
+    mIsPressed = OwnerForm().MoveFocus(*this);
+    if (mIsPressed) MouseDown.Raise(at);
+  });
+}
+
+void PictureBox::UserClick() {
+  if (!std::exchange(mIsPressed, false)) return;
   OwnerForm().UserAct([this] {
     if (OwnerForm().MoveFocus(*this)) Click.Raise();
+  });
+}
+
+void PictureBox::UserDoubleClick(Point at) {
+  if (!DblClick.HasHandler()) return UserMouseDown(at);
+  mIsPressed = false;
+  if (!TakesFocus()) return;
+  OwnerForm().UserAct([this] {
+    if (OwnerForm().MoveFocus(*this)) DblClick.Raise();
   });
 }
 

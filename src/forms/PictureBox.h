@@ -37,14 +37,23 @@ class PictureBox final : public Control {
   /// Brings the drawing to the screen.
   void Refresh();
 
-  /// Raised when the user clicks on a box that is used, and when he presses a key there, with the key's code. Keys that
-  /// belong to the dialog (Tab, Enter, Escape, all with Alt) do not come here.
+  /// Raised when the user presses the mouse on a box that is used, with the place in pixels from the upper left corner
+  /// of the drawing, and when he releases it there.
+  Event<Point> MouseDown;
   Event<> Click;
+  /// Raised when a press follows a click so soon that it makes a double click of it, in place of MouseDown and Click.
+  /// Without a handler the second press is one as any other.
+  Event<> DblClick;
+  /// Raised when the user presses a key there, with the key's code. Keys that belong to the dialog (Tab, Enter, Escape,
+  /// all with Alt) do not come here.
   Event<int> KeyDown;
 
   bool TakesFocus() const override { return mUse == PictureUse::Input; }
-  /// For desktops and test users: the user clicks, or presses a key while the focus is here. The focus comes here
-  /// first; when the field that loses it takes it back, the click is dropped.
+  /// For desktops and test users: the user presses the mouse at a pixel, for the second time of a double click, and
+  /// releases it in the box, or presses a key while the focus is here. With the press the focus comes here; when the
+  /// field that loses it takes it back, press and click are dropped.
+  void UserMouseDown(Point at);
+  void UserDoubleClick(Point at);
   void UserClick();
   void UserKeyDown(int keyCode);
   void Accept(ControlVisitor& visitor) override;
@@ -53,6 +62,8 @@ class PictureBox final : public Control {
   Color mBackColor;
   PictureUse mUse;
   bool mAutoRedraw = true;
+  /// The mouse was pressed here and not yet released.
+  bool mIsPressed = false;
   Canvas mDrawing;
 };
 

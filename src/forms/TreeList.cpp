@@ -33,12 +33,16 @@ void TreeList::Text(int row, const std::string& value) {
 }
 
 void TreeList::AddRow(TreeRow row) {
+  int parent = ListCount() - 1;
+  while (parent >= 0 && mRows[static_cast<std::size_t>(parent)].Level >= row.Level) parent = ParentOf(parent);
+  mParents.push_back(parent);
   mRows.push_back(std::move(row));
   RowsChanged();
 }
 
 void TreeList::Clear() {
   mRows.clear();
+  mParents.clear();
   mListIndex = -1;
   RowsChanged();
 }
@@ -52,13 +56,6 @@ void TreeList::Redraw(bool value) {
 
 bool TreeList::HasChildren(int row) const {
   return row + 1 < ListCount() && Row(row + 1).Level > Row(row).Level;
-}
-
-int TreeList::ParentOf(int row) const {
-  const int level = Row(row).Level;
-  while (--row >= 0)
-    if (Row(row).Level < level) return row;
-  return -1;
 }
 
 void TreeList::Expand(int row, bool expanded) {

@@ -49,7 +49,7 @@ class TreeList final : public Control {
   /// True when rows of a greater level follow.
   bool HasChildren(int row) const;
   /// The row that holds this one, -1 for the rows of the least level.
-  int ParentOf(int row) const;
+  int ParentOf(int row) const { return mParents.at(static_cast<std::size_t>(row)); }
   /// Shows or folds what the row holds. When the selected row is folded away, the row that was folded is selected.
   void Expand(int row, bool expanded);
 
@@ -100,6 +100,8 @@ class TreeList final : public Control {
   void Seek();
 
   std::vector<TreeRow> mRows;
+  /// The row that holds each row.
+  std::vector<int> mParents;
   int mListIndex = -1;
   bool mRedraw = true;
   int mPageRows = 10;

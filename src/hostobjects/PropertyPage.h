@@ -17,7 +17,9 @@ class ILanguage;
 /// The choice of a symbol: the page fills in the present one, the dialog the one chosen.
 struct CharacterRequest {
   std::string FontName;
+  /// The code of the character in its font, from 0 to 255.
   std::int32_t Character = 0;
+  /// In degrees.
   double Rotation = 0;
   bool Changed = false;
 };

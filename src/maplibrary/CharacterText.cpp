@@ -1,6 +1,19 @@
 #include "maplibrary/CharacterText.h"
 
+#include "forms/AnsiCharacters.h"
+
 namespace orx::maplibrary {
+namespace {
+
+constexpr std::int32_t kLastFontCode = 0xFF;
+/// Where fonts of signs have the sign with the code 0 in Unicode.
+constexpr std::int32_t kSigns = 0xF000;
+
+bool IsSign(std::int32_t character) {
+  return character >= kSigns && character <= kSigns + kLastFontCode;
+}
+
+}  // namespace
 
 bool IsCharacter(std::int32_t code) {
   const bool isControl = code < 0x20 || (code >= 0x7F && code < 0xA0);
@@ -17,6 +30,18 @@ std::string CharacterText(std::int32_t code) {
   if (c < 0x800) return {byte(0xC0 | c >> 6), tail(0)};
   if (c < 0x10000) return {byte(0xE0 | c >> 12), tail(6), tail(0)};
   return {byte(0xF0 | c >> 18), tail(12), tail(6), tail(0)};
+}
+
+std::int32_t FontCode(std::int32_t character) {
+  if (IsSign(character)) return character - kSigns;
+  return AnsiCode(static_cast<char32_t>(character)).value_or(kLastFontCode);
+}
+
+std::int32_t CharacterOf(std::int32_t fontCode, std::int32_t before) {
+  if (fontCode == FontCode(before) || fontCode < 0 || fontCode > kLastFontCode) return before;
+  const auto chosen = static_cast<std::int32_t>(AnsiCharacter(fontCode));
+  const std::int32_t character = IsSign(before) ? kSigns + fontCode : chosen;
+  return IsCharacter(character) ? character : before;
 }
 
 }  // namespace orx::maplibrary

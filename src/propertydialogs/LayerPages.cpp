@@ -23,6 +23,7 @@ LayerPages::LayerPages(IPageFactory& factory, TabControl& tabs, DialogForm& form
   for (std::size_t i = 0; i < mPages.size(); ++i)
     mPages[i] = RequirePage(factory, kPages[i].Kind,
                             {tabs.Page(static_cast<int>(i)), kPages[i].Name, {0, 0, size.Width, size.Height}});
+  AnswerCharacterRequest(Page(kProperties), form);
   AnswerDataRequests(Page(kData), form);
   AnswerGeoreferenceRequest(Page(kCoordinates), form);
 }

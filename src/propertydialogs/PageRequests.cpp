@@ -55,6 +55,12 @@ void AnswerDataRequests(PropertyPage& page, DialogForm& form) {
   };
 }
 
+void AnswerCharacterRequest(PropertyPage& page, DialogForm& form) {
+  page.CharacterRequested = [&form](CharacterRequest& request) {
+    modMain::ShowCharacterDialog(form.OwnerDesktop(), request, form.Language(), {&form, 0});
+  };
+}
+
 void AnswerGeoreferenceRequest(PropertyPage& page, DialogForm& form) {
   page.GeoreferenceRequested = [&form](GeoreferenceRequest& request) {
     // The routine tells whether it went well, also when the user has cancelled.

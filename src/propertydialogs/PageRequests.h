@@ -11,6 +11,9 @@ namespace orx {
 /// isolines, data style, colour schemes. The form, whose language they speak, must outlive the page.
 void AnswerDataRequests(PropertyPage& page, DialogForm& form);
 
+/// Answers the request of a page for the symbol of a layer.
+void AnswerCharacterRequest(PropertyPage& page, DialogForm& form);
+
 /// Answers the request of a page for the place of a map on the ground.
 void AnswerGeoreferenceRequest(PropertyPage& page, DialogForm& form);
 

@@ -34,8 +34,9 @@ bool IsBlankName(const std::string& name) {
 }
 
 /// The name of a layer, or what stands for it.
-std::string NameOr(const std::string& name, const char* otherwise, std::int32_t number) {
-  return IsBlankName(name) ? otherwise + std::to_string(number) : name;
+std::string NameOr(std::string name, const char* otherwise, std::int32_t number) {
+  if (IsBlankName(name)) name = otherwise + std::to_string(number);
+  return name;
 }
 
 class Flag {

@@ -126,6 +126,18 @@ std::int32_t CCommonMapDialogs::ShowGeoReference(HostObject* mObj, CheckState, c
   return modMain::ShowGeoreferenceDialog(mDesktop, mObj, mLanguage, OwnerForm) ? -1 : 0;
 }
 
+std::int32_t CCommonMapDialogs::ShowCharacterSelection(std::string& mFontName, std::int32_t& mCharacter,
+                                                       double& mRotation, bool& mChanged, const std::string&,
+                                                       OwnerWindow OwnerForm) {
+  CharacterRequest choice{mFontName, mCharacter, mRotation, mChanged};
+  const bool isDone = modMain::ShowCharacterDialog(mDesktop, choice, mLanguage, OwnerForm);
+  mFontName = std::move(choice.FontName);
+  mCharacter = choice.Character;
+  mRotation = choice.Rotation;
+  mChanged = choice.Changed;
+  return isDone ? -1 : 0;
+}
+
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
   return modDialog::ChooseFiles({mDesktop, hWnd, modDialog::FileKind::Layers, mLanguage}, Multiselect, Files);
 }

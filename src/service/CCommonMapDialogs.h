@@ -87,6 +87,13 @@ class CCommonMapDialogs {
                                 const std::string& mFormat = "0.0000", const std::string& mCaption = {},
                                 OwnerWindow OwnerForm = {});
 
+  /// Has the user choose a character of a font and an angle to turn it by. `mFontName` (a face name, UTF-8),
+  /// `mCharacter` (0 to 255) and `mRotation` (degrees) are what the dialog opens on. When one of them has changed, all
+  /// three become what the dialog has held, the angle whole degrees, and `mChanged` becomes true; else all four stay.
+  /// `mCaption` has no effect. -1 when no error has occurred, also when the user cancelled, else 0.
+  std::int32_t ShowCharacterSelection(std::string& mFontName, std::int32_t& mCharacter, double& mRotation,
+                                      bool& mChanged, const std::string& mCaption = {}, OwnerWindow OwnerForm = {});
+
   /// Has the user choose the files of new layers, several if wanted whatever `Multiselect` says; the dialog belongs to
   /// the window `hWnd` (HWND on Windows, WId on Qt; 0: none) and opens on the first of `Files`. True when files of an
   /// accepted type were chosen; `Files` then holds their full paths, UTF-8, else it is as it was.

@@ -14,7 +14,9 @@
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
 #include "hostobjects/RunTimeError.h"
+#include "numbers/Numbers.h"
 #include "pickers/frmGeoreference.h"
+#include "pickers/frmTrueType.h"
 #include "service/modDialog.h"
 
 namespace orx::modMain {
@@ -133,6 +135,26 @@ bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner) 
   if (!form) return false;
   trap.Step([&] { form->Language(language); });
   trap.Step([&] { form->Show(ShowMode::Modal, owner); });
+  const bool isDone = !trap.IsPending();
+  trap.Step([&] { form->Unload(); });
+  return isDone;
+}
+
+bool ShowCharacterDialog(Desktop& desktop, CharacterRequest& choice, ILanguage* language, OwnerWindow owner) noexcept {
+  ErrorTrap trap;
+  std::shared_ptr<frmTrueType> form;
+  trap.Step([&] { form = std::make_shared<frmTrueType>(desktop); });
+  if (!form) return false;
+  trap.Step([&] { form->Language(language); });
+  trap.Step([&] { form->SelFont(choice.FontName); });
+  trap.Step([&] { form->SelCharacter(choice.Character); });
+  trap.Step([&] { form->SelRotation(numbers::RoundToLong(choice.Rotation)); });
+  trap.Step([&] { form->Show(ShowMode::Modal, owner); });
+  trap.Step([&] {
+    const bool isSame = form->SelFont() == choice.FontName && form->SelCharacter() == choice.Character &&
+                        form->SelRotation() == choice.Rotation;
+    if (!isSame) choice = {form->SelFont(), form->SelCharacter(), static_cast<double>(form->SelRotation()), true};
+  });
   const bool isDone = !trap.IsPending();
   trap.Step([&] { form->Unload(); });
   return isDone;

@@ -9,6 +9,7 @@
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IFileCheck.h"
 #include "hostobjects/ILanguage.h"
+#include "hostobjects/PropertyPage.h"
 
 namespace orx {
 
@@ -60,6 +61,13 @@ void ShowDataStyleNotice(Desktop& desktop);
 
 /// Shows the window for colour schemes, modal, in that language. True when nothing has failed.
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner = {}) noexcept;
+
+/// Shows the dialog for a character of a font and its rotation, modal, in that language. A rotation goes in as whole
+/// degrees, halves to the even neighbour. When a value that comes back differs from the one in `choice`, also in the
+/// letter case of the font or by the fraction of a degree, all of them are taken over and Changed is set; else `choice`
+/// stays as it is. True when nothing has failed, also when the user has cancelled.
+bool ShowCharacterDialog(Desktop& desktop, CharacterRequest& choice, ILanguage* language,
+                         OwnerWindow owner = {}) noexcept;
 
 /// Shows the dialog that moves a map (an object with IMap) on the ground, modal, in that language, and writes the edges
 /// that come back from it. True when nothing has failed, also when the user has cancelled. A map whose extent cannot be

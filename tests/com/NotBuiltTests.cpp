@@ -11,8 +11,6 @@ struct Missing {
 };
 
 constexpr Missing kMissingDialogs[] = {
-    {"ShowCharacterSelection",
-     [](auto& d) { return d.ShowCharacterSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr); }},
     {"ShowListSelection",
      [](auto& d) {
        return d.ShowListSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);

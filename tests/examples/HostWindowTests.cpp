@@ -6,6 +6,7 @@
 #include "forms/TreeList.h"
 #include "maplibrary/MapText.h"
 #include "maplibrary/SampleMap.h"
+#include "pickers/CharacterGrid.h"
 #include "tests/files/FilesTest.h"
 #include "tests/support/DesktopTest.h"
 
@@ -229,9 +230,26 @@ TEST_F(ExamplesHost, TheMapIsGeoreferencedWhateverIsChosen) {
   EXPECT_NE(drawn, Drawn());
 }
 
+TEST_F(ExamplesHost, TheSymbolOfTheChosenLayerIsPickedAndDrawn) {
+  const std::string before = maplibrary::Serialise(*map);
+  script.ExpectForm("frmTrueType", [&](Form& shown) { Press(user, shown, "cmdOK"); });
+  Press(user, *window, "cmdSymbol");
+  EXPECT_EQ("Symbol of Terrain: not changed (0)", LastLine());
+  EXPECT_EQ(before, maplibrary::Serialise(*map));
+  const std::vector<Mark> drawn = Drawn();
+  script.ExpectForm("frmTrueType", [&](Form& shown) {
+    user.DoubleClickAt(Get<PictureBox>(shown, "picFont"), CharacterGrid(desktop().Scale()).PlaceOf(0xA4));
+  });
+  Press(user, *window, "cmdSymbol");
+  EXPECT_EQ("Symbol of Terrain: changed (-1)", LastLine());
+  EXPECT_EQ(0xA4, map->Layer(1)->SymbolCharacter());
+  EXPECT_NE(drawn, Drawn());
+}
+
 TEST_F(ExamplesHost, TheWholeMapHasCoordinatesAndLegendsOnly) {
   user.Choose(window->cboLayer, 0);
   EXPECT_FALSE(user.See(window->cmdProperties).Enabled);
+  EXPECT_FALSE(user.See(window->cmdSymbol).Enabled);
   EXPECT_FALSE(user.See(window->cmdLabels).Enabled);
   EXPECT_TRUE(user.See(window->cmdCoordinates).Enabled);
   EXPECT_TRUE(user.See(window->cmdLegends).Enabled);

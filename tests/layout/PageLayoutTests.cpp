@@ -67,6 +67,11 @@ class PageLayout : public PagesTest {
     modMain::ShowColorsDialog(desktop(), language);
     script.ExpectForm("frmGeoreference", lookAt);
     service.ShowGeoReference(&map);
+    for (const double rotation : {0.0, -360.0}) {
+      CharacterRequest choice{"Map Signs", 255, rotation};
+      script.ExpectForm("frmTrueType", lookAt);
+      modMain::ShowCharacterDialog(desktop(), choice, language);
+    }
     std::string found;
     bool cancelAll = false;
     script.ExpectForm("frmMsgBox", lookAt);

@@ -39,8 +39,19 @@ class HeadlessUser final : public User {
     if (box.IsReachable()) box.UserPick(index);
   }
 
-  void Click(PictureBox& box) override {
-    if (box.IsReachable()) box.UserClick();
+  void Click(PictureBox& box) override { ClickAt(box, {box.PixelSize().Width / 2, box.PixelSize().Height / 2}); }
+
+  void ClickAt(PictureBox& box, Point at) override {
+    if (!box.IsReachable()) return;
+    box.UserMouseDown(at);
+    box.UserClick();
+  }
+
+  void DoubleClickAt(PictureBox& box, Point at) override {
+    ClickAt(box, at);
+    if (!box.IsReachable()) return;
+    box.UserDoubleClick(at);
+    box.UserClick();
   }
 
   void PressKey(Form& form, int keyCode) override {

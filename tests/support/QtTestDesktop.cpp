@@ -151,6 +151,19 @@ class QtUser final : public User {
     if (CanReach(box)) MouseClick(PeerOf(box)->Widget());
   }
 
+  void ClickAt(PictureBox& box, Point at) override {
+    if (CanReach(box)) MouseClick(PeerOf(box)->Widget(), {at.X, at.Y});
+  }
+
+  void DoubleClickAt(PictureBox& box, Point at) override {
+    if (!CanReach(box)) return;
+    QWidget& widget = PeerOf(box)->Widget();
+    Activate(widget);
+    QWidget& window = *widget.window();
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       widget.mapTo(&window, QPoint(at.X, at.Y)));
+  }
+
   void PressKey(Form& form, int keyCode) override {
     QWidget& dialog = WindowOf(form);
     Activate(dialog);

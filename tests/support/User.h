@@ -57,6 +57,9 @@ class User {
   /// Goes to an entry by keys, from the first one on.
   virtual void Choose(ListBox& box, int index) = 0;
   virtual void Click(PictureBox& box) = 0;
+  /// Clicks at a pixel of the box, once or twice.
+  virtual void ClickAt(PictureBox& box, Point at) = 0;
+  virtual void DoubleClickAt(PictureBox& box, Point at) = 0;
   /// Presses a key where the focus is, by its code (forms/Keys.h).
   virtual void PressKey(Form& form, int keyCode) = 0;
   /// Clicks on a row that can be seen or scrolled to, or on the mark before it that folds it.

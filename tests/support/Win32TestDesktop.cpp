@@ -77,6 +77,15 @@ class Win32User final : public User {
     if (CanReach(box)) MouseClick(PeerOf(box)->Window());
   }
 
+  void ClickAt(PictureBox& box, Point at) override {
+    if (CanReach(box)) MouseClickAt(PeerOf(box)->Window(), {at.X, at.Y});
+  }
+
+  void DoubleClickAt(PictureBox& box, Point at) override {
+    ClickAt(box, at);
+    if (CanReach(box)) MouseClickAt(PeerOf(box)->Window(), {at.X, at.Y}, WM_LBUTTONDBLCLK);
+  }
+
   void PressKey(Form& form, int keyCode) override {
     if (!WindowOf(form)) return;
     Activate(WindowOf(form));
@@ -266,7 +275,7 @@ class Win32User final : public User {
   }
 
   /// Clicks through the top window, as the mouse does: what covers the window or is disabled gets in the way.
-  void MouseClickAt(HWND window, POINT at) {
+  void MouseClickAt(HWND window, POINT at, UINT press = WM_LBUTTONDOWN) {
     Activate(window);
     const HWND root = GetAncestor(window, GA_ROOT);
     POINT place = at;
@@ -275,7 +284,7 @@ class Win32User final : public User {
     if (!hit || !IsReallyEnabled(hit)) return;
     MapWindowPoints(root, hit, &place, 1);
     const LPARAM where = MAKELPARAM(place.x, place.y);
-    PostMessageW(hit, WM_LBUTTONDOWN, MK_LBUTTON, where);
+    PostMessageW(hit, press, MK_LBUTTON, where);
     mDesktop.ProcessPendingEvents();
     if (IsWindow(hit)) PostMessageW(hit, WM_LBUTTONUP, 0, where);
     mDesktop.ProcessPendingEvents();

@@ -56,6 +56,19 @@ std::vector<Rect> HeadlessDesktop::WorkAreas() const {
   return areas;
 }
 
+Color HeadlessDesktop::SystemColor(orx::SystemColor which) const {
+  switch (which) {
+    case orx::SystemColor::Window:
+    case orx::SystemColor::HighlightText:
+      return {255, 255, 255};
+    case orx::SystemColor::Highlight:
+      return {0, 120, 215};
+    case orx::SystemColor::WindowText:
+      break;
+  }
+  return {0, 0, 0};
+}
+
 std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
   return std::make_unique<HeadlessWindow>(*this, form);
 }

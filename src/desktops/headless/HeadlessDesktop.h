@@ -13,7 +13,11 @@ class HeadlessDesktop final : public Desktop {
 
   ScreenMetrics Metrics(BorderStyle border) const override;
   std::vector<Rect> WorkAreas() const override;
-  double Scale() const override { return 1; }
+  double Scale() const override { return mScale; }
+  std::vector<std::string> ScreenFonts() const override { return mScreenFonts; }
+  Color SystemColor(orx::SystemColor which) const override;
+  /// 16 pixels high, and as many wide as the code has over a multiple of 20: narrow, wide and without width.
+  Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
   numbers::Separators Separators() const override { return mSeparators; }
   SettingsStore& Settings() override { return mSettings; }
   void ProcessPendingEvents() override {}
@@ -23,6 +27,10 @@ class HeadlessDesktop final : public Desktop {
   /// Further screens beside the main one, by the places of their work areas in twips.
   void FurtherScreens(std::vector<Rect> value) { mFurtherScreens = std::move(value); }
   void Separators(const numbers::Separators& value) { mSeparators = value; }
+  /// Pixels in 15 twips; 1 unless set.
+  void Scale(double value) { mScale = value; }
+  /// The screen's fonts in place of a handful of well-known ones.
+  void ScreenFonts(std::vector<std::string> value) { mScreenFonts = std::move(value); }
 
  protected:
   std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
@@ -38,6 +46,8 @@ class HeadlessDesktop final : public Desktop {
   MemorySettings mSettings;
   numbers::Separators mSeparators;
   std::vector<Rect> mFurtherScreens;
+  std::vector<std::string> mScreenFonts{"System", "Courier", "Arial", "Courier New", "Symbol", "Times New Roman"};
+  double mScale = 1;
   Size mScreen{1920 * kTwipsPerPixel, 1080 * kTwipsPerPixel};
 };
 

@@ -3,7 +3,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QPolygonF>
+#include <optional>
 
+#include "desktops/qt/Characters.h"
 #include "desktops/qt/Text.h"
 
 namespace orx::qt {
@@ -53,9 +55,18 @@ class MarkPainter {
     mPainter.drawRect(RectOf(mark.Place).adjusted(0, 0, -1, -1));
   }
 
+  void operator()(const CharacterMark& mark) {
+    // Characters come by the hundred, all of one font.
+    if (!mCharacters || mCharacters->Face() != mark.Face) mCharacters.emplace(mark.Face, mDialogFont);
+    if (mark.Cell.Width > 0) mPainter.fillRect(RectOf(mark.Cell), ColorOf(mark.Ground));
+    mPainter.setPen(ColorOf(mark.Ink));
+    mCharacters->Draw(mPainter, mark.Place, mark.Code);
+  }
+
  private:
   QPainter& mPainter;
   const QFont& mDialogFont;
+  std::optional<CharacterFont> mCharacters;
 };
 
 }  // namespace

@@ -17,16 +17,18 @@ class NativePicture final : public QWidget {
  public:
   using QWidget::QWidget;
   std::function<void(QPainter&)> Paint;
+  std::function<void(QPoint)> Pressed;
+  std::function<void(QPoint)> DoublePressed;
   std::function<void()> Clicked;
   std::function<void(int)> KeyDown;
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override { mPressed = event->button() == Qt::LeftButton; }
+  void mousePressEvent(QMouseEvent* event) override { Press(*event, Pressed); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { Press(*event, DoublePressed); }
   void mouseReleaseEvent(QMouseEvent* event) override {
-    const bool isClick = std::exchange(mPressed, false) && event->button() == Qt::LeftButton;
-    // What the click sets off may take the functions away.
     const auto clicked = Clicked;
-    if (isClick && clicked && rect().contains(event->position().toPoint())) clicked();
+    const bool isClick = clicked && event->button() == Qt::LeftButton;
+    if (isClick && rect().contains(event->position().toPoint())) clicked();
   }
   void keyPressEvent(QKeyEvent* event) override {
     const auto keyDown = KeyDown;
@@ -40,7 +42,10 @@ class NativePicture final : public QWidget {
   }
 
  private:
-  bool mPressed = false;
+  /// What the press sets off may take the functions away.
+  static void Press(const QMouseEvent& event, std::function<void(QPoint)> pressed) {
+    if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint());
+  }
 };
 
 class PicturePeer final : public Peer {
@@ -51,11 +56,19 @@ class PicturePeer final : public Peer {
     mNative.Paint = [this](QPainter& painter) { Paint(painter); };
     if (!control.TakesFocus()) return;
     mNative.setFocusPolicy(Qt::TabFocus);
+    mNative.Pressed = [&control, &dialog](QPoint at) {
+      dialog.Report([&] { control.UserMouseDown({at.x(), at.y()}); });
+    };
+    mNative.DoublePressed = [&control, &dialog](QPoint at) {
+      dialog.Report([&] { control.UserDoubleClick({at.x(), at.y()}); });
+    };
     mNative.Clicked = [&control, &dialog] { dialog.Report([&] { control.UserClick(); }); };
     mNative.KeyDown = [&control, &dialog](int code) { dialog.Report([&] { control.UserKeyDown(code); }); };
   }
   ~PicturePeer() override {
     mNative.Paint = nullptr;
+    mNative.Pressed = nullptr;
+    mNative.DoublePressed = nullptr;
     mNative.Clicked = nullptr;
     mNative.KeyDown = nullptr;
   }

@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPalette>
 #include <QPixmap>
 #include <QScreen>
 #include <QStyle>
@@ -14,6 +16,7 @@
 #include <optional>
 
 #include "desktops/qt/Application.h"
+#include "desktops/qt/Characters.h"
 #include "desktops/qt/ColorDialog.h"
 #include "desktops/qt/DialogWindow.h"
 #include "desktops/qt/FileDialog.h"
@@ -48,6 +51,20 @@ void DeleteRetiredDialogs() {
 
 bool Save(QWidget& window, const std::string& pngPath) {
   return window.grab().save(ToQt(pngPath), "PNG");
+}
+
+QPalette::ColorRole RoleOf(SystemColor which) {
+  switch (which) {
+    case SystemColor::Window:
+      return QPalette::Base;
+    case SystemColor::Highlight:
+      return QPalette::Highlight;
+    case SystemColor::HighlightText:
+      return QPalette::HighlightedText;
+    case SystemColor::WindowText:
+      break;
+  }
+  return QPalette::Text;
 }
 
 Rect InTwips(const Desktop& desktop, const QRect& place) {
@@ -109,6 +126,22 @@ double QtDesktop::Scale() const {
     mState->MeasuredFont = font;
   }
   return mState->Scale;
+}
+
+std::vector<std::string> QtDesktop::ScreenFonts() const {
+  std::vector<std::string> names;
+  for (const QString& family : QFontDatabase::families()) names.push_back(FromQt(family));
+  return names;
+}
+
+Color QtDesktop::SystemColor(orx::SystemColor which) const {
+  const QColor color = QApplication::palette().color(QPalette::Active, RoleOf(which));
+  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+  return {part(color.red()), part(color.green()), part(color.blue())};
+}
+
+Size QtDesktop::MeasureCharacter(const Font& face, int code) const {
+  return CharacterFont(face, DialogFont()).Measure(code);
 }
 
 numbers::Separators QtDesktop::Separators() const {

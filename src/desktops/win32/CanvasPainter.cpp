@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
+#include "desktops/win32/Characters.h"
 #include "desktops/win32/Fonts.h"
 #include "desktops/win32/Handles.h"
 #include "desktops/win32/Text.h"
@@ -116,8 +118,19 @@ class MarkPainter {
     DrawFocusRect(mContext, &place);
   }
 
+  void operator()(const CharacterMark& mark) {
+    // Characters come by the hundred, all of one font.
+    if (mCharacterFace != mark.Face) {
+      mCharacterFont = MakeCharacterFont(mContext, mark.Face);
+      mCharacterFace = mark.Face;
+    }
+    DrawCharacter(mContext, mark, mCharacterFont.get());
+  }
+
  private:
   HDC mContext;
+  GdiObject<HFONT> mCharacterFont;
+  std::optional<Font> mCharacterFace;
 };
 
 }  // namespace
@@ -128,7 +141,7 @@ void FillWith(HDC context, const RECT& place, Color color) {
 }
 
 void PaintCanvas(HDC context, const Canvas& canvas) {
-  const MarkPainter paint(context);
+  MarkPainter paint(context);
   for (const Mark& mark : canvas.Marks()) {
     const int saved = SaveDC(context);
     std::visit(paint, mark);

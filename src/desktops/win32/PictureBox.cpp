@@ -8,6 +8,7 @@
 
 #include "desktops/win32/CanvasPainter.h"
 #include "desktops/win32/Peers.h"
+#include "desktops/win32/WindowClasses.h"
 
 namespace orx::win32 {
 namespace {
@@ -42,15 +43,18 @@ class PicturePeer final : public Peer {
   }
 
   static bool IsInput(UINT message) {
-    return message == WM_LBUTTONDOWN || message == WM_LBUTTONUP || message == WM_KEYDOWN ||
-           message == WM_CAPTURECHANGED;
+    return message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_LBUTTONUP ||
+           message == WM_KEYDOWN || message == WM_CAPTURECHANGED;
   }
 
   void TakeInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     PictureBox& control = mControl;
-    if (message == WM_LBUTTONDOWN) {
+    const Point at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+    if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) {
       SetCapture(window);
       mPressed = true;
+      // The last thing to do here: the press may take the window away.
+      Report([&] { message == WM_LBUTTONDOWN ? control.UserMouseDown(at) : control.UserDoubleClick(at); });
     } else if (message == WM_KEYDOWN) {
       Report([&] { control.UserKeyDown(static_cast<int>(wParam)); });
     } else if (std::exchange(mPressed, false) && message == WM_LBUTTONUP) {
@@ -58,7 +62,7 @@ class PicturePeer final : public Peer {
       RECT all;
       GetClientRect(window, &all);
       // A release outside of the box takes the press back.
-      if (PtInRect(&all, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)})) Report([&] { control.UserClick(); });
+      if (PtInRect(&all, {at.X, at.Y})) Report([&] { control.UserClick(); });
     }
   }
 
@@ -78,7 +82,8 @@ class PicturePeer final : public Peer {
 }  // namespace
 
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site) {
-  return std::make_unique<PicturePeer>(control, dialog, MakePane(control.TakesFocus() ? WS_TABSTOP : 0, site));
+  return std::make_unique<PicturePeer>(
+      control, dialog, MakeWindow(WindowClasses::kPicture, control.TakesFocus() ? WS_TABSTOP : 0, site));
 }
 
 }  // namespace orx::win32

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "desktops/win32/Characters.h"
 #include "desktops/win32/ColorDialog.h"
 #include "desktops/win32/DialogWindow.h"
 #include "desktops/win32/FileDialog.h"
@@ -111,6 +112,20 @@ std::vector<Rect> Win32Desktop::WorkAreas() const {
 
 double Win32Desktop::Scale() const {
   return mState->Scale;
+}
+
+std::vector<std::string> Win32Desktop::ScreenFonts() const {
+  return ScreenFontNames();
+}
+
+Color Win32Desktop::SystemColor(orx::SystemColor which) const {
+  const COLORREF color = GetSysColor(static_cast<int>(which));
+  return {GetRValue(color), GetGValue(color), GetBValue(color)};
+}
+
+Size Win32Desktop::MeasureCharacter(const Font& face, int code) const {
+  const GuestScope guest;
+  return CharacterSize(face, code);
 }
 
 numbers::Separators Win32Desktop::Separators() const {

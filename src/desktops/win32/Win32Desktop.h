@@ -22,6 +22,9 @@ class Win32Desktop final : public Desktop {
   ScreenMetrics Metrics(BorderStyle border) const override;
   std::vector<Rect> WorkAreas() const override;
   double Scale() const override;
+  std::vector<std::string> ScreenFonts() const override;
+  Color SystemColor(orx::SystemColor which) const override;
+  Size MeasureCharacter(const Font& face, int code) const override;
   numbers::Separators Separators() const override;
   SettingsStore& Settings() override;
   void ProcessPendingEvents() override;

@@ -16,10 +16,11 @@ LRESULT CALLBACK PaneProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
-void Register(const wchar_t* name, WNDPROC proc) {
+void Register(const wchar_t* name, WNDPROC proc, UINT style = 0) {
   WNDCLASSEXW made = {};
   made.cbSize = sizeof(made);
   made.lpszClassName = name;
+  made.style = style;
   made.lpfnWndProc = proc;
   made.hInstance = ThisModule();
   made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -34,6 +35,7 @@ WindowClasses::WindowClasses() {
   if (++theUsers > 1) return;
   Register(kDialog, &Dialog::WindowProc);
   Register(kPane, &PaneProc);
+  Register(kPicture, &PaneProc, CS_DBLCLKS);
 }
 
 WindowClasses::~WindowClasses() {
@@ -41,6 +43,7 @@ WindowClasses::~WindowClasses() {
   if (--theUsers > 0) return;
   UnregisterClassW(kDialog, ThisModule());
   UnregisterClassW(kPane, ThisModule());
+  UnregisterClassW(kPicture, ThisModule());
 }
 
 std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -22,8 +22,10 @@ class WindowClasses {
   WindowClasses(const WindowClasses&) = delete;
   WindowClasses& operator=(const WindowClasses&) = delete;
 
-  /// The class of dialogs, and that of all other windows that hold controls or are drawn by a peer.
+  /// The class of dialogs, that of pictures, which tell double clicks apart, and that of all other windows that hold
+  /// controls or are drawn by a peer.
   static constexpr wchar_t kDialog[] = L"OrvexMapDialogs2.Dialog";
+  static constexpr wchar_t kPicture[] = L"OrvexMapDialogs2.Picture";
   static constexpr wchar_t kPane[] = L"OrvexMapDialogs2.Pane";
 };
 

@@ -61,11 +61,12 @@ void PropertiesPage::WriteClient() {
 }
 
 void PropertiesPage::cmdCharacter_Click() {
-  CharacterRequest request{cboFont.Text(), mCharacter.Value(), mRotation.Value()};
+  const std::int32_t character = mCharacter.Value();
+  CharacterRequest request{cboFont.Text(), FontCode(character), mRotation.Value()};
   CharacterRequested.Raise(request);
   if (!request.Changed) return;
   cboFont.Text(request.FontName);
-  mCharacter.Value(request.Character);
+  mCharacter.Value(CharacterOf(request.Character, character));
   mRotation.Value(request.Rotation);
   ShowPreview();
 }

@@ -107,6 +107,32 @@ TEST_F(Examples, AScriptHasItsLayersMovedRemovedAndEdited) {
   EXPECT_EQ(script.Output(), Lines({"Layers: -1 Streams Relief", "Settings: 0 Streams Relief", "DONE"}));
 }
 
+TEST_F(Examples, AScriptIsGivenTheChosenCharacterInItsVariables) {
+  Program script(Script(L"symbol.vbs"));
+  const HWND picker = script.WaitForWindow(L"Pick True Type");
+  ASSERT_TRUE(picker) << script.Output();
+  SendMessageW(ControlNamed(picker, L"txtRot"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"-45.5"));
+  const HWND grid = ControlNamed(picker, L"picFont");
+  RECT all = {};
+  GetClientRect(grid, &all);
+  ASSERT_GT(all.right, 0);
+  // The first cell of the fifth row; a row has twenty cells and a margin of half a cell on each side.
+  SendMessageW(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(all.right / 20, all.right * 97 / 398));
+  SendMessageW(grid, WM_LBUTTONUP, 0, MAKELPARAM(all.right / 20, all.right * 97 / 398));
+  // When this is back, the first dialog is hidden; the next one has the same title.
+  SendMessageW(ControlNamed(picker, L"cmdOK"), BM_CLICK, 0, 0);
+  const HWND again = script.WaitForWindow(L"Pick True Type");
+  ASSERT_TRUE(again) << script.Output();
+  wchar_t text[20] = {};
+  SendMessageW(ControlNamed(again, L"txtRot"), WM_GETTEXT, 20, reinterpret_cast<LPARAM>(text));
+  EXPECT_STREQ(text, L"-46");
+  SendMessageW(ControlNamed(again, L"picFont"), WM_KEYDOWN, VK_RIGHT, 1);
+  Click(ControlNamed(again, L"cmdCancel"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"First: -1 True Symbols of a script 80 -46",
+                                    "Second: -1 False Symbols of a script 80 -46", "DONE"}));
+}
+
 TEST_F(Examples, AScriptIsGivenTheChosenFilesInItsVariables) {
   const TestFolder folder;
   folder.Add("a.shp");

@@ -172,15 +172,35 @@ TEST_F(MapLibraryPagesProperties, TheChoiceIsAskedForWithThePresentSymbolAndTake
   page->Page->CharacterRequested = [](CharacterRequest& request) {
     EXPECT_EQ("Map Signs", request.FontName);
     EXPECT_EQ('A', request.Character);
-    request = {"Wingdings", 0x2708, 90, true};
+    request = {"Wingdings", 0x80, 90, true};
   };
   page->Page->Client(&layer);
   page->Page->RefreshContents();
   page->Show(ShowMode::Modeless);
   Press("cmdCharacter");
-  EXPECT_EQ("✈ (U+2708)", Seen("txtCharacter"));
+  EXPECT_EQ("€ (U+20AC)", Seen("txtCharacter"));
   page->Page->SaveChanges();
-  EXPECT_EQ((Calls{"SymbolFont(Wingdings)", "SymbolCharacter(9992)", "SymbolRotation(90)"}), layer.Log.Calls);
+  EXPECT_EQ((Calls{"SymbolFont(Wingdings)", "SymbolCharacter(8364)", "SymbolRotation(90)"}), layer.Log.Calls);
+  page->Unload();
+}
+
+TEST_F(MapLibraryPagesProperties, ASymbolThatFontsHaveNoCodeForStaysUntilAnotherIsChosen) {
+  layer.HeldSymbolCharacter = 0x25B2;
+  std::int32_t answer = 255;
+  const auto page = MakePage(PageKind::Properties);
+  page->Page->CharacterRequested = [&answer](CharacterRequest& request) {
+    EXPECT_EQ(255, request.Character);
+    request = {"Wingdings", answer, request.Rotation, true};
+  };
+  page->Page->Client(&layer);
+  page->Page->RefreshContents();
+  page->Show(ShowMode::Modeless);
+  Press("cmdCharacter");
+  EXPECT_EQ("▲ (U+25B2)", Seen("txtCharacter"));
+  EXPECT_EQ("Wingdings", Seen("cboFont"));
+  answer = 0x93;
+  Press("cmdCharacter");
+  EXPECT_EQ("“ (U+201C)", Seen("txtCharacter"));
   page->Unload();
 }
 

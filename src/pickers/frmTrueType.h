@@ -1,0 +1,91 @@
+// The dialog that has the user pick a character of a font, and an angle to turn it by, for a symbol on a map.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/Button.h"
+#include "forms/ComboBox.h"
+#include "forms/Label.h"
+#include "forms/Panel.h"
+#include "forms/PictureBox.h"
+#include "forms/TextBox.h"
+#include "pickers/CharacterGrid.h"
+#include "service/DialogForm.h"
+
+namespace orx {
+
+/// Shows the single-byte codes of a font as a grid. OK and a double click on the grid keep what is picked; Cancel and
+/// the close box bring back what was given.
+class frmTrueType final : public DialogForm {
+ public:
+  explicit frmTrueType(Desktop& desktop);
+
+  /// The face name: given before the form is loaded, and taken back after it was hidden. An empty one becomes "arial",
+  /// and one of the list has the letter case of the list.
+  const std::string& SelFont() const { return mPicked.Font; }
+  void SelFont(const std::string& value) { mPicked.Font = mGiven.Font = value; }
+  /// The code, from 0 to 255; given and taken in the same way. Others become the nearest of these.
+  std::int32_t SelCharacter() const { return mPicked.Character; }
+  void SelCharacter(std::int32_t value);
+  /// The angle in whole degrees, from -360 to 360; given and taken in the same way. Others become 0.
+  std::int32_t SelRotation() const { return mPicked.Rotation; }
+  void SelRotation(std::int32_t value);
+
+  Panel RowRotation{*this, "RowRotation", {.Place = {120, 120, 5970, 330}}};
+  Panel RowGrid{*this, "RowGrid", {.Place = {120, 570, 5970, 3975}}};
+  Panel RowFont{*this, "RowFont", {.Place = {120, 4665, 5970, 330}}};
+  /// The one in the middle is never shown: it gives the grid its name for assistive software.
+  Label lblHlp[3]{
+      {RowFont, "lblHlp(0)", {.Caption = "&Font", .Place = {0, 60, 1380, 240}}},
+      {RowGrid, "lblHlp(1)", {.Caption = "Selected character: -", .Place = {0, 0, 2400, 240}, .Visible = false}},
+      {RowRotation, "lblHlp(2)", {.Caption = "&Rotation", .Place = {0, 60, 1380, 240}}}};
+  TextBox txtRot{RowRotation, "txtRot", {.Place = {1440, 0, 1200, 330}}};
+  PictureBox picFont{RowGrid, "picFont", {.Place = {0, 0, 5970, 3975}}, Color{255, 255, 255}, PictureUse::Input};
+  ComboBox cboFont{RowFont, "cboFont", {.Place = {1440, 0, 4530, 330}}};
+  Button cmdOK{
+      *this, "cmdOK", {.Caption = "&OK", .Place = {2985, 5145, 1500, 375}, .Pinned = true}, ButtonRole::Default};
+  Button cmdCancel{
+      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4590, 5145, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  struct Choice {
+    std::string Font;
+    std::int32_t Character = 0;
+    std::int32_t Rotation = 0;
+  };
+
+  enum class CellState { Normal, Selected };
+
+  void FillFonts();
+  /// Draws the grid in the font of the list; while none is selected there, in the font that was given.
+  void ShowFont();
+  void DrawCell(int code, CellState state);
+  void Select(int code);
+  /// Goes on from the selected character to another one, or to the same again.
+  void GoTo(int code);
+  void txtRot_GotFocus();
+  void txtRot_LostFocus();
+  void picFont_GotFocus();
+  void picFont_LostFocus();
+  void picFont_KeyDown(int keyCode);
+  void picFont_MouseDown(const Point& at);
+  void cmdOK_Click();
+  void cmdCancel_Click();
+
+  Choice mPicked;
+  Choice mGiven;
+  bool mConfirmed = false;
+  CharacterGrid mGrid;
+  /// The cell that was drawn last, on which the focus mark stands while the grid has the focus.
+  Rect mCell;
+  bool mGridHasFocus = false;
+  /// The text that the field had when the focus came.
+  std::string mRotationOnEntry;
+};
+
+}  // namespace orx
