@@ -194,12 +194,19 @@ void frmMapSettings::SelectRow(int row) {
   // What the user has done meanwhile counts: another row was selected, or the window is closed.
   if (!IsLoaded() || turn != mSelections) return;
   mSelectedLayer = 0;
-  if (ShowSelection(row)) {
-    TakeObject();
-  } else {
-    mCurrentMap = mMap;
-    mCurrentObject = nullptr;
+  mCurrentMap = mMap;
+  mCurrentObject = nullptr;
+  try {
+    if (ShowSelection(row)) TakeObject();
+  } catch (...) {
+    // The pages must not keep an object that the map may have let go.
+    ShowObject();
+    throw;
   }
+  ShowObject();
+}
+
+void frmMapSettings::ShowObject() {
   EnableMoving();
   RefreshContents();
 }
@@ -214,7 +221,7 @@ int frmMapSettings::FoldedPosition() const {
 }
 
 void frmMapSettings::TakeObject() {
-  const TreeRow& row = sftLayers.Row(mSelectedRow);
+  const TreeRow row = sftLayers.Row(mSelectedRow);
   if (Marks(row.Tag, "tile")) {
     HostObject* const layer = mMap->Layer(sftLayers.Row(sftLayers.ParentOf(mSelectedRow)).Data);
     if (IMap* const tiles = QueryKind<IMap>(layer)) {
@@ -222,11 +229,9 @@ void frmMapSettings::TakeObject() {
       mCurrentObject = tiles->Layer(row.Data);
     }
   } else if (Marks(row.Tag, "layer")) {
-    mCurrentMap = mMap;
     mCurrentObject = mMap->Layer(row.Data);
     mSelectedLayer = row.Data;
   } else {
-    mCurrentMap = mMap;
     mCurrentObject = mClient;
   }
 }
@@ -262,6 +267,9 @@ void frmMapSettings::cmdRemove_Click() {
   trap.Step([&] { isRemoved = mCurrentMap->RemoveLayer(mSelectedLayer); });
   if (isRemoved) {
     position = FoldedPosition();
+    // The layer may be gone for good.
+    mCurrentObject = nullptr;
+    trap.Step([&] { mPages->Client(nullptr); });
     trap.Step([&] { FillList(); });
     mListChanged = true;
   }

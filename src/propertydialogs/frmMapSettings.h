@@ -74,6 +74,7 @@ class frmMapSettings final : public PropertyDialog {
   int FoldedPosition() const;
   bool ShowSelection(int row);
   void TakeObject();
+  void ShowObject();
   /// Up, Down and Remove work with a layer only.
   void EnableMoving();
   bool IsAnyDirty() const;

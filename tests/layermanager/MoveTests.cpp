@@ -171,6 +171,31 @@ TEST_F(LayerManagerMoves, ARefusedRemovalSelectsTheTileAboveWhenItIsSeen) {
   });
 }
 
+TEST_F(LayerManagerMoves, ThePagesLetARemovedLayerGoAtOnce) {
+  Fill({"Roads", "Rivers"});
+  Show([&](frmMapSettings& form) {
+    user.Click(form.sftLayers, 1);
+    log.Calls.clear();
+    user.Click(form.cmdRemove);
+    EXPECT_EQ("Properties.Client(none)", log.Calls.at(0));
+    EXPECT_EQ("Roads", Shown());
+  });
+}
+
+TEST_F(LayerManagerMoves, ALayerThatCannotBeHadLeavesThePagesEmpty) {
+  Fill({"Roads", "Rivers"});
+  script.ExpectForm("frmMapSettings", [&](Form& shown) {
+    auto& form = dynamic_cast<frmMapSettings&>(shown);
+    Make("Layer", Mood::Throw);
+    user.Click(form.sftLayers, 1);
+    map.Answers = nullptr;
+    EXPECT_EQ("none", Shown());
+    EXPECT_EQ(kMayNotMove, Moving(form));
+    form.Hide();
+  });
+  EXPECT_EQ(0, service.Show(&map, 0));
+}
+
 TEST_F(LayerManagerMoves, TheButtonsHaveToolTipsNamesAndKeys) {
   Fill({"Roads", "Rivers"});
   Show([&](frmMapSettings& form) {
