@@ -21,23 +21,12 @@ class frmManageColors final : public DialogForm {
   bool Canceled() const { return mCanceled; }
 
   ListBox lstScheme{*this, "lstScheme", {.Place = {120, 120, 2940, 2880}, .AccessibleName = "Color schemes"}};
-  Button cmdNew{*this,
-                "cmdNew",
-                {.Place = {3180, 120, 480, 450}, .ToolTipText = "New scheme"},
-                glyphs::kPage};
-  Button cmdSave{*this,
-                 "cmdSave",
-                 {.Place = {3180, 690, 480, 450}, .ToolTipText = "Save scheme"},
-                 glyphs::kDisk};
-  Button cmdRemove{*this,
-                   "cmdRemove",
-                   {.Place = {3180, 1260, 480, 450}, .ToolTipText = "Remove scheme"},
-                   glyphs::kCross};
+  Button cmdNew{*this, "cmdNew", {.Place = {3180, 120, 480, 450}, .ToolTipText = "New scheme"}, glyphs::kPage};
+  Button cmdSave{*this, "cmdSave", {.Place = {3180, 690, 480, 450}, .ToolTipText = "Save scheme"}, glyphs::kDisk};
+  Button cmdRemove{
+      *this, "cmdRemove", {.Place = {3180, 1260, 480, 450}, .ToolTipText = "Remove scheme"}, glyphs::kCross};
   Button cmdProperties{
-      *this,
-      "cmdProperties",
-      {.Place = {3180, 1830, 480, 450}, .ToolTipText = "Scheme properties"},
-      glyphs::kSheet};
+      *this, "cmdProperties", {.Place = {3180, 1830, 480, 450}, .ToolTipText = "Scheme properties"}, glyphs::kSheet};
 
   Frame fraBasicColor{*this, "fraBasicColor", {.Caption = " &Basic Colors ", .Place = {3780, 60, 2340, 2940}}};
   /// The markers of the chosen colours, each beside its box.

@@ -27,8 +27,13 @@ TEST(MapLibraryCharacterText, WhatIsNoCharacterIsEmpty) {
 }
 
 TEST(MapLibraryFontCode, IsThatOfTheCodePage) {
-  for (const auto& [character, code] :
-       {std::pair<std::int32_t, int>{'A', 65}, {0xE4, 0xE4}, {0x20AC, 0x80}, {0x178, 0x9F}, {0x2022, 0x95}, {0xF041, 0x41}, {0xF0FF, 255}})
+  for (const auto& [character, code] : {std::pair<std::int32_t, int>{'A', 65},
+                                        {0xE4, 0xE4},
+                                        {0x20AC, 0x80},
+                                        {0x178, 0x9F},
+                                        {0x2022, 0x95},
+                                        {0xF041, 0x41},
+                                        {0xF0FF, 255}})
     EXPECT_EQ(code, FontCode(character)) << character;
 }
 
