@@ -21,8 +21,8 @@ class DataPropertiesPage final : public PageBase {
   explicit DataPropertiesPage(const PageSite& site);
 
   Label lblFile{Surface, "lblFile", {.Caption = "Data &file:", .Place = {120, 180, 1620, 240}}};
-  TextBox txtFile{Surface, "txtFile", {.Place = {1860, 120, 2580, 330}}, TextLines::Single, true};
-  Button cmdBrowse{Surface, "cmdBrowse", {.Caption = "&Browse...", .Place = {4545, 90, 1470, 375}, .Visible = false}};
+  TextBox txtFile{Surface, "txtFile", {.Place = {1860, 120, 2520, 330}}, TextLines::Single, true};
+  Button cmdBrowse{Surface, "cmdBrowse", {.Caption = "&Browse...", .Place = {4485, 90, 1530, 375}, .Visible = false}};
 
   Frame fraClasses{Surface, "fraClasses", {.Caption = "Classification", .Place = {120, 600, 5895, 2040}}};
   Label lblMethod{fraClasses, "lblMethod", {.Caption = "Method:", .Place = {150, 360, 1740, 240}}};
