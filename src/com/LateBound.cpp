@@ -109,7 +109,7 @@ Variant LateBound::Get(const std::string& name, std::initializer_list<std::int32
   return result;
 }
 
-Variant LateBound::Converted(Variant value, VARTYPE type, const std::string& name) const {
+Variant LateBound::Converted(const Variant& value, VARTYPE type, const std::string& name) const {
   Variant converted;
   Check(ConvertValue(value, type, LOCALE_USER_DEFAULT, converted), name);
   return converted;

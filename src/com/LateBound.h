@@ -43,7 +43,7 @@ class LateBound {
   DISPID Find(const std::string& name) const;
   DISPID Require(const std::string& name) const;
   HRESULT TryInvoke(DISPID member, WORD flags, DISPPARAMS& parameters, Variant* result, std::string& description) const;
-  Variant Converted(Variant value, VARTYPE type, const std::string& name) const;
+  Variant Converted(const Variant& value, VARTYPE type, const std::string& name) const;
 
   ComPtr<IDispatch> mObject;
   mutable std::map<std::string, DISPID> mMembers;

@@ -23,9 +23,9 @@ LayerPages::LayerPages(IPageFactory& factory, TabControl& tabs, DialogForm& form
   for (std::size_t i = 0; i < mPages.size(); ++i)
     mPages[i] = RequirePage(factory, kPages[i].Kind,
                             {tabs.Page(static_cast<int>(i)), kPages[i].Name, {0, 0, size.Width, size.Height}});
-  AnswerCharacterRequest(Page(kProperties), form);
-  AnswerDataRequests(Page(kData), form);
-  AnswerGeoreferenceRequest(Page(kCoordinates), form);
+  AnswerCharacterRequest(Page(TabProperties), form);
+  AnswerDataRequests(Page(TabData), form);
+  AnswerGeoreferenceRequest(Page(TabCoordinates), form);
 }
 
 void LayerPages::Client(HostObject* value) {
@@ -50,13 +50,13 @@ void LayerPages::Do(Act act, ErrorTrap& trap) {
 
 bool LayerPages::IsAnyDirty() const {
   const bool others = IsDirtyBesideLabels();
-  return IsDirtyAt(kLabels) || others;
+  return IsDirtyAt(TabLabels) || others;
 }
 
 bool LayerPages::IsDirtyBesideLabels() const {
-  const bool properties = IsDirtyAt(kProperties);
-  const bool data = IsDirtyAt(kData);
-  const bool coordinates = IsDirtyAt(kCoordinates);
+  const bool properties = IsDirtyAt(TabProperties);
+  const bool data = IsDirtyAt(TabData);
+  const bool coordinates = IsDirtyAt(TabCoordinates);
   return properties || data || coordinates;
 }
 

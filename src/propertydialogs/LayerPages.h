@@ -18,7 +18,7 @@ class LayerPages {
   /// The captions of the tabs.
   static constexpr std::array<const char*, 4> kTabCaptions{"Properties", "Label", "Data", "Coordinates"};
   /// The tabs.
-  enum Tab { kProperties, kLabels, kData, kCoordinates };
+  enum Tab { TabProperties, TabLabels, TabData, TabCoordinates };
 
   /// Makes the pages, and has their requests answered in the language of the form, which must outlive them. Throws what
   /// RequirePage throws.

@@ -129,7 +129,7 @@ void frmMapSettings::RefreshContents() {
 
 void frmMapSettings::Form_Load() {
   mPages.emplace(mFactory, ssTab, *this);
-  mPages->Page(LayerPages::kProperties).NameChanged = [this](const std::string& name) { NameChanged(name); };
+  mPages->Page(LayerPages::TabProperties).NameChanged = [this](const std::string& name) { NameChanged(name); };
   Kept().Restore(*this);
   mPages->Select(ssTab.Tab());
   EnableMoving();

@@ -71,8 +71,8 @@ TEST_F(DataDialog, WithoutACallBackTheButtonsCloseUp) {
 TEST_F(DataDialog, WithoutAKeyItIsCenteredAndNothingIsKept) {
   Show([&](frmDataDialog& form) {
     const Size screen = desktop().Metrics(BorderStyle::SizableHeight).Screen;
-    EXPECT_NEAR((screen.Width - form.Width()) / 2, form.Left(), Pixel());
-    EXPECT_NEAR((screen.Height - form.Height()) / 2, form.Top(), Pixel());
+    EXPECT_NEAR((screen.Width - form.Width()) / 2.0, form.Left(), Pixel());
+    EXPECT_NEAR((screen.Height - form.Height()) / 2.0, form.Top(), Pixel());
   });
   EXPECT_EQ("(none)", kept.Read("Left"));
 }
@@ -129,7 +129,8 @@ TEST_F(DataDialog, TextInASettingStandsForTheCenteredPlaceAndTheDesignedHeight) 
   service.RegistryKey(kept.Key());
   for (const char* const name : {"Left", "Top", "Height"}) kept.Write(name, "abc");
   Show([&](frmDataDialog& form) {
-    EXPECT_NEAR((desktop().Metrics(BorderStyle::SizableHeight).Screen.Width - form.Width()) / 2, form.Left(), Pixel());
+    EXPECT_NEAR((desktop().Metrics(BorderStyle::SizableHeight).Screen.Width - form.Width()) / 2.0, form.Left(),
+                Pixel());
     EXPECT_EQ((Size{6465, 5910}), form.ClientSize());
   });
 }

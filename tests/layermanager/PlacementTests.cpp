@@ -15,8 +15,8 @@ class LayerManagerPlacement : public LayerManager {
 TEST_F(LayerManagerPlacement, WithoutAKeyItIsCenteredAndNothingIsKept) {
   Show([&](frmMapSettings& form) {
     const ScreenMetrics screen = desktop().Metrics(BorderStyle::Fixed);
-    EXPECT_NEAR((screen.Screen.Width - form.Width()) / 2, form.Left(), Pixel());
-    EXPECT_NEAR((screen.Screen.Height - form.Height()) / 2, form.Top(), Pixel());
+    EXPECT_NEAR((screen.Screen.Width - form.Width()) / 2.0, form.Left(), Pixel());
+    EXPECT_NEAR((screen.Screen.Height - form.Height()) / 2.0, form.Top(), Pixel());
   });
   EXPECT_EQ("(none)", kept.Read("Left"));
 }
@@ -38,7 +38,7 @@ TEST_F(LayerManagerPlacement, OneKnownValueLeavesTheOtherCentered) {
   kept.Write("Top", "450");
   Show([&](frmMapSettings& form) {
     const Size screen = desktop().Metrics(BorderStyle::Fixed).Screen;
-    EXPECT_NEAR((screen.Width - form.Width()) / 2, form.Left(), Pixel());
+    EXPECT_NEAR((screen.Width - form.Width()) / 2.0, form.Left(), Pixel());
     EXPECT_EQ(450, form.Top());
   });
 }

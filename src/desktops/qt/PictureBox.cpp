@@ -43,7 +43,8 @@ class NativePicture final : public QWidget {
 
  private:
   /// What the press sets off may take the functions away.
-  static void Press(const QMouseEvent& event, std::function<void(QPoint)> pressed) {
+  static void Press(const QMouseEvent& event, const std::function<void(QPoint)>& member) {
+    const auto pressed = member;
     if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint());
   }
 };
