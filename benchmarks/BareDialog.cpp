@@ -58,6 +58,7 @@ class BareMaker final : public ControlVisitor {
   void Visit(NativeArea&) override { Keep(new QWidget(&mParent)); }
   void Visit(Panel&) override { Keep(new QWidget(&mParent)); }
   void Visit(PictureBox&) override { Keep(new QFrame(&mParent))->setAutoFillBackground(true); }
+  void Visit(ProgressBar&) override { Keep(new QProgressBar(&mParent))->setTextVisible(false); }
   void Visit(TabControl& control) override {
     auto* const tabs = Keep(new QTabWidget(&mParent));
     for (int i = 0; i < control.TabCount(); ++i) tabs->addTab(new QWidget, ToQt(control.TabCaption(i)));

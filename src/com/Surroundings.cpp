@@ -46,14 +46,14 @@ class Threads {
   void Released(std::shared_ptr<Surroundings> surroundings) {
     const std::lock_guard lock(mMutex);
     Entry& entry = mEntries[GetCurrentThreadId()];
-    if (entry.Known.expired() && surroundings->Screen().HasOpenForms()) entry.Lingering = std::move(surroundings);
+    if (entry.Known.expired() && !surroundings->Screen().OpenForms().empty()) entry.Lingering = std::move(surroundings);
     if (entry.Known.expired() && !entry.Lingering) mEntries.erase(GetCurrentThreadId());
   }
 
   bool StillOpen() {
     const std::lock_guard lock(mMutex);
     const auto own = mEntries.find(GetCurrentThreadId());
-    if (own != mEntries.end() && own->second.Lingering && !own->second.Lingering->Screen().HasOpenForms())
+    if (own != mEntries.end() && own->second.Lingering && own->second.Lingering->Screen().OpenForms().empty())
       own->second.Lingering.reset();
     for (const auto& [thread, entry] : mEntries)
       if (entry.Lingering) return true;

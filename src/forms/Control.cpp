@@ -7,6 +7,7 @@
 #include "forms/Letters.h"
 
 namespace orx {
+
 std::string WithoutMnemonic(std::string_view caption) {
   std::string text;
   for (std::size_t i = 0; i < caption.size(); ++i) {
@@ -14,6 +15,12 @@ std::string WithoutMnemonic(std::string_view caption) {
     text += caption[i];
   }
   return text;
+}
+
+std::string AsCaption(std::string_view text) {
+  std::string caption;
+  for (const char letter : text) caption += letter == '&' ? "&&" : std::string(1, letter);
+  return caption;
 }
 
 Control::Control(Container& parent, std::string name, Design design)
@@ -32,8 +39,8 @@ Form& Control::OwnerForm() const {
   return mParent.ContainingForm();
 }
 
-void Control::Changed(Aspect aspect) {
-  if (mPeer) mPeer->Update(aspect);
+void Control::Changed(Aspect aspect, Urgency urgency) {
+  if (mPeer && !OwnerForm().TakesOver(*this, aspect, urgency)) mPeer->Update(aspect);
 }
 
 void Control::Caption(const std::string& value) {

@@ -17,6 +17,9 @@ class Form;
 /// A part of a control's state, as a desktop is told of its change.
 enum class Aspect { Place, Visible, Enabled, Text, Value, Items, Selection, Colors, ToolTip, Drawing, Accessible };
 
+/// Whether a change may wait for its turn where changes reach the screen at a pace (see Form::PaceUpdates).
+enum class Urgency { AtOnce, CanWait };
+
 /// The native mirror of one control. A desktop makes one for each control when the form gets its window, and keeps it
 /// until the window goes.
 class ControlPeer {
@@ -125,7 +128,7 @@ class Control {
 
  protected:
   /// Tells the native mirror, when there is one.
-  void Changed(Aspect aspect);
+  void Changed(Aspect aspect, Urgency urgency = Urgency::AtOnce);
   /// Runs when the control was moved or sized.
   virtual void Placed() {}
   /// The state that all kinds of controls share, as it is now.
@@ -140,5 +143,7 @@ class Control {
 
 /// `caption` without mnemonic marks.
 std::string WithoutMnemonic(std::string_view caption);
+/// The caption without a mnemonic that shows `text`.
+std::string AsCaption(std::string_view text);
 
 }  // namespace orx

@@ -13,6 +13,7 @@ class ListBox;
 class NativeArea;
 class Panel;
 class PictureBox;
+class ProgressBar;
 class TabControl;
 class TextBox;
 class TreeList;
@@ -31,6 +32,7 @@ class ControlVisitor {
   virtual void Visit(NativeArea& control) = 0;
   virtual void Visit(Panel& control) = 0;
   virtual void Visit(PictureBox& control) = 0;
+  virtual void Visit(ProgressBar& control) = 0;
   virtual void Visit(TabControl& control) = 0;
   virtual void Visit(TextBox& control) = 0;
   virtual void Visit(TreeList& control) = 0;

@@ -80,6 +80,11 @@ void Desktop::ModalIsRunning(const Modal& modal) {
   if (mHook) mHook->ModalRunning(modal);
 }
 
+void Desktop::ProcessPendingEvents() {
+  if (mHook) mHook->EventsPending();
+  DoProcessPendingEvents();
+}
+
 void Desktop::Beep() {
   if (mHook) mHook->Beeped();
   DoBeep();
@@ -94,6 +99,10 @@ void Desktop::Pointer(orx::Pointer value) {
 void Desktop::ShowHelp(const HelpRequest& request) {
   if (mHook && mHook->HelpRequested(request)) return;
   DoShowHelp(request);
+}
+
+bool Desktop::HasModalForm() const {
+  return std::ranges::any_of(mSessions, [](const Session* session) { return session->Shown->Visible(); });
 }
 
 void Desktop::RunModal(Form& form) {
@@ -128,7 +137,13 @@ void Desktop::KeepOpen(std::shared_ptr<Form> form) {
 }
 
 void Desktop::LeaveAct() {
-  if (--mActs > 0) return;
+  --mActs;
+  LetGoOfClosedForms();
+}
+
+void Desktop::LetGoOfClosedForms() {
+  // Whatever acts are running may still use them.
+  if (mActs > 0) return;
   // A form that closes may be the last to hold another one, so the list is settled before anything is let go.
   const auto closed = std::stable_partition(mOpenForms.begin(), mOpenForms.end(),
                                             [](const std::shared_ptr<Form>& form) { return form->Visible(); });

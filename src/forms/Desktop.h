@@ -78,10 +78,12 @@ class Desktop {
   /// Where settings are kept between runs; lives as long as the desktop.
   virtual SettingsStore& Settings() = 0;
   /// Lets paint and input events that wait be handled.
-  virtual void ProcessPendingEvents() = 0;
+  void ProcessPendingEvents();
 
-  /// True while a modeless form is open.
-  bool HasOpenForms() const { return !mOpenForms.empty(); }
+  /// True while a modal form is open.
+  bool HasModalForm() const;
+  /// The modeless forms that are open, in the order in which they were shown.
+  const std::vector<std::shared_ptr<Form>>& OpenForms() const { return mOpenForms; }
   /// Unloads the modeless forms that are still open. The destructor of a desktop calls it while windows can be closed.
   void CloseOpenForms();
 
@@ -100,7 +102,8 @@ class Desktop {
   /// Do what ChooseColor and ChooseFont say; call ModalIsRunning once the dialog is up.
   virtual bool DoChooseColor(ColorRequest& request) = 0;
   virtual bool DoChooseFont(FontRequest& request) = 0;
-  /// What Beep, Pointer and ShowHelp do after the hook has heard of it.
+  /// What ProcessPendingEvents, Beep, Pointer and ShowHelp do after the hook has heard of it.
+  virtual void DoProcessPendingEvents() = 0;
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;
   virtual void DoShowHelp(const HelpRequest& request) = 0;
@@ -124,6 +127,7 @@ class Desktop {
   void KeepOpen(std::shared_ptr<Form> form);
   void EnterAct() { ++mActs; }
   void LeaveAct();
+  void LetGoOfClosedForms();
   /// Takes an error that a handler let go, so that it can travel to the caller of the modal Show; without a modal form
   /// the user is told.
   void HandlerFailed(const Form& form, std::exception_ptr error);

@@ -36,6 +36,8 @@ class DesktopHook {
   virtual void ModalRunning(const Modal&) {}
   /// It has closed.
   virtual void ModalClosed(const Modal&) {}
+  /// The program is about to let waiting events be handled; where no events come from a screen, the user acts here.
+  virtual void EventsPending() {}
   /// The desktop was told to show another mouse pointer, or to sound its signal.
   virtual void PointerChanged(Pointer) {}
   virtual void Beeped() {}

@@ -85,13 +85,17 @@ void Form::Load() {
 
 void Form::Show(ShowMode mode, OwnerWindow owner) {
   if (mVisible) throw std::logic_error(mName + " is shown already");
+  if (mode == ShowMode::Modeless && mDesktop.HasModalForm())
+    throw std::logic_error(mName + " cannot be modeless while a modal form is open");
   Load();
   // A form that has nothing to show unloads itself as it loads.
   if (!mLoaded) return;
   if (!mWindow) mWindow = mDesktop.OpenWindow(*this);
   Form_Resize();
   KeepOnScreen();
+  ShowUpdates();
   mVisible = true;
+  mMode = mode;
   mWindow->Show(mode, owner);
   UserAct([this] { FocusFirst(); });
   if (mode == ShowMode::Modal) {
@@ -103,13 +107,16 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
 
 void Form::Hide() {
   if (!mVisible) return;
+  const std::shared_ptr<Form> keep = weak_from_this().lock();
   mVisible = false;
   mWindow->Hide();
   mDesktop.EndModal(*this);
+  mDesktop.LetGoOfClosedForms();
 }
 
 void Form::Unload() {
   if (!mLoaded) return;
+  const std::shared_ptr<Form> keep = weak_from_this().lock();
   Hide();
   Form_Unload();
   mLoaded = false;
@@ -120,6 +127,7 @@ void Form::Unload() {
 void Form::DropWindow() {
   if (!mWindow) return;
   mVisible = false;
+  if (mUpdates) mUpdates.emplace();
   for (Control* control : All()) control->Peer(nullptr);
   mWindow->Abandon();
   mDesktop.Retire(*this, std::move(mWindow));
@@ -133,7 +141,26 @@ void Form::Enabled(bool value) {
 }
 
 void Form::Refresh() {
+  ShowUpdates();
   if (mWindow) mWindow->Repaint();
+}
+
+bool Form::TakesOver(Control& control, Aspect aspect, Urgency urgency) {
+  if (!mUpdates || (aspect != Aspect::Value && aspect != Aspect::Text)) return false;
+  const bool isWaited = !mUpdates->IsEmpty();
+  if (mUpdates->Add({&control, aspect}, urgency, ScreenUpdates::Clock::now())) {
+    ShowUpdates();
+  } else if (!isWaited && mWindow) {
+    mWindow->CallShowUpdates(ScreenUpdates::kPace);
+  }
+  return true;
+}
+
+void Form::ShowUpdates() {
+  if (!mUpdates || mUpdates->IsEmpty()) return;
+  for (const ScreenUpdates::Update& update : mUpdates->Take(ScreenUpdates::Clock::now()))
+    if (ControlPeer* const peer = update.Changed->Peer()) peer->Update(update.What);
+  if (mWindow) mWindow->PaintChanges();
 }
 
 void Form::UserAct(const std::function<void()>& act) {
@@ -149,7 +176,14 @@ void Form::UserAct(const std::function<void()>& act) {
 }
 
 void Form::UserClose() {
-  if (mEnabled) UserAct([this] { Unload(); });
+  if (!mEnabled) return;
+  UserAct([this] {
+    if (Form_QueryUnload()) Unload();
+  });
+}
+
+void Form::WindowLost() {
+  UserAct([this] { Unload(); });
 }
 
 void Form::UserResize(Size client) {

@@ -4,11 +4,13 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "forms/Container.h"
 #include "forms/Desktop.h"
 #include "forms/Keys.h"
+#include "forms/ScreenUpdates.h"
 
 namespace orx {
 
@@ -63,20 +65,22 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// True from Load to Unload.
   bool IsLoaded() const { return mLoaded; }
   /// Loads and shows the form; one that unloads itself as it loads is not shown. Modal: returns when it was hidden or
-  /// unloaded, and throws what a handler let go; a form that is shown already throws std::logic_error. Modeless:
-  /// returns at once.
+  /// unloaded, and throws what a handler let go. Modeless: returns at once. Throws std::logic_error when the form is
+  /// shown already, and when it is to be modeless while a modal one is open, which would keep the user from it.
   void Show(ShowMode mode = ShowMode::Modal, OwnerWindow owner = {});
   /// Takes the form from the screen and keeps it as it is.
   void Hide();
   /// Takes the form from the screen, runs Form_Unload and gives up what it holds. Does nothing when not loaded.
   void Unload();
-  /// Repaints the form.
+  /// Repaints the form with all that has changed, without waiting for events.
   void Refresh();
   /// While false, nothing that the user does reaches the form; it looks as before. True at first.
   bool Enabled() const { return mEnabled; }
   void Enabled(bool value);
   /// True while the form is on the screen.
   bool Visible() const { return mVisible; }
+  /// True while the form is on the screen and whoever shows it waits for it to go.
+  bool IsModal() const { return mVisible && mMode == ShowMode::Modal; }
 
   /// The control with the focus, null when none has it.
   Control* ActiveControl() const { return mActive; }
@@ -96,14 +100,19 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void UserFocus(Control& control);
   /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and is dealt with.
   bool UserKey(const KeyStroke& stroke);
-  /// The close box was pressed: the form unloads, and no button handler runs.
+  /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs.
   void UserClose();
+  /// The platform has taken the window away, or the program is about to end: the form unloads.
+  void WindowLost();
   /// The user has sized or moved the window.
   void UserResize(Size client);
   void UserMove(int left, int top);
   /// The mouse was moved over the window or its button was pressed beside the controls; in pixels of the client area.
   void UserMouseMove(Point at);
   void UserMouseDown(Point at);
+
+  /// For desktops: changes that were kept back (see PaceUpdates) are to reach the screen now.
+  void ShowUpdates();
 
   /// The native window, null while there is none.
   FormWindow* Window() const { return mWindow.get(); }
@@ -116,10 +125,16 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   virtual void Form_Load() {}
   virtual void Form_Resize() {}
   virtual void Form_Unload() {}
+  /// Runs when the close box was pressed; false keeps the form.
+  virtual bool Form_QueryUnload() { return true; }
   /// Run as the mouse moves over the window, also to a place outside its client area, and when its button is pressed
   /// where no control is. In pixels from the upper left corner of the client area.
   virtual void Form_MouseMove(Point) {}
   virtual void Form_MouseDown(Point) {}
+  /// For forms of a program that is too busy to handle events: from now on texts and values that change reach the
+  /// screen without any, at most 60 times a second. What is kept back by that follows as soon as events are handled.
+  /// Controls of such a form live as long as it does.
+  void PaceUpdates() { mUpdates.emplace(); }
   /// Called from Form_MouseDown: the user goes on to drag the lower edge of the window.
   void DragBottomEdge();
 
@@ -127,6 +142,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   friend class Control;
   friend class Desktop;
 
+  /// For Control: true when the change reaches the screen by ShowUpdates.
+  bool TakesOver(Control& control, Aspect aspect, Urgency urgency);
   /// Closes the window; the peers go with it.
   void DropWindow();
   /// The work area that the window lies in for the greater part, or that is nearest to it.
@@ -149,7 +166,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   bool mLoaded = false;
   bool mVisible = false;
   bool mEnabled = true;
+  ShowMode mMode = ShowMode::Modal;
   std::unique_ptr<FormWindow> mWindow;
+  std::optional<ScreenUpdates> mUpdates;
   Control* mActive = nullptr;
   Control* mFocusTarget = nullptr;
   bool mSettlingFocus = false;

@@ -1,6 +1,7 @@
 // The native window of a form, as a desktop provides it.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 
 #include "forms/Geometry.h"
@@ -38,6 +39,10 @@ class FormWindow {
   virtual void UpdateEnabled() = 0;
   /// Paints the window and its controls anew.
   virtual void Repaint() = 0;
+  /// Paints what has changed since it was painted last, without waiting for events.
+  virtual void PaintChanges() = 0;
+  /// Calls Form::ShowUpdates once, when events are handled after that time. One call at a time is asked for.
+  virtual void CallShowUpdates(std::chrono::milliseconds after) = 0;
   /// Lets the user drag the lower edge, as if the mouse button that is down had been pressed there.
   virtual void DragBottomEdge() = 0;
   /// The handle that the platform's help engine and owned windows need; 0 when there is none.

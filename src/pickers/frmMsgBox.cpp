@@ -54,13 +54,6 @@ std::string Shortened(const std::string& path) {
   return path.substr(0, OffsetOf(path, head)) + kEllipsis + path.substr(OffsetOf(path, length - tail));
 }
 
-/// The text as a caption that has no mnemonic.
-std::string AsCaption(const std::string& text) {
-  std::string caption;
-  for (const char letter : text) caption += letter == '&' ? "&&" : std::string(1, letter);
-  return caption;
-}
-
 std::string LowerCase(std::string text) {
   std::ranges::transform(text, text.begin(), [](unsigned char letter) {
     return letter < 0x80 ? static_cast<char>(std::tolower(letter)) : static_cast<char>(letter);

@@ -136,7 +136,7 @@ TEST_F(ClassifyService, CaptionModeAndOwnerAreNotUsed) {
   isDirty = true;
   EXPECT_EQ(0, service.ShowDataClassify(&data, 0, 100, 0, isDirty, "My title", ShowMode::Modeless));
   EXPECT_FALSE(isDirty);
-  EXPECT_FALSE(desktop().HasOpenForms());
+  EXPECT_TRUE(desktop().OpenForms().empty());
 }
 
 TEST_F(ClassifyService, ObjectsOfOtherKindsShowNothing) {

@@ -211,7 +211,7 @@ TEST_F(MapDialogsTest, AModelessDialogOutlivesTheServiceAndKeepsTheModule) {
   EXPECT_EQ(result, 0);
   EXPECT_TRUE(shown.empty());
   Desktop& desktop = Surroundings::OfThread()->Screen();
-  EXPECT_TRUE(desktop.HasOpenForms());
+  EXPECT_FALSE(desktop.OpenForms().empty());
   dialogs.Reset();
   EXPECT_TRUE(Surroundings::StillOpen());
   EXPECT_GT(ReferencesOf(object.Get()), 1u);

@@ -100,6 +100,14 @@ void DialogScript::ModalRunning(const Modal& modal) {
   }
 }
 
+void DialogScript::EventsPending() {
+  // What the user does is handled in its turn.
+  if (!WhenEventsPend || mIsActing) return;
+  mIsActing = true;
+  WhenEventsPend();
+  mIsActing = false;
+}
+
 bool DialogScript::HelpRequested(const HelpRequest& request) {
   Helps.push_back(request);
   return true;

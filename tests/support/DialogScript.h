@@ -33,6 +33,9 @@ class DialogScript final : public DesktopHook {
   /// Fails the test when an expected dialog was not shown.
   void Verify();
 
+  /// What the user does when the program lets waiting events be handled, each time that it does.
+  std::function<void()> WhenEventsPend;
+
   /// What was asked of the desktop, oldest first.
   std::vector<Pointer> Pointers;
   std::vector<HelpRequest> Helps;
@@ -40,6 +43,7 @@ class DialogScript final : public DesktopHook {
 
   void ModalOpening(const Modal& modal) override;
   void ModalRunning(const Modal& modal) override;
+  void EventsPending() override;
   void PointerChanged(Pointer pointer) override { Pointers.push_back(pointer); }
   void Beeped() override { ++Beeps; }
   bool HelpRequested(const HelpRequest& request) override;
@@ -58,6 +62,7 @@ class DialogScript final : public DesktopHook {
   void CloseAnyway(const Modal& modal);
 
   User& mUser;
+  bool mIsActing = false;
   std::deque<Expected> mExpected;
 };
 

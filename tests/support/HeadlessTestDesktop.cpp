@@ -113,6 +113,7 @@ class HeadlessUser final : public User {
     if (auto* text = dynamic_cast<TextBox*>(&control)) seen.Text = text->Text();
     if (auto* box = dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(box->Value());
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) seen.Text = combo->Text();
+    if (auto* bar = dynamic_cast<ProgressBar*>(&control)) seen.Value = bar->FilledPixels();
     if (auto* list = dynamic_cast<ListControl*>(&control)) seen.Value = list->ListIndex();
     if (auto* list = dynamic_cast<ListBox*>(&control))
       seen.Text = list->ListIndex() < 0 ? std::string() : list->List(list->ListIndex());

@@ -13,6 +13,7 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
 #include <QTabBar>
@@ -274,6 +275,7 @@ class QtUser final : public User {
     Seen seen{widget.isVisible(), widget.isVisible() && widget.isEnabled(),
               widget.window()->focusWidget() == &PeerOf(control)->FocusWidget(), FromQt(ShownText(control)), 0};
     if (const auto* const box = As<QCheckBox>(control)) seen.Value = ShownState(box->checkState());
+    if (const auto* const bar = As<QProgressBar>(control)) seen.Value = bar->value();
     if (const auto* const combo = As<QComboBox>(control)) seen.Value = combo->currentIndex();
     if (const auto* const list = As<QListView>(control)) seen.Value = list->currentIndex().row();
     if (const auto* const tree = dynamic_cast<TreeList*>(&control)) {

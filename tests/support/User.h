@@ -16,6 +16,7 @@
 #include "forms/ListBox.h"
 #include "forms/OpenFileRequest.h"
 #include "forms/PictureBox.h"
+#include "forms/ProgressBar.h"
 #include "forms/TabControl.h"
 #include "forms/TextBox.h"
 #include "forms/TreeList.h"
@@ -29,7 +30,7 @@ struct Seen {
   bool Focused = false;
   /// Caption or text; of a list that of the selected entry or row, of a tab control the caption of the selected tab.
   std::string Text;
-  /// Check state, index of the selected entry, row or tab; otherwise 0.
+  /// Check state, index of the selected entry, row or tab, filled pixels of a bar; otherwise 0.
   int Value = 0;
   bool operator==(const Seen&) const = default;
 };

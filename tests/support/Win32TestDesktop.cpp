@@ -189,6 +189,7 @@ class Win32User final : public User {
     const bool visible = IsWindowVisible(window);
     Seen seen{visible, visible && IsReallyEnabled(window), HasNativeFocus(control), ShownText(control), 0};
     if (dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, BM_GETCHECK, 0, 0));
+    if (dynamic_cast<ProgressBar*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, PBM_GETPOS, 0, 0));
     if (dynamic_cast<ComboBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
     if (dynamic_cast<ListBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, LB_GETCURSEL, 0, 0));
     if (auto* const tree = dynamic_cast<TreeList*>(&control)) {

@@ -30,6 +30,8 @@ class HeadlessWindow final : public FormWindow {
   void UpdatePlace() override {}
   void UpdateEnabled() override {}
   void Repaint() override {}
+  void PaintChanges() override {}
+  void CallShowUpdates(std::chrono::milliseconds) override {}
   void DragBottomEdge() override {}
   std::uintptr_t NativeHandle() const override { return 0; }
   void Abandon() override {}

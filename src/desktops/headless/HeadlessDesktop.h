@@ -20,7 +20,6 @@ class HeadlessDesktop final : public Desktop {
   Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
   numbers::Separators Separators() const override { return mSeparators; }
   SettingsStore& Settings() override { return mSettings; }
-  void ProcessPendingEvents() override {}
 
   /// The size of the screen in twips; 1920 x 1080 pixels unless set.
   void ScreenSize(Size value) { mScreen = value; }
@@ -38,6 +37,7 @@ class HeadlessDesktop final : public Desktop {
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
   bool DoChooseFont(FontRequest& request) override;
+  void DoProcessPendingEvents() override {}
   void DoBeep() override {}
   void DoSetPointer(orx::Pointer) override {}
   void DoShowHelp(const HelpRequest&) override {}

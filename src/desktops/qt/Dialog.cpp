@@ -21,6 +21,10 @@ Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
   if (form.Border() == BorderStyle::Fixed) flags |= Qt::MSWindowsFixedSizeDialogHint;
   setWindowFlags(flags);
   setMouseTracking(true);
+  mUpdateTimer.setSingleShot(true);
+  connect(&mUpdateTimer, &QTimer::timeout, this, [this] {
+    if (!mRetired) mForm.ShowUpdates();
+  });
 }
 
 void Dialog::Report(const std::function<void()>& act) {

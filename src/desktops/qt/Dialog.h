@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -26,6 +28,8 @@ class Dialog final : public QDialog {
   void ReportMouse();
   /// Has the window system drag the lower edge, or does so itself where that cannot.
   void DragBottomEdge();
+  /// Has the form show what it keeps back, once, after that time.
+  void CallShowUpdates(std::chrono::milliseconds after) { mUpdateTimer.start(after); }
   /// Has all presses of mouse and keys in this window come to nothing.
   void BlockInput(bool block);
   /// Cuts the dialog off from its form and deletes it as soon as no event of it runs.
@@ -63,6 +67,7 @@ class Dialog final : public QDialog {
   int mQuiet = 0;
   int mActs = 0;
   bool mRetired = false;
+  QTimer mUpdateTimer;
   QPoint mPressedAt;
   /// While the dialog drags its edge itself: how far the edge stands below the mouse.
   std::optional<int> mDragged;

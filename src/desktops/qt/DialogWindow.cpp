@@ -8,6 +8,22 @@
 #include "forms/Form.h"
 
 namespace orx::qt {
+namespace {
+
+/// The window that the host has named, null when there is none.
+QWindow* NamedWindow(const OwnerWindow& owner) {
+  if (owner.OwnerForm && owner.OwnerForm->Window()) {
+    const Dialog* const dialog = static_cast<DialogWindow*>(owner.OwnerForm->Window())->Native();
+    return dialog ? dialog->windowHandle() : nullptr;
+  }
+  if (owner.NativeHandle) {
+    for (QWindow* const window : QGuiApplication::allWindows())
+      if (window->handle() && window->winId() == owner.NativeHandle) return window;
+  }
+  return nullptr;
+}
+
+}  // namespace
 
 DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mMaker(*mDialog) {
   MakePeers(form, nullptr);
@@ -44,18 +60,13 @@ void DialogWindow::OrderTabs() const {
 }
 
 QWindow* DialogWindow::WindowOf(const OwnerWindow& owner) const {
-  if (owner.OwnerForm && owner.OwnerForm->Window()) {
-    const Dialog* const dialog = static_cast<DialogWindow*>(owner.OwnerForm->Window())->Native();
-    return dialog ? dialog->windowHandle() : nullptr;
-  }
-  if (owner.NativeHandle) {
-    for (QWindow* const window : QGuiApplication::allWindows())
-      if (window->handle() && window->winId() == owner.NativeHandle) return window;
-  }
-  // Without an owner the dialog stands before whatever the user works in; behind a modal window it could not be
-  // reached.
+  QWindow* const named = NamedWindow(owner);
   const QWidget* const modal = QApplication::activeModalWidget();
-  return modal && modal != mDialog ? modal->windowHandle() : nullptr;
+  if (!modal || modal == mDialog) return named;
+  // A modal window of the host keeps the user from all windows that do not stand before it.
+  for (const QWindow* at = named; at; at = at->transientParent())
+    if (at == modal->windowHandle()) return named;
+  return modal->windowHandle();
 }
 
 void DialogWindow::Show(ShowMode mode, OwnerWindow owner) {
@@ -89,7 +100,7 @@ void DialogWindow::RunModal() {
   });
   mLoop.exec();
   // The host's application is about to end: the dialog goes as by its close box.
-  if (!mEnded) mForm.UserClose();
+  if (!mEnded) mForm.WindowLost();
   if (mHookError) std::rethrow_exception(std::exchange(mHookError, nullptr));
 }
 
@@ -122,6 +133,16 @@ void DialogWindow::UpdateEnabled() {
 
 void DialogWindow::Repaint() {
   mDialog->repaint();
+}
+
+void DialogWindow::PaintChanges() {
+  // What Qt would send itself before long.
+  QEvent request(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(mDialog, &request);
+}
+
+void DialogWindow::CallShowUpdates(std::chrono::milliseconds after) {
+  mDialog->CallShowUpdates(after);
 }
 
 void DialogWindow::DragBottomEdge() {

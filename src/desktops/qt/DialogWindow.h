@@ -26,6 +26,8 @@ class DialogWindow final : public FormWindow {
   void UpdatePlace() override;
   void UpdateEnabled() override;
   void Repaint() override;
+  void PaintChanges() override;
+  void CallShowUpdates(std::chrono::milliseconds after) override;
   void DragBottomEdge() override;
   std::uintptr_t NativeHandle() const override;
   void Abandon() override;

@@ -19,6 +19,7 @@ std::unique_ptr<Peer> MakePeer(ListBox& control, Dialog& dialog, QWidget& parent
 std::unique_ptr<Peer> MakePeer(NativeArea& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, QWidget& parent);
+std::unique_ptr<Peer> MakePeer(ProgressBar& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, QWidget& parent);
@@ -43,6 +44,7 @@ class PeerMaker final : public ControlVisitor {
   void Visit(NativeArea& control) override { Take(control); }
   void Visit(Panel& control) override { Take(control); }
   void Visit(PictureBox& control) override { Take(control); }
+  void Visit(ProgressBar& control) override { Take(control); }
   void Visit(TabControl& control) override { Take(control); }
   void Visit(TextBox& control) override { Take(control); }
   void Visit(TreeList& control) override { Take(control); }

@@ -162,7 +162,7 @@ SettingsStore& QtDesktop::Settings() {
   return mState->Settings;
 }
 
-void QtDesktop::ProcessPendingEvents() {
+void QtDesktop::DoProcessPendingEvents() {
   QCoreApplication::processEvents();
 }
 

@@ -27,7 +27,6 @@ class QtDesktop final : public Desktop {
   Size MeasureCharacter(const Font& face, int code) const override;
   numbers::Separators Separators() const override;
   SettingsStore& Settings() override;
-  void ProcessPendingEvents() override;
 
   /// Gives number separators in place of the locale's.
   void Separators(const numbers::Separators& value);
@@ -45,6 +44,7 @@ class QtDesktop final : public Desktop {
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
   bool DoChooseFont(FontRequest& request) override;
+  void DoProcessPendingEvents() override;
   void DoBeep() override;
   void DoSetPointer(orx::Pointer value) override;
   void DoShowHelp(const HelpRequest& request) override;

@@ -14,6 +14,11 @@
 #include "forms/Form.h"
 
 namespace orx::win32 {
+namespace {
+
+constexpr UINT_PTR kUpdateTimer = 1;
+
+}  // namespace
 
 Dialog* Dialog::Around(HWND window) {
   const HWND root = window ? GetAncestor(window, GA_ROOT) : nullptr;
@@ -202,7 +207,11 @@ void Dialog::WatchActivation(bool isActive) {
 void Dialog::Destroyed() {
   // By the host, together with the window that this one stood before: the form goes as by its close box.
   mDestroyed = true;
-  Report([this] { mForm.UserClose(); });
+  Report([this] { mForm.WindowLost(); });
+}
+
+void Dialog::CallShowUpdates(std::chrono::milliseconds after) {
+  SetTimer(mWindow, kUpdateTimer, static_cast<UINT>(after.count()), nullptr);
 }
 
 void Dialog::DragBottomEdge() {
@@ -286,6 +295,10 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_MOUSEWHEEL:
       mGround.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      return 0;
+    case WM_TIMER:
+      KillTimer(mWindow, kUpdateTimer);
+      mForm.ShowUpdates();
       return 0;
     case kDeferredKey:
       Redeliver();

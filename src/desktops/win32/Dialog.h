@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -52,6 +53,8 @@ class Dialog {
   void Hide();
   /// Shows a text while the mouse rests on the window; an empty one takes it away.
   void ToolTip(HWND tool, const std::string& text);
+  /// Has the form show what it keeps back, once, after that time.
+  void CallShowUpdates(std::chrono::milliseconds after);
   /// Has the platform drag the lower edge until the mouse button is released.
   void DragBottomEdge();
   /// Cuts the window off from its form and destroys it as soon as no message of it is dealt with.

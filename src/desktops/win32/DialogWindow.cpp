@@ -74,7 +74,7 @@ void DialogWindow::RunModal() {
     GetMessageW(&message, nullptr, 0, 0);
     if (HandleOneMessage(message) || mEnded) continue;
     // The host's program is about to end: the dialog goes as by its close box.
-    mForm.UserClose();
+    mForm.WindowLost();
     return;
   }
 }
@@ -101,6 +101,14 @@ void DialogWindow::UpdateEnabled() {
 
 void DialogWindow::Repaint() {
   RedrawWindow(mDialog->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void DialogWindow::PaintChanges() {
+  RedrawWindow(mDialog->Window(), nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void DialogWindow::CallShowUpdates(std::chrono::milliseconds after) {
+  mDialog->CallShowUpdates(after);
 }
 
 void DialogWindow::DragBottomEdge() {

@@ -30,6 +30,7 @@ std::unique_ptr<Peer> MakePeer(ListBox& control, Dialog& dialog, const WindowSit
 std::unique_ptr<Peer> MakePeer(NativeArea& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(Panel& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site);
+std::unique_ptr<Peer> MakePeer(ProgressBar& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, const WindowSite& site);
@@ -54,6 +55,7 @@ class PeerMaker final : public ControlVisitor {
   void Visit(NativeArea& control) override { Take(control); }
   void Visit(Panel& control) override { Take(control); }
   void Visit(PictureBox& control) override { Take(control); }
+  void Visit(ProgressBar& control) override { Take(control); }
   void Visit(TabControl& control) override { Take(control); }
   void Visit(TextBox& control) override { Take(control); }
   void Visit(TreeList& control) override { Take(control); }

@@ -149,7 +149,7 @@ void Win32Desktop::HelpEngine(std::function<void(const HelpRequest&)> engine) {
   mState->HelpEngine = std::move(engine);
 }
 
-void Win32Desktop::ProcessPendingEvents() {
+void Win32Desktop::DoProcessPendingEvents() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
     if (!HandleOneMessage(message)) return;
@@ -165,8 +165,8 @@ bool Win32Desktop::SaveMessagePicture(const std::string& pngPath) const {
 
 std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
   const GuestScope guest;
-  INITCOMMONCONTROLSEX controls = {sizeof(controls),
-                                   ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES | ICC_LISTVIEW_CLASSES};
+  INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES |
+                                                         ICC_LISTVIEW_CLASSES | ICC_PROGRESS_CLASS};
   InitCommonControlsEx(&controls);
   return std::make_unique<DialogWindow>(form);
 }

@@ -27,7 +27,6 @@ class Win32Desktop final : public Desktop {
   Size MeasureCharacter(const Font& face, int code) const override;
   numbers::Separators Separators() const override;
   SettingsStore& Settings() override;
-  void ProcessPendingEvents() override;
 
   /// Gives number separators in place of the locale's.
   void Separators(const numbers::Separators& value);
@@ -47,6 +46,7 @@ class Win32Desktop final : public Desktop {
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
   bool DoChooseFont(FontRequest& request) override;
+  void DoProcessPendingEvents() override;
   void DoBeep() override;
   void DoSetPointer(orx::Pointer value) override;
   void DoShowHelp(const HelpRequest& request) override;

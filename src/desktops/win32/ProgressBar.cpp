@@ -1,0 +1,42 @@
+#include "forms/ProgressBar.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "desktops/win32/Peers.h"
+
+namespace orx::win32 {
+namespace {
+
+class ProgressBarPeer final : public Peer {
+ public:
+  ProgressBarPeer(ProgressBar& control, Dialog& dialog, HWND window)
+      : Peer(control, dialog, window), mControl(control) {}
+
+ private:
+  void Mirror(Aspect aspect) override {
+    if (aspect == Aspect::Value) MirrorValue();
+    Peer::Mirror(aspect);
+  }
+
+  void MirrorValue() {
+    const auto filled = static_cast<WPARAM>(mControl.FilledPixels());
+    // A themed bar creeps up to where it has been told to go, but goes back at once: one pixel too far and back, for
+    // which a full bar lends the range one more.
+    SendMessageW(Window(), PBM_SETRANGE32, 0, mControl.Pixels() + 1);
+    SendMessageW(Window(), PBM_SETPOS, filled + 1, 0);
+    SendMessageW(Window(), PBM_SETPOS, filled, 0);
+    SendMessageW(Window(), PBM_SETRANGE32, 0, mControl.Pixels());
+  }
+
+  ProgressBar& mControl;
+};
+
+}  // namespace
+
+std::unique_ptr<Peer> MakePeer(ProgressBar& control, Dialog& dialog, const WindowSite& site) {
+  return std::make_unique<ProgressBarPeer>(control, dialog, MakeWindow(PROGRESS_CLASSW, PBS_SMOOTH, site));
+}
+
+}  // namespace orx::win32
