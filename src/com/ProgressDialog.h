@@ -1,25 +1,37 @@
-// The creatable class CCommonProgressDialog. Its dialog is not there yet: the members say so.
+// The creatable class CCommonProgressDialog: the service class behind its dual interface.
 #pragma once
 
+// The interfaces come first: their names are global there and the library's own ones are not.
 #include <OrvexMapDialogs2.h>
 
+#include <memory>
+
 #include "com/Dispatch.h"
+#include "com/Surroundings.h"
+#include "service/CCommonProgressDialog.h"
 
 namespace orx::com {
 
 class ProgressDialog final : public ClassObject<::CCommonProgressDialog, ::_CCommonProgressDialog> {
  public:
-  HRESULT STDMETHODCALLTYPE Init(long*, long*, long*) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE get_CancelAction(VARIANT_BOOL*) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE get_Value(long*) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE put_Value(long) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE get_Caption(BSTR*) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE put_Caption(BSTR) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE get_Message(BSTR*) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE put_Message(BSTR) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Show(VARIANT*) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Hide() noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE Refresh() noexcept override { return E_NOTIMPL; }
+  ProgressDialog();
+
+  HRESULT STDMETHODCALLTYPE Init(long* min, long* max, long* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_CancelAction(VARIANT_BOOL* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_Value(long* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE put_Value(long value) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_Caption(BSTR* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_Message(BSTR* value) noexcept override;
+  HRESULT STDMETHODCALLTYPE put_Message(BSTR value) noexcept override;
+  HRESULT STDMETHODCALLTYPE Show(VARIANT* ownerForm) noexcept override;
+  HRESULT STDMETHODCALLTYPE Hide() noexcept override;
+  HRESULT STDMETHODCALLTYPE Refresh() noexcept override;
+
+ private:
+  // The surroundings outlive the service, which uses them.
+  std::shared_ptr<Surroundings> mSurroundings;
+  orx::CCommonProgressDialog mService;
 };
 
 }  // namespace orx::com

@@ -2,6 +2,7 @@
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/SampleMap.h"
 #include "maplibrary/TextLanguage.h"
+#include "pickers/frmProgress.h"
 #include "service/modMainDialogs.h"
 #include "tests/layout/LayoutCheck.h"
 #include "tests/maplibrary/pages/PagesTest.h"
@@ -77,6 +78,11 @@ class PageLayout : public PagesTest {
     script.ExpectForm("frmMsgBox", lookAt);
     service.ShowDataFileNotFound("/a long path/with many folders/and & signs/that leads to/missing.vkr", found,
                                  cancelAll);
+    const auto progress = std::make_shared<frmProgress>(desktop());
+    progress->Language(language);
+    progress->Show(ShowMode::Modeless);
+    EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*progress));
+    progress->Unload();
   }
 
   RecordedLegends legends;

@@ -150,6 +150,32 @@ TEST_F(Examples, AScriptIsGivenTheChosenFilesInItsVariables) {
                                  "\r\nMissing: \"\" True\r\nDONE\r\n");
 }
 
+TEST_F(Examples, AScriptTellsItsProgressUntilTheUserCancels) {
+  Program script(Script(L"progress.vbs"));
+  const HWND progress = script.WaitForWindow(L"Tiles of a script");
+  ASSERT_TRUE(progress) << script.Output();
+  const HWND bar = ControlNamed(progress, L"prgBar");
+  const HWND message = ControlNamed(progress, L"lblMsg");
+  // The bar moves without anybody asking for it.
+  EXPECT_TRUE(script.WaitFor([&] { return SendMessageW(bar, PBM_GETPOS, 0, 0) > 0; }));
+  wchar_t text[50] = {};
+  SendMessageW(message, WM_GETTEXT, 50, reinterpret_cast<LPARAM>(text));
+  EXPECT_TRUE(std::wstring(text).starts_with(L"Tile ")) << Narrowed(text);
+  Click(ControlNamed(progress, L"cmdCancel"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"Cancelled: True", "Told: True",
+                                    "Refused: 380 The value 1001 does not fit a progress bar from 0 to 1000", "DONE"}));
+}
+
+TEST_F(Examples, TheCloseBoxCancelsTheOperationOfAScript) {
+  Program script(Script(L"progress.vbs"));
+  const HWND progress = script.WaitForWindow(L"Tiles of a script");
+  ASSERT_TRUE(progress) << script.Output();
+  PostMessageW(progress, WM_CLOSE, 0, 0);
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_TRUE(script.Output().starts_with("Cancelled: True")) << script.Output();
+}
+
 TEST_F(Examples, AScriptEditsTheClassesAndSpecialValuesOfItsData) {
   Program script(Script(L"data.vbs"));
   const HWND classes = script.WaitForWindow(L"Data Classify");

@@ -1,0 +1,41 @@
+#include "pickers/frmProgress.h"
+
+namespace orx {
+
+frmProgress::frmProgress(Desktop& desktop)
+    : DialogForm(desktop, "frmProgress", {.Caption = "Progress", .Client = {5700, 1785}}) {
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+  PaceUpdates();
+}
+
+void frmProgress::Form_Load() {
+  Center();
+  mCancelAction = false;
+  cmdCancel.Enabled(true);
+  AskLanguage();
+  TakeHelpNumber("_HelpMapProgress");
+  Translate();
+}
+
+void frmProgress::Form_Unload() {
+  // Whoever takes the window away wants no more of the operation; the host asks for this later.
+  mCancelAction = true;
+  DialogForm::Form_Unload();
+}
+
+bool frmProgress::Form_QueryUnload() {
+  // A host that works on must not lose its window. One that waits for the modal form to go would wait for ever.
+  if (!mCancelAction) {
+    cmdCancel_Click();
+  } else if (IsModal()) {
+    Hide();
+  }
+  return false;
+}
+
+void frmProgress::cmdCancel_Click() {
+  mCancelAction = true;
+  cmdCancel.Enabled(false);
+}
+
+}  // namespace orx

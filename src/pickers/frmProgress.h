@@ -1,0 +1,40 @@
+// How far a long operation of the host has come, with a button to cancel it. The host shows it and takes it away.
+#pragma once
+
+#include <string>
+
+#include "forms/Button.h"
+#include "forms/Label.h"
+#include "forms/ProgressBar.h"
+#include "service/DialogForm.h"
+
+namespace orx {
+
+/// What the host sets while it is busy reaches the screen without events being handled, at most 60 times a second.
+class frmProgress final : public DialogForm {
+ public:
+  explicit frmProgress(Desktop& desktop);
+
+  /// True once the user has asked to cancel, until the form is loaded anew.
+  bool CancelAction() const { return mCancelAction; }
+  /// The text of lblMsg as the user reads it, without mnemonic; UTF-8.
+  std::string Message() const { return WithoutMnemonic(lblMsg.Caption()); }
+  void Message(const std::string& value) { lblMsg.Caption(AsCaption(value)); }
+
+  Button cmdCancel{*this, "cmdCancel", {.Caption = "Cancel", .Place = {4020, 1230, 1500, 375}}, ButtonRole::Cancel};
+  ProgressBar prgBar{*this, "prgBar", {.Place = {180, 795, 5340, 270}, .AccessibleName = "Progress"}};
+  /// Two lines.
+  Label lblMsg{*this, "lblMsg", {.Caption = "Message ...", .Place = {180, 180, 5340, 510}}, Alignment::Left, true};
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  bool Form_QueryUnload() override;
+
+ private:
+  void cmdCancel_Click();
+
+  bool mCancelAction = false;
+};
+
+}  // namespace orx

@@ -1,0 +1,108 @@
+// The progress window on the screen of a host that handles no messages, and what that costs.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "desktops/win32/Subclass.h"
+#include "pickers/frmProgress.h"
+#include "service/CCommonProgressDialog.h"
+#include "tests/win32/Win32Test.h"
+
+namespace orx::test {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// Counts how often a window is painted.
+class Paints {
+ public:
+  explicit Paints(HWND watched) : mSubclass(watched, &Paints::Watch, this) {}
+  int Count = 0;
+
+ private:
+  static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR self) {
+    if (message == WM_PAINT) ++reinterpret_cast<Paints*>(self)->Count;
+    return win32::Subclass::CallNext(window, message, wParam, lParam);
+  }
+  win32::Subclass mSubclass;
+};
+
+class Win32Progress : public Win32FormsTest {
+ protected:
+  Win32Progress() {
+    progress.Show();
+    desktop().ProcessPendingEvents();
+  }
+  frmProgress& Window() { return dynamic_cast<frmProgress&>(*desktop().OpenForms().back()); }
+
+  CCommonProgressDialog progress{desktop()};
+};
+
+TEST_F(Win32Progress, IsPaintedWithoutMessages) {
+  const Paints paints(WindowOf(Window().prgBar));
+  progress.Value(50);
+  EXPECT_GE(paints.Count, 1);
+  EXPECT_FALSE(GetUpdateRect(WindowOf(Window().prgBar), nullptr, FALSE));
+  progress.Message("Half of it");
+  EXPECT_EQ("Half of it", TextOf(WindowOf(Window().lblMsg)));
+  EXPECT_FALSE(GetUpdateRect(WindowOf(Window().lblMsg), nullptr, FALSE));
+}
+
+TEST_F(Win32Progress, IsPaintedSixtyTimesASecondAtMost) {
+  const Paints paints(WindowOf(Window().prgBar));
+  const auto start = Clock::now();
+  while (Clock::now() - start < std::chrono::milliseconds(1500)) {
+    progress.Value(progress.Value() == 25 ? 75 : 25);
+    progress.Message(std::to_string(progress.Value()));
+    desktop().ProcessPendingEvents();
+  }
+  EXPECT_LE(paints.Count, 60 * 3 / 2 + 1);
+  EXPECT_GE(paints.Count, 20);
+}
+
+TEST_F(Win32Progress, AMillionValuesCostLessThanTwoHundredthsOfRepaintingEachTime) {
+  constexpr int kValues = 1000000;
+  constexpr int kRepaints = 500;
+  progress.Init(0, kValues, 0);
+  auto start = Clock::now();
+  for (int i = 1; i <= kValues; ++i) progress.Value(i);
+  const std::chrono::duration<double> ours = Clock::now() - start;
+  EXPECT_EQ(Window().prgBar.Pixels(), Send(WindowOf(Window().prgBar), PBM_GETPOS));
+  start = Clock::now();
+  for (int i = 1; i <= kRepaints; ++i) {
+    progress.Value(i * (kValues / kRepaints));
+    progress.Refresh();
+  }
+  const std::chrono::duration<double> repainted = (Clock::now() - start) * (kValues / kRepaints);
+  EXPECT_LT(ours / repainted, 0.02);
+}
+
+TEST_F(Win32Progress, ShowAndHideLetPendingMessagesBeHandled) {
+  const HostWindow host;
+  const auto isPending = [&] {
+    MSG message;
+    return PeekMessageW(&message, host.Get(), WM_APP, WM_APP, PM_NOREMOVE) != FALSE;
+  };
+  PostMessageW(host.Get(), WM_APP, 0, 0);
+  EXPECT_TRUE(isPending());
+  progress.Hide();
+  EXPECT_FALSE(isPending());
+  PostMessageW(host.Get(), WM_APP, 0, 0);
+  progress.Show();
+  EXPECT_FALSE(isPending());
+}
+
+TEST_F(Win32Progress, IsCancelledWhenTheWindowOfItsOwnerIsDestroyed) {
+  HostWindow host;
+  progress.Hide();
+  progress.Show(host.AsOwner());
+  EXPECT_EQ(host.Get(), GetWindow(WindowOf(Window()), GW_OWNER));
+  host.Destroy();
+  EXPECT_TRUE(desktop().OpenForms().empty());
+  EXPECT_TRUE(progress.CancelAction());
+  progress.Value(30);
+  EXPECT_EQ(30, progress.Value());
+}
+
+}  // namespace
+}  // namespace orx::test
