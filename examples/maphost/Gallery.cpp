@@ -3,6 +3,8 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "pickers/frmProgress.h"
+
 namespace maphost {
 namespace {
 
@@ -50,6 +52,14 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
           &window->cmdSymbol, &window->cmdCoordinates, &window->cmdLegends, &window->cmdClassify, &window->cmdOptions,
           &window->cmdShade, &window->cmdIsolines, &window->cmdColors, &window->cmdGeoreference, &window->cmdLost})
       button->UserPress();
+    // The host keeps the progress window open as it works.
+    const auto progress = std::make_shared<orx::frmProgress>(desktop);
+    progress->Language(languages.Language(language));
+    progress->prgBar.Value(60);
+    progress->Show(orx::ShowMode::Modeless, {window.get(), 0});
+    desktop.ProcessPendingEvents();
+    photographer.Take(*progress);
+    progress->Unload();
   }
   window->UserClose();
   desktop.Hook(nullptr);

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 
+#include "examples/maphost/LargeContours.h"
 #include "hostobjects/IData.h"
 #include "maplibrary/CharacterText.h"
 #include "maplibrary/DrawMap.h"
+#include "maplibrary/LayerData.h"
+#include "service/CCommonProgressDialog.h"
 #include "service/modMainDialogs.h"
 
 namespace maphost {
@@ -38,6 +41,7 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdOptions.Click = [this] { cmdOptions_Click(); };
   cmdShade.Click = [this] { ShowGridDialog("Relief shading", orx::modMain::ShowShadeDialog); };
   cmdIsolines.Click = [this] { ShowGridDialog("Isolines", orx::modMain::ShowIsolineDialog); };
+  cmdContours.Click = [this] { cmdContours_Click(); };
   cmdColors.Click = [this] { cmdColors_Click(); };
   cmdAddLayer.Click = [this] { cmdAddLayer_Click(); };
   cmdLost.Click = [this] { cmdLost_Click(); };
@@ -82,7 +86,7 @@ void HostWindow::EnableDialogs() {
   orx::HostObject* const object = Chosen().Object;
   for (orx::Button* button : {&cmdProperties, &cmdSymbol}) button->Enabled(QueryKind<orx::ILayer>(object) != nullptr);
   cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
-  for (orx::Button* button : {&cmdData, &cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines})
+  for (orx::Button* button : {&cmdData, &cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines, &cmdContours})
     button->Enabled(ChosenData() != nullptr);
 }
 
@@ -103,9 +107,10 @@ void HostWindow::Form_Resize() {
   stack(cboLayer, 360, 240);
   constexpr int kGap = 90;
   constexpr int kButtonHeight = 420;
-  orx::Button* const buttons[] = {
-      &cmdManager, &cmdSettings, &cmdProperties, &cmdLabels,  &cmdSymbol, &cmdCoordinates,  &cmdData,     &cmdClassify,
-      &cmdOptions, &cmdShade,    &cmdIsolines,   &cmdLegends, &cmdColors, &cmdGeoreference, &cmdAddLayer, &cmdLost};
+  orx::Button* const buttons[] = {&cmdManager,     &cmdSettings, &cmdProperties, &cmdLabels,  &cmdSymbol,
+                                  &cmdCoordinates, &cmdData,     &cmdClassify,   &cmdOptions, &cmdShade,
+                                  &cmdIsolines,    &cmdContours, &cmdLegends,    &cmdColors,  &cmdGeoreference,
+                                  &cmdAddLayer,    &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
   for (orx::Button* const button : buttons) {
@@ -196,6 +201,31 @@ void HostWindow::ShowGridDialog(const std::string& what, GridDialog dialog) {
   bool changed = false;
   dialog(OwnerDesktop(), ChosenData(), changed, mDialogs.Language());
   Report(what + " of " + choice.Name, changed ? -1 : 0);
+}
+
+void HostWindow::cmdContours_Click() {
+  const Choice choice = Chosen();
+  const auto* const data = dynamic_cast<orx::maplibrary::LayerData*>(ChosenData());
+  if (!data) return;
+  constexpr double kInterval = 10;
+  LargeContours contours(*data->Grid(), mTilesAcross, kInterval);
+  orx::CCommonProgressDialog progress(OwnerDesktop());
+  progress.Caption(choice.Name);
+  progress.Init(0, contours.Levels(), 0);
+  // While events are handled nothing else may be started; only the progress window is for the user.
+  Enabled(false);
+  progress.Show({this, 0});
+  while (contours.Done() < contours.Levels() && !progress.CancelAction()) {
+    progress.Message(orx::numbers::ShortestText(contours.NextLevel()) + " m (" + std::to_string(contours.Done() + 1) +
+                     " / " + std::to_string(contours.Levels()) + ")");
+    contours.Next();
+    progress.Value(contours.Done());
+    OwnerDesktop().ProcessPendingEvents();
+  }
+  Enabled(true);
+  progress.Hide();
+  mLog.Write("Contours of " + choice.Name + ": " + std::to_string(contours.Lines()) + " lines, " +
+             std::to_string(contours.Points()) + " points" + (progress.CancelAction() ? ", cancelled" : ""));
 }
 
 void HostWindow::cmdColors_Click() {

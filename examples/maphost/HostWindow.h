@@ -40,6 +40,10 @@ class HostWindow final : public orx::Form {
   orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
   orx::Button cmdShade{*this, "cmdShade", {.Caption = "Relief s&hading..."}};
   orx::Button cmdIsolines{*this, "cmdIsolines", {.Caption = "&Isolines..."}};
+  orx::Button cmdContours{*this,
+                          "cmdContours",
+                          {.Caption = "Contours o&ver tiles...",
+                           .ToolTipText = "Computes the contours of a large area, with progress and Cancel"}};
   orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sche&mes..."}};
   orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
   orx::Button cmdLost{
@@ -49,6 +53,9 @@ class HostWindow final : public orx::Form {
   orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
   orx::Label lblLog{*this, "lblLog", {.Caption = "Call-backs and res&ults:"}};
   orx::TextBox txtLog{*this, "txtLog", {}, orx::TextLines::Multiple, true};
+
+  /// How many times the grid of a layer is laid out, across and down, for the contours of a large area.
+  void TilesAcross(std::int32_t value) { mTilesAcross = value; }
 
  protected:
   void Form_Load() override;
@@ -81,6 +88,7 @@ class HostWindow final : public orx::Form {
   void cmdOptions_Click();
   using GridDialog = bool (*)(orx::Desktop&, orx::HostObject*, bool&, orx::ILanguage*);
   void ShowGridDialog(const std::string& what, GridDialog dialog);
+  void cmdContours_Click();
   void cmdColors_Click();
   const Choice& Chosen() const { return mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())); }
   void cmdAddLayer_Click();
@@ -98,6 +106,7 @@ class HostWindow final : public orx::Form {
   const Languages& mLanguages;
   DesignedCaptions mDesigned{*this};
   std::vector<Choice> mChoices;
+  std::int32_t mTilesAcross = 4;
   orx::maplibrary::PageFactory mPages;
   HostLog mLog{txtLog};
   HostCallBack mCallBack{mLog, [this] { DrawMap(); }};

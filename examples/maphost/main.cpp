@@ -34,7 +34,7 @@ void Run(const Options& options) {
   const auto map = orx::maplibrary::MakeSampleMap(options.Grid);
   const maphost::Languages languages(std::filesystem::path(options.Grid).parent_path() / "languages");
   if (options.Gallery) return maphost::WriteGallery(desktop, *map, languages, *options.Gallery);
-  std::make_shared<maphost::HostWindow>(desktop, *map, languages)->Show();
+  maphost::RunWindow(*std::make_shared<maphost::HostWindow>(desktop, *map, languages));
 }
 
 }  // namespace

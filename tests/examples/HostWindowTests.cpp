@@ -315,5 +315,37 @@ TEST_F(ExamplesHost, AsksForALayerWhoseFileIsGone) {
   EXPECT_EQ("Missing file: all skipped", LastLine());
 }
 
+TEST_F(ExamplesHost, TheContoursOfALargeAreaAreCounted) {
+  window->TilesAcross(1);
+  user.Click(window->cmdContours);
+  EXPECT_EQ(1U, desktop().OpenForms().size());
+  const auto numberAfter = [line = LastLine()](const std::string& mark) {
+    return std::stoul(line.substr(line.find(mark) + mark.size()));
+  };
+  EXPECT_TRUE(LastLine().starts_with("Contours of Terrain: ")) << LastLine();
+  EXPECT_TRUE(LastLine().ends_with(" points")) << LastLine();
+  EXPECT_GT(numberAfter("Terrain: "), 100U);
+  EXPECT_GT(numberAfter("lines, "), 10000U);
+}
+
+TEST_F(ExamplesHost, CancelStopsTheContoursAndTheWindowWaitsMeanwhile) {
+  int acts = 0;
+  script.WhenEventsPend = [&] {
+    // As soon as the first level has been counted.
+    if (desktop().OpenForms().size() < 2 || window->Enabled()) return;
+    Form& progress = *desktop().OpenForms().back();
+    if (Get<ProgressBar>(progress, "prgBar").Value() < 1 || acts++ > 0) return;
+    user.Click(window->cmdSettings);
+    user.CloseBox(*window);
+    Press(user, progress, "cmdCancel");
+  };
+  user.Click(window->cmdContours);
+  EXPECT_GE(acts, 1);
+  EXPECT_TRUE(LastLine().starts_with("Contours of Terrain: ")) << LastLine();
+  EXPECT_TRUE(LastLine().ends_with(", cancelled")) << LastLine();
+  EXPECT_TRUE(window->Visible());
+  EXPECT_TRUE(window->Enabled());
+}
+
 }  // namespace
 }  // namespace orx::test
