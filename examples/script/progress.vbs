@@ -2,17 +2,21 @@
 '   cscript //nologo progress.vbs
 Option Explicit
 
-Dim progress, i
+Dim progress, i, j, sum
 Set progress = CreateObject("OrvexMapDialogs2.CCommonProgressDialog")
 progress.Caption = "Tiles of a script"
 progress.Init 0, 1000, 0
 progress.Show
 
 For i = 1 To 1000
+  ' The work on a tile.
+  For j = 1 To 5000
+    sum = sum + Sqr(j)
+  Next
   progress.Message = "Tile " & i & " of 1000"
   progress.Value = i
-  ' The work itself would be here; while the script sleeps, the window hears of the user.
-  WScript.Sleep 20
+  ' Shown already, the window only takes its time to hear of the user.
+  progress.Show
   If progress.CancelAction Then Exit For
 Next
 

@@ -21,6 +21,9 @@ class ProgressBarPeer final : public Peer {
   }
 
   void MirrorValue() {
+    // The control would paint each of these steps; turning that on again shows it, so a hidden one is left alone.
+    const bool isShown = (GetWindowLongPtrW(Window(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (isShown) SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
     const auto filled = static_cast<WPARAM>(mControl.FilledPixels());
     // A themed bar creeps up to where it has been told to go, but goes back at once: one pixel too far and back, for
     // which a full bar lends the range one more.
@@ -28,6 +31,9 @@ class ProgressBarPeer final : public Peer {
     SendMessageW(Window(), PBM_SETPOS, filled + 1, 0);
     SendMessageW(Window(), PBM_SETPOS, filled, 0);
     SendMessageW(Window(), PBM_SETRANGE32, 0, mControl.Pixels());
+    if (!isShown) return;
+    SendMessageW(Window(), WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(Window(), nullptr, TRUE);
   }
 
   ProgressBar& mControl;
