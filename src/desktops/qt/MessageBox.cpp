@@ -39,8 +39,15 @@ void PutBefore(QMessageBox& box, QWindow* owner) {
 
 }  // namespace
 
-void RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running) {
-  QMessageBox box(NativeIcon(message.Icon), ToQt(message.Title), ToQt(message.Text), QMessageBox::Ok);
+MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running) {
+  const bool isQuestion = message.Buttons == MessageButtons::YesNo;
+  QMessageBox box(NativeIcon(message.Icon), ToQt(message.Title), ToQt(message.Text),
+                  isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
+  if (isQuestion) {
+    box.setDefaultButton(QMessageBox::Yes);
+    // A question is answered by its buttons.
+    box.setWindowFlag(Qt::WindowCloseButtonHint, false);
+  }
   box.setTextFormat(Qt::PlainText);
   box.setFont(DialogFont());
   box.setWindowModality(Qt::ApplicationModal);
@@ -56,8 +63,9 @@ void RunMessageBox(const Message& message, QWindow* owner, const std::function<v
       box.accept();
     }
   });
-  box.exec();
+  const int pressed = box.exec();
   if (error) std::rethrow_exception(error);
+  return pressed == QMessageBox::Yes ? MessageAnswer::Yes : message.Harmless();
 }
 
 QMessageBox* OpenMessageBox() {
