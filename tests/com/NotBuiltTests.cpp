@@ -5,18 +5,6 @@
 namespace orx::com::test {
 namespace {
 
-struct Missing {
-  const char* Name;
-  HRESULT (*Call)(::_CCommonMapDialogs& dialogs);
-};
-
-constexpr Missing kMissingDialogs[] = {
-    {"ShowListSelection",
-     [](auto& d) {
-       return d.ShowListSelection(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
-     }},
-};
-
 struct MissingProgress {
   const char* Name;
   HRESULT (*Call)(::_CCommonProgressDialog& dialog);
@@ -37,13 +25,6 @@ constexpr MissingProgress kMissingProgress[] = {
 };
 
 using NotBuilt = MapDialogsTest;
-
-TEST_F(NotBuilt, MapDialogsSayWhichDialogIsMissing) {
-  for (const Missing& missing : kMissingDialogs) {
-    EXPECT_EQ(missing.Call(*dialogs.Get()), E_NOTIMPL) << missing.Name;
-  }
-  EXPECT_TRUE(shown.empty());
-}
 
 TEST_F(NotBuilt, TheProgressDialogSaysThatItIsMissing) {
   const auto progress = MakeCounted<ProgressDialog>();

@@ -26,6 +26,8 @@ class ListBoxPeer final : public RowsPeer {
     if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorSelection();
     Peer::Mirror(aspect);
     if (aspect == Aspect::Items || aspect == Aspect::Place) FillWidth();
+    // Before it has its place, a list has no room to show anything in.
+    if (aspect == Aspect::Place) RevealCurrent();
   }
 
   /// Tells the view what has changed alone: a long list may have many selected entries.
@@ -37,8 +39,12 @@ class ListBoxPeer final : public RowsPeer {
       if (!mShown.contains(row)) MirrorState(row, LVIS_SELECTED, LVIS_SELECTED);
     mShown = std::move(selected);
     if (mControl.FocusRow() >= 0) MirrorState(mControl.FocusRow(), LVIS_FOCUSED, LVIS_FOCUSED);
-    if (mControl.ListIndex() >= 0) Reveal(mControl.ListIndex());
+    RevealCurrent();
     InvalidateRect(Window(), nullptr, FALSE);
+  }
+
+  void RevealCurrent() const {
+    if (mControl.ListIndex() >= 0) Reveal(mControl.ListIndex());
   }
 
   void Pressed(int position, POINT, bool twice) override {
