@@ -3,10 +3,12 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "desktops/qt/NativeRows.h"
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/RowModel.h"
+#include "forms/Desktop.h"
 #include "forms/Form.h"
 
 namespace orx::qt {
@@ -24,7 +26,8 @@ class Entries final : public RowModel<ListBox> {
 /// Paints entries and keeps the width of the widest one that came into view, as nobody measures all of a long list.
 class EntryPainter final : public QStyledItemDelegate {
  public:
-  explicit EntryPainter(NativeRows& view) : QStyledItemDelegate(&view), mView(view) {}
+  /// `gap`: the pixels that an entry is higher than its text.
+  EntryPainter(NativeRows& view, int gap) : QStyledItemDelegate(&view), mView(view), mGap(gap) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QStyledItemDelegate::paint(painter, option, index);
@@ -36,12 +39,14 @@ class EntryPainter final : public QStyledItemDelegate {
         &mView, [this] { mView.doItemsLayout(); }, Qt::QueuedConnection);
   }
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return {mWidest, QStyledItemDelegate::sizeHint(option, index).height()};
+    const int height = QStyledItemDelegate::sizeHint(option, index).height();
+    return {mWidest, std::max(height, option.fontMetrics.height() + mGap)};
   }
   void Forget() { mWidest = 0; }
 
  private:
   NativeRows& mView;
+  int mGap;
   mutable int mWidest = 0;
 };
 
@@ -52,7 +57,7 @@ class ListBoxPeer final : public Peer {
         mControl(control),
         mNative(*native),
         mEntries(*new Entries(control, native)),
-        mPainter(*new EntryPainter(*native)) {
+        mPainter(*new EntryPainter(*native, dialog.Owner().OwnerDesktop().ToPixels(kRowGap))) {
     mNative.setItemDelegate(&mPainter);
     mNative.setTextElideMode(Qt::ElideNone);
     mNative.setSelectionMode(control.MultiSelect() ? QAbstractItemView::MultiSelection

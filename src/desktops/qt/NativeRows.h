@@ -9,6 +9,9 @@
 
 namespace orx::qt {
 
+/// In twips: what a row is higher than its text.
+inline constexpr int kRowGap = 60;
+
 /// Shows rows and scrolls; mouse and keys are the control's business. The peer empties the functions when it goes.
 class NativeRows final : public QListView {
  public:

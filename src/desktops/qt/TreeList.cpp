@@ -13,8 +13,7 @@
 namespace orx::qt {
 namespace {
 
-/// In twips: what a row is higher than its text, and the width that a level takes.
-constexpr int kRowGap = 60;
+/// In twips: the width that a level takes.
 constexpr int kLevelWidth = 240;
 
 class ShownRows final : public RowModel<TreeList> {
