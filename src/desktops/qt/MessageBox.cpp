@@ -46,7 +46,7 @@ MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::f
   if (isQuestion) {
     box.setDefaultButton(QMessageBox::Yes);
     // A question is answered by its buttons.
-    box.setWindowFlag(Qt::WindowCloseButtonHint, false);
+    box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
   }
   box.setTextFormat(Qt::PlainText);
   box.setFont(DialogFont());
