@@ -45,8 +45,9 @@ MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::f
                   isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
   if (isQuestion) {
     box.setDefaultButton(QMessageBox::Yes);
-    // A question is answered by its buttons.
-    box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    // A question is answered by its buttons. The toolkit adds the close box when it makes the window.
+    box.winId();
+    box.setWindowFlag(Qt::WindowCloseButtonHint, false);
   }
   box.setTextFormat(Qt::PlainText);
   box.setFont(DialogFont());
