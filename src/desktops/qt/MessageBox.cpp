@@ -43,18 +43,17 @@ MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::f
   const bool isQuestion = message.Buttons == MessageButtons::YesNo;
   QMessageBox box(NativeIcon(message.Icon), ToQt(message.Title), ToQt(message.Text),
                   isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
-  if (isQuestion) {
-    box.setDefaultButton(QMessageBox::Yes);
-    // A question is answered by its buttons. The toolkit adds the close box when it makes the window.
-    box.winId();
-    box.setWindowFlag(Qt::WindowCloseButtonHint, false);
-  }
+  if (isQuestion) box.setDefaultButton(QMessageBox::Yes);
   box.setTextFormat(Qt::PlainText);
   box.setFont(DialogFont());
   box.setWindowModality(Qt::ApplicationModal);
   box.setAttribute(Qt::WA_QuitOnClose, false);
   const QWidget* const active = QApplication::activeWindow();
   PutBefore(box, owner || !active ? owner : active->windowHandle());
+  // A question is answered by its buttons. The toolkit adds the close box when it makes the window, so that it goes
+  // last.
+  box.winId();
+  if (isQuestion) box.setWindowFlag(Qt::WindowCloseButtonHint, false);
   std::exception_ptr error;
   QTimer::singleShot(0, &box, [&] {
     try {
