@@ -45,6 +45,16 @@ TEST_F(Win32List, ALongEntryIsReadByScrolling) {
   EXPECT_EQ(0, Overhang());
 }
 
+TEST_F(Win32List, TheOtherMouseButtonSelectsNothing) {
+  for (const int row : {0, 2}) user.Click(lists->lstSome, row);
+  const HWND window = WindowOf(lists->lstSome);
+  PostMessageW(window, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(8, 30));
+  PostMessageW(window, WM_RBUTTONUP, 0, MAKELPARAM(8, 30));
+  desktop().ProcessPendingEvents();
+  EXPECT_EQ((std::set<int>{0, 2}), lists->lstSome.SelectedRows());
+  EXPECT_EQ((std::set<int>{0, 2}), user.SeeSelected(lists->lstSome));
+}
+
 TEST_F(Win32List, AssistiveSoftwareSelectsEntries) {
   SetSelected(lists->lstSome, 1, true);
   SetSelected(lists->lstSome, 3, true);

@@ -76,6 +76,10 @@ LRESULT RowsPeer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     case WM_LBUTTONDBLCLK:
       Press({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}, message == WM_LBUTTONDBLCLK);
       return 0;
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+      // The native list would select by it.
+      return 0;
     case WM_KEYDOWN:
       if (GetKeyState(VK_CONTROL) < 0) return 0;
       if (ScrollsAcross() && (wParam == VK_LEFT || wParam == VK_RIGHT))
