@@ -13,7 +13,8 @@ class Photographer final : public orx::DesktopHook {
  public:
   Photographer(NativeDesktop& desktop, std::filesystem::path folder) : mDesktop(desktop), mFolder(std::move(folder)) {}
 
-  void Language(const std::string& suffix) { mSuffix = suffix; }
+  /// What stands behind the name of each form in the name of its picture.
+  void Suffix(const std::string& value) { mSuffix = value; }
 
   void Take(orx::Form& form) {
     const std::filesystem::path file = mFolder / (form.Name() + mSuffix + ".png");
@@ -43,14 +44,15 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
   const auto window = std::make_shared<HostWindow>(desktop, map, languages);
   window->Show(orx::ShowMode::Modeless);
   for (int language = 0; language < languages.Count(); ++language) {
-    photographer.Language(language == 0 ? std::string() : "-" + std::to_string(language));
+    const std::string suffix = language == 0 ? std::string() : "-" + std::to_string(language);
+    photographer.Suffix(suffix);
     window->cboLanguage.UserPick(language);
     desktop.ProcessPendingEvents();
     photographer.Take(*window);
-    for (orx::Button* button :
-         {&window->cmdManager, &window->cmdSettings, &window->cmdData, &window->cmdProperties, &window->cmdLabels,
-          &window->cmdSymbol, &window->cmdCoordinates, &window->cmdLegends, &window->cmdClassify, &window->cmdOptions,
-          &window->cmdShade, &window->cmdIsolines, &window->cmdColors, &window->cmdGeoreference, &window->cmdLost})
+    for (orx::Button* button : {&window->cmdManager, &window->cmdSettings, &window->cmdData, &window->cmdProperties,
+                                &window->cmdLabels, &window->cmdSymbol, &window->cmdCoordinates, &window->cmdLegends,
+                                &window->cmdClassify, &window->cmdOptions, &window->cmdShade, &window->cmdIsolines,
+                                &window->cmdColors, &window->cmdGeoreference, &window->cmdJump, &window->cmdLost})
       button->UserPress();
     // The host keeps the progress window open as it works.
     const auto progress = std::make_shared<orx::frmProgress>(desktop);
@@ -60,6 +62,8 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     desktop.ProcessPendingEvents();
     photographer.Take(*progress);
     progress->Unload();
+    photographer.Suffix("-several" + suffix);
+    window->cmdShowHide.UserPress();
   }
   window->UserClose();
   desktop.Hook(nullptr);

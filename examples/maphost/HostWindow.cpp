@@ -18,8 +18,8 @@ using orx::QueryKind;
 // Places in twips.
 constexpr int kMargin = 120;
 constexpr int kSideWidth = 4500;
-constexpr int kLogHeight = 1950;
-constexpr orx::Size kSmallest{10200, 8400};
+constexpr int kLogHeight = 1650;
+constexpr orx::Size kSmallest{10200, 8490};
 constexpr char kLostFile[] = "/maps/Tennessee/moved last year/ROADS.SHP";
 
 }  // namespace
@@ -45,6 +45,8 @@ HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const L
   cmdColors.Click = [this] { cmdColors_Click(); };
   cmdAddLayer.Click = [this] { cmdAddLayer_Click(); };
   cmdLost.Click = [this] { cmdLost_Click(); };
+  cmdJump.Click = [this] { cmdJump_Click(); };
+  cmdShowHide.Click = [this] { cmdShowHide_Click(); };
   cboLayer.Click = [this] { EnableDialogs(); };
   cboLanguage.Click = [this] { cboLanguage_Click(); };
   mMap.Changed = [this] {
@@ -94,10 +96,6 @@ void HostWindow::Form_Resize() {
   const int width = std::max(ClientSize().Width, kSmallest.Width);
   const int height = std::max(ClientSize().Height, kSmallest.Height);
   const int side = width - kSideWidth - kMargin;
-  const int logTop = height - kMargin - kLogHeight;
-  pctMap.Place({kMargin, kMargin, side - 2 * kMargin, logTop - 3 * kMargin - 240});
-  lblLog.Place({kMargin, logTop - 300, 6000, 240});
-  txtLog.Place({kMargin, logTop, width - 2 * kMargin, kLogHeight});
   int top = kMargin;
   const auto stack = [&](orx::Control& control, int controlHeight, int gap) {
     control.Place({side, top, kSideWidth, controlHeight});
@@ -105,12 +103,12 @@ void HostWindow::Form_Resize() {
   };
   stack(lblLayer, 240, 60);
   stack(cboLayer, 360, 240);
-  constexpr int kGap = 90;
-  constexpr int kButtonHeight = 420;
+  constexpr int kGap = 60;
+  constexpr int kButtonHeight = 375;
   orx::Button* const buttons[] = {&cmdManager,     &cmdSettings, &cmdProperties, &cmdLabels,  &cmdSymbol,
                                   &cmdCoordinates, &cmdData,     &cmdClassify,   &cmdOptions, &cmdShade,
                                   &cmdIsolines,    &cmdContours, &cmdLegends,    &cmdColors,  &cmdGeoreference,
-                                  &cmdAddLayer,    &cmdLost};
+                                  &cmdJump,        &cmdShowHide, &cmdAddLayer,   &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
   for (orx::Button* const button : buttons) {
@@ -118,10 +116,15 @@ void HostWindow::Form_Resize() {
     if (!isLeft || button == &cmdLost) top += kButtonHeight + kGap;
     isLeft = !isLeft;
   }
-  top += 120;
-  stack(chkModeless, 330, 360);
+  top += 60;
+  stack(chkModeless, 330, 180);
   stack(lblLanguage, 240, 60);
-  stack(cboLanguage, 360, 0);
+  stack(cboLanguage, 360, kMargin);
+  // In a low window the log is what gets smaller.
+  const int logTop = std::max(height - kMargin - kLogHeight, top);
+  pctMap.Place({kMargin, kMargin, side - 2 * kMargin, logTop - 3 * kMargin - 240});
+  lblLog.Place({kMargin, logTop - 300, 6000, 240});
+  txtLog.Place({kMargin, logTop, width - 2 * kMargin, height - kMargin - logTop});
   DrawMap();
 }
 
@@ -231,6 +234,41 @@ void HostWindow::cmdContours_Click() {
 void HostWindow::cmdColors_Click() {
   const bool isDone = orx::modMain::ShowColorsDialog(OwnerDesktop(), mDialogs.Language(), {this, 0});
   mLog.Write(isDone ? "Color schemes: closed" : "Color schemes: failed");
+}
+
+std::string HostWindow::Translated(const std::string& text) const {
+  orx::ILanguage* const language = mDialogs.Language();
+  return language ? language->TranslateText(text) : text;
+}
+
+std::vector<std::int32_t> HostWindow::ChooseLayers(const std::string& caption, bool several,
+                                                   const std::string& question) {
+  // The whole map is no layer, so the first layer has the index 1.
+  orx::TextArray names{{}, 1};
+  for (std::size_t i = 1; i < mChoices.size(); ++i) names.Items.push_back(mChoices[i].Name);
+  std::vector<std::int32_t> chosen;
+  mDialogs.ShowListSelection(names, several, cboLayer.ListIndex(), caption, !question.empty(), question, chosen);
+  return chosen;
+}
+
+void HostWindow::cmdJump_Click() {
+  const std::vector<std::int32_t> chosen = ChooseLayers("Jump to layer", false, {});
+  if (chosen.empty()) return mLog.Write("Jump to layer: nothing chosen");
+  cboLayer.ListIndex(chosen.front());
+  mLog.Write("Jump to layer: " + Chosen().Name);
+}
+
+void HostWindow::cmdShowHide_Click() {
+  const std::vector<std::int32_t> chosen =
+      ChooseLayers("Show or hide layers", true, Translated("Show what is hidden, and hide what is shown?"));
+  for (const std::int32_t index : chosen) {
+    const Choice& choice = mChoices.at(static_cast<std::size_t>(index));
+    auto& layer = *QueryKind<orx::ILayer>(choice.Object);
+    layer.Visible(!layer.Visible());
+    mLog.Write(choice.Name + (layer.Visible() ? ": shown" : ": hidden"));
+  }
+  if (chosen.empty()) mLog.Write("Show or hide: nothing chosen");
+  DrawMap();
 }
 
 void HostWindow::cmdAddLayer_Click() {

@@ -48,6 +48,8 @@ class HostWindow final : public orx::Form {
   orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
   orx::Button cmdLost{
       *this, "cmdLost", {.Caption = "Missing fil&e...", .ToolTipText = "Opens a layer whose file is gone"}};
+  orx::Button cmdJump{*this, "cmdJump", {.Caption = "&Jump to layer..."}};
+  orx::Button cmdShowHide{*this, "cmdShowHide", {.Caption = "Sho&w/hide..."}};
   orx::CheckBox chkModeless{*this, "chkModeless", {.Caption = "&Keep dialogs open"}};
   orx::Label lblLanguage{*this, "lblLanguage", {.Caption = "L&anguage:"}};
   orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
@@ -90,6 +92,11 @@ class HostWindow final : public orx::Form {
   void ShowGridDialog(const std::string& what, GridDialog dialog);
   void cmdContours_Click();
   void cmdColors_Click();
+  void cmdJump_Click();
+  void cmdShowHide_Click();
+  /// Has the user choose layers from a list; gives their places among the choices.
+  std::vector<std::int32_t> ChooseLayers(const std::string& caption, bool several, const std::string& question);
+  std::string Translated(const std::string& text) const;
   const Choice& Chosen() const { return mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())); }
   void cmdAddLayer_Click();
   void cmdLost_Click();

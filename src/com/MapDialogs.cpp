@@ -1,8 +1,8 @@
 #include "com/MapDialogs.h"
 
-#include <new>
 #include <vector>
 
+#include "com/HostArrays.h"
 #include "com/OwnerArgument.h"
 
 namespace orx::com {
@@ -14,25 +14,6 @@ HRESULT GiveReference(IDispatch* object, IDispatch** value) {
   if (!value) return E_POINTER;
   *value = ComPtr<IDispatch>(object).Detach();
   return S_OK;
-}
-
-/// The element with the index 1, when there is one: the name that a dialog opens on.
-std::vector<std::string> FirstOf(SAFEARRAY* files) {
-  VARTYPE type = VT_EMPTY;
-  LONG index = 1;
-  Bstr first;
-  if (!files || FAILED(SafeArrayGetVartype(files, &type)) || type != VT_BSTR || SafeArrayGetDim(files) != 1) return {};
-  if (FAILED(SafeArrayGetElement(files, &index, first.Out()))) return {};
-  return {first.Text()};
-}
-
-/// Puts a new array, counted from 1, in the place of the old one.
-void PutTexts(const std::vector<std::string>& texts, SAFEARRAY*& array) {
-  SAFEARRAY* const made = SafeArrayCreateVector(VT_BSTR, 1, static_cast<ULONG>(texts.size()));
-  if (!made) throw std::bad_alloc();
-  for (LONG index = 1; index <= static_cast<LONG>(texts.size()); ++index)
-    SafeArrayPutElement(made, &index, Bstr(texts[static_cast<std::size_t>(index) - 1]).Get());
-  SafeArrayDestroy(std::exchange(array, made));
 }
 
 }  // namespace
@@ -191,7 +172,7 @@ HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL mult
     const auto owner = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(hWnd));
     const ComPtr<IDispatch> self(this);
     const bool isChosen = (mService.*member)(owner, multiselect != VARIANT_FALSE, chosen);
-    if (isChosen) PutTexts(chosen, *files);
+    if (isChosen) PutTexts(chosen, *files, "Files");
     *result = isChosen ? VARIANT_TRUE : VARIANT_FALSE;
   });
 }
@@ -241,11 +222,25 @@ HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, do
   });
 }
 
-// The member below has no dialog yet.
-
-HRESULT MapDialogs::ShowListSelection(SAFEARRAY**, VARIANT_BOOL*, long*, BSTR*, VARIANT_BOOL*, BSTR*, SAFEARRAY**,
-                                      long*) noexcept {
-  return E_NOTIMPL;
+HRESULT MapDialogs::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMultiselect, long* mListIndex,
+                                      BSTR* mCaption, VARIANT_BOOL* mAskConfirmation, BSTR* mConfirmationQuestion,
+                                      SAFEARRAY** mSelected, long* result) noexcept {
+  if (!mSelection || !mMultiselect || !mListIndex || !mCaption || !mAskConfirmation || !mConfirmationQuestion ||
+      !mSelected || !result)
+    return E_POINTER;
+  *result = 0;
+  return Guarded(kDialogsSource, [&] {
+    const TextArray entries = TextsIn(*mSelection, "mSelection");
+    // What would be chosen in vain need not be chosen at all.
+    RequireNumbers(*mSelected, "mSelected");
+    std::vector<std::int32_t> chosen;
+    const ComPtr<IDispatch> self(this);
+    const std::int32_t count =
+        mService.ShowListSelection(entries, *mMultiselect != VARIANT_FALSE, *mListIndex, TextOf(*mCaption),
+                                   *mAskConfirmation != VARIANT_FALSE, TextOf(*mConfirmationQuestion), chosen);
+    if (count > 0) PutNumbers(chosen, *mSelected, "mSelected");
+    *result = count;
+  });
 }
 
 }  // namespace orx::com

@@ -9,7 +9,6 @@
 namespace orx::com {
 namespace {
 
-constexpr std::int32_t kTypeMismatch = 13;
 constexpr char kExplanation[] =
     "OwnerForm is neither a window handle nor an object with the property hWnd. Leave it out for a dialog without an "
     "owner.";
@@ -19,9 +18,10 @@ std::uintptr_t HandleOf(const VARIANT& number) {
   Variant exact;
   if (number.vt == VT_BOOL || FAILED(ConvertValue(number, VT_R8, LOCALE_INVARIANT, exact)) ||
       exact.dblVal != std::trunc(exact.dblVal))
-    throw RunTimeError(kTypeMismatch, kExplanation);
+    throw RunTimeError(kErrorTypeMismatch, kExplanation);
   // Handles of 64-bit programs fit 32 bits, but their sign is extended by some and not by others.
-  if (FAILED(ConvertValue(number, VT_I8, LOCALE_INVARIANT, handle))) throw RunTimeError(kTypeMismatch, kExplanation);
+  if (FAILED(ConvertValue(number, VT_I8, LOCALE_INVARIANT, handle)))
+    throw RunTimeError(kErrorTypeMismatch, kExplanation);
   return static_cast<std::uintptr_t>(static_cast<std::intptr_t>(static_cast<std::int32_t>(handle.llVal)));
 }
 
@@ -31,16 +31,16 @@ OwnerWindow OwnerOf(const VARIANT* owner) {
   if (!owner) return {};
   Variant value;
   if (FAILED(VariantCopyInd(&value, const_cast<VARIANT*>(ValueBehind(const_cast<VARIANT*>(owner))))))
-    throw RunTimeError(kTypeMismatch, kExplanation);
+    throw RunTimeError(kErrorTypeMismatch, kExplanation);
   if (IsMissing(value) || value.vt == VT_EMPTY || value.vt == VT_NULL) return {};
   if (value.vt != VT_DISPATCH && value.vt != VT_UNKNOWN) {
     if (value.vt == VT_BSTR || (value.vt & VT_ARRAY) || value.vt == VT_ERROR)
-      throw RunTimeError(kTypeMismatch, kExplanation);
+      throw RunTimeError(kErrorTypeMismatch, kExplanation);
     return {nullptr, HandleOf(value)};
   }
   if (!value.punkVal) return {};
   const LateBound form(ComPtr<IDispatch>::From(value.punkVal).Get());
-  if (!form.Has("hWnd")) throw RunTimeError(kTypeMismatch, kExplanation);
+  if (!form.Has("hWnd")) throw RunTimeError(kErrorTypeMismatch, kExplanation);
   return {nullptr, HandleOf(form.Get("hWnd"))};
 }
 

@@ -20,6 +20,14 @@ void ComboBox::Text(const std::string& value) {
   Change.Raise();
 }
 
+void ComboBox::UserPick(int index) {
+  OwnerForm().UserAct([&] {
+    // The native list shows the entry already; it waits for what becomes of the choice.
+    Changed(Aspect::Value);
+    if (OwnerForm().MoveFocus(*this)) ListIndex(index);
+  });
+}
+
 void ComboBox::UserText(const std::string& text) {
   if (mStyle != ComboStyle::Editable || text == mText) return;
   OwnerForm().UserAct([&] {

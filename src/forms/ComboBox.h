@@ -27,7 +27,8 @@ class ComboBox final : public ListControl {
   /// Raised when the text of an editable box is typed or set.
   Event<> Change;
 
-  /// For desktops and test users: the user types into an editable box.
+  /// For desktops and test users: the user picks an entry, or types into an editable box.
+  void UserPick(int index);
   void UserText(const std::string& text);
   void Accept(ControlVisitor& visitor) override;
 

@@ -32,7 +32,7 @@ int Desktop::ToTwips(int pixels) const {
   return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale()));
 }
 
-void Desktop::ShowMessage(const Message& message) {
+MessageAnswer Desktop::ShowMessage(const Message& message) {
   const Modal modal{.ShownMessage = &message};
   if (mHook) mHook->ModalOpening(modal);
   FormWindow* owner = nullptr;
@@ -41,8 +41,9 @@ void Desktop::ShowMessage(const Message& message) {
   } else if (!mOpenForms.empty()) {
     owner = mOpenForms.back()->Window();
   }
-  DoShowMessage(message, owner);
+  const MessageAnswer answer = DoShowMessage(message, owner);
   if (mHook) mHook->ModalClosed(modal);
+  return answer;
 }
 
 bool Desktop::OpenFiles(OpenFileRequest& request) {
@@ -158,7 +159,10 @@ void Desktop::CloseOpenForms() {
 }
 
 void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {
-  if (mSessions.empty()) return ShowMessage({DescribeError(error), form.Caption(), MessageIcon::Critical});
+  if (mSessions.empty()) {
+    ShowMessage({DescribeError(error), form.Caption(), MessageIcon::Critical});
+    return;
+  }
   Session& session = *mSessions.back();
   if (!session.Error) session.Error = std::move(error);
   EndModal(*session.Shown);

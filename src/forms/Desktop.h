@@ -39,8 +39,8 @@ class Desktop {
   /// The hook that sees everything modal; null removes it. Not owned.
   void Hook(DesktopHook* hook) { mHook = hook; }
 
-  /// Shows a message box and returns when it has been answered. It belongs to the form that is shown on top.
-  void ShowMessage(const Message& message);
+  /// Shows a message box and returns the answer. It belongs to the form that is shown on top.
+  MessageAnswer ShowMessage(const Message& message);
   /// Has the user choose files in the platform's own dialog. False, with the request as it was, when nothing was
   /// chosen, and when the request has no buffer for an answer.
   bool OpenFiles(OpenFileRequest& request);
@@ -95,8 +95,8 @@ class Desktop {
   /// comes out of Form::Show.
   virtual std::unique_ptr<FormWindow> OpenWindow(Form& form) = 0;
   /// Shows a message box above the window `owner` (null: none), calls ModalIsRunning once it is up, and returns when it
-  /// was answered.
-  virtual void DoShowMessage(const Message& message, FormWindow* owner) = 0;
+  /// was answered, with the answer.
+  virtual MessageAnswer DoShowMessage(const Message& message, FormWindow* owner) = 0;
   /// Does what OpenFiles says; calls ModalIsRunning once the dialog is up.
   virtual bool DoOpenFiles(OpenFileRequest& request) = 0;
   /// Do what ChooseColor and ChooseFont say; call ModalIsRunning once the dialog is up.

@@ -18,6 +18,8 @@ struct OpenFileRequest;
 struct Modal {
   Form* ShownForm = nullptr;
   const Message* ShownMessage = nullptr;
+  /// Where nobody else answers, the answer to the message: the harmless one unless set here.
+  MessageAnswer* Answer = nullptr;
   /// Where nobody else answers, PutAnswer answers here.
   OpenFileRequest* ShownFiles = nullptr;
   /// Where nobody else answers, set its Answer here.

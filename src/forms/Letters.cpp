@@ -40,6 +40,11 @@ bool BeginsWith(std::string_view text, std::u32string_view start) {
   return true;
 }
 
+std::string WithoutBlanksAround(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 bool EqualInAnyCase(std::string_view one, std::string_view other) {
   while (!one.empty() && !other.empty()) {
     if (LowerCase(FirstCharacter(one)) != LowerCase(FirstCharacter(other))) return false;

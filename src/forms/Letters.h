@@ -15,6 +15,9 @@ char32_t LowerCase(char32_t character);
 /// True when the UTF-8 text begins with those characters, in whatever case.
 bool BeginsWith(std::string_view text, std::u32string_view start);
 
+/// The text without the blanks (spaces alone) at its two ends.
+std::string WithoutBlanksAround(const std::string& text);
+
 /// True when two UTF-8 texts differ at most by the case of letters.
 bool EqualInAnyCase(std::string_view one, std::string_view other);
 

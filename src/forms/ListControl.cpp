@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "forms/Form.h"
-
 namespace orx {
 
 void ListControl::List(int index, const std::string& text) {
@@ -48,14 +46,6 @@ std::int32_t ListControl::SelectedData(std::int32_t otherwise) const {
 int ListControl::IndexOf(const std::string& text) const {
   const auto found = std::ranges::find(mItems, text, &Item::Text);
   return found == mItems.end() ? -1 : static_cast<int>(found - mItems.begin());
-}
-
-void ListControl::UserPick(int index) {
-  OwnerForm().UserAct([&] {
-    // The native list shows the entry already; it waits for what becomes of the choice.
-    Changed(Aspect::Value);
-    if (OwnerForm().MoveFocus(*this)) ListIndex(index);
-  });
 }
 
 }  // namespace orx

@@ -8,7 +8,7 @@
 
 namespace orx {
 
-/// Entries in the order in which they were added, of which at most one is selected.
+/// Entries in the order in which they were added, of which at most one is the current one.
 class ListControl : public Control {
  public:
   /// As Control; the list is empty at first.
@@ -24,11 +24,11 @@ class ListControl : public Control {
   /// Adds an entry at the end.
   void AddItem(const std::string& text, std::int32_t data = 0);
   /// Removes all entries and the selection, without an event.
-  void Clear();
+  virtual void Clear();
 
-  /// The index of the selected entry, -1 when none is.
+  /// The index of the current entry, -1 when none is: the selected one, where not several can be selected.
   int ListIndex() const { return mListIndex; }
-  /// Selects an entry (-1: none) and raises Click when it was not selected. Throws std::out_of_range.
+  /// Goes to an entry (-1: to none) and raises Click when it was not the current one. Throws std::out_of_range.
   void ListIndex(int index);
   /// Selects the first entry with that number and returns true; without such an entry nothing changes.
   bool SelectData(std::int32_t data);
@@ -37,9 +37,6 @@ class ListControl : public Control {
 
   /// Raised when an entry is selected, by the user or by the program.
   Event<> Click;
-
-  /// For desktops and test users: the user picks an entry.
-  void UserPick(int index);
 
  protected:
   /// The index of the first entry with that text, -1 when there is none.

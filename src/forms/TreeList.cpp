@@ -1,20 +1,12 @@
 #include "forms/TreeList.h"
 
-#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
 #include "forms/ControlVisitor.h"
 #include "forms/Form.h"
-#include "forms/Letters.h"
 
 namespace orx {
-namespace {
-
-/// After a pause of this length, a typed letter begins a new search.
-constexpr std::chrono::milliseconds kTypingPause{1000};
-
-}  // namespace
 
 void TreeList::RowsChanged() {
   mShownIsKnown = false;
@@ -135,8 +127,7 @@ void TreeList::UserKeyDown(int keyCode) {
 }
 
 void TreeList::SelectPosition(int position) {
-  if (ShownCount() == 0) return;
-  const int row = ShownRow(std::clamp(position, 0, ShownCount() - 1));
+  const int row = ShownRow(position);
   if (row != mListIndex) Select(row);
 }
 
@@ -153,20 +144,9 @@ void TreeList::GoRight() {
 }
 
 void TreeList::Navigate(int keyCode) {
-  const int at = mListIndex < 0 ? -1 : PositionOf(mListIndex);
+  if (const std::optional<int> position = PositionAfterKey(keyCode, Shown(), mPageRows))
+    return SelectPosition(*position);
   switch (keyCode) {
-    case kKeyCodeUp:
-      return SelectPosition(at - 1);
-    case kKeyCodeDown:
-      return SelectPosition(at + 1);
-    case kKeyCodePageUp:
-      return SelectPosition(at - mPageRows + 1);
-    case kKeyCodePageDown:
-      return SelectPosition(at + mPageRows - 1);
-    case kKeyCodeHome:
-      return SelectPosition(0);
-    case kKeyCodeEnd:
-      return SelectPosition(ShownCount() - 1);
     case kKeyCodeLeft:
       return GoLeft();
     case kKeyCodeRight:
@@ -182,29 +162,12 @@ void TreeList::Navigate(int keyCode) {
 
 void TreeList::UserCharacter(char32_t character) {
   OwnerForm().UserAct([&] {
-    const auto now = std::chrono::steady_clock::now();
-    if (now - mTypedAt > kTypingPause) mTyped.clear();
-    // A blank belongs to a name only behind other letters.
-    if (character < U' ' || (character == U' ' && mTyped.empty())) return;
-    mTypedAt = now;
-    mTyped += character;
-    const int before = mListIndex;
-    Seek();
-    if (mListIndex != before) KeyDown.Raise(0);
+    const auto textAt = [this](int position) -> const std::string& { return Row(ShownRow(position)).Text; };
+    const std::optional<int> found = mTypeAhead.Type(character, Shown(), textAt);
+    if (!found || ShownRow(*found) == mListIndex) return;
+    SelectPosition(*found);
+    KeyDown.Raise(0);
   });
-}
-
-void TreeList::Seek() {
-  if (ShownCount() == 0) return;
-  // The same letter again and again goes from one row to the next.
-  const bool isRepeated = std::ranges::all_of(mTyped, [&](char32_t each) { return each == mTyped.front(); });
-  const std::u32string_view start = isRepeated ? std::u32string_view(mTyped).substr(0, 1) : mTyped;
-  const int at = std::max(mListIndex < 0 ? -1 : PositionOf(mListIndex), -1);
-  const int first = at < 0 ? 0 : at + (start.size() == 1 ? 1 : 0);
-  for (int step = 0; step < ShownCount(); ++step) {
-    const int row = ShownRow((first + step) % ShownCount());
-    if (BeginsWith(Row(row).Text, start)) return SelectPosition(PositionOf(row));
-  }
 }
 
 void TreeList::Accept(ControlVisitor& visitor) {

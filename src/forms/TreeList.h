@@ -1,12 +1,12 @@
 // A list of rows in levels, of which the deeper ones can be folded away: layers with their tiles.
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/RowWalk.h"
 
 namespace orx {
 
@@ -94,10 +94,11 @@ class TreeList final : public Control {
   /// Selects without an event.
   void Select(int row);
   void SelectPosition(int position);
+  /// The rows that can be seen, and the selected one among them.
+  RowSpan Shown() const { return {ShownCount(), mListIndex < 0 ? -1 : PositionOf(mListIndex)}; }
   void GoLeft();
   void GoRight();
   void Navigate(int keyCode);
-  void Seek();
 
   std::vector<TreeRow> mRows;
   /// The row that holds each row.
@@ -110,8 +111,7 @@ class TreeList final : public Control {
   mutable std::vector<int> mShown;
   mutable std::vector<int> mPositions;
   mutable bool mShownIsKnown = false;
-  std::u32string mTyped;
-  std::chrono::steady_clock::time_point mTypedAt;
+  TypeAhead mTypeAhead;
 };
 
 }  // namespace orx

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "forms/Desktop.h"
+#include "forms/Letters.h"
 #include "numbers/Numbers.h"
 #include "service/modMain.h"
 
@@ -13,11 +14,6 @@ constexpr char kWrongValueTitle[] = "Wrong value";
 constexpr char kTopFormat[] = "0.0000";
 
 enum Edge { EdgeLeft, EdgeRight, EdgeBottom, EdgeTop };
-
-std::string WithoutBlanksAround(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 }  // namespace
 

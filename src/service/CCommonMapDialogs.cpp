@@ -3,6 +3,7 @@
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
 #include "hostobjects/IMap.h"
+#include "pickers/frmListSelection.h"
 #include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
 #include "propertydialogs/frmDataDialog.h"
@@ -136,6 +137,23 @@ std::int32_t CCommonMapDialogs::ShowCharacterSelection(std::string& mFontName, s
   mRotation = choice.Rotation;
   mChanged = choice.Changed;
   return isDone ? -1 : 0;
+}
+
+std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, bool mMultiselect,
+                                                  std::int32_t mListIndex, const std::string& mCaption,
+                                                  bool mAskConfirmation, const std::string& mConfirmationQuestion,
+                                                  std::vector<std::int32_t>& mSelected) {
+  // Errors reach the host, but not past the unloading.
+  const auto unload = [](frmListSelection* form) { form->Unload(); };
+  const auto form = std::make_shared<frmListSelection>(mDesktop);
+  const std::unique_ptr<frmListSelection, decltype(unload)> unloaded(form.get(), unload);
+  form->Language(mLanguage);
+  form->Init(mSelection, mMultiselect, mListIndex, mAskConfirmation, mConfirmationQuestion, mCaption);
+  form->Show();
+  bool isCancelled = false;
+  std::int32_t count = 0;
+  form->GetSelectedItems(mSelected, isCancelled, count);
+  return count;
 }
 
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {

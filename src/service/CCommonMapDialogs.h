@@ -13,6 +13,7 @@
 #include "hostobjects/IDialogCallBack.h"
 #include "hostobjects/ILanguage.h"
 #include "hostobjects/PropertyPage.h"
+#include "hostobjects/TextArray.h"
 
 namespace orx {
 
@@ -93,6 +94,17 @@ class CCommonMapDialogs {
   /// `mCaption` has no effect. -1 when no error has occurred, also when the user cancelled, else 0.
   std::int32_t ShowCharacterSelection(std::string& mFontName, std::int32_t& mCharacter, double& mRotation,
                                       bool& mChanged, const std::string& mCaption = {}, OwnerWindow OwnerForm = {});
+
+  /// Has the user choose entries of a list, of which the host's own array says what and by which indexes. Without a
+  /// word in it, an entry is shown by its index. `mMultiselect`: several can be chosen. `mListIndex` is the place of
+  /// the entry that is selected at first, from 1; 0 and below: none, behind the last: the first. `mAskConfirmation`: a
+  /// choice counts when the user has answered `mConfirmationQuestion` with Yes. Texts are UTF-8.
+  /// Gives how many were chosen, and in `mSelected` their indexes. 0 when the user cancelled and when none of several
+  /// was chosen, with `mSelected` as it was; where one can be chosen, 1 also when none was, by OK or by the close box,
+  /// with `mSelected` empty. Throws what the language throws when it is asked for its number of entries.
+  std::int32_t ShowListSelection(const TextArray& mSelection, bool mMultiselect, std::int32_t mListIndex,
+                                 const std::string& mCaption, bool mAskConfirmation,
+                                 const std::string& mConfirmationQuestion, std::vector<std::int32_t>& mSelected);
 
   /// Has the user choose the files of new layers, several if wanted whatever `Multiselect` says; the dialog belongs to
   /// the window `hWnd` (HWND on Windows, WId on Qt; 0: none) and opens on the first of `Files`. True when files of an

@@ -33,9 +33,16 @@ void DialogForm::TakeHelpNumber(const std::string& helpKey) {
 }
 
 void DialogForm::Translate() {
-  if (!mLanguageActive) return;
-  mLanguage->TranslateForm(*this);
-  Caption(mLanguage->TranslateText(Caption()));
+  TranslateControls();
+  TranslateCaption();
+}
+
+void DialogForm::TranslateControls() {
+  if (mLanguageActive) mLanguage->TranslateForm(*this);
+}
+
+void DialogForm::TranslateCaption() {
+  if (mLanguageActive) Caption(mLanguage->TranslateText(Caption()));
 }
 
 void DialogForm::ShowHelp() {

@@ -34,6 +34,9 @@ class DialogForm : public Form {
   void TakeHelpNumber(const std::string& helpKey);
   /// Has an active language translate the controls, and then the form's caption.
   void Translate();
+  /// The two steps of that, for a dialog where one may fail without the other.
+  void TranslateControls();
+  void TranslateCaption();
   /// What every Help button does.
   void ShowHelp();
 

@@ -309,6 +309,55 @@ TEST_F(ExamplesHost, ALayerThatCannotBeReadIsToldAndTheMapStaysAsItWas) {
   EXPECT_EQ(2, map->LayerCount());
 }
 
+TEST_F(ExamplesHost, JumpsToTheLayerThatTheUserChoosesFromTheList) {
+  script.ExpectForm("frmListSelection", [&](Form& shown) {
+    auto& list = Get<ListBox>(shown, "lstSingleSelect");
+    EXPECT_EQ(6, list.ListCount());
+    EXPECT_EQ("Terrain", user.See(list).Text);
+    user.DoubleClick(list, 1);
+  });
+  Press(user, *window, "cmdJump");
+  EXPECT_EQ("Quarters", user.See(window->cboLayer).Text);
+  EXPECT_EQ("Jump to layer: Quarters", LastLine());
+  script.ExpectForm("frmListSelection", [&](Form& shown) { Press(user, shown, "cmdCancel"); });
+  Press(user, *window, "cmdJump");
+  EXPECT_EQ("Quarters", user.See(window->cboLayer).Text);
+  EXPECT_EQ("Jump to layer: nothing chosen", LastLine());
+}
+
+TEST_F(ExamplesHost, ShowsAndHidesTheChosenLayersAfterAQuestion) {
+  const auto isVisible = [this](std::int32_t index) { return QueryKind<ILayer>(map->Layer(index))->Visible(); };
+  const std::size_t before = Drawn().size();
+  const auto choose = [&](MessageAnswer answer) {
+    script.ExpectForm("frmListSelection", [&, answer](Form& shown) {
+      user.Click(Get<ListBox>(shown, "lstMultiSelect"), 1);
+      script.ExpectMessage({"Show what is hidden, and hide what is shown?", "Show or hide layers",
+                            MessageIcon::Exclamation, MessageButtons::YesNo},
+                           answer);
+      Press(user, shown, "cmdOK");
+      if (shown.Visible()) Press(user, shown, "cmdCancel");
+    });
+    Press(user, *window, "cmdShowHide");
+  };
+  choose(MessageAnswer::No);
+  EXPECT_TRUE(isVisible(1) && !isVisible(2));
+  EXPECT_EQ("Show or hide: nothing chosen", LastLine());
+  // The terrain, which the window is about, was selected at first; the quarters were hidden.
+  choose(MessageAnswer::Yes);
+  EXPECT_TRUE(!isVisible(1) && isVisible(2));
+  EXPECT_NE(before, Drawn().size());
+  EXPECT_EQ("Quarters: shown", LastLine());
+  choose(MessageAnswer::Yes);
+  EXPECT_TRUE(isVisible(1) && !isVisible(2));
+  EXPECT_EQ(before, Drawn().size());
+}
+
+TEST_F(ExamplesHost, NothingOverlapsInTheLowestWindow) {
+  window->ClientSize({9000, 6000});
+  EXPECT_GE(window->txtLog.Top(), window->cboLanguage.Place().Bottom());
+  EXPECT_GT(window->txtLog.Place().Height, 600);
+}
+
 TEST_F(ExamplesHost, AsksForALayerWhoseFileIsGone) {
   script.ExpectForm("frmMsgBox", [&](Form& shown) { Press(user, shown, "cmdCancelAll"); });
   Press(user, *window, "cmdLost");

@@ -73,6 +73,11 @@ class PageLayout : public PagesTest {
       script.ExpectForm("frmTrueType", lookAt);
       modMain::ShowCharacterDialog(desktop(), choice, language);
     }
+    std::vector<std::int32_t> chosen;
+    for (const bool several : {false, true}) {
+      script.ExpectForm("frmListSelection", lookAt);
+      service.ShowListSelection({{"Roads", std::string(200, 'w')}, 1}, several, 1, "Select Layer", false, "", chosen);
+    }
     std::string found;
     bool cancelAll = false;
     script.ExpectForm("frmMsgBox", lookAt);

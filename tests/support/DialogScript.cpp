@@ -20,7 +20,11 @@ void DialogScript::ExpectForm(const std::string& name, FormAction action) {
 }
 
 void DialogScript::ExpectMessage(const Message& message) {
-  mExpected.push_back({.Box = message});
+  ExpectMessage(message, message.Harmless());
+}
+
+void DialogScript::ExpectMessage(const Message& message, MessageAnswer answer) {
+  mExpected.push_back({.Box = message, .Answer = answer});
 }
 
 void DialogScript::ExpectFiles(FilesAction action) {
@@ -60,7 +64,7 @@ void DialogScript::CloseAnyway(const Modal& modal) {
   } else if (modal.ShownFont) {
     mUser.CancelFont(*modal.ShownFont);
   } else {
-    mUser.AnswerMessage();
+    mUser.AnswerMessage(modal, modal.ShownMessage->Harmless());
   }
 }
 
@@ -79,6 +83,7 @@ void DialogScript::ModalOpening(const Modal& modal) {
     EXPECT_EQ(next.Box.Text, modal.ShownMessage->Text);
     EXPECT_EQ(next.Box.Title, modal.ShownMessage->Title);
     EXPECT_EQ(next.Box.Icon, modal.ShownMessage->Icon);
+    EXPECT_EQ(next.Box.Buttons, modal.ShownMessage->Buttons);
   }
 }
 
@@ -89,6 +94,8 @@ void DialogScript::ModalRunning(const Modal& modal) {
   if (modal.ShownFiles && next.Choice) return next.Choice(*modal.ShownFiles);
   if (modal.ShownColor && next.Color) return next.Color(*modal.ShownColor);
   if (modal.ShownFont && next.Face) return next.Face(*modal.ShownFont);
+  if (modal.ShownMessage && next.Answer && next.Box.Buttons == modal.ShownMessage->Buttons)
+    return mUser.AnswerMessage(modal, *next.Answer);
   if (!modal.ShownForm || !next.Action) return CloseAnyway(modal);
   // The form may go while the user acts.
   const std::weak_ptr<Form> form = modal.ShownForm->weak_from_this();

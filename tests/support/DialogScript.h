@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,8 +29,9 @@ class DialogScript final : public DesktopHook {
   using FontAction = std::function<void(FontRequest&)>;
   /// The same for fonts.
   void ExpectFont(FontAction action);
-  /// Expects the message box and presses its OK button.
+  /// Expects the message box and presses a button: OK, and No where a question is put, unless told.
   void ExpectMessage(const Message& message);
+  void ExpectMessage(const Message& message, MessageAnswer answer);
   /// Fails the test when an expected dialog was not shown.
   void Verify();
 
@@ -53,6 +55,7 @@ class DialogScript final : public DesktopHook {
     std::string FormName = {};
     FormAction Action = nullptr;
     Message Box = {};
+    std::optional<MessageAnswer> Answer = {};
     FilesAction Choice = nullptr;
     ColorAction Color = nullptr;
     FontAction Face = nullptr;

@@ -36,7 +36,17 @@ class HeadlessUser final : public User {
   }
 
   void Choose(ListBox& box, int index) override {
-    if (box.IsReachable()) box.UserPick(index);
+    ClickInto(box);
+    if (!box.HasFocus()) return;
+    box.UserKeyDown(kKeyCodeHome);
+    for (int below = 0; below < index; ++below) box.UserKeyDown(kKeyCodeDown);
+  }
+  void Click(ListBox& box, int row) override {
+    if (box.IsReachable()) box.UserClick(row);
+  }
+  void DoubleClick(ListBox& box, int row) override {
+    Click(box, row);
+    if (box.IsReachable()) box.UserDoubleClick(row);
   }
 
   void Click(PictureBox& box) override { ClickAt(box, {box.PixelSize().Width / 2, box.PixelSize().Height / 2}); }
@@ -57,6 +67,10 @@ class HeadlessUser final : public User {
   void PressKey(Form& form, int keyCode) override {
     if (auto* const box = dynamic_cast<PictureBox*>(form.ActiveControl())) box->UserKeyDown(keyCode);
     if (auto* const list = dynamic_cast<TreeList*>(form.ActiveControl())) list->UserKeyDown(keyCode);
+    if (auto* const list = dynamic_cast<ListBox*>(form.ActiveControl())) {
+      list->UserKeyDown(keyCode);
+      if (keyCode == kKeyCodeSpace) list->UserCharacter(U' ');
+    }
   }
 
   void Click(TreeList& list, int row) override {
@@ -68,9 +82,11 @@ class HeadlessUser final : public User {
   }
 
   void TypeCharacters(Form& form, const std::string& text) override {
-    for (const char character : text)
-      if (auto* const list = dynamic_cast<TreeList*>(form.ActiveControl()))
-        list->UserCharacter(static_cast<unsigned char>(character));
+    for (const char character : text) {
+      const auto letter = static_cast<unsigned char>(character);
+      if (auto* const list = dynamic_cast<TreeList*>(form.ActiveControl())) list->UserCharacter(letter);
+      if (auto* const list = dynamic_cast<ListBox*>(form.ActiveControl())) list->UserCharacter(letter);
+    }
   }
 
   void DragFromBottom(Form& form, int above, int by) override {
@@ -106,7 +122,7 @@ class HeadlessUser final : public User {
   void PickFont(FontRequest& request, const ColoredFont& font) override { request.Answer = font; }
   void CancelFont(FontRequest& request) override { request.Answer.reset(); }
 
-  void AnswerMessage() override {}
+  void AnswerMessage(const Modal& box, MessageAnswer answer) override { *box.Answer = answer; }
 
   Seen See(Control& control) override {
     Seen seen{control.IsShown(), control.IsReachable(), control.HasFocus(), WithoutMnemonic(control.Caption()), 0};
@@ -134,6 +150,9 @@ class HeadlessUser final : public User {
     return texts;
   }
   bool SeesRow(TreeList& list, int row) override { return list.PositionOf(row) >= 0; }
+
+  std::set<int> SeeSelected(ListBox& box) override { return box.SelectedRows(); }
+  bool SeesRow(ListBox& box, int row) override { return row >= 0 && row < box.ListCount(); }
 
   std::string SeeCaption(Form& form) override { return form.Caption(); }
 };

@@ -148,6 +148,21 @@ class QtUser final : public User {
     for (int below = 0; below < index; ++below) QTest::keyClick(&view, Qt::Key_Down);
   }
 
+  void Click(ListBox& box, int row) override {
+    if (const std::optional<QRect> place = PlaceOf(box, row))
+      MouseClick(*As<QListView>(box)->viewport(), {place->left() + 5, place->center().y()});
+  }
+
+  void DoubleClick(ListBox& box, int row) override {
+    const std::optional<QRect> place = PlaceOf(box, row);
+    if (!place) return;
+    QWidget& view = *As<QListView>(box)->viewport();
+    Activate(view);
+    QWidget& window = *view.window();
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       view.mapTo(&window, QPoint(place->left() + 5, place->center().y())));
+  }
+
   void Click(PictureBox& box) override {
     if (CanReach(box)) MouseClick(PeerOf(box)->Widget());
   }
@@ -265,8 +280,11 @@ class QtUser final : public User {
     if (QWidget* const dialog = qt::OpenFontDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
   }
 
-  void AnswerMessage() override {
-    if (QMessageBox* const box = qt::OpenMessageBox()) MouseClick(*box->button(QMessageBox::Ok));
+  void AnswerMessage(const Modal&, MessageAnswer answer) override {
+    if (QMessageBox* const box = qt::OpenMessageBox())
+      MouseClick(*box->button(answer == MessageAnswer::OK    ? QMessageBox::Ok
+                              : answer == MessageAnswer::Yes ? QMessageBox::Yes
+                                                             : QMessageBox::No));
   }
 
   Seen See(Control& control) override {
@@ -300,9 +318,27 @@ class QtUser final : public User {
     return view.viewport()->rect().contains(place);
   }
 
+  std::set<int> SeeSelected(ListBox& box) override {
+    std::set<int> rows;
+    for (const QModelIndex& index : As<QListView>(box)->selectionModel()->selectedIndexes()) rows.insert(index.row());
+    return rows;
+  }
+  bool SeesRow(ListBox& box, int row) override {
+    const QListView& view = *As<QListView>(box);
+    const QRect place = view.visualRect(view.model()->index(row, 0));
+    const QRect all = view.viewport()->rect();
+    return place.isValid() && place.top() >= all.top() && place.bottom() <= all.bottom();
+  }
+
   std::string SeeCaption(Form& form) override { return FromQt(WindowOf(form).windowTitle()); }
 
  private:
+  static std::optional<QRect> PlaceOf(ListBox& box, int row) {
+    if (!CanReach(box) || row >= box.ListCount()) return std::nullopt;
+    QListView& view = *As<QListView>(box);
+    view.scrollTo(view.model()->index(row, 0));
+    return view.visualRect(view.model()->index(row, 0));
+  }
   /// The place of a row in the view, scrolled to; none when it is folded away or out of reach.
   static std::optional<QRect> PlaceOf(TreeList& list, int row) {
     if (!CanReach(list) || list.PositionOf(row) < 0) return std::nullopt;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "forms/ColorRequest.h"
 #include "forms/ComboBox.h"
 #include "forms/Desktop.h"
+#include "forms/DesktopHook.h"
 #include "forms/FontRequest.h"
 #include "forms/Form.h"
 #include "forms/ListBox.h"
@@ -28,9 +30,9 @@ struct Seen {
   bool Visible = false;
   bool Enabled = false;
   bool Focused = false;
-  /// Caption or text; of a list that of the selected entry or row, of a tab control the caption of the selected tab.
+  /// Caption or text; of a list that of the current entry or row, of a tab control the caption of the selected tab.
   std::string Text;
-  /// Check state, index of the selected entry, row or tab, filled pixels of a bar; otherwise 0.
+  /// Check state, index of the current entry, row or tab, filled pixels of a bar; otherwise 0.
   int Value = 0;
   bool operator==(const Seen&) const = default;
 };
@@ -57,6 +59,9 @@ class User {
   virtual void Choose(ComboBox& box, int index) = 0;
   /// Goes to an entry by keys, from the first one on.
   virtual void Choose(ListBox& box, int index) = 0;
+  /// Clicks on an entry that can be scrolled to, once or twice.
+  virtual void Click(ListBox& box, int row) = 0;
+  virtual void DoubleClick(ListBox& box, int row) = 0;
   virtual void Click(PictureBox& box) = 0;
   /// Clicks at a pixel of the box, once or twice.
   virtual void ClickAt(PictureBox& box, Point at) = 0;
@@ -83,13 +88,16 @@ class User {
   /// Picks a font and its colour in the dialog for fonts that is open, or presses its Cancel.
   virtual void PickFont(FontRequest& request, const ColoredFont& font) = 0;
   virtual void CancelFont(FontRequest& request) = 0;
-  /// Presses OK in the message box that is open.
-  virtual void AnswerMessage() = 0;
+  /// Presses a button of the message box that is open.
+  virtual void AnswerMessage(const Modal& box, MessageAnswer answer) = 0;
   virtual Seen See(Control& control) = 0;
   /// The texts of all rows that are not folded away, whether scrolled to or not.
   virtual std::vector<std::string> SeeRows(TreeList& list) = 0;
   /// True when the row is in view.
   virtual bool SeesRow(TreeList& list, int row) = 0;
+  /// The entries that the screen shows as selected, and whether one is in view.
+  virtual std::set<int> SeeSelected(ListBox& box) = 0;
+  virtual bool SeesRow(ListBox& box, int row) = 0;
   /// The title that the form's window shows.
   virtual std::string SeeCaption(Form& form) = 0;
 };

@@ -73,6 +73,12 @@ class Win32User final : public User {
     for (int below = 0; below < index; ++below) KeyTo(PeerOf(box)->Window(), VK_DOWN);
   }
 
+  void Click(ListBox& box, int row) override { ClickRow(box, row, WM_LBUTTONDOWN); }
+  void DoubleClick(ListBox& box, int row) override {
+    Click(box, row);
+    ClickRow(box, row, WM_LBUTTONDBLCLK);
+  }
+
   void Click(PictureBox& box) override {
     if (CanReach(box)) MouseClick(PeerOf(box)->Window());
   }
@@ -178,9 +184,11 @@ class Win32User final : public User {
   void PickFont(FontRequest&, const ColoredFont& font) override { PickFontInDialog(font); }
   void CancelFont(FontRequest&) override { CancelDialog(); }
 
-  void AnswerMessage() override {
+  void AnswerMessage(const Modal&, MessageAnswer answer) override {
     const HWND box = win32::OpenPlatformDialog();
-    if (const HWND button = box ? FindWindowExW(box, nullptr, L"BUTTON", nullptr) : nullptr) MouseClick(button);
+    if (!box) return;
+    const int id = answer == MessageAnswer::Yes ? IDYES : IDNO;
+    MouseClick(answer == MessageAnswer::OK ? FindWindowExW(box, nullptr, L"BUTTON", nullptr) : GetDlgItem(box, id));
   }
 
   Seen See(Control& control) override {
@@ -191,7 +199,10 @@ class Win32User final : public User {
     if (dynamic_cast<CheckBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, BM_GETCHECK, 0, 0));
     if (dynamic_cast<ProgressBar*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, PBM_GETPOS, 0, 0));
     if (dynamic_cast<ComboBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
-    if (dynamic_cast<ListBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, LB_GETCURSEL, 0, 0));
+    if (auto* const list = dynamic_cast<ListBox*>(&control)) {
+      seen.Value = CurrentRow(*list);
+      seen.Text = seen.Value < 0 ? std::string() : RowText(window, seen.Value);
+    }
     if (auto* const tree = dynamic_cast<TreeList*>(&control)) {
       seen.Value = static_cast<int>(SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
       seen.Text = seen.Value < 0 ? std::string() : RowText(window, seen.Value);
@@ -207,14 +218,15 @@ class Win32User final : public User {
     for (int i = 0; i < SendMessageW(window, LVM_GETITEMCOUNT, 0, 0); ++i) texts.push_back(RowText(window, i));
     return texts;
   }
-  bool SeesRow(TreeList& list, int row) override {
-    const HWND window = PeerOf(list)->Window();
-    RECT place = {LVIR_BOUNDS, 0, 0, 0};
-    if (list.PositionOf(row) < 0 || !SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(list.PositionOf(row)),
-                                                  reinterpret_cast<LPARAM>(&place)))
-      return false;
-    return place.top >= 0 && place.bottom <= HeightOf(window);
+  bool SeesRow(TreeList& list, int row) override { return SeesPosition(list, list.PositionOf(row)); }
+  std::set<int> SeeSelected(ListBox& box) override {
+    const HWND window = PeerOf(box)->Window();
+    std::set<int> rows;
+    for (LRESULT row = -1; (row = SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0;)
+      rows.insert(static_cast<int>(row));
+    return rows;
   }
+  bool SeesRow(ListBox& box, int row) override { return SeesPosition(box, row); }
 
   std::string SeeCaption(Form& form) override { return Narrowed(TextOf(WindowOf(form))); }
 
@@ -227,6 +239,30 @@ class Win32User final : public User {
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
     SendInput(1, &input, sizeof(input));
+  }
+
+  static bool SeesPosition(Control& list, int position) {
+    const HWND window = PeerOf(list)->Window();
+    RECT place = {LVIR_BOUNDS, 0, 0, 0};
+    if (position < 0 ||
+        !SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&place)))
+      return false;
+    return place.top >= 0 && place.bottom <= HeightOf(window);
+  }
+
+  /// The selected entry, or where several can be selected the one with the focus mark.
+  static int CurrentRow(const ListBox& list) {
+    const LPARAM which = list.MultiSelect() ? LVNI_FOCUSED : LVNI_SELECTED;
+    return static_cast<int>(SendMessageW(PeerOf(list)->Window(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), which));
+  }
+
+  void ClickRow(ListBox& box, int row, UINT press) {
+    if (!CanReach(box) || row >= box.ListCount()) return;
+    const HWND window = PeerOf(box)->Window();
+    SendMessageW(window, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    RECT place = {LVIR_BOUNDS, 0, 0, 0};
+    SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+    MouseClickAt(window, {8, (place.top + place.bottom) / 2}, press);
   }
 
   static std::string RowText(HWND list, int position) {
@@ -336,18 +372,8 @@ class Win32User final : public User {
     const HWND window = PeerOf(control)->Window();
     if (dynamic_cast<TextBox*>(&control)) return win32::FromNativeLines(TextOf(window));
     if (dynamic_cast<ComboBox*>(&control)) return Narrowed(TextOf(window));
-    if (dynamic_cast<ListBox*>(&control)) return ShownEntry(window);
     if (dynamic_cast<TabControl*>(&control)) return WithoutMnemonic(ShownTab(window));
     return WithoutMnemonic(Narrowed(TextOf(window)));
-  }
-
-  static std::string ShownEntry(HWND list) {
-    const LRESULT index = SendMessageW(list, LB_GETCURSEL, 0, 0);
-    if (index == LB_ERR) return {};
-    const auto at = static_cast<WPARAM>(index);
-    std::wstring text(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, at, 0)) + 1, L'\0');
-    SendMessageW(list, LB_GETTEXT, at, reinterpret_cast<LPARAM>(text.data()));
-    return Narrowed(text.c_str());
   }
 
   static std::string ShownTab(HWND tabs) {

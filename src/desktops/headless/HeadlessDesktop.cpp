@@ -75,9 +75,11 @@ std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
   return std::make_unique<HeadlessWindow>(*this, form);
 }
 
-void HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
-  // A message has one answer only, so it counts as read when the hook returns.
-  ModalIsRunning({.ShownMessage = &message});
+MessageAnswer HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
+  // It counts as read when the hook returns.
+  MessageAnswer answer = message.Harmless();
+  ModalIsRunning({.ShownMessage = &message, .Answer = &answer});
+  return answer;
 }
 
 bool HeadlessDesktop::DoOpenFiles(OpenFileRequest& request) {

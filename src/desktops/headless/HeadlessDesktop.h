@@ -33,7 +33,7 @@ class HeadlessDesktop final : public Desktop {
 
  protected:
   std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
-  void DoShowMessage(const Message& message, FormWindow* owner) override;
+  MessageAnswer DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;
   bool DoChooseColor(ColorRequest& request) override;
   bool DoChooseFont(FontRequest& request) override;

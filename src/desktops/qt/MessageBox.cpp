@@ -39,14 +39,21 @@ void PutBefore(QMessageBox& box, QWindow* owner) {
 
 }  // namespace
 
-void RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running) {
-  QMessageBox box(NativeIcon(message.Icon), ToQt(message.Title), ToQt(message.Text), QMessageBox::Ok);
+MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running) {
+  const bool isQuestion = message.Buttons == MessageButtons::YesNo;
+  QMessageBox box(NativeIcon(message.Icon), ToQt(message.Title), ToQt(message.Text),
+                  isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
+  if (isQuestion) box.setDefaultButton(QMessageBox::Yes);
   box.setTextFormat(Qt::PlainText);
   box.setFont(DialogFont());
   box.setWindowModality(Qt::ApplicationModal);
   box.setAttribute(Qt::WA_QuitOnClose, false);
   const QWidget* const active = QApplication::activeWindow();
   PutBefore(box, owner || !active ? owner : active->windowHandle());
+  // A question is answered by its buttons. The toolkit adds the close box when it makes the window, so that it goes
+  // last.
+  box.winId();
+  if (isQuestion) box.setWindowFlag(Qt::WindowCloseButtonHint, false);
   std::exception_ptr error;
   QTimer::singleShot(0, &box, [&] {
     try {
@@ -56,8 +63,9 @@ void RunMessageBox(const Message& message, QWindow* owner, const std::function<v
       box.accept();
     }
   });
-  box.exec();
+  const int pressed = box.exec();
   if (error) std::rethrow_exception(error);
+  return pressed == QMessageBox::Yes ? MessageAnswer::Yes : message.Harmless();
 }
 
 QMessageBox* OpenMessageBox() {

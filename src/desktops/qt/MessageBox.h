@@ -10,9 +10,9 @@ class QWindow;
 
 namespace orx::qt {
 
-/// Shows a message before `owner` (null: before whatever is active) until it is answered. `running` is called in its
+/// Shows a message before `owner` (null: before whatever is active) and returns the answer. `running` is called in its
 /// modal loop; what it throws closes the box and travels.
-void RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running);
+MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::function<void()>& running);
 
 /// The message box that waits for its answer, null when there is none.
 QMessageBox* OpenMessageBox();

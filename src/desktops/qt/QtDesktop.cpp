@@ -179,10 +179,10 @@ std::unique_ptr<FormWindow> QtDesktop::OpenWindow(Form& form) {
   return std::make_unique<DialogWindow>(form);
 }
 
-void QtDesktop::DoShowMessage(const Message& message, FormWindow* owner) {
+MessageAnswer QtDesktop::DoShowMessage(const Message& message, FormWindow* owner) {
   const Dialog* const dialog = owner ? static_cast<DialogWindow*>(owner)->Native() : nullptr;
-  RunMessageBox(message, dialog ? dialog->windowHandle() : nullptr,
-                [&] { ModalIsRunning({.ShownMessage = &message}); });
+  return RunMessageBox(message, dialog ? dialog->windowHandle() : nullptr,
+                       [&] { ModalIsRunning({.ShownMessage = &message}); });
 }
 
 bool QtDesktop::DoOpenFiles(OpenFileRequest& request) {

@@ -1,22 +1,19 @@
 #include "forms/TreeList.h"
 
-#include <QListView>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include "desktops/qt/NativeRows.h"
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/RowModel.h"
-#include "desktops/qt/Text.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
 
 namespace orx::qt {
 namespace {
 
-/// In twips: what a row is higher than its text, and the width that a level takes.
-constexpr int kRowGap = 60;
+/// In twips: the width that a level takes.
 constexpr int kLevelWidth = 240;
 
 class ShownRows final : public RowModel<TreeList> {
@@ -78,47 +75,20 @@ class RowPainter final : public QStyledItemDelegate {
   int mGap;
 };
 
-/// Shows rows and scrolls; mouse and keys are the control's business. The peer empties the functions when it goes.
-class NativeRows final : public QListView {
- public:
-  using QListView::QListView;
-  std::function<void(QPoint, bool)> Pressed;
-  std::function<bool(const QKeyEvent&)> KeyPressed;
-
- protected:
-  void mousePressEvent(QMouseEvent* event) override { Press(*event, false); }
-  void mouseDoubleClickEvent(QMouseEvent* event) override { Press(*event, true); }
-  void mouseMoveEvent(QMouseEvent*) override {}
-  void mouseReleaseEvent(QMouseEvent*) override {}
-  void keyPressEvent(QKeyEvent* event) override {
-    const auto keyPressed = KeyPressed;
-    if (!keyPressed || !keyPressed(*event)) event->ignore();
-  }
-
- private:
-  void Press(const QMouseEvent& event, bool twice) {
-    // What the press sets off may take the functions away.
-    const auto pressed = Pressed;
-    if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint(), twice);
-  }
-};
-
 class TreeListPeer final : public Peer {
  public:
   TreeListPeer(TreeList& control, Dialog& dialog, NativeRows* native)
       : Peer(control, dialog, native), mControl(control), mNative(*native), mRows(*new ShownRows(control, native)) {
     const Desktop& desktop = dialog.Owner().OwnerDesktop();
     mPainter = new RowPainter(mRows, desktop.ToPixels(kLevelWidth), desktop.ToPixels(kRowGap), native);
-    mNative.setUniformItemSizes(true);
-    mNative.setEditTriggers(QAbstractItemView::NoEditTriggers);
     mNative.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     mNative.setTextElideMode(Qt::ElideRight);
-    // A press of the mouse must not move the focus by itself: the field that loses it may refuse.
-    mNative.setFocusPolicy(Qt::TabFocus);
     mNative.setItemDelegate(mPainter);
     mNative.setModel(&mRows);
     mNative.Pressed = [this](QPoint at, bool twice) { Pressed(at, twice); };
-    mNative.KeyPressed = [this](const QKeyEvent& event) { return KeyPressed(event); };
+    mNative.KeyPressed = [&control, &dialog, native](const QKeyEvent& event) {
+      return ReportRowKey(control, dialog, *native, event);
+    };
     // Assistive software selects rows without mouse and keys.
     connect(mNative.selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
       Report([&] {
@@ -142,19 +112,6 @@ class TreeListPeer final : public Peer {
     const bool folds = mRows.HasChildren(index) && (isOnMark || twice);
     const int which = control.ShownRow(index.row());
     Report([&] { folds ? control.UserFold(which) : control.UserClick(which); });
-  }
-
-  bool KeyPressed(const QKeyEvent& event) {
-    TreeList& control = mControl;
-    Dialog& dialog = Window();
-    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
-    const int height = std::max(1, mNative.sizeHintForRow(0));
-    control.PageRows(mNative.viewport()->height() / height);
-    const QString typed = event.text();
-    const int code = KeyCodeOf(event);
-    if (code != 0) dialog.Report([&] { control.UserKeyDown(code); });
-    if (!typed.isEmpty() && typed[0].isPrint()) dialog.Report([&] { control.UserCharacter(typed.toUcs4().front()); });
-    return code != 0 || !typed.isEmpty();
   }
 
   void Mirror(Aspect aspect) override {

@@ -24,10 +24,15 @@ UINT IconOf(MessageIcon icon) {
 
 }  // namespace
 
-void RunMessageBox(const Message& message, HWND owner, const std::function<void()>& running) {
-  const UINT kind = MB_OK | IconOf(message.Icon) | (owner ? MB_APPLMODAL : MB_TASKMODAL) | MB_SETFOREGROUND;
-  RunPlatformDialog(owner, running, IDOK,
-                    [&] { MessageBoxW(owner, Widened(message.Text).c_str(), Widened(message.Title).c_str(), kind); });
+MessageAnswer RunMessageBox(const Message& message, HWND owner, const std::function<void()>& running) {
+  const bool isQuestion = message.Buttons == MessageButtons::YesNo;
+  const UINT kind =
+      (isQuestion ? MB_YESNO : MB_OK) | IconOf(message.Icon) | (owner ? MB_APPLMODAL : MB_TASKMODAL) | MB_SETFOREGROUND;
+  int pressed = 0;
+  RunPlatformDialog(owner, running, isQuestion ? IDNO : IDOK, [&] {
+    pressed = MessageBoxW(owner, Widened(message.Text).c_str(), Widened(message.Title).c_str(), kind);
+  });
+  return pressed == IDYES ? MessageAnswer::Yes : message.Harmless();
 }
 
 }  // namespace orx::win32

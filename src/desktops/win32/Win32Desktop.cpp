@@ -171,10 +171,10 @@ std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
   return std::make_unique<DialogWindow>(form);
 }
 
-void Win32Desktop::DoShowMessage(const Message& message, FormWindow* owner) {
+MessageAnswer Win32Desktop::DoShowMessage(const Message& message, FormWindow* owner) {
   const GuestScope guest;
   const HWND window = owner ? reinterpret_cast<HWND>(owner->NativeHandle()) : GetActiveWindow();
-  RunMessageBox(message, window, [&] { ModalIsRunning({.ShownMessage = &message}); });
+  return RunMessageBox(message, window, [&] { ModalIsRunning({.ShownMessage = &message}); });
 }
 
 bool Win32Desktop::DoOpenFiles(OpenFileRequest& request) {

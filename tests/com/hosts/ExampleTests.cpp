@@ -133,6 +133,34 @@ TEST_F(Examples, AScriptIsGivenTheChosenCharacterInItsVariables) {
                                     "Second: -1 False Symbols of a script 80 -46", "DONE"}));
 }
 
+TEST_F(Examples, AScriptIsGivenTheIndexesOfWhatIsChosenFromItsList) {
+  Program script(Script(L"lists.vbs"));
+  const HWND several = script.WaitForWindow(L"Layers of a script");
+  ASSERT_TRUE(several) << script.Output();
+  const HWND list = ControlNamed(several, L"lstMultiSelect");
+  ASSERT_TRUE(list);
+  EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 4);
+  const auto selected = [list] { return SendMessageW(list, LVM_GETSELECTEDCOUNT, 0, 0); };
+  EXPECT_EQ(selected(), 1);
+  // From the second row to the last one.
+  for (int row = 0; row < 2; ++row) SendMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
+  SendMessageW(list, WM_CHAR, L' ', 1);
+  EXPECT_EQ(selected(), 2);
+  Click(ControlNamed(several, L"cmdOK"));
+  HWND question = nullptr;
+  ASSERT_TRUE(script.WaitFor([&] {
+    question = script.WaitForWindow(L"Layers of a script");
+    return question && GetDlgItem(question, IDYES);
+  })) << script.Output();
+  Click(GetDlgItem(question, IDYES));
+  const HWND one = script.WaitForWindow(L"Layer of a script");
+  ASSERT_TRUE(one) << script.Output();
+  SendMessageW(ControlNamed(one, L"lstSingleSelect"), WM_CHAR, L'2', 1);
+  Click(ControlNamed(one, L"cmdOK"));
+  EXPECT_EQ(script.Wait(), kDone);
+  EXPECT_EQ(script.Output(), Lines({"Several: 2 1 3", "One: 1 2 of 1", "DONE"}));
+}
+
 TEST_F(Examples, AScriptIsGivenTheChosenFilesInItsVariables) {
   const TestFolder folder;
   folder.Add("a.shp");

@@ -1,0 +1,16 @@
+// An array of texts as a host has it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orx {
+
+/// Elements, UTF-8, and the index by which the host knows the first one.
+struct TextArray {
+  std::vector<std::string> Items;
+  std::int32_t LowerBound = 0;
+};
+
+}  // namespace orx

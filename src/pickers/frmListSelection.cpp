@@ -1,0 +1,98 @@
+#include "pickers/frmListSelection.h"
+
+#include <initializer_list>
+#include <utility>
+
+#include "forms/Desktop.h"
+#include "forms/Letters.h"
+#include "hostobjects/ErrorTrap.h"
+
+namespace orx {
+
+frmListSelection::frmListSelection(Desktop& desktop)
+    : DialogForm(desktop, "frmListSelection", {.Caption = "Select Layer", .Client = {5400, 4755}}) {
+  for (ListBox* const list : {&lstMultiSelect, &lstSingleSelect}) list->DblClick = [this] { cmdOK_Click(); };
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+void frmListSelection::Init(TextArray selection, bool multiselect, std::int32_t listIndex, bool askConfirmation,
+                            std::string confirmationQuestion, std::string caption) {
+  mItems = std::move(selection);
+  mMultiselect = multiselect;
+  mListIndex = listIndex;
+  mAskConfirmation = askConfirmation;
+  mConfirmationQuestion = std::move(confirmationQuestion);
+  mCaption = std::move(caption);
+}
+
+void frmListSelection::Form_Load() {
+  ErrorTrap trap;
+  trap.Step([this] { Center(); });
+  trap.Step([this] { TakeHelpNumber("_HelpMapListSelection"); });
+  Caption(mCaption);
+  lstMultiSelect.Visible(mMultiselect);
+  lstSingleSelect.Visible(!mMultiselect);
+  trap.Step([this] { FillList(); });
+  if (ShownList().ListCount() == 0) {
+    for (Control* const control : std::initializer_list<Control*>{&lstMultiSelect, &lstSingleSelect, &cmdOK})
+      control->Enabled(false);
+  } else {
+    SelectFirst();
+  }
+  trap.Step([this] { TranslateControls(); });
+  trap.Step([this] { TranslateCaption(); });
+  if (!Caption().empty()) ShownList().GivenName(Caption());
+}
+
+void frmListSelection::FillList() {
+  ListBox& list = ShownList();
+  list.Clear();
+  std::int64_t index = mItems.LowerBound;
+  for (const std::string& item : mItems.Items) {
+    const std::string text = WithoutBlanksAround(item);
+    list.AddItem(text.empty() ? std::to_string(index) : text, static_cast<std::int32_t>(index));
+    ++index;
+  }
+}
+
+void frmListSelection::SelectFirst() {
+  if (mListIndex <= 0) return;
+  ListBox& list = ShownList();
+  list.Selected(mListIndex <= list.ListCount() ? mListIndex - 1 : 0, true);
+}
+
+void frmListSelection::cmdOK_Click() {
+  // What was gathered before a No is gathered anew.
+  mSelected.clear();
+  for (const int row : ShownList().SelectedRows()) mSelected.push_back(ShownList().ItemData(row));
+  const bool asks = mAskConfirmation && !mSelected.empty();
+  const Message question{mConfirmationQuestion, Caption(), MessageIcon::Exclamation, MessageButtons::YesNo};
+  if (asks && OwnerDesktop().ShowMessage(question) == MessageAnswer::No) return;
+  mCancelled = false;
+  Hide();
+}
+
+void frmListSelection::cmdCancel_Click() {
+  mSelected.clear();
+  mCancelled = true;
+  Hide();
+}
+
+void frmListSelection::Form_Unload() {
+  // Who closes the window has chosen nothing, whatever was gathered before a No.
+  mSelected.clear();
+  DialogForm::Form_Unload();
+}
+
+void frmListSelection::GetSelectedItems(std::vector<std::int32_t>& selected, bool& cancelled,
+                                        std::int32_t& count) const noexcept {
+  cancelled = mCancelled;
+  count = 0;
+  if (mCancelled || (mMultiselect && mSelected.empty())) return;
+  count = mMultiselect ? static_cast<std::int32_t>(mSelected.size()) : 1;
+  ErrorTrap trap;
+  trap.Step([&] { selected = mSelected; });
+}
+
+}  // namespace orx
