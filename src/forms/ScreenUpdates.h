@@ -12,6 +12,7 @@ namespace orx {
 /// whatever comes, and 10 for what should not wait for its turn.
 class ScreenUpdates {
  public:
+  /// What the pace is measured by.
   using Clock = std::chrono::steady_clock;
 
   /// A change of one control.
