@@ -3,10 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,13 +20,11 @@
 #include <map>
 #include <optional>
 
-#include "desktops/qt/ColorDialog.h"
-#include "desktops/qt/FileDialog.h"
-#include "desktops/qt/FontDialog.h"
 #include "desktops/qt/MessageBox.h"
 #include "desktops/qt/Peer.h"
 #include "desktops/qt/QtDesktop.h"
 #include "desktops/qt/Text.h"
+#include "tests/support/QtCommonDialogs.h"
 #include "tests/support/User.h"
 
 namespace orx::test {
@@ -72,14 +67,6 @@ bool CanReach(Control& control) {
   if (!PeerOf(control) || !PeerOf(control)->Widget().isVisible()) return false;
   static_cast<qt::Dialog*>(PeerOf(control)->Widget().window())->Ground().Reveal(PeerOf(control)->Widget());
   return true;
-}
-
-void TypeInto(QWidget& focused, const std::string& text) {
-  const QPointer<QWidget> widget(&focused);
-  QTest::keyClick(&focused, Qt::Key_A, Qt::ControlModifier);
-  if (text.empty()) QTest::keyClick(&focused, Qt::Key_Delete);
-  for (const char32_t character : ToQt(text).toUcs4())
-    if (widget) QTest::sendKeyEvent(QTest::Click, widget, Qt::Key(0), QString::fromUcs4(&character, 1), Qt::NoModifier);
 }
 
 Qt::Key NativeKey(const KeyStroke& stroke) {
@@ -233,52 +220,12 @@ class QtUser final : public User {
 
   void CloseBox(Form& form) override { WindowOf(form).close(); }
 
-  void PickFiles(OpenFileRequest&, const Picked& files) override {
-    QFileDialog* const dialog = qt::OpenFileDialog();
-    if (!dialog) return;
-    if (files.Filter != 0) PickFilter(*dialog, files.Filter - 1);
-    dialog->setDirectory(qt::ToQt(files.Folder));
-    QString names;
-    for (const std::string& name : files.Names) names += "\"" + qt::ToQt(name) + "\" ";
-    EnterName(*dialog, files.Names.size() == 1 ? qt::ToQt(files.Names.front()) : names.trimmed());
-  }
-
-  void CancelFiles(OpenFileRequest&) override {
-    if (QFileDialog* const dialog = qt::OpenFileDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
-  }
-
-  void PickColor(ColorRequest&, Color color) override {
-    QColorDialog* const dialog = qt::OpenColorDialog();
-    if (!dialog) return;
-    // The user types the three parts.
-    const QColor wanted(color.Red, color.Green, color.Blue);
-    QLineEdit& html = *dialog->findChild<QLineEdit*>();
-    html.setFocus();
-    TypeInto(html, FromQt(wanted.name()));
-    QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
-  }
-
-  void CancelColor(ColorRequest&) override {
-    if (QColorDialog* const dialog = qt::OpenColorDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
-  }
-
-  void PickFont(FontRequest&, const ColoredFont& font) override {
-    qt::ColoredFontDialog* const dialog = qt::OpenFontDialog();
-    if (!dialog) return;
-    QFont chosen(ToQt(font.Face.Name));
-    chosen.setPointSizeF(font.Face.Size);
-    chosen.setBold(font.Face.Bold);
-    chosen.setItalic(font.Face.Italic);
-    chosen.setUnderline(font.Face.Underline);
-    chosen.setStrikeOut(font.Face.Strikethrough);
-    dialog->setCurrentFont(chosen);
-    dialog->ChosenColor(font.Color);
-    QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
-  }
-
-  void CancelFont(FontRequest&) override {
-    if (QWidget* const dialog = qt::OpenFontDialog()) QTest::keyClick(dialog, Qt::Key_Escape);
-  }
+  void PickFiles(OpenFileRequest&, const Picked& files) override { PickFilesInDialog(files); }
+  void CancelFiles(OpenFileRequest&) override { CancelFilesInDialog(); }
+  void PickColor(ColorRequest&, Color color) override { PickColorInDialog(color); }
+  void CancelColor(ColorRequest&) override { CancelColorInDialog(); }
+  void PickFont(FontRequest&, const ColoredFont& font) override { PickFontInDialog(font); }
+  void CancelFont(FontRequest&) override { CancelFontInDialog(); }
 
   void AnswerMessage(const Modal&, MessageAnswer answer) override {
     if (QMessageBox* const box = qt::OpenMessageBox())
@@ -346,18 +293,6 @@ class QtUser final : public User {
     const QModelIndex index = view.model()->index(list.PositionOf(row), 0);
     view.scrollTo(index);
     return view.visualRect(index);
-  }
-  /// Types into the name field and presses Open, which the toolkit enables when it has read the folder.
-  static void EnterName(QFileDialog& dialog, const QString& text) {
-    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(text);
-    auto& button = *dialog.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Open);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return button.isEnabled(); })) << qt::FromQt(text);
-    QTest::mouseClick(&button, Qt::LeftButton);
-  }
-  static void PickFilter(QFileDialog& dialog, int index) {
-    auto& box = *dialog.findChild<QComboBox*>("fileTypeCombo");
-    box.setFocus();
-    while (box.currentIndex() != index) QTest::keyClick(&box, box.currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
   }
   static QWidget& WindowOf(Form& form) { return *QWidget::find(form.Window()->NativeHandle()); }
 

@@ -10,6 +10,7 @@
 #include "desktops/win32/Win32Desktop.h"
 #include "tests/support/User.h"
 #include "tests/support/Win32CommonDialogs.h"
+#include "tests/support/Win32Rows.h"
 
 namespace orx::test {
 namespace {
@@ -200,11 +201,11 @@ class Win32User final : public User {
     if (dynamic_cast<ProgressBar*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, PBM_GETPOS, 0, 0));
     if (dynamic_cast<ComboBox*>(&control)) seen.Value = static_cast<int>(SendMessageW(window, CB_GETCURSEL, 0, 0));
     if (auto* const list = dynamic_cast<ListBox*>(&control)) {
-      seen.Value = CurrentRow(*list);
+      seen.Value = RowWith(window, list->MultiSelect() ? LVNI_FOCUSED : LVNI_SELECTED);
       seen.Text = seen.Value < 0 ? std::string() : RowText(window, seen.Value);
     }
     if (auto* const tree = dynamic_cast<TreeList*>(&control)) {
-      seen.Value = static_cast<int>(SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+      seen.Value = RowWith(window, LVNI_SELECTED);
       seen.Text = seen.Value < 0 ? std::string() : RowText(window, seen.Value);
       if (seen.Value >= 0) seen.Value = tree->ShownRow(seen.Value);
     }
@@ -218,15 +219,9 @@ class Win32User final : public User {
     for (int i = 0; i < SendMessageW(window, LVM_GETITEMCOUNT, 0, 0); ++i) texts.push_back(RowText(window, i));
     return texts;
   }
-  bool SeesRow(TreeList& list, int row) override { return SeesPosition(list, list.PositionOf(row)); }
-  std::set<int> SeeSelected(ListBox& box) override {
-    const HWND window = PeerOf(box)->Window();
-    std::set<int> rows;
-    for (LRESULT row = -1; (row = SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0;)
-      rows.insert(static_cast<int>(row));
-    return rows;
-  }
-  bool SeesRow(ListBox& box, int row) override { return SeesPosition(box, row); }
+  bool SeesRow(TreeList& list, int row) override { return SeesRowAt(PeerOf(list)->Window(), list.PositionOf(row)); }
+  std::set<int> SeeSelected(ListBox& box) override { return SelectedRows(PeerOf(box)->Window()); }
+  bool SeesRow(ListBox& box, int row) override { return SeesRowAt(PeerOf(box)->Window(), row); }
 
   std::string SeeCaption(Form& form) override { return Narrowed(TextOf(WindowOf(form))); }
 
@@ -241,21 +236,6 @@ class Win32User final : public User {
     SendInput(1, &input, sizeof(input));
   }
 
-  static bool SeesPosition(Control& list, int position) {
-    const HWND window = PeerOf(list)->Window();
-    RECT place = {LVIR_BOUNDS, 0, 0, 0};
-    if (position < 0 ||
-        !SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&place)))
-      return false;
-    return place.top >= 0 && place.bottom <= HeightOf(window);
-  }
-
-  /// The selected entry, or where several can be selected the one with the focus mark.
-  static int CurrentRow(const ListBox& list) {
-    const LPARAM which = list.MultiSelect() ? LVNI_FOCUSED : LVNI_SELECTED;
-    return static_cast<int>(SendMessageW(PeerOf(list)->Window(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), which));
-  }
-
   void ClickRow(ListBox& box, int row, UINT press) {
     if (!CanReach(box) || row >= box.ListCount()) return;
     const HWND window = PeerOf(box)->Window();
@@ -263,15 +243,6 @@ class Win32User final : public User {
     RECT place = {LVIR_BOUNDS, 0, 0, 0};
     SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
     MouseClickAt(window, {8, (place.top + place.bottom) / 2}, press);
-  }
-
-  static std::string RowText(HWND list, int position) {
-    wchar_t text[260] = {};
-    LVITEMW item = {};
-    item.pszText = text;
-    item.cchTextMax = static_cast<int>(std::size(text));
-    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item));
-    return Narrowed(text);
   }
 
   /// The place of a row in the list, scrolled to. False when it is folded away or out of reach.
@@ -374,17 +345,6 @@ class Win32User final : public User {
     if (dynamic_cast<ComboBox*>(&control)) return Narrowed(TextOf(window));
     if (dynamic_cast<TabControl*>(&control)) return WithoutMnemonic(ShownTab(window));
     return WithoutMnemonic(Narrowed(TextOf(window)));
-  }
-
-  static std::string ShownTab(HWND tabs) {
-    wchar_t text[200] = {};
-    TCITEMW item = {};
-    item.mask = TCIF_TEXT;
-    item.pszText = text;
-    item.cchTextMax = static_cast<int>(std::size(text));
-    SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0)),
-                 reinterpret_cast<LPARAM>(&item));
-    return Narrowed(text);
   }
 
   win32::Win32Desktop& mDesktop;
