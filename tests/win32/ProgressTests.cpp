@@ -5,13 +5,11 @@
 
 #include "desktops/win32/Subclass.h"
 #include "pickers/frmProgress.h"
-#include "service/CCommonProgressDialog.h"
+#include "tests/progress/ProgressLoops.h"
 #include "tests/win32/Win32Test.h"
 
 namespace orx::test {
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 /// Counts how often a window is painted.
 class Paints {
@@ -50,31 +48,14 @@ TEST_F(Win32Progress, IsPaintedWithoutMessages) {
 
 TEST_F(Win32Progress, IsPaintedSixtyTimesASecondAtMost) {
   const Paints paints(WindowOf(Window().prgBar));
-  const auto start = Clock::now();
-  while (Clock::now() - start < std::chrono::milliseconds(1500)) {
-    progress.Value(progress.Value() == 25 ? 75 : 25);
-    progress.Message(std::to_string(progress.Value()));
-    desktop().ProcessPendingEvents();
-  }
+  JumpFor(std::chrono::milliseconds(1500), progress, desktop());
   EXPECT_LE(paints.Count, 60 * 3 / 2 + 1);
   EXPECT_GE(paints.Count, 20);
 }
 
 TEST_F(Win32Progress, AMillionValuesCostLessThanTwoHundredthsOfRepaintingEachTime) {
-  constexpr int kValues = 1000000;
-  constexpr int kRepaints = 500;
-  progress.Init(0, kValues, 0);
-  auto start = Clock::now();
-  for (int i = 1; i <= kValues; ++i) progress.Value(i);
-  const std::chrono::duration<double> ours = Clock::now() - start;
+  EXPECT_LT(CostOfAMillionValues(progress), 0.02);
   EXPECT_EQ(Window().prgBar.Pixels(), Send(WindowOf(Window().prgBar), PBM_GETPOS));
-  start = Clock::now();
-  for (int i = 1; i <= kRepaints; ++i) {
-    progress.Value(i * (kValues / kRepaints));
-    progress.Refresh();
-  }
-  const std::chrono::duration<double> repainted = (Clock::now() - start) * (kValues / kRepaints);
-  EXPECT_LT(ours / repainted, 0.02);
 }
 
 TEST_F(Win32Progress, ShowAndHideLetPendingMessagesBeHandled) {
