@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "forms/Letters.h"
 #include "service/modDialog.h"
 #include "service/modMain.h"
 
@@ -29,13 +30,9 @@ bool Marks(const std::string& tag, const char* what) {
   return lower.find(what) != std::string::npos;
 }
 
-bool IsBlankName(const std::string& name) {
-  return name.find_first_not_of(' ') == std::string::npos;
-}
-
 /// The name of a layer, or what stands for it.
 std::string NameOr(std::string name, const char* otherwise, std::int32_t number) {
-  if (IsBlankName(name)) name = otherwise + std::to_string(number);
+  if (WithoutBlanksAround(name).empty()) name = otherwise + std::to_string(number);
   return name;
 }
 
@@ -148,7 +145,7 @@ void frmMapSettings::FillList() {
   sftLayers.Clear();
   if (mLayers) {
     const std::string name = mLayers->Name();
-    sftLayers.AddRow({IsBlankName(name) ? "Map" : name, 0, 0, kMapTag, true});
+    sftLayers.AddRow({WithoutBlanksAround(name).empty() ? "Map" : name, 0, 0, kMapTag, true});
   }
   if (mMap) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
 }

@@ -1,5 +1,6 @@
 #include "service/CCommonMapDialogs.h"
 
+#include "forms/Letters.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
 #include "hostobjects/IMap.h"
@@ -17,13 +18,6 @@
 #include "service/modMainDialogs.h"
 
 namespace orx {
-namespace {
-
-bool IsBlank(const std::string& text) {
-  return text.find_first_not_of(' ') == std::string::npos;
-}
-
-}  // namespace
 
 struct CCommonMapDialogs::Request {
   HostObject* Client;
@@ -56,7 +50,7 @@ std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
   trap.Step([&] { form->RefreshContents(); });
   // Loading translates the designed caption, so that it has to come before another one.
   trap.Step([&] { form->Load(); });
-  if (!IsBlank(request.Caption)) trap.Step([&] { form->Caption(request.Caption); });
+  if (!WithoutBlanksAround(request.Caption).empty()) trap.Step([&] { form->Caption(request.Caption); });
   trap.Step([&] { form->Show(request.Mode, request.Owner); });
   std::int32_t result = 0;
   trap.Step([&] {

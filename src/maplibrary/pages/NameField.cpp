@@ -1,13 +1,13 @@
 #include "maplibrary/pages/NameField.h"
 
 #include "forms/FieldTexts.h"
+#include "forms/Letters.h"
 #include "maplibrary/pages/PageTexts.h"
 
 namespace orx::maplibrary {
 
 std::optional<Message> NameField::Take(const std::string& text) {
-  if (text.find_first_not_of(' ') == std::string::npos)
-    return MakeMessage(fieldtexts::kWrongValue, pagetexts::kBlankName, {Name()});
+  if (WithoutBlanksAround(text).empty()) return MakeMessage(fieldtexts::kWrongValue, pagetexts::kBlankName, {Name()});
   Become(text);
   return std::nullopt;
 }
