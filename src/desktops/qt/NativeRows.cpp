@@ -1,6 +1,5 @@
 #include "desktops/qt/NativeRows.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
 

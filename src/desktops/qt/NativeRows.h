@@ -1,6 +1,7 @@
 // The view of all lists whose rows stay in their control.
 #pragma once
 
+#include <QKeyEvent>
 #include <QListView>
 #include <functional>
 
