@@ -1,5 +1,5 @@
 # headers_alone: compiles every header by itself, so that none leans on what another includes first.
-file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/src/*.h)
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/*.h)
 # Those of other platforms are tried in the builds for these.
 if(WIN32)
   list(FILTER headers INCLUDE REGEX "^(com|desktops/win32)/")
@@ -19,7 +19,7 @@ foreach(header IN LISTS headers)
 endforeach()
 
 add_library(headers_alone OBJECT ${sources})
-target_include_directories(headers_alone PRIVATE ${CMAKE_SOURCE_DIR}/src)
+target_include_directories(headers_alone PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(headers_alone PRIVATE -O0 -g0)
 target_link_libraries(headers_alone PRIVATE orx_options $<TARGET_NAME_IF_EXISTS:orxMDlgCom>
   $<TARGET_NAME_IF_EXISTS:Qt6::Widgets>)

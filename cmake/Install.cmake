@@ -17,7 +17,7 @@ if(TARGET orxMDlgServer)
   list(APPEND libraries orxMDlgWin32)
   install(FILES src/desktops/win32/Win32Desktop.h DESTINATION ${ORX_INCLUDE}/desktops/win32)
   install(FILES $<TARGET_FILE:orxMDlgServer> DESTINATION ${CMAKE_INSTALL_BINDIR})
-  install(FILES ${CMAKE_BINARY_DIR}/typelib/OrvexMapDialogs2.tlb ${CMAKE_BINARY_DIR}/typelib/OrvexMapDialogs2.h
+  install(FILES ${PROJECT_BINARY_DIR}/typelib/OrvexMapDialogs2.tlb ${PROJECT_BINARY_DIR}/typelib/OrvexMapDialogs2.h
     src/com/OrvexMapDialogs2.idl src/com/HostObjects.idl DESTINATION ${ORX_SHARE}/typelib)
 endif()
 install(TARGETS ${libraries} EXPORT OrvexMapDialogs2Targets)

@@ -15,7 +15,7 @@ endif()
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)
 
 add_library(orx_options INTERFACE)
-target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Werror
+target_compile_options(orx_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor $<$<BOOL:${ORX_WARNINGS_AS_ERRORS}>:-Werror>
   $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)
   # These report std::string of the compiler's own library when it is inlined (fixed in later releases).
@@ -34,7 +34,7 @@ endif()
 function(orx_add_library name)
   set(sources)
   foreach(dir IN LISTS ARGN)
-    file(GLOB found CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${dir}/*.cpp ${CMAKE_SOURCE_DIR}/src/${dir}/*.h)
+    file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${dir}/*.cpp ${PROJECT_SOURCE_DIR}/src/${dir}/*.h)
     list(APPEND sources ${found})
   endforeach()
   add_library(${name} STATIC ${sources})
@@ -42,7 +42,7 @@ function(orx_add_library name)
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:orx_options>)
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_include_directories(${name} PUBLIC
-    $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/src>
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/OrvexMapDialogs2>)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()

@@ -6,8 +6,8 @@ find_path(WIDL_TLB_DIR stdole2.tlb PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-w
 
 # orx_type_library(FOLDER): gives OrvexMapDialogs2.tlb and .h in the folder; the target of that work is orx_typelib.
 function(orx_type_library folder)
-  set(idl ${CMAKE_SOURCE_DIR}/src/com/OrvexMapDialogs2.idl)
-  set(sources ${idl} ${CMAKE_SOURCE_DIR}/src/com/HostObjects.idl)
+  set(idl ${PROJECT_SOURCE_DIR}/src/com/OrvexMapDialogs2.idl)
+  set(sources ${idl} ${PROJECT_SOURCE_DIR}/src/com/HostObjects.idl)
   set(bits $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,--win64,--win32>)
   set(widl ${WIDL} ${bits} -I ${WIDL_IDL_DIR} -L ${WIDL_TLB_DIR})
   set(name ${folder}/OrvexMapDialogs2)

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "maplibrary/GridFields.h"
 #include "pickers/frmProgress.h"
 
 namespace maphost {
@@ -17,9 +18,9 @@ class Photographer final : public orx::DesktopHook {
   void Suffix(const std::string& value) { mSuffix = value; }
 
   void Take(orx::Form& form) {
-    const std::filesystem::path file = mFolder / (form.Name() + mSuffix + ".png");
-    if (!mDesktop.SavePicture(form, file.string())) throw std::runtime_error("Cannot write " + file.string());
-    std::cout << file.string() << '\n';
+    const std::string file = orx::maplibrary::Utf8(mFolder / (form.Name() + mSuffix + ".png"));
+    if (!mDesktop.SavePicture(form, file)) throw std::runtime_error("Cannot write " + file);
+    std::cout << file << '\n';
   }
 
   void ModalRunning(const orx::Modal& modal) override {

@@ -1,26 +1,29 @@
 // The demo host: opens a grid file as a map, with every dialog one click away.
-#include <cstring>
 #include <iostream>
 #include <optional>
+#include <vector>
 
 #include "examples/maphost/Gallery.h"
+#include "maplibrary/GridFields.h"
 #include "maplibrary/SampleMap.h"
 
 namespace {
 
+using Path = std::filesystem::path;
+
 struct Options {
-  std::string Grid;
-  std::optional<std::string> Gallery;
+  Path Grid;
+  std::optional<Path> Gallery;
 };
 
-std::optional<Options> ReadOptions(int argc, char** argv) {
+std::optional<Options> ReadOptions(const std::vector<Path>& arguments) {
   Options options;
-  for (int i = 1; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--gallery") == 0) {
-      if (++i == argc) return std::nullopt;
-      options.Gallery = argv[i];
-    } else if (options.Grid.empty() && argv[i][0] != '-') {
-      options.Grid = argv[i];
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    if (arguments[i] == "--gallery") {
+      if (++i == arguments.size()) return std::nullopt;
+      options.Gallery = arguments[i];
+    } else if (options.Grid.empty() && !arguments[i].empty() && arguments[i].native().front() != '-') {
+      options.Grid = arguments[i];
     } else {
       return std::nullopt;
     }
@@ -31,16 +34,21 @@ std::optional<Options> ReadOptions(int argc, char** argv) {
 
 void Run(const Options& options) {
   maphost::NativeDesktop desktop;
-  const auto map = orx::maplibrary::MakeSampleMap(options.Grid);
-  const maphost::Languages languages(std::filesystem::path(options.Grid).parent_path() / "languages");
+  const auto map = orx::maplibrary::MakeSampleMap(orx::maplibrary::Utf8(options.Grid));
+  const maphost::Languages languages(options.Grid.parent_path() / "languages");
   if (options.Gallery) return maphost::WriteGallery(desktop, *map, languages, *options.Gallery);
   maphost::RunWindow(*std::make_shared<maphost::HostWindow>(desktop, *map, languages));
 }
 
 }  // namespace
 
+// On Windows file names are more than the code page of a narrow command line can tell.
+#ifdef _WIN32
+int wmain(int argc, wchar_t** argv) {
+#else
 int main(int argc, char** argv) {
-  const std::optional<Options> options = ReadOptions(argc, argv);
+#endif
+  const std::optional<Options> options = ReadOptions({argv + 1, argv + argc});
   if (!options) {
     std::cerr << "Usage: maphost GRID.bil|GRID.asc [--gallery FOLDER]\n";
     return 2;

@@ -80,6 +80,14 @@ TEST_F(QtControl, ArrowKeysOnAButtonMoveTheFocusOfTheForm) {
   EXPECT_EQ((Events{"cmdOK_LostFocus", "cmdCancel_GotFocus"}), NewEvents());
 }
 
+TEST_F(QtNotes, FieldsThatCannotBeTypedInHaveTheGroundOfTheDialog) {
+  notes->Show(ShowMode::Modeless);
+  const QPalette& plain = Native<QWidget>(notes->txtNote).palette();
+  const QPalette& locked = Native<QWidget>(notes->txtLog).palette();
+  EXPECT_EQ(plain.color(QPalette::Window), locked.color(QPalette::Base));
+  EXPECT_NE(plain.color(QPalette::Base), locked.color(QPalette::Base));
+}
+
 TEST_F(QtNotes, ALogShowsItsEndAndCannotBeTypedInto) {
   notes->Show(ShowMode::Modeless);
   std::string lines;

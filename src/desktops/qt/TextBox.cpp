@@ -14,7 +14,13 @@ namespace {
 /// What fields of one and of several lines have in common.
 class FieldPeer : public Peer {
  public:
-  FieldPeer(TextBox& control, Dialog& dialog, QWidget* native) : Peer(control, dialog, native), mControl(control) {}
+  FieldPeer(TextBox& control, Dialog& dialog, QWidget* native) : Peer(control, dialog, native), mControl(control) {
+    if (!control.Locked()) return;
+    // On the ground of the dialog, nobody takes it for a field to type in.
+    QPalette palette = native->palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    native->setPalette(palette);
+  }
 
  protected:
   virtual QString NativeText() const = 0;
