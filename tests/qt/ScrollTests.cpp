@@ -21,10 +21,10 @@ class QtScroll : public QtFormsTest {
   QScrollBar& Bar() { return *DialogOf(*form).findChild<QScrollArea*>()->verticalScrollBar(); }
 };
 
-TEST_F(QtScroll, AFormThatFitsShowsNoScrollBar) {
+TEST_F(QtScroll, AFormThatFitsHasNothingThatScrolls) {
   QtOnly().WorkArea({0, 0, 30000, 30000});
   ShowSettled();
-  EXPECT_FALSE(Bar().isVisible());
+  EXPECT_EQ(nullptr, DialogOf(*form).findChild<QScrollArea*>());
   EXPECT_EQ(desktop().ToPixels(5400), DialogOf(*form).height());
   EXPECT_EQ(desktop().ToPixels(6000), DialogOf(*form).width());
 }
@@ -36,6 +36,27 @@ TEST_F(QtScroll, OnALowScreenTheButtonsStayAtTheBottom) {
             PlaceInWindow(form->cmdOK).top());
   EXPECT_TRUE(Bar().isVisible());
   EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*form));
+  user.Click(form->cmdOK);
+  EXPECT_EQ(1, std::count(events.begin(), events.end(), "cmdOK_Click"));
+}
+
+TEST_F(QtScroll, AFormThatOutgrowsItsScreenScrollsAndKeepsItsFocus) {
+  const int frame = desktop().Metrics(BorderStyle::Fixed).Frame.Height;
+  QtOnly().WorkArea({0, 0, 12000, 6000 + frame});
+  ShowSettled();
+  user.ClickInto(form->txtSize);
+  form->ClientSize({6000, 9000});
+  EXPECT_TRUE(Bar().isVisible());
+  EXPECT_TRUE(user.See(form->txtSize).Focused);
+  user.Type(form->txtName, "Typed");
+  EXPECT_EQ("Typed", user.See(form->txtName).Text);
+  user.Press(*form, kTab);
+  EXPECT_TRUE(user.See(form->txtSize).Focused);
+  EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*form));
+  form->ClientSize({6000, 5400});
+  desktop().ProcessPendingEvents();
+  EXPECT_FALSE(Bar().isVisible());
+  EXPECT_EQ(desktop().ToPixels(4680), PlaceInWindow(form->cmdOK).top());
   user.Click(form->cmdOK);
   EXPECT_EQ(1, std::count(events.begin(), events.end(), "cmdOK_Click"));
 }

@@ -14,7 +14,8 @@ namespace orx::qt {
 
 Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
   setObjectName(ToQt(form.Name()));
-  setFont(DialogFont());
+  // A font of its own, every control would have to take over.
+  if (const QFont face = DialogFont(); face != font()) setFont(face);
   // The end of the host's application is not for a dialog to decide.
   setAttribute(Qt::WA_QuitOnClose, false);
   Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;

@@ -47,18 +47,29 @@ void Peer::Mirror(Aspect aspect) {
     case Aspect::Place:
       return MirrorPlace();
     case Aspect::Visible:
-      mWidget->setVisible(mControl.Visible());
+      ShowIf(mControl.Visible());
       return ArrangeGround();
     case Aspect::Enabled:
       return mWidget->setEnabled(mControl.Enabled());
     case Aspect::ToolTip:
-      return mWidget->setToolTip(PlainToolTip(mControl.ToolTipText()));
+      return MirrorToolTip();
     case Aspect::Text:
     case Aspect::Accessible:
       return MirrorName();
     default:
       return;
   }
+}
+
+void Peer::ShowIf(bool isVisible) {
+  // A new widget comes with its window by itself, and sooner than by being shown in one that is not there yet.
+  if (mWidget->isHidden() == isVisible) mWidget->setVisible(isVisible);
+}
+
+void Peer::MirrorToolTip() {
+  // Qt sends an event for every tool tip that is set, also for none.
+  const QString text = PlainToolTip(mControl.ToolTipText());
+  if (text != mWidget->toolTip()) mWidget->setToolTip(text);
 }
 
 void Peer::MirrorName() {

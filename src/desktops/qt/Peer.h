@@ -27,6 +27,7 @@ class Peer : public QObject, public ControlPeer {
  protected:
   /// Mirrors one aspect; a kind of control handles its own and leaves the others to this.
   virtual void Mirror(Aspect aspect);
+  void ShowIf(bool isVisible);
   /// The reason to give Qt for a focus that comes by the form's decision.
   virtual Qt::FocusReason ReasonToFocus() const { return Qt::TabFocusReason; }
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -36,6 +37,7 @@ class Peer : public QObject, public ControlPeer {
 
  private:
   void MirrorName();
+  void MirrorToolTip();
   void MirrorPlace();
   /// Lets the ground of the form follow a control that stands on it.
   void ArrangeGround();

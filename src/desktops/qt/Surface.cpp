@@ -1,7 +1,8 @@
 #include "desktops/qt/Surface.h"
 
+#include <QPointer>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 #include "forms/Control.h"
@@ -19,17 +20,27 @@ bool StandsPinned(const Control& control) {
 
 }  // namespace
 
-Surface::Surface(QWidget& dialog, const Form& form)
-    : mForm(form), mDialog(dialog), mScroll(new QScrollArea(&dialog)), mBody(new QWidget) {
+Surface::Surface(QWidget& dialog, const Form& form) : mForm(form), mDialog(dialog), mBody(new QWidget(&dialog)) {
+  // The dialog follows the mouse beside its controls.
+  mBody->setMouseTracking(true);
+}
+
+void Surface::MakeScrollable() {
+  const QPointer<QWidget> focused = mDialog.focusWidget();
+  mScroll = new QScrollArea(&mDialog);
   mScroll->setFrameShape(QFrame::NoFrame);
   mScroll->setFocusPolicy(Qt::NoFocus);
   mScroll->setWidget(mBody);
   // The dialog's own background shows through, as if nothing stood between.
   mScroll->viewport()->setAutoFillBackground(false);
   mBody->setAutoFillBackground(false);
-  // The dialog follows the mouse beside its controls.
-  for (QWidget* const ground : {static_cast<QWidget*>(mScroll), mScroll->viewport(), mBody})
-    ground->setMouseTracking(true);
+  mScroll->setMouseTracking(true);
+  mScroll->viewport()->setMouseTracking(true);
+  // Pinned controls stand before it.
+  mScroll->lower();
+  mScroll->show();
+  // A widget that moves to another parent loses the focus.
+  if (focused && mBody->isAncestorOf(focused)) focused->setFocus();
 }
 
 QWidget& Surface::HomeOf(const Control& control) {
@@ -69,7 +80,7 @@ int Surface::ExtraWidth() const {
   if (Missing().height() <= 0) return 0;
   const ScreenMetrics screen = mForm.OwnerDesktop().Metrics(mForm.Border());
   const int room = mForm.OwnerDesktop().ToPixels(screen.WorkArea.Width - mForm.Width());
-  return std::clamp(room, 0, mScroll->verticalScrollBar()->sizeHint().width());
+  return std::clamp(room, 0, mDialog.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 QSize Surface::WindowSize() const {
@@ -98,7 +109,10 @@ void Surface::Arrange() {
   const QSize missing = Missing();
   const QSize window = WindowSize();
   const int pinnedTop = PinnedTop();
-  if (missing.height() > 0) {
+  if (!mScroll && (missing.height() > 0 || missing.width() > 0)) MakeScrollable();
+  if (!mScroll) {
+    mBody->setGeometry(QRect(QPoint(), window));
+  } else if (missing.height() > 0) {
     mScroll->setGeometry(0, 0, window.width(), std::max(0, pinnedTop - missing.height()));
     mBody->resize(BodySize(pinnedTop));
   } else {
@@ -110,6 +124,7 @@ void Surface::Arrange() {
 }
 
 void Surface::Reveal(QWidget& widget) {
+  if (!mScroll) return;
   const int gap = mForm.OwnerDesktop().ToPixels(kGap);
   if (mBody->isAncestorOf(&widget)) mScroll->ensureWidgetVisible(&widget, gap, gap);
 }

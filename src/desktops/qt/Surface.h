@@ -1,5 +1,5 @@
 // What the controls of a dialog stand on. While all of the form fits on the screen it is a plain area; when the form is
-// higher than its window, the pinned controls stay at the bottom and the others scroll above them.
+// larger than its window, the pinned controls stay at the bottom and the others scroll above them.
 #pragma once
 
 #include <QRect>
@@ -50,11 +50,14 @@ class Surface {
   /// The upper edge of the pinned controls while nothing scrolls.
   int PinnedTop() const;
   QSize BodySize(int pinnedTop) const;
+  /// Has the body scroll from now on. Few dialogs need it, and it costs as much as a handful of controls.
+  void MakeScrollable();
 
   const Form& mForm;
   QWidget& mDialog;
-  QScrollArea* mScroll;
   QWidget* mBody;
+  /// Null while the body stands in the dialog itself.
+  QScrollArea* mScroll = nullptr;
   std::vector<Standing> mStanding;
   bool mIsComplete = false;
 };
