@@ -25,7 +25,7 @@ namespace orx {
 /// - `mObj`: the object to edit; null and objects that the page cannot edit show an empty page.
 /// - `mCaption`: the title of the dialog; a blank one leaves the dialog's own.
 /// - `mModal`: modal, the call returns when the dialog has closed; modeless, it returns at once and the dialog lives
-///   until it is closed.
+///   until it is closed. While a modal dialog of the library is open nothing is shown modeless, and the result is 0.
 /// - `OwnerForm`: the window that the dialog belongs to; by default none.
 /// - result: -1 when the object was changed, 0 when it was not or the user cancelled or closed the window.
 /// They trap errors step by step: a step that fails is skipped, a result is always returned, and nothing is thrown.

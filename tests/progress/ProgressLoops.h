@@ -23,18 +23,18 @@ inline void JumpFor(std::chrono::milliseconds time, CCommonProgressDialog& progr
 /// they would have cost with repaints.
 inline double CostOfAMillionValues(CCommonProgressDialog& progress) {
   constexpr int kValues = 1000000;
-  constexpr int kRepaints = 500;
+  constexpr int kStep = 2000;
   progress.Init(0, kValues, 0);
   auto start = std::chrono::steady_clock::now();
   for (int i = 1; i <= kValues; ++i) progress.Value(i);
   const std::chrono::duration<double> plain = std::chrono::steady_clock::now() - start;
   start = std::chrono::steady_clock::now();
-  for (int i = 1; i <= kRepaints; ++i) {
-    progress.Value(i * (kValues / kRepaints));
+  for (int i = kStep; i <= kValues; i += kStep) {
+    progress.Value(i);
     progress.Refresh();
   }
   const std::chrono::duration<double> repainted = std::chrono::steady_clock::now() - start;
-  return plain.count() / (repainted.count() * (kValues / kRepaints));
+  return plain.count() / (repainted.count() * kStep);
 }
 
 }  // namespace orx::test

@@ -188,6 +188,16 @@ TEST_F(Service, AModelessDialogGoesByItsCloseBox) {
   EXPECT_TRUE(watch.expired());
 }
 
+TEST_F(Service, AboveAModalDialogNoneIsShownModeless) {
+  script.ExpectForm("frmProperties", [&](Form& form) {
+    for (const Entry& member : Members()) EXPECT_EQ(0, member.Show("", ShowMode::Modeless)) << member.Form;
+    EXPECT_TRUE(desktop().OpenForms().empty());
+    EXPECT_TRUE(form.Visible());
+    Press(form, "cmdOK");
+  });
+  service.ShowProperties(&object);
+}
+
 TEST_F(Service, ANullObjectIsHandedOnAsNone) {
   script.ExpectForm("frmProperties", [&](Form& form) { Press(form, "cmdOK"); });
   EXPECT_EQ(0, service.ShowProperties(nullptr));
