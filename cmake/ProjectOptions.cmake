@@ -11,6 +11,12 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   endif()
 endif()
 
+if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+  # The older floating-point unit keeps more digits and a wider range in its registers than a double has, so that a number
+  # would be another one once it is stored. Hosts align their stack to 4 bytes only.
+  add_compile_options(-msse2 -mfpmath=sse -mincoming-stack-boundary=2)
+endif()
+
 # Presets that are built beside the native one compile several sources at once, in a third of the time.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)
 
