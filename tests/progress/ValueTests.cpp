@@ -118,10 +118,7 @@ TEST_F(ProgressValues, SetWhileTheWindowIsHiddenAreThereWhenItIsShown) {
 TEST_F(ProgressValues, TheMessageIsShownAsItIsWritten) {
   progress->Show();
   EXPECT_EQ("Message ...", user.See(Window().lblMsg).Text);
-  for (const char* text : {"Tiles & layers", "a && b", "&File", "100 %",
-                           "Gr\xC3\xBC\xC3\x9F"
-                           "e \xE2\x82\xAC \xE5\x9C\xB0",
-                           ""}) {
+  for (const char* text : {"Tiles & layers", "a && b", "&File", "100 %", "Gr\u00FC\u00DFe \u20AC \u5730", ""}) {
     progress->Message(text);
     EXPECT_EQ(text, progress->Message());
     EXPECT_EQ(text, SeeSettled(Window().lblMsg).Text);
