@@ -10,7 +10,7 @@
 #include "desktops/headless/HeadlessDesktop.h"
 #include "desktops/qt/QtDesktop.h"
 #include "hostobjects/IMap.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "propertydialogs/frmMapSettings.h"
 #include "service/CCommonMapDialogs.h"
 
@@ -127,7 +127,7 @@ class Opener final : public DesktopHook {
   }
 
   Desktop& mDesktop;
-  maplibrary::PageFactory mPages;
+  pages::PageFactory mPages;
   CCommonMapDialogs mDialogs;
   std::function<void(frmMapSettings&)> mInside;
 };

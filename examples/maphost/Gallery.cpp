@@ -3,8 +3,9 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "maplibrary/GridFields.h"
+#include "maplibrary/files/FileAccess.h"
 #include "pickers/frmProgress.h"
+#include "text/Paths.h"
 
 namespace maphost {
 namespace {
@@ -18,7 +19,7 @@ class Photographer final : public orx::DesktopHook {
   void Suffix(const std::string& value) { mSuffix = value; }
 
   void Take(orx::Form& form) {
-    const std::string file = orx::maplibrary::Utf8(mFolder / (form.Name() + mSuffix + ".png"));
+    const std::string file = orx::Utf8(mFolder / (form.Name() + mSuffix + ".png"));
     if (!mDesktop.SavePicture(form, file)) throw std::runtime_error("Cannot write " + file);
     std::cout << file << '\n';
   }

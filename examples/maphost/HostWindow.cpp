@@ -4,11 +4,11 @@
 
 #include "examples/maphost/LargeContours.h"
 #include "hostobjects/IData.h"
-#include "maplibrary/CharacterText.h"
-#include "maplibrary/DrawMap.h"
-#include "maplibrary/LayerData.h"
+#include "maplibrary/drawing/DrawMap.h"
+#include "maplibrary/model/LayerData.h"
 #include "service/CCommonProgressDialog.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
+#include "text/CharacterText.h"
 
 namespace maphost {
 namespace {
@@ -168,13 +168,13 @@ void HostWindow::cmdSymbol_Click() {
   auto& layer = *QueryKind<orx::ILayer>(choice.Object);
   const std::int32_t before = layer.SymbolCharacter();
   std::string font = layer.SymbolFont();
-  std::int32_t code = orx::maplibrary::FontCode(before);
+  std::int32_t code = orx::FontCode(before);
   double rotation = layer.SymbolRotation();
   bool changed = false;
   mDialogs.ShowCharacterSelection(font, code, rotation, changed, {}, {this, 0});
   if (changed) {
     layer.SymbolFont(font);
-    layer.SymbolCharacter(orx::maplibrary::CharacterOf(code, before));
+    layer.SymbolCharacter(orx::CharacterOf(code, before));
     layer.SymbolRotation(rotation);
   }
   Report("Symbol of " + choice.Name, changed ? -1 : 0);

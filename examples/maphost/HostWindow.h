@@ -10,8 +10,8 @@
 #include "forms/Form.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "maplibrary/Map.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "maplibrary/model/Map.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 
 namespace maphost {
@@ -114,7 +114,7 @@ class HostWindow final : public orx::Form {
   DesignedCaptions mDesigned{*this};
   std::vector<Choice> mChoices;
   std::int32_t mTilesAcross = 4;
-  orx::maplibrary::PageFactory mPages;
+  orx::pages::PageFactory mPages;
   HostLog mLog{txtLog};
   HostCallBack mCallBack{mLog, [this] { DrawMap(); }};
   orx::CCommonMapDialogs mDialogs{OwnerDesktop(), mPages};

@@ -2,8 +2,8 @@
 #include <cstdio>
 
 #include "desktops/qt/QtDesktop.h"
-#include "maplibrary/SampleMap.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "maplibrary/model/SampleMap.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 
 int main(int argc, char** argv) {
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
   }
   try {
     orx::qt::QtDesktop desktop;
-    orx::maplibrary::PageFactory pages;
+    orx::pages::PageFactory pages;
     const auto map = orx::maplibrary::MakeSampleMap(argv[1]);
 
     orx::CCommonMapDialogs dialogs(desktop, pages);

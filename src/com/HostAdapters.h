@@ -11,8 +11,8 @@
 namespace orx::com {
 
 /// The object of a map or a part of it; null for null. It keeps a counted reference and everything that it was asked
-/// for, and is itself kept by the dialogs that show it (Lent::Lifetime). What it supports is decided by the published
-/// interfaces, or by the names of its members.
+/// for, and is itself kept by the dialogs that show it (BorrowedObject::Lifetime). What it supports is decided by the
+/// published interfaces, or by the names of its members.
 std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object);
 
 /// The language and the call-back: plain pointers to the host's objects, of which no reference is kept between calls.

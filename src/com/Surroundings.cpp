@@ -7,7 +7,7 @@
 
 #include "com/PageControls.h"
 #include "desktops/win32/Win32Desktop.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 
 namespace orx::com {
 namespace {
@@ -26,7 +26,7 @@ class ThreadSurroundings final : public Surroundings {
 
  private:
   // The pages of open dialogs go with the desktop, which is why it goes first.
-  maplibrary::PageFactory mEmbedded;
+  pages::PageFactory mEmbedded;
   PageControlFactory mPages{mEmbedded};
   std::unique_ptr<Desktop> mScreen;
 };

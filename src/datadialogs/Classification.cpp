@@ -1,10 +1,11 @@
 #include "datadialogs/Classification.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
 #include "hostobjects/ErrorTrap.h"
+#include "text/AsciiCase.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
@@ -17,11 +18,8 @@ bool DifferByRounding(double one, double two) {
   return std::abs(one - two) <= kLastDigits * std::max(std::abs(one), std::abs(two));
 }
 
-std::string Plain(std::string text) {
-  text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
-  text.erase(text.find_last_not_of(' ') + 1);
-  std::ranges::transform(text, text.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return text;
+std::string Plain(std::string_view text) {
+  return AsciiLowerCase(Trimmed(text, kSpaces));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "datadialogs/Classification.h"
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
@@ -16,7 +17,6 @@
 #include "forms/Label.h"
 #include "forms/ShownNumber.h"
 #include "forms/TextBox.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -1,8 +1,9 @@
 #include "datadialogs/frmDataOptions.h"
 
+#include "dialogframe/FocusMark.h"
+#include "dialogframe/SelectAllText.h"
 #include "forms/ColorRequest.h"
 #include "forms/Desktop.h"
-#include "service/modMain.h"
 
 namespace orx {
 frmDataOptions::frmDataOptions(Desktop& desktop)
@@ -86,7 +87,7 @@ void frmDataOptions::TakeBound(int index, double SpecialValueRecord::*field, con
 
 void frmDataOptions::pctColor_Click(int index) {
   SpecialValueRecord& record = Record(index);
-  ColorRequest request{Window() ? Window()->NativeHandle() : 0, kStartFromColor, record.Color};
+  ColorRequest request{NativeHandle(), kStartFromColor, record.Color};
   if (!OwnerDesktop().ChooseColor(request)) return;
   if (request.Color != record.Color) {
     record.Color = request.Color;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "datadialogs/SpecialValueRecord.h"
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/Frame.h"
@@ -9,7 +10,6 @@
 #include "forms/PictureBox.h"
 #include "forms/ShownNumber.h"
 #include "forms/TextBox.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -2,13 +2,13 @@
 // nothing but OK and Cancel acts.
 #pragma once
 
+#include "dialogframe/DialogForm.h"
+#include "dialogframe/Glyphs.h"
 #include "forms/Button.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/ListBox.h"
 #include "forms/PictureBox.h"
-#include "service/DialogForm.h"
-#include "service/Glyphs.h"
 
 namespace orx {
 

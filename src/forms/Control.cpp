@@ -4,7 +4,7 @@
 
 #include "forms/Form.h"
 #include "forms/Label.h"
-#include "forms/Letters.h"
+#include "text/Utf8Text.h"
 
 namespace orx {
 

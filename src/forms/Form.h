@@ -116,6 +116,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
   /// The native window, null while there is none.
   FormWindow* Window() const { return mWindow.get(); }
+  /// The handle of that window, as common dialogs and help take it for their owner: HWND on Windows, WId on Qt; 0 while
+  /// there is none.
+  std::uintptr_t NativeHandle() const { return mWindow ? mWindow->NativeHandle() : 0; }
 
   Form& ContainingForm() override { return *this; }
   Control* ContainerControl() override { return nullptr; }

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "forms/Keys.h"
-#include "forms/Letters.h"
+#include "text/Utf8Text.h"
 
 namespace orx {
 namespace {

@@ -3,11 +3,12 @@
 #include <stdexcept>
 #include <type_traits>
 
+#include "dialogframe/FocusMark.h"
+#include "dialogframe/SelectAllText.h"
 #include "forms/ColorRequest.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
 
 namespace orx {
 namespace {
@@ -108,13 +109,13 @@ void frmDataIsoline::ReadFont() {
 }
 
 void frmDataIsoline::pctColor_Click() {
-  ColorRequest request{Window() ? Window()->NativeHandle() : 0, kStartFromColor, pctColor.BackColor()};
+  ColorRequest request{NativeHandle(), kStartFromColor, pctColor.BackColor()};
   if (OwnerDesktop().ChooseColor(request)) pctColor.BackColor(request.Color);
 }
 
 void frmDataIsoline::cmdFont_Click() {
   if (!mFont) mFont.emplace();
-  FontRequest request{Window() ? Window()->NativeHandle() : 0, kScreenAndPrinterFonts, *mFont};
+  FontRequest request{NativeHandle(), kScreenAndPrinterFonts, *mFont};
   if (OwnerDesktop().ChooseFont(request)) mFont = request.Chosen;
   cmdFont.SetFocus();
 }

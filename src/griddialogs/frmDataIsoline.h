@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
@@ -14,7 +15,6 @@
 #include "forms/ShownChoice.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IGridSettings.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

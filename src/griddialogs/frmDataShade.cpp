@@ -3,10 +3,10 @@
 #include <limits>
 #include <stdexcept>
 
+#include "dialogframe/SelectAllText.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
 
 namespace orx {
 namespace {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
@@ -12,7 +13,6 @@
 #include "forms/ShownNumber.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IGridSettings.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

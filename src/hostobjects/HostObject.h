@@ -1,7 +1,7 @@
 // What all objects that a host hands over have in common: they are asked for the interfaces they support by kind.
 #pragma once
 
-#include "hostobjects/Lent.h"
+#include "hostobjects/BorrowedObject.h"
 
 namespace orx {
 
@@ -23,7 +23,7 @@ enum class Kind {
 
 /// The base of every object that a host hands to a dialog. The library uses such objects and never owns them: the host
 /// keeps them alive while a dialog that was given them is open.
-class HostObject : public Lent {
+class HostObject : public BorrowedObject {
  public:
   /// The interface of that kind, as a pointer to exactly the interface class of the kind, or null when the object does
   /// not support it. Called by QueryKind only.

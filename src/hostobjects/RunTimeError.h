@@ -23,9 +23,11 @@ class RunTimeError : public std::runtime_error {
 
 /// The numbers of the errors that the library itself raises.
 inline constexpr std::int32_t kErrorOverflow = 6;
+inline constexpr std::int32_t kErrorSubscript = 9;
 inline constexpr std::int32_t kErrorFixedArray = 10;
 inline constexpr std::int32_t kErrorTypeMismatch = 13;
 inline constexpr std::int32_t kErrorNoSuchFile = 53;
+inline constexpr std::int32_t kErrorFileAccess = 75;
 inline constexpr std::int32_t kErrorNotLoaded = 91;
 inline constexpr std::int32_t kErrorFileFormat = 321;
 inline constexpr std::int32_t kErrorInvalidValue = 380;

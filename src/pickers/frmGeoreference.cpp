@@ -2,10 +2,10 @@
 
 #include <cmath>
 
+#include "dialogframe/SelectAllText.h"
 #include "forms/Desktop.h"
-#include "forms/Letters.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
@@ -41,13 +41,13 @@ void frmGeoreference::Form_Load() {
 }
 
 void frmGeoreference::txtInput_GotFocus(int index) {
-  mTextOnEntry = WithoutBlanksAround(txtInput[index].Text());
+  mTextOnEntry = Trimmed(txtInput[index].Text(), kSpaces);
   modMain::SelectAllText(txtInput[index]);
 }
 
 void frmGeoreference::txtInput_LostFocus(int index) {
   TextBox& field = txtInput[index];
-  if (WithoutBlanksAround(field.Text()) == mTextOnEntry) return;
+  if (Trimmed(field.Text(), kSpaces) == mTextOnEntry) return;
   const numbers::Separators separators = OwnerDesktop().Separators();
   const std::optional<double> value = numbers::ToDouble(field.Text(), separators);
   if (!value || !Take(index, *value)) return Refuse(field);

@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/Panel.h"
 #include "forms/TextBox.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "forms/Desktop.h"
-#include "forms/Letters.h"
 #include "hostobjects/ErrorTrap.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 
@@ -50,7 +50,7 @@ void frmListSelection::FillList() {
   list.Clear();
   std::int64_t index = mItems.LowerBound;
   for (const std::string& item : mItems.Items) {
-    const std::string text = WithoutBlanksAround(item);
+    const std::string text(Trimmed(item, kSpaces));
     list.AddItem(text.empty() ? std::to_string(index) : text, static_cast<std::int32_t>(index));
     ++index;
   }

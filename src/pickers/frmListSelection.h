@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/ListBox.h"
 #include "hostobjects/TextArray.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -1,10 +1,10 @@
 #include "pickers/frmMsgBox.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "forms/Desktop.h"
 #include "forms/TextBox.h"
+#include "text/AsciiCase.h"
 
 namespace orx {
 namespace {
@@ -54,13 +54,6 @@ std::string Shortened(const std::string& path) {
   return path.substr(0, OffsetOf(path, head)) + kEllipsis + path.substr(OffsetOf(path, length - tail));
 }
 
-std::string LowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(), [](unsigned char letter) {
-    return letter < 0x80 ? static_cast<char>(std::tolower(letter)) : static_cast<char>(letter);
-  });
-  return text;
-}
-
 }  // namespace
 
 frmMsgBox::frmMsgBox(Desktop& desktop)
@@ -102,9 +95,8 @@ void frmMsgBox::ShowMessageText() {
 }
 
 void frmMsgBox::cmdBrowse_Click() {
-  std::vector<std::string> files{LowerCase(mFileName)};
-  const std::uintptr_t handle = Window() ? Window()->NativeHandle() : 0;
-  const bool chosen = modDialog::ChooseFiles({OwnerDesktop(), handle, mKind, Language()}, false, files);
+  std::vector<std::string> files{AsciiLowerCase(mFileName)};
+  const bool chosen = modDialog::ChooseFiles({OwnerDesktop(), NativeHandle(), mKind, Language()}, false, files);
   mNewFileName = chosen ? files.front() : std::string();
   if (chosen) Unload();
 }

@@ -3,11 +3,11 @@
 
 #include <string>
 
+#include "dialogframe/DialogForm.h"
+#include "dialogframe/FileChoice.h"
 #include "forms/Button.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "service/DialogForm.h"
-#include "service/modDialog.h"
 
 namespace orx {
 

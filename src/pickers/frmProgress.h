@@ -3,10 +3,10 @@
 
 #include <string>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/Label.h"
 #include "forms/ProgressBar.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "dialogframe/SelectAllText.h"
 #include "forms/Desktop.h"
-#include "forms/Letters.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
+#include "text/Utf8Text.h"
 
 namespace orx {
 namespace {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/ComboBox.h"
 #include "forms/Label.h"
@@ -11,7 +12,6 @@
 #include "forms/PictureBox.h"
 #include "forms/TextBox.h"
 #include "pickers/CharacterGrid.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -4,10 +4,10 @@
 #include <array>
 #include <memory>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/TabControl.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/PropertyPage.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

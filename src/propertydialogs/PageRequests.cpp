@@ -5,15 +5,15 @@
 
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
-#include "service/modMainDialogs.h"
+#include "openers/DataFile.h"
+#include "openers/SecondaryDialogs.h"
 
 namespace orx {
 namespace {
 
 void AnswerBrowse(DialogForm& form, BrowseRequest& request) {
   modMain::BrowsedFile file{request.FileName};
-  const std::uintptr_t handle = form.Window() ? form.Window()->NativeHandle() : 0;
-  modMain::BrowseDataFile(form.OwnerDesktop(), handle, form.Language(), file);
+  modMain::BrowseDataFile(form.OwnerDesktop(), form.NativeHandle(), form.Language(), file);
   request.FileName = file.FileName;
   request.Cancel = file.Cancel;
 }

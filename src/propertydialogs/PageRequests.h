@@ -2,8 +2,8 @@
 // it is about.
 #pragma once
 
+#include "dialogframe/DialogForm.h"
 #include "hostobjects/PropertyPage.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/TabControl.h"
 #include "hostobjects/IDialogCallBack.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 

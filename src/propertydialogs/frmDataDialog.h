@@ -2,9 +2,9 @@
 // was closed.
 #pragma once
 
+#include "dialogframe/PixelEdges.h"
 #include "propertydialogs/PageHostForm.h"
 #include "propertydialogs/Placement.h"
-#include "service/modMain.h"
 
 namespace orx {
 

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <utility>
 
-#include "forms/Letters.h"
-#include "service/modDialog.h"
-#include "service/modMain.h"
+#include "dialogframe/FileChoice.h"
+#include "dialogframe/Help.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
@@ -32,7 +32,7 @@ bool Marks(const std::string& tag, const char* what) {
 
 /// The name of a layer, or what stands for it.
 std::string NameOr(std::string name, const char* otherwise, std::int32_t number) {
-  if (WithoutBlanksAround(name).empty()) name = otherwise + std::to_string(number);
+  if (Trimmed(name, kSpaces).empty()) name = otherwise + std::to_string(number);
   return name;
 }
 
@@ -145,7 +145,7 @@ void frmMapSettings::FillList() {
   sftLayers.Clear();
   if (mLayers) {
     const std::string name = mLayers->Name();
-    sftLayers.AddRow({WithoutBlanksAround(name).empty() ? "Map" : name, 0, 0, kMapTag, true});
+    sftLayers.AddRow({Trimmed(name, kSpaces).empty() ? "Map" : name, 0, 0, kMapTag, true});
   }
   if (mMap) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
 }
@@ -280,8 +280,8 @@ void frmMapSettings::cmdAdd_Click() {
   Enabled(false);
   std::vector<std::string> files;
   trap.Step([&] {
-    const std::uintptr_t handle = Window() ? Window()->NativeHandle() : 0;
-    if (!modDialog::ChooseFiles({desktop, handle, modDialog::FileKind::Layers, Language()}, true, files)) files.clear();
+    if (!modDialog::ChooseFiles({desktop, NativeHandle(), modDialog::FileKind::Layers, Language()}, true, files))
+      files.clear();
   });
   for (const std::string& path : files) {
     trap.Step([&] { desktop.Pointer(Pointer::Hourglass); });

@@ -6,13 +6,13 @@
 #include <optional>
 #include <string>
 
+#include "dialogframe/Glyphs.h"
 #include "forms/TreeList.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
 #include "propertydialogs/LayerPages.h"
 #include "propertydialogs/Placement.h"
 #include "propertydialogs/PropertyDialog.h"
-#include "service/Glyphs.h"
 
 namespace orx {
 

@@ -1,9 +1,11 @@
 #include "service/CCommonMapDialogs.h"
 
-#include "forms/Letters.h"
+#include "dialogframe/FileChoice.h"
+#include "dialogframe/Help.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
 #include "hostobjects/IMap.h"
+#include "openers/SecondaryDialogs.h"
 #include "pickers/frmListSelection.h"
 #include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
@@ -13,9 +15,7 @@
 #include "propertydialogs/frmMapSettings.h"
 #include "propertydialogs/frmProperties.h"
 #include "propertydialogs/frmSettings.h"
-#include "service/modDialog.h"
-#include "service/modMain.h"
-#include "service/modMainDialogs.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 
@@ -50,7 +50,7 @@ std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
   trap.Step([&] { form->RefreshContents(); });
   // Loading translates the designed caption, so that it has to come before another one.
   trap.Step([&] { form->Load(); });
-  if (!WithoutBlanksAround(request.Caption).empty()) trap.Step([&] { form->Caption(request.Caption); });
+  if (!Trimmed(request.Caption, kSpaces).empty()) trap.Step([&] { form->Caption(request.Caption); });
   trap.Step([&] { form->Show(request.Mode, request.Owner); });
   std::int32_t result = 0;
   trap.Step([&] {

@@ -35,6 +35,10 @@ TEST(ArchitectureTree, NoFileIncludesItselfByWayOfOthers) {
   ExpectNone(IncludeCircles(ReadSources({"src", "tests", "examples"})));
 }
 
+TEST(ArchitectureTree, NoFolderIncludesItselfByWayOfOthers) {
+  ExpectNone(FolderCircles(Sources()));
+}
+
 TEST(ArchitectureTree, NativeTypesStayInTheDesktops) {
   ExpectNone(NativeNames(Sources()));
 }

@@ -1,7 +1,7 @@
 // The dialog for characters and its callers: what they give and get back, and what happens when something fails.
 #include <limits>
 
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 #include "tests/characters/CharactersTest.h"
 
@@ -73,7 +73,7 @@ class CharactersService : public CharactersTest {
     });
   }
 
-  maplibrary::PageFactory pages;
+  pages::PageFactory pages;
   CCommonMapDialogs service{desktop(), pages};
 };
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "pickers/frmTrueType.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordingHost.h"
 

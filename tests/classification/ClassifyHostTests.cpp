@@ -1,6 +1,6 @@
 // The classification dialog and its host: errors of the data object, the language, the locale, and the ways that lead
 // to the dialog.
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 #include "tests/classification/ClassifyTest.h"
 
@@ -115,7 +115,7 @@ TEST_F(ClassifyTest, WithoutAClassificationNothingIsShown) {
 
 class ClassifyService : public ClassifyTest {
  protected:
-  maplibrary::PageFactory pages;
+  pages::PageFactory pages;
   CCommonMapDialogs service{desktop(), pages};
 };
 

@@ -1,6 +1,6 @@
 // The window for colour schemes, of which only OK and Cancel act.
 #include "datadialogs/frmManageColors.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordingHost.h"
 

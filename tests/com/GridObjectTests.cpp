@@ -9,11 +9,11 @@
 namespace orx::com::test {
 namespace {
 
-using GridFields = std::map<std::string, Variant>;
+using GridHeader = std::map<std::string, Variant>;
 
 /// The settings of a shade object; an extended one has the newer ones too.
-GridFields ShadeFields(bool isExtended) {
-  GridFields fields;
+GridHeader ShadeFields(bool isExtended) {
+  GridHeader fields;
   for (const char* const name : {"ScaleAutomatic", "MidIndexAutomatic"}) fields[name] = Variant(false);
   for (const char* const name : {"CombineColors", "Altitude", "FirstShadeIndex", "ShadeCount", "Azimuth", "NrOfShades"})
     fields[name] = Variant(std::int32_t{1});
@@ -25,7 +25,7 @@ GridFields ShadeFields(bool isExtended) {
 }
 
 ComPtr<ScriptObject> MakeLine() {
-  GridFields fields;
+  GridHeader fields;
   fields["Style"] = Variant(std::int32_t{2});
   fields["Width"] = Variant(std::int32_t{3});
   fields["Color"] = Variant(std::int32_t{0x0000FF});
@@ -33,7 +33,7 @@ ComPtr<ScriptObject> MakeLine() {
 }
 
 ComPtr<ScriptObject> MakeLabelFont() {
-  GridFields fields;
+  GridHeader fields;
   fields["Name"] = Variant("Arial");
   fields["Size"] = Variant(8.25);
   for (const char* const name : {"Bold", "Italic", "Underline", "Strikethrough"}) fields[name] = Variant(false);
@@ -41,8 +41,8 @@ ComPtr<ScriptObject> MakeLabelFont() {
   return MakeCounted<ScriptObject>(std::move(fields));
 }
 
-GridFields IsolineFields(IDispatch* line, IDispatch* font) {
-  GridFields fields;
+GridHeader IsolineFields(IDispatch* line, IDispatch* font) {
+  GridHeader fields;
   for (const char* const name :
        {"UseRangeColor", "UseRangeWidth", "LabelUseRangeColor", "LabelVisible", "LabelAllIsolines"})
     fields[name] = Variant(true);
@@ -99,7 +99,7 @@ TEST(GridAdapter, ADataObjectGivesItsViews) {
   const auto line = MakeLine();
   const auto font = MakeLabelFont();
   const auto isolines = MakeCounted<ScriptObject>(IsolineFields(line.Get(), font.Get()));
-  GridFields fields;
+  GridHeader fields;
   fields["Shade"] = Variant(shade.Get());
   fields["Isolines"] = Variant(isolines.Get());
   const auto object = MakeCounted<ScriptObject>(std::move(fields));

@@ -1,8 +1,8 @@
 // The dialog for special values: what it shows and keeps, what OK checks and writes, colours, errors of the host.
 #include "datadialogs/frmDataOptions.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordedData.h"
 
@@ -341,7 +341,7 @@ TEST_F(DataOptions, TheLanguageTranslatesAndGivesTheHelpNumber) {
 }
 
 TEST_F(DataOptions, TheServiceGivesTheResultAndRefusesOtherObjects) {
-  maplibrary::PageFactory pages;
+  pages::PageFactory pages;
   CCommonMapDialogs service(desktop(), pages);
   PlainObject layer;
   EXPECT_EQ(0, service.ShowDataOptions(&layer));

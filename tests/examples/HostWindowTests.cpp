@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "forms/TreeList.h"
-#include "maplibrary/MapText.h"
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/model/MapText.h"
+#include "maplibrary/model/SampleMap.h"
 #include "pickers/CharacterGrid.h"
 #include "tests/files/FilesTest.h"
 #include "tests/support/DesktopTest.h"

@@ -1,11 +1,11 @@
 // What boxes to draw in tell of the mouse, how drawings change, and what a desktop says of fonts and colours.
 #include <set>
 
-#include "forms/AnsiCharacters.h"
 #include "forms/Label.h"
-#include "forms/Letters.h"
 #include "forms/PictureBox.h"
 #include "tests/support/DesktopTest.h"
+#include "text/AnsiCharacters.h"
+#include "text/Utf8Text.h"
 
 namespace orx::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 #include "tests/georeference/GeoreferenceTest.h"
 
@@ -149,7 +149,7 @@ class GeoreferenceService : public GeoreferenceTest {
     });
   }
 
-  maplibrary::PageFactory pages;
+  pages::PageFactory pages;
   CCommonMapDialogs service{desktop(), pages};
 };
 

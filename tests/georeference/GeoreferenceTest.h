@@ -2,7 +2,7 @@
 #pragma once
 
 #include "pickers/frmGeoreference.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/georeference/GroundMap.h"
 #include "tests/support/DesktopTest.h"
 

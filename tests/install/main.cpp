@@ -4,8 +4,8 @@
 #include "desktops/headless/HeadlessDesktop.h"
 #include "forms/Button.h"
 #include "forms/Form.h"
-#include "maplibrary/SampleMap.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "maplibrary/model/SampleMap.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 
 struct PressOK final : orx::DesktopHook {
@@ -21,7 +21,7 @@ int main(int, char** argv) {
   PressOK hook;
   orx::headless::HeadlessDesktop desktop;
   desktop.Hook(&hook);
-  orx::maplibrary::PageFactory pages;
+  orx::pages::PageFactory pages;
   const auto map = orx::maplibrary::MakeSampleMap(argv[1]);
   orx::CCommonMapDialogs dialogs(desktop, pages);
   const auto result = dialogs.ShowProperties(map->Layer(1));

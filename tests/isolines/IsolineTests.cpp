@@ -1,6 +1,6 @@
 // The isoline dialog: what it shows, what OK writes, colours and fonts, texts that are no numbers.
 #include "griddialogs/frmDataIsoline.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordedGrid.h"
 

@@ -1,9 +1,9 @@
 // The dialogs of the map library's pages show all their text, in every language and at every resolution.
-#include "maplibrary/PseudoLanguage.h"
-#include "maplibrary/SampleMap.h"
-#include "maplibrary/TextLanguage.h"
+#include "languages/PseudoLanguage.h"
+#include "languages/TextLanguage.h"
+#include "maplibrary/model/SampleMap.h"
 #include "pickers/frmProgress.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/layout/LayoutCheck.h"
 #include "tests/maplibrary/pages/PagesTest.h"
 #include "tests/support/RecordedData.h"
@@ -102,12 +102,12 @@ TEST_F(PageLayout, NothingIsCutOffInEnglish) {
 }
 
 TEST_F(PageLayout, NothingIsCutOffInGerman) {
-  maplibrary::TextLanguage german(std::filesystem::path(ORX_DATA_DIR "/languages/de.txt"));
+  languages::TextLanguage german(std::filesystem::path(ORX_DATA_DIR "/languages/de.txt"));
   ExpectAllTextShown(&german);
 }
 
 TEST_F(PageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
-  maplibrary::PseudoLanguage pseudo;
+  languages::PseudoLanguage pseudo;
   ExpectAllTextShown(&pseudo);
 }
 
@@ -116,7 +116,7 @@ TEST_F(PageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {
   page->Page->CharacterRequested = [](CharacterRequest&) {};
   page->Page->Client(&layer);
   page->Page->RefreshContents();
-  maplibrary::PseudoLanguage().TranslateForm(*page);
+  languages::PseudoLanguage().TranslateForm(*page);
   page->Show(ShowMode::Modeless);
   EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*page));
   page->Unload();
@@ -129,7 +129,7 @@ TEST_F(PageLayout, NothingIsCutOffOnPagesThatOfferAllTheirDialogs) {
     HandleAllRequests(*page->Page);
     page->Page->Client(client);
     page->Page->RefreshContents();
-    maplibrary::PseudoLanguage().TranslateForm(*page);
+    languages::PseudoLanguage().TranslateForm(*page);
     page->Show(ShowMode::Modeless);
     EXPECT_EQ(std::vector<std::string>{}, LayoutProblems(*page)) << PageKindName(kind);
     page->Unload();

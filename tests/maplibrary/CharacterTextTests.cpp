@@ -1,5 +1,5 @@
 // Code points as UTF-8.
-#include "maplibrary/CharacterText.h"
+#include "text/CharacterText.h"
 
 #include <gtest/gtest.h>
 
@@ -8,10 +8,6 @@
 namespace orx::test {
 namespace {
 
-using maplibrary::CharacterOf;
-using maplibrary::CharacterText;
-using maplibrary::FontCode;
-using maplibrary::IsCharacter;
 
 TEST(MapLibraryCharacterText, EncodesEachLength) {
   EXPECT_EQ("A", CharacterText('A'));

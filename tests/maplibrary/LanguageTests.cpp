@@ -6,14 +6,14 @@
 
 #include "forms/TextBox.h"
 #include "hostobjects/RunTimeError.h"
-#include "maplibrary/PseudoLanguage.h"
-#include "maplibrary/TextLanguage.h"
+#include "languages/PseudoLanguage.h"
+#include "languages/TextLanguage.h"
 
 namespace orx::test {
 namespace {
 
-using maplibrary::PseudoLanguage;
-using maplibrary::TextLanguage;
+using languages::PseudoLanguage;
+using languages::TextLanguage;
 
 TextLanguage Parsed(const std::string& text) {
   std::istringstream stream(text);

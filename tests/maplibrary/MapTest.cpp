@@ -1,12 +1,12 @@
 // The map as dialogs use it: layers by number, moving and removing, kinds, extent and legends.
-#include "maplibrary/Map.h"
+#include "maplibrary/model/Map.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "maplibrary/Errors.h"
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/model/Errors.h"
+#include "maplibrary/model/SampleMap.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {

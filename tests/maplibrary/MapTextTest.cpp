@@ -1,5 +1,5 @@
 // The state of a map as text: each single setting shows in it, and reading changes nothing.
-#include "maplibrary/MapText.h"
+#include "maplibrary/model/MapText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Ground to pixels and back, and the value below a point.
-#include "maplibrary/MapView.h"
+#include "maplibrary/drawing/MapView.h"
 
 #include <gtest/gtest.h>
 
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/model/SampleMap.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {

@@ -1,9 +1,9 @@
 // Grids as pictures: colours, places of cells, missing values, and both ways of sampling.
-#include "maplibrary/RenderGrid.h"
+#include "maplibrary/drawing/RenderGrid.h"
 
 #include <gtest/gtest.h>
 
-#include "maplibrary/ColorRamp.h"
+#include "maplibrary/model/ColorRamp.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "hostobjects/IMap.h"
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/model/SampleMap.h"
 
 namespace orx::maplibrary {
 namespace {

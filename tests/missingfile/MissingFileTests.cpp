@@ -2,7 +2,6 @@
 #include "pickers/frmMsgBox.h"
 #include "service/CCommonMapDialogs.h"
 #include "service/modMain.h"
-#include "service/modMainDialogs.h"
 #include "tests/files/FilesTest.h"
 #include "tests/support/RecordingHost.h"
 

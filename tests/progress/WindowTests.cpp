@@ -1,5 +1,5 @@
 // The window: shown and hidden by the host, cancelled by the user, modal above a modal form.
-#include "maplibrary/TextLanguage.h"
+#include "languages/TextLanguage.h"
 #include "tests/progress/ProgressTest.h"
 #include "tests/support/RecordingHost.h"
 
@@ -242,7 +242,7 @@ TEST_F(ProgressWindow, SpeaksTheLanguageThatItsFormIsGiven) {
 }
 
 TEST_F(ProgressWindow, HasAllItsTextsInGerman) {
-  maplibrary::TextLanguage german(ORX_DATA_DIR "/languages/de.txt");
+  languages::TextLanguage german(ORX_DATA_DIR "/languages/de.txt");
   const auto form = std::make_shared<frmProgress>(desktop());
   form->Language(&german);
   form->Show(ShowMode::Modeless);

@@ -1,5 +1,5 @@
 // Contour lines: small grids by hand, a plane, a cone, a saddle, and invariants of random terrain.
-#include "maplibrary/Contours.h"
+#include "maplibrary/drawing/Contours.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The relief shading dialog: what it shows of both generations of objects, what OK checks and writes.
 #include "griddialogs/frmDataShade.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordedGrid.h"
 

@@ -4,8 +4,8 @@
 #include <QPainter>
 
 #include "desktops/qt/CanvasPainter.h"
-#include "forms/AnsiCharacters.h"
 #include "forms/TextBox.h"
+#include "text/AnsiCharacters.h"
 
 namespace orx::qt {
 namespace {

@@ -1,5 +1,5 @@
 // The page for the data of a layer: what it shows, what it asks its dialog for, and what comes of the answers.
-#include "maplibrary/pages/DataPropertiesPage.h"
+#include "pages/DataPropertiesPage.h"
 
 #include "hostobjects/IMap.h"
 #include "tests/maplibrary/pages/PagesTest.h"

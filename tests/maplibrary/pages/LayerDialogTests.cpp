@@ -4,8 +4,8 @@
 #include <set>
 
 #include "forms/TreeList.h"
-#include "maplibrary/PseudoLanguage.h"
-#include "maplibrary/SampleMap.h"
+#include "languages/PseudoLanguage.h"
+#include "maplibrary/model/SampleMap.h"
 #include "tests/maplibrary/pages/CheckedLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
 
@@ -36,7 +36,7 @@ class MapLibraryLayerDialogs : public PagesTest {
 
   std::unique_ptr<maplibrary::Map> map = maplibrary::MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil");
   maplibrary::Layers layers{*map};
-  maplibrary::TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
+  languages::TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
 };
 
 TEST_F(MapLibraryLayerDialogs, EveryTextIsInTheGermanFile) {
@@ -46,7 +46,7 @@ TEST_F(MapLibraryLayerDialogs, EveryTextIsInTheGermanFile) {
 }
 
 TEST_F(MapLibraryLayerDialogs, MnemonicsAreUniqueOnEachTab) {
-  maplibrary::PseudoLanguage pseudo;
+  languages::PseudoLanguage pseudo;
   for (ILanguage* language : std::initializer_list<ILanguage*>{nullptr, &german, &pseudo})
     OnEachTab(language, [this] {
       std::map<char32_t, std::string> owners;

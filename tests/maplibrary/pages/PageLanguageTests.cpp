@@ -3,10 +3,10 @@
 #include <set>
 
 #include "forms/FieldTexts.h"
-#include "maplibrary/PseudoLanguage.h"
-#include "maplibrary/TextLanguage.h"
-#include "maplibrary/pages/PageTexts.h"
-#include "service/modMainDialogs.h"
+#include "languages/PseudoLanguage.h"
+#include "languages/TextLanguage.h"
+#include "pages/PageTexts.h"
+#include "service/modMain.h"
 #include "tests/maplibrary/pages/CheckedLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
 #include "tests/support/RecordedData.h"
@@ -15,8 +15,8 @@
 namespace orx::test {
 namespace {
 
-using maplibrary::PseudoLanguage;
-using maplibrary::TextLanguage;
+using languages::PseudoLanguage;
+using languages::TextLanguage;
 
 struct Dialog {
   const char* Form;
@@ -142,7 +142,7 @@ class MapLibraryLanguageGerman : public PagesTest {
 
 TEST_F(MapLibraryLanguageGerman, HasTheTextsOfAllMessages) {
   for (const char* text : fieldtexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
-  for (const char* text : maplibrary::pagetexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
+  for (const char* text : pages::pagetexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
   EXPECT_TRUE(german.HasText("Unable to display Help. There is no Help associated with this project."));
 }
 

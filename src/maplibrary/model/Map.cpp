@@ -1,0 +1,42 @@
+#include "maplibrary/model/Map.h"
+
+#include "maplibrary/model/Errors.h"
+#include "maplibrary/model/LayerFile.h"
+
+namespace orx::maplibrary {
+
+Map::Map(std::string name) : mName(std::move(name)) {
+  AddLegend(LegendKind::Elevation, "Elevation", LegendCorner::BottomRight);
+  AddLegend(LegendKind::Layers, "Layers", LegendCorner::TopLeft);
+}
+
+void* Map::Query(Kind kind) {
+  switch (kind) {
+    case Kind::Map:
+      return static_cast<IMap*>(this);
+    case Kind::Extent:
+      return static_cast<IExtent*>(this);
+    case Kind::Legends:
+      return static_cast<ILegends*>(this);
+    default:
+      return nullptr;
+  }
+}
+
+MapLayer* Map::AddLayer(const std::string& path, const std::string&) {
+  MapLayer& added = AddLayer(ReadLayerFile(path));
+  Changed.Raise();
+  return &added;
+}
+
+maplibrary::Legend& Map::Legend(std::int32_t index) {
+  RequireIndex("legend", index, 0, LegendCount() - 1);
+  return *mLegends[static_cast<std::size_t>(index)];
+}
+
+maplibrary::Legend& Map::AddLegend(LegendKind kind, const std::string& title, LegendCorner corner) {
+  mLegends.push_back(std::make_unique<maplibrary::Legend>(kind, title, corner));
+  return *mLegends.back();
+}
+
+}  // namespace orx::maplibrary
