@@ -1,10 +1,10 @@
 // The smallest host: opens a grid file as a map and edits its first layer.
 #include <cstdio>
 
-#include "desktops/qt/QtDesktop.h"
-#include "maplibrary/model/SampleMap.h"
-#include "pages/PageFactory.h"
-#include "service/CCommonMapDialogs.h"
+#include <orx/CCommonMapDialogs.h>
+#include <orx/PageFactory.h>
+#include <orx/QtDesktop.h>
+#include <orx/SampleMap.h>
 
 int main(int argc, char** argv) {
   if (argc != 2) {

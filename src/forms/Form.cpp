@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-#include "forms/Control.h"
+#include "forms/ScreenUpdates.h"
 
 namespace orx {
 
@@ -14,6 +14,10 @@ Form::Form(Desktop& desktop, std::string name, FormDesign design)
 
 Form::~Form() {
   DropWindow();
+}
+
+void Form::PaceUpdates() {
+  mUpdates = std::make_unique<ScreenUpdates>();
 }
 
 void Form::Caption(const std::string& value) {
@@ -127,7 +131,7 @@ void Form::Unload() {
 void Form::DropWindow() {
   if (!mWindow) return;
   mVisible = false;
-  if (mUpdates) mUpdates.emplace();
+  if (mUpdates) PaceUpdates();
   for (Control* control : All()) control->Peer(nullptr);
   mWindow->Abandon();
   mDesktop.Retire(*this, std::move(mWindow));

@@ -8,13 +8,14 @@
 #include <string>
 
 #include "forms/Container.h"
+#include "forms/Control.h"
 #include "forms/Desktop.h"
 #include "forms/Keys.h"
-#include "forms/ScreenUpdates.h"
 
 namespace orx {
 
 class Button;
+class ScreenUpdates;
 enum class ButtonRole;
 
 /// How a form is drawn up. The client area is in twips.
@@ -137,7 +138,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// For forms of a program that is too busy to handle events: from now on texts and values that change reach the
   /// screen without any, at most 60 times a second. What is kept back by that follows as soon as events are handled.
   /// Controls of such a form live as long as it does.
-  void PaceUpdates() { mUpdates.emplace(); }
+  void PaceUpdates();
   /// Called from Form_MouseDown: the user goes on to drag the lower edge of the window.
   void DragBottomEdge();
 
@@ -171,7 +172,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   bool mEnabled = true;
   ShowMode mMode = ShowMode::Modal;
   std::unique_ptr<FormWindow> mWindow;
-  std::optional<ScreenUpdates> mUpdates;
+  std::unique_ptr<ScreenUpdates> mUpdates;
   Control* mActive = nullptr;
   Control* mFocusTarget = nullptr;
   bool mSettlingFocus = false;

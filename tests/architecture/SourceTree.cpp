@@ -109,6 +109,10 @@ std::vector<SourceFile> ReadSources(const std::vector<std::string>& folders) {
   return files;
 }
 
+SourceFile ReadSource(const std::string& path) {
+  return {path, ReadText(fs::path(ORX_SOURCE_DIR) / path)};
+}
+
 std::vector<SourceFile> ReadAllTexts() {
   std::vector<SourceFile> files = ReadSources({"src", "tests", "examples", "benchmarks"});
   for (const char* folder : {"docs", "cmake", ".ci"}) ReadFolder(fs::path(ORX_SOURCE_DIR) / folder, false, files);

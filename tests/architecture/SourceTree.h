@@ -23,6 +23,8 @@ struct SourceFile {
 
 /// All C++ files in the named folders of the source tree, sorted by path. A folder that is not there gives none.
 std::vector<SourceFile> ReadSources(const std::vector<std::string>& folders);
+/// One file by its path in the source tree; without text when there is none.
+SourceFile ReadSource(const std::string& path);
 /// All files that people write, scripts and documents included.
 std::vector<SourceFile> ReadAllTexts();
 

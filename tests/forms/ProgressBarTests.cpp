@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include "forms/ScreenUpdates.h"
 #include "tests/forms/SampleForm.h"
 
 namespace orx::test {

@@ -1,12 +1,12 @@
 // A host outside the project: shows a dialog without a screen, and presses OK.
 #include <cstdio>
 
-#include "desktops/headless/HeadlessDesktop.h"
-#include "forms/Button.h"
-#include "forms/Form.h"
-#include "maplibrary/model/SampleMap.h"
-#include "pages/PageFactory.h"
-#include "service/CCommonMapDialogs.h"
+#include <orx/Button.h>
+#include <orx/CCommonMapDialogs.h>
+#include <orx/Form.h>
+#include <orx/HeadlessDesktop.h>
+#include <orx/PageFactory.h>
+#include <orx/SampleMap.h>
 
 struct PressOK final : orx::DesktopHook {
   void ModalRunning(const orx::Modal& modal) override {

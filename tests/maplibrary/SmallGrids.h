@@ -9,6 +9,7 @@
 #include "maplibrary/model/Layer.h"
 #include "maplibrary/model/Map.h"
 #include "maplibrary/model/TiledLayer.h"
+#include "maplibrary/files/GridData.h"
 
 namespace orx::maplibrary {
 

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "desktops/headless/MemorySettings.h"
 #include "forms/ColorRequest.h"
 #include "forms/FontRequest.h"
 #include "forms/Form.h"
@@ -43,6 +44,9 @@ class HeadlessWindow final : public FormWindow {
 };
 
 }  // namespace
+
+HeadlessDesktop::HeadlessDesktop() : mSettings(std::make_unique<MemorySettings>()) {
+}
 
 HeadlessDesktop::~HeadlessDesktop() {
   CloseOpenForms();

@@ -1,14 +1,13 @@
 // A desktop without a screen, for tests and servers. Forms live in memory; whoever answers does so in the hook.
 #pragma once
 
-#include "desktops/headless/MemorySettings.h"
 #include "forms/Desktop.h"
 
 namespace orx::headless {
 
 class HeadlessDesktop final : public Desktop {
  public:
-  HeadlessDesktop() = default;
+  HeadlessDesktop();
   ~HeadlessDesktop() override;
 
   ScreenMetrics Metrics(BorderStyle border) const override;
@@ -19,7 +18,7 @@ class HeadlessDesktop final : public Desktop {
   /// 16 pixels high, and as many wide as the code has over a multiple of 20: narrow, wide and without width.
   Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
   numbers::Separators Separators() const override { return mSeparators; }
-  SettingsStore& Settings() override { return mSettings; }
+  SettingsStore& Settings() override { return *mSettings; }
 
   /// The size of the screen in twips; 1920 x 1080 pixels unless set.
   void ScreenSize(Size value) { mScreen = value; }
@@ -43,7 +42,7 @@ class HeadlessDesktop final : public Desktop {
   void DoShowHelp(const HelpRequest&) override {}
 
  private:
-  MemorySettings mSettings;
+  std::unique_ptr<SettingsStore> mSettings;
   numbers::Separators mSeparators;
   std::vector<Rect> mFurtherScreens;
   std::vector<std::string> mScreenFonts{"System", "Courier", "Arial", "Courier New", "Symbol", "Times New Roman"};

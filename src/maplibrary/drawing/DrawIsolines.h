@@ -4,6 +4,7 @@
 #include "maplibrary/drawing/MapLettering.h"
 #include "maplibrary/drawing/MapView.h"
 #include "maplibrary/model/Layer.h"
+#include "maplibrary/files/GridData.h"
 
 namespace orx::maplibrary {
 

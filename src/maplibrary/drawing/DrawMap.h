@@ -9,6 +9,8 @@
 
 namespace orx::maplibrary {
 
+struct ValueRange;
+
 /// Clears the canvas and draws the map into `size` pixels: background, visible layers from the first to the last with
 /// one image each, then symbols, labels and legends. `pixelsPerPoint` is the scale of fonts, 96/72 at 96 dots per inch.
 void DrawMap(const Map& map, Canvas& canvas, Size size, double pixelsPerPoint = 96.0 / 72.0);

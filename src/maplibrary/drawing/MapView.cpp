@@ -1,5 +1,7 @@
 #include "maplibrary/drawing/MapView.h"
 
+#include "maplibrary/files/GridData.h"
+
 #include <algorithm>
 #include <cmath>
 

@@ -1,7 +1,9 @@
 #include "maplibrary/model/Layer.h"
 
 #include "maplibrary/files/FileAccess.h"
+#include "maplibrary/files/GridData.h"
 #include "maplibrary/files/GridFile.h"
+#include "maplibrary/model/LayerData.h"
 
 namespace orx::maplibrary {
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "maplibrary/files/GridData.h"
+#include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/MapLayer.h"
 
 namespace orx::maplibrary {

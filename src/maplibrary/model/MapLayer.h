@@ -9,11 +9,12 @@
 
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IMap.h"
-#include "maplibrary/files/GridData.h"
-#include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/PlacedExtent.h"
 
 namespace orx::maplibrary {
+
+struct GridData;
+class LayerData;
 
 /// The peak that a layer marks with its symbol: the highest point, in the ground unit, and its value.
 struct Peak {

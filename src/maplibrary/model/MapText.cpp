@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cstdint>
 
+#include "maplibrary/files/GridData.h"
+#include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/TiledLayer.h"
 
 namespace orx::maplibrary {

@@ -1,8 +1,10 @@
 #include "maplibrary/model/SampleMap.h"
 
 #include "maplibrary/files/FileAccess.h"
+#include "maplibrary/files/GridData.h"
 #include "maplibrary/files/GridFile.h"
 #include "maplibrary/model/Layer.h"
+#include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/TiledLayer.h"
 
 namespace orx::maplibrary {

@@ -1,6 +1,8 @@
 #include "maplibrary/model/TiledLayer.h"
 
+#include "maplibrary/files/GridData.h"
 #include "maplibrary/model/Errors.h"
+#include "maplibrary/model/LayerData.h"
 
 namespace orx::maplibrary {
 

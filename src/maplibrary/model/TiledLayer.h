@@ -5,7 +5,9 @@
 #include <memory>
 #include <string>
 
+#include "maplibrary/files/GridData.h"
 #include "maplibrary/model/Layer.h"
+#include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/LayerStack.h"
 
 namespace orx::maplibrary {
