@@ -230,7 +230,7 @@ void Row(const std::string& name, Run run) {
   benchmark::RegisterBenchmark(name.c_str(), run)->Unit(benchmark::kNanosecond);
 }
 
-const bool kRegistered = [] {
+const bool kLayerManagerRegistered = [] {
   Row("open 100,000 layers/ours", OpenOurs<qt::QtDesktop>);
   Row("open 100,000 layers/headless", OpenOurs<headless::HeadlessDesktop>);
   Row("open 100,000 layers/bare", OpenTree);

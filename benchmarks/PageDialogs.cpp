@@ -55,7 +55,7 @@ const std::pair<const char*, Open> kDialogs[] = {
     {"frmCoordinates", [](Host& host) { host.Dialogs.ShowCoordinates(host.Map->Layer(1)); }},
     {"frmLegend", [](Host& host) { host.Dialogs.ShowLegends(host.Map.get()); }}};
 
-const bool kRegistered = [] {
+const bool kPageDialogsRegistered = [] {
   for (const auto& [name, open] : kDialogs) {
     const std::string row = std::string("open ") + name;
     const Open opener = open;

@@ -74,7 +74,7 @@ void Against(const char* row, void (*ours)(benchmark::State&), void (*bare)(benc
   benchmark::RegisterBenchmark((name + "/bare").c_str(), bare);
 }
 
-const bool kRegistered = [] {
+const bool kProgressRegistered = [] {
   Against("progress, repainted", SetValue, SetValueAndRepaint);
   Against("progress, bare bar", SetValue, SetNativeValueAndRepaint);
   Against("progress, all new", JumpAndTell, SetValueAndRepaint);

@@ -47,7 +47,7 @@ void Paint(benchmark::State& state) {
   });
 }
 
-const bool kRegistered = [] {
+const bool kTerrainRegistered = [] {
   benchmark::RegisterBenchmark("shade the terrain/cell", Shade);
   benchmark::RegisterBenchmark("contour it at 8 levels/cell", Contour);
   benchmark::RegisterBenchmark("paint it/cell", Paint);
