@@ -3,9 +3,7 @@
 #include <stdexcept>
 #include <type_traits>
 
-#include "dialogframe/FocusMark.h"
 #include "dialogframe/SelectAllText.h"
-#include "forms/ColorRequest.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
@@ -31,38 +29,24 @@ void SelectAll(Control& control) {
 }  // namespace
 
 frmDataIsoline::frmDataIsoline(Desktop& desktop)
-    : DialogForm(desktop, "frmDataIsoline", {.Caption = "Isoline properties", .Client = {7140, 4815}}) {
+    : EditForm(desktop, {.Name = "frmDataIsoline",
+                         .Caption = "Isoline properties",
+                         .HelpKey = "_HelpLayerIsolines",
+                         .Client = {7140, 4815}}) {
   for (TextBox* const field : {&txtLineWidth, &txtLineMaxWidth})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
-  pctColor.Click = [this] { pctColor_Click(); };
-  pctColor.GotFocus = [this] { modMain::DrawInsetFocusRect(pctColor, modMain::kColorBoxInset); };
-  pctColor.LostFocus = [this] { modMain::DrawInsetFocusRect(pctColor, modMain::kColorBoxInset); };
-  pctColor.KeyDown = [this](int keyCode) {
-    if (keyCode != kKeyCodeShift) pctColor_Click();
-  };
   cmdFont.Click = [this] { cmdFont_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
-}
-
-void frmDataIsoline::IsolineObject(HostObject* value) {
-  mObject = value;
-  Hold(value);
 }
 
 std::string frmDataIsoline::NumberText(double value) const {
   return numbers::ShortestText(value, OwnerDesktop().Separators());
 }
 
-void frmDataIsoline::Form_Load() {
-  mChanged = false;
-  Center();
-  TakeHelpNumber("_HelpLayerIsolines");
-  modMain::DrawEdge(pctColor);
+void frmDataIsoline::Fill() {
+  mColor.DrawEdge();
   FillLists();
-  mIsolines = QueryKind<IIsolines>(mObject);
+  mIsolines = QueryKind<IIsolines>(Subject());
   if (mIsolines) ReadObject();
-  Translate();
 }
 
 void frmDataIsoline::FillLists() {
@@ -108,11 +92,6 @@ void frmDataIsoline::ReadFont() {
   trap.Step([&] { font.Color = mIsolines->LabelFont().Color(); });
 }
 
-void frmDataIsoline::pctColor_Click() {
-  ColorRequest request{NativeHandle(), kStartFromColor, pctColor.BackColor()};
-  if (OwnerDesktop().ChooseColor(request)) pctColor.BackColor(request.Color);
-}
-
 void frmDataIsoline::cmdFont_Click() {
   if (!mFont) mFont.emplace();
   FontRequest request{NativeHandle(), kScreenAndPrinterFonts, *mFont};
@@ -143,7 +122,7 @@ void frmDataIsoline::Write(Object& object, const Given& now, Value (Object::*rea
   trap.Step([&] {
     if ((object.*read)() == now) return;
     (object.*write)(now);
-    mChanged = true;
+    IsDirty(true);
   });
 }
 
@@ -191,30 +170,22 @@ void frmDataIsoline::ApplyFont() {
   Write(*font, mFont->Color, &ILabelFont::Color, &ILabelFont::Color);
 }
 
-void frmDataIsoline::cmdOK_Click() {
-  OwnerDesktop().Pointer(Pointer::Hourglass);
+bool frmDataIsoline::Save() {
   try {
     Apply();
-    Hide();
+    return true;
   } catch (const NoNumber& refused) {
     OwnerDesktop().Beep();
     refused.Field->SetFocus();
     SelectAll(*refused.Field);
+    return false;
   }
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmDataIsoline::cmdCancel_Click() {
-  mChanged = false;
-  Hide();
 }
 
 void frmDataIsoline::Form_Unload() {
-  mObject = nullptr;
   mIsolines = nullptr;
   mFont.reset();
-  mChanged = false;
-  DialogForm::Form_Unload();
+  EditForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "dialogframe/SelectAllText.h"
+#include "forms/BusyScope.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
@@ -25,7 +26,11 @@ std::int32_t LongOf(const ShownNumber& field) {
 }  // namespace
 
 frmDataShade::frmDataShade(Desktop& desktop)
-    : DialogForm(desktop, "frmDataShade", {.Caption = "Data shade", .Client = {7140, 6525}}) {
+    : EditForm(desktop, {.Name = "frmDataShade",
+                         .Caption = "Data shade",
+                         // On purpose the topic of the data options, which tells of both.
+                         .HelpKey = "_HelpLayerDataOptions",
+                         .Client = {7140, 6525}}) {
   cmbShadeVersion.Click = [this] { cmbShadeVersion_Click(); };
   cmbCombine.Click = [this] { cmbCombine_Click(); };
   Couple(txtMinIntensity, txtIntensityMin);
@@ -34,22 +39,11 @@ frmDataShade::frmDataShade(Desktop& desktop)
     if (auto* const field = dynamic_cast<TextBox*>(control))
       field->GotFocus = [field] { modMain::SelectAllText(*field); };
   cmdScaleFactor.Click = [this] { cmdScaleFactor_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmDataShade::ShadeObject(HostObject* value) {
-  mObject = value;
-  Hold(value);
-}
-
-void frmDataShade::Form_Load() {
-  mChanged = false;
-  Center();
-  // On purpose the topic of the data options, which tells of both.
-  TakeHelpNumber("_HelpLayerDataOptions");
-  mShade2 = QueryKind<ShadeSettings2>(mObject);
-  mShade = mShade2 ? mShade2 : QueryKind<ShadeSettings>(mObject);
+void frmDataShade::Fill() {
+  mShade2 = QueryKind<ShadeSettings2>(Subject());
+  mShade = mShade2 ? mShade2 : QueryKind<ShadeSettings>(Subject());
   if (!mShade) return Unload();
   ShowDesignTexts();
   FillLists();
@@ -58,7 +52,6 @@ void frmDataShade::Form_Load() {
   if (cmbCombine.ListIndex() < 0) cmbCombine.ListIndex(0);
   if (cmbShadeVersion.ListIndex() < 0) cmbShadeVersion.ListIndex(mShade2 ? cmbShadeVersion.ListCount() - 1 : 0);
   cmbShadeVersion.Enabled(mShade2 != nullptr);
-  Translate();
 }
 
 void frmDataShade::ShowDesignTexts() {
@@ -68,9 +61,8 @@ void frmDataShade::ShowDesignTexts() {
       {&mFullSun, 150},  {&mFirstIndex, 1},        {&mShades, 255},   {&mMinimum, 50},
       {&mFactor, 0.001}, {&mMultiplier, 1},        {&mAzimuth, 0},    {&mAltitude, kAltitude}};
   // A field that is one of a pair has its own text until the setting is read.
-  mIsCopying = true;
+  const BusyScope copying(mIsCopying);
   for (const auto& [field, value] : texts) field->Show(value);
-  mIsCopying = false;
 }
 
 void frmDataShade::FillLists() {
@@ -112,10 +104,9 @@ void frmDataShade::ReadExtended() {
 void frmDataShade::Couple(TextBox& one, TextBox& other) {
   const auto copy = [this](const TextBox& from, TextBox& to) {
     if (mIsCopying) return;
-    mIsCopying = true;
+    const BusyScope copying(mIsCopying);
     ErrorTrap trap;
     trap.Step([&] { to.Text(from.Text()); });
-    mIsCopying = false;
   };
   one.Change = [copy, &one, &other] { copy(one, other); };
   other.Change = [copy, &one, &other] { copy(other, one); };
@@ -134,31 +125,29 @@ void frmDataShade::cmbCombine_Click() {
 }
 
 void frmDataShade::cmdScaleFactor_Click() {
-  OwnerDesktop().Pointer(Pointer::Hourglass);
-  double value = 0;
   bool found = false;
-  ErrorTrap trap;
-  trap.Step([&] { found = mShade->SuggestScaleFactor(value); });
-  if (found) txtScaleFactor.Text(numbers::ShortestText(value, OwnerDesktop().Separators()));
-  OwnerDesktop().Pointer(Pointer::Default);
+  WithHourglass([&] {
+    double value = 0;
+    ErrorTrap trap;
+    trap.Step([&] { found = mShade->SuggestScaleFactor(value); });
+    if (found) txtScaleFactor.Text(numbers::ShortestText(value, OwnerDesktop().Separators()));
+  });
   if (found) return;
   OwnerDesktop().ShowMessage({"Scale factor could not be determined.\r\nData might not be valid yet.",
                               "Suggest Scale Factor not possible", MessageIcon::Information});
 }
 
-bool frmDataShade::Refuse(const char* title, const char* text, const ShownNumber& field) {
-  field.Box().SetFocus();
-  OwnerDesktop().ShowMessage({text, title, MessageIcon::Information});
-  return false;
+bool frmDataShade::RefuseNumber(const char* title, const char* text, const ShownNumber& field) {
+  return Refuse({text, title, MessageIcon::Information}, field.Box(), First::Focus);
 }
 
 bool frmDataShade::IsNumber(const ShownNumber& field) {
-  return field.Value() || Refuse("Invalid number", "Valid number required.", field);
+  return field.Value() || RefuseNumber("Invalid number", "Valid number required.", field);
 }
 
 bool frmDataShade::IsWithin(const ShownNumber& field, double low, double high) {
   const double value = field.Value().value();
-  return (value >= low && value <= high) || Refuse("Invalid range", "Number not within range.", field);
+  return (value >= low && value <= high) || RefuseNumber("Invalid range", "Number not within range.", field);
 }
 
 bool frmDataShade::IsWhole(const ShownNumber& field, double low, double high) {
@@ -168,10 +157,10 @@ bool frmDataShade::IsWhole(const ShownNumber& field, double low, double high) {
   } catch (const std::overflow_error&) {
     // Larger than any whole number is out of range as well.
   }
-  return Refuse("Invalid range", "Number not within range.", field);
+  return RefuseNumber("Invalid range", "Number not within range.", field);
 }
 
-bool frmDataShade::Validate() {
+bool frmDataShade::Check() {
   const bool areAngles = IsNumber(mAltitude) && IsNumber(mAzimuth) && IsWhole(mAltitude, 0, kRightAngle) &&
                          IsWhole(mAzimuth, 0, kFullCircle);
   const bool areScales = areAngles && IsNumber(mFactor) && IsNumber(mMultiplier) && IsWithin(mFactor, 0, kUnlimited) &&
@@ -193,7 +182,7 @@ void frmDataShade::Write(Value now, Value (ShadeSettings::*read)() const, void (
   trap.Step([&] {
     if ((mShade->*read)() == now) return;
     (mShade->*write)(now);
-    mChanged = true;
+    IsDirty(true);
   });
 }
 
@@ -204,11 +193,11 @@ void frmDataShade::Write2(Value now, Value (ShadeSettings2::*read)() const, void
   trap.Step([&] {
     if ((mShade2->*read)() == now) return;
     (mShade2->*write)(now);
-    mChanged = true;
+    IsDirty(true);
   });
 }
 
-void frmDataShade::Apply() {
+bool frmDataShade::Save() {
   using S = ShadeSettings;
   using S2 = ShadeSettings2;
   Write2(mVersion.Value(), &S2::ShadeVersion, &S2::ShadeVersion);
@@ -222,6 +211,7 @@ void frmDataShade::Apply() {
   Write2(chkMidIndexAutomatic.IsChecked(), &S2::MidIndexAutomatic, &S2::MidIndexAutomatic);
   ApplyShades();
   ApplyScaling();
+  return true;
 }
 
 void frmDataShade::ApplyShades() {
@@ -241,25 +231,10 @@ void frmDataShade::ApplyScaling() {
   Write(*mMultiplier.Value(), &S::ScaleMultiplier, &S::ScaleMultiplier);
 }
 
-void frmDataShade::cmdOK_Click() {
-  if (!Validate()) return;
-  OwnerDesktop().Pointer(Pointer::Hourglass);
-  Apply();
-  Hide();
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmDataShade::cmdCancel_Click() {
-  mChanged = false;
-  Hide();
-}
-
 void frmDataShade::Form_Unload() {
-  mObject = nullptr;
   mShade = nullptr;
   mShade2 = nullptr;
-  mChanged = false;
-  DialogForm::Form_Unload();
+  EditForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -5,9 +5,9 @@
 #include <cmath>
 #include <initializer_list>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "forms/BusyScope.h"
 #include "forms/CheckedField.h"
 #include "forms/Panel.h"
 #include "hostobjects/ILanguage.h"
@@ -85,18 +85,6 @@ class PageBase : public PropertyPage {
   Form& OwnerForm() { return Surface.OwnerForm(); }
 
  private:
-  class BusyScope {
-   public:
-    explicit BusyScope(bool& flag) : mFlag(flag), mBefore(std::exchange(flag, true)) {}
-    ~BusyScope() { mFlag = mBefore; }
-    BusyScope(const BusyScope&) = delete;
-    BusyScope& operator=(const BusyScope&) = delete;
-
-   private:
-    bool& mFlag;
-    bool mBefore;
-  };
-
   template <class Value>
   static bool IsSame(const Value& a, const Value& b) {
     return a == b;
