@@ -20,6 +20,18 @@ std::string DescribeError(const std::exception_ptr& error) {
   }
 }
 
+/// The topmost of all that is modal, for as long as it lives.
+class Topmost {
+ public:
+  Topmost(std::vector<const Form*>& modals, const Form* form) : mModals(modals) { mModals.push_back(form); }
+  ~Topmost() { mModals.pop_back(); }
+  Topmost(const Topmost&) = delete;
+  Topmost& operator=(const Topmost&) = delete;
+
+ private:
+  std::vector<const Form*>& mModals;
+};
+
 }  // namespace
 
 Desktop::~Desktop() = default;
@@ -32,49 +44,48 @@ int Desktop::ToTwips(int pixels) const {
   return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale()));
 }
 
-MessageAnswer Desktop::ShowMessage(const Message& message) {
-  const Modal modal{.ShownMessage = &message};
+template <class Run>
+auto Desktop::RunBox(const Modal& modal, Run&& run) {
+  const Topmost box(mModals, nullptr);
   if (mHook) mHook->ModalOpening(modal);
-  FormWindow* owner = nullptr;
-  if (!mSessions.empty()) {
-    owner = mSessions.back()->Shown->Window();
-  } else if (!mOpenForms.empty()) {
-    owner = mOpenForms.back()->Window();
-  }
-  const MessageAnswer answer = DoShowMessage(message, owner);
+  const auto answer = run();
   if (mHook) mHook->ModalClosed(modal);
   return answer;
 }
 
+MessageAnswer Desktop::ShowMessage(const Message& message) {
+  return RunBox({.ShownMessage = &message}, [&] {
+    FormWindow* owner = nullptr;
+    if (!mSessions.empty()) {
+      owner = mSessions.back()->Shown->Window();
+    } else if (!mOpenForms.empty()) {
+      owner = mOpenForms.back()->Window();
+    }
+    return DoShowMessage(message, owner);
+  });
+}
+
 bool Desktop::OpenFiles(OpenFileRequest& request) {
   if (request.Buffer.empty()) return false;
-  const Modal modal{.ShownFiles = &request};
-  if (mHook) mHook->ModalOpening(modal);
-  bool chosen = false;
   std::string refusal;
-  try {
-    chosen = DoOpenFiles(request);
-  } catch (const AnswerRefused& refused) {
-    refusal = refused.what();
-  }
-  if (mHook) mHook->ModalClosed(modal);
+  const bool chosen = RunBox({.ShownFiles = &request}, [&] {
+    try {
+      return DoOpenFiles(request);
+    } catch (const AnswerRefused& refused) {
+      refusal = refused.what();
+      return false;
+    }
+  });
   if (!refusal.empty()) ShowMessage({refusal, request.Title, MessageIcon::Exclamation});
   return chosen;
 }
 
 bool Desktop::ChooseColor(ColorRequest& request) {
-  return Choose({.ShownColor = &request}, [&] { return DoChooseColor(request); });
+  return RunBox({.ShownColor = &request}, [&] { return DoChooseColor(request); });
 }
 
 bool Desktop::ChooseFont(FontRequest& request) {
-  return Choose({.ShownFont = &request}, [&] { return DoChooseFont(request); });
-}
-
-bool Desktop::Choose(const Modal& modal, const std::function<bool()>& show) {
-  if (mHook) mHook->ModalOpening(modal);
-  const bool chosen = show();
-  if (mHook) mHook->ModalClosed(modal);
-  return chosen;
+  return RunBox({.ShownFont = &request}, [&] { return DoChooseFont(request); });
 }
 
 void Desktop::ModalIsRunning(const Modal& modal) {
@@ -106,12 +117,20 @@ bool Desktop::HasModalForm() const {
   return std::ranges::any_of(mSessions, [](const Session* session) { return session->Shown->Visible(); });
 }
 
+bool Desktop::IsBehindModal(const Form& form) const {
+  // A form that has gone from the screen only waits for its loop to end.
+  const auto top =
+      std::find_if(mModals.rbegin(), mModals.rend(), [](const Form* modal) { return !modal || modal->Visible(); });
+  return top != mModals.rend() && *top != &form;
+}
+
 void Desktop::RunModal(Form& form) {
   Session session{&form, nullptr, nullptr};
   const Modal modal{.ShownForm = &form};
   mSessions.push_back(&session);
-  if (mHook) mHook->ModalOpening(modal);
+  const Topmost topmost(mModals, &form);
   try {
+    if (mHook) mHook->ModalOpening(modal);
     form.Window()->RunModal();
   } catch (...) {
     session.Error = std::current_exception();
@@ -155,7 +174,13 @@ void Desktop::LetGoOfClosedForms() {
 void Desktop::CloseOpenForms() {
   const std::vector<std::shared_ptr<Form>> forms = std::move(mOpenForms);
   mOpenForms.clear();
-  for (const std::shared_ptr<Form>& form : forms) form->Unload();
+  for (const std::shared_ptr<Form>& form : forms) {
+    try {
+      form->Unload();
+    } catch (...) {
+      // Nobody is left to be told: what a form cannot keep, on a full disk for example, is lost with the desktop.
+    }
+  }
 }
 
 void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {

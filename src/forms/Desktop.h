@@ -82,6 +82,8 @@ class Desktop {
 
   /// True while a modal form is open.
   bool HasModalForm() const;
+  /// True while a message box, a dialog of the platform or another modal form keeps the user from the form.
+  bool IsBehindModal(const Form& form) const;
   /// The modeless forms that are open, in the order in which they were shown.
   const std::vector<std::shared_ptr<Form>>& OpenForms() const { return mOpenForms; }
   /// Unloads the modeless forms that are still open. The destructor of a desktop calls it while windows can be closed.
@@ -117,9 +119,10 @@ class Desktop {
     std::exception_ptr Error;
   };
 
+  /// Runs what is modal between the hook's calls; while it runs, all forms are behind it.
+  template <class Run>
+  auto RunBox(const Modal& modal, Run&& run);
   void RunModal(Form& form);
-  /// Shows a dialog of the platform between the hook's calls.
-  bool Choose(const Modal& modal, const std::function<bool()>& show);
   void EndModal(const Form& form);
   /// Takes over the window of a form that unloads, so that a modal loop still running in it can come to its end.
   void Retire(const Form& form, std::unique_ptr<FormWindow> window);
@@ -137,6 +140,8 @@ class Desktop {
   std::vector<Session*> mSessions;
   std::vector<std::shared_ptr<Form>> mOpenForms;
   int mActs = 0;
+  /// All that is modal, from the bottom up: forms, and null for boxes and dialogs of the platform.
+  std::vector<const Form*> mModals;
 };
 
 }  // namespace orx

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 
 #include "forms/ScreenUpdates.h"
 
@@ -81,8 +82,25 @@ void Form::KeepOnScreen() {
   if (left != mLeft || top != mTop) Move(left, top);
 }
 
+Form::Act::Act(Form& form) : mKeep(form.weak_from_this().lock()), mForm(form) {
+  ++mForm.mActs;
+  mForm.mDesktop.EnterAct();
+}
+
+Form::Act::~Act() {
+  Desktop& desktop = mForm.mDesktop;
+  if (--mForm.mActs == 0) mForm.Release();
+  desktop.LeaveAct();
+}
+
+void Form::Release() {
+  if (!std::exchange(mRetired, false)) return;
+  Form_Release();
+}
+
 void Form::Load() {
-  if (mLoaded) return;
+  if (mLoaded || mRetired) return;
+  const Act act(*this);
   mLoaded = true;
   Form_Load();
 }
@@ -91,17 +109,20 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
   if (mVisible) throw std::logic_error(mName + " is shown already");
   if (mode == ShowMode::Modeless && mDesktop.HasModalForm())
     throw std::logic_error(mName + " cannot be modeless while a modal form is open");
+  const Act act(*this);
   Load();
   // A form that has nothing to show unloads itself as it loads.
   if (!mLoaded) return;
   if (!mWindow) mWindow = mDesktop.OpenWindow(*this);
   Form_Resize();
+  if (!mLoaded) return;
   KeepOnScreen();
   ShowUpdates();
   mVisible = true;
   mMode = mode;
   mWindow->Show(mode, owner);
   UserAct([this] { FocusFirst(); });
+  if (!mVisible) return;
   if (mode == ShowMode::Modal) {
     mDesktop.RunModal(*this);
   } else {
@@ -120,12 +141,19 @@ void Form::Hide() {
 
 void Form::Unload() {
   if (!mLoaded) return;
-  const std::shared_ptr<Form> keep = weak_from_this().lock();
+  const Act act(*this);
   Hide();
-  Form_Unload();
   mLoaded = false;
+  mRetired = true;
+  std::exception_ptr error;
+  try {
+    Form_Unload();
+  } catch (...) {
+    error = std::current_exception();
+  }
   mActive = nullptr;
   DropWindow();
+  if (error) std::rethrow_exception(error);
 }
 
 void Form::DropWindow() {
@@ -168,19 +196,16 @@ void Form::ShowUpdates() {
 }
 
 void Form::UserAct(const std::function<void()>& act) {
-  const std::shared_ptr<Form> keep = weak_from_this().lock();
-  Desktop& desktop = mDesktop;
-  desktop.EnterAct();
+  const Act running(*this);
   try {
     act();
   } catch (...) {
-    desktop.HandlerFailed(*this, std::current_exception());
+    mDesktop.HandlerFailed(*this, std::current_exception());
   }
-  desktop.LeaveAct();
 }
 
 void Form::UserClose() {
-  if (!mEnabled) return;
+  if (!mEnabled || mDesktop.IsBehindModal(*this)) return;
   UserAct([this] {
     if (Form_QueryUnload()) Unload();
   });

@@ -61,17 +61,38 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// Puts the window into the middle of the screen.
   void Center();
 
-  /// Runs Form_Load, once until the next Unload. What it throws travels; the form counts as loaded all the same.
+  /// Something of the form runs: a handler, a page, a call into the host, a modal loop. While an act lives the form
+  /// lives, and with it all that its code may be in the middle of: an unload inside takes the window away at once, and
+  /// Form_Release follows when the outermost act ends. Acts are as cheap as a counter.
+  class Act {
+   public:
+    explicit Act(Form& form);
+    ~Act();
+    Act(const Act&) = delete;
+    Act& operator=(const Act&) = delete;
+
+   private:
+    // In this order, so that the form is let go last.
+    std::shared_ptr<Form> mKeep;
+    Form& mForm;
+  };
+
+  /// Runs Form_Load, once until the next Unload. What it throws travels; the form counts as loaded all the same. Does
+  /// nothing for a retired form.
   void Load();
   /// True from Load to Unload.
   bool IsLoaded() const { return mLoaded; }
+  /// True for a form that was unloaded inside an act that still runs: what the act still does is for nothing. Such a
+  /// form neither loads nor shows.
+  bool IsRetired() const { return mRetired; }
   /// Loads and shows the form; one that unloads itself as it loads is not shown. Modal: returns when it was hidden or
   /// unloaded, and throws what a handler let go. Modeless: returns at once. Throws std::logic_error when the form is
   /// shown already, and when it is to be modeless while a modal one is open, which would keep the user from it.
   void Show(ShowMode mode = ShowMode::Modal, OwnerWindow owner = {});
   /// Takes the form from the screen and keeps it as it is.
   void Hide();
-  /// Takes the form from the screen, runs Form_Unload and gives up what it holds. Does nothing when not loaded.
+  /// Takes the form from the screen, runs Form_Unload and gives up the window; Form_Release follows at the end of the
+  /// outermost act. Does nothing when not loaded. What Form_Unload throws travels when all else is done.
   void Unload();
   /// Repaints the form with all that has changed, without waiting for events.
   void Refresh();
@@ -101,7 +122,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void UserFocus(Control& control);
   /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and is dealt with.
   bool UserKey(const KeyStroke& stroke);
-  /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs.
+  /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs. A form
+  /// that the user cannot reach, because a box or another form is modal above it, stays.
   void UserClose();
   /// The platform has taken the window away, or the program is about to end: the form unloads.
   void WindowLost();
@@ -125,10 +147,14 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   Control* ContainerControl() override { return nullptr; }
 
  protected:
-  /// Runs when the form is loaded, sized (and first shown), and unloaded.
+  /// Runs when the form is loaded, sized (and first shown), and unloaded. Form_Unload saves what is to be kept and
+  /// forgets the host's objects; code that is still running must find all else as it was.
   virtual void Form_Load() {}
   virtual void Form_Resize() {}
   virtual void Form_Unload() {}
+  /// Runs after Form_Unload when no act of the form runs any more: lets go of pages and of all else that handlers may
+  /// have been using.
+  virtual void Form_Release() {}
   /// Runs when the close box was pressed; false keeps the form.
   virtual bool Form_QueryUnload() { return true; }
   /// Run as the mouse moves over the window, also to a place outside its client area, and when its button is pressed
@@ -148,6 +174,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
   /// For Control: true when the change reaches the screen by ShowUpdates.
   bool TakesOver(Control& control, Aspect aspect, Urgency urgency);
+  void Release();
   /// Closes the window; the peers go with it.
   void DropWindow();
   /// The work area that the window lies in for the greater part, or that is nearest to it.
@@ -168,6 +195,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   int mLeft = 0;
   int mTop = 0;
   bool mLoaded = false;
+  bool mRetired = false;
+  int mActs = 0;
   bool mVisible = false;
   bool mEnabled = true;
   ShowMode mMode = ShowMode::Modal;
