@@ -21,15 +21,17 @@ void DialogForm::Language(ILanguage* value) {
 }
 
 void DialogForm::Form_Load() {
-  LoadStep([this] { Arrange(); });
-  LoadStep([this] { TakeLanguage(); });
-  LoadStep([this] { Fill(); });
-  if (!IsLoaded()) return;
+  const auto run = [this](const std::function<void()>& step) {
+    if (IsLoaded()) LoadStep(step);
+  };
+  run([this] { Arrange(); });
+  run([this] { TakeLanguage(); });
+  run([this] { Fill(); });
   if (mLanguageActive) {
-    LoadStep([this] { mLanguage->TranslateForm(*this); });
-    LoadStep([this] { Caption(mLanguage->TranslateText(Caption())); });
+    run([this] { mLanguage->TranslateForm(*this); });
+    run([this] { Caption(mLanguage->TranslateText(Caption())); });
   }
-  LoadStep([this] { Ready(); });
+  run([this] { Ready(); });
 }
 
 void DialogForm::TakeLanguage() {
@@ -42,6 +44,10 @@ void DialogForm::TakeLanguage() {
 
 void DialogForm::Form_Unload() {
   mLanguage = nullptr;
+  mLanguageActive = false;
+}
+
+void DialogForm::Form_Release() {
   mHeld.clear();
 }
 

@@ -35,9 +35,10 @@ class DialogForm : public Form {
 
  protected:
   /// Every dialog is loaded in the same order: Arrange, TakeLanguage, Fill, the translation of the controls and of the
-  /// caption, Ready. The steps behind Fill are left out when the form has unloaded itself there.
+  /// caption, Ready. Once the form is unloaded in one of them the others are left out.
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_Release() override;
 
   /// Puts the form where it is to open.
   virtual void Arrange() { Center(); }
@@ -51,7 +52,7 @@ class DialogForm : public Form {
   /// Runs one of these steps. What it throws ends the loading, unless a dialog goes on with the next step.
   virtual void LoadStep(const std::function<void()>& step) { step(); }
 
-  /// Holds on to what keeps a lent object usable, until the form is unloaded; null is nothing.
+  /// Holds on to what keeps a lent object usable, until the form is released; null is nothing.
   void Hold(const BorrowedObject* lent);
   /// True when the language had entries when it was last asked, by Language or by AskLanguage.
   bool LanguageActive() const { return mLanguageActive; }

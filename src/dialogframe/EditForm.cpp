@@ -18,10 +18,10 @@ void EditForm::Accept() {
   });
 }
 
-void EditForm::Form_Unload() {
+void EditForm::Form_Release() {
   mSubject = nullptr;
   mIsDirty = false;
-  OkCancelForm::Form_Unload();
+  OkCancelForm::Form_Release();
 }
 
 }  // namespace orx

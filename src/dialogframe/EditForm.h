@@ -12,13 +12,13 @@ class EditForm : public OkCancelForm {
   using OkCancelForm::OkCancelForm;
 
   /// True when OK has written a change; false after Cancel and once the form is unloaded.
-  bool IsDirty() const { return mIsDirty; }
+  bool IsDirty() const { return mIsDirty && IsLoaded(); }
 
  protected:
   void Form_Load() override;
-  void Form_Unload() override;
+  void Form_Release() override;
 
-  /// The object; used, not owned, and forgotten when the form is unloaded.
+  /// The object; used, not owned, and forgotten when the form is released.
   HostObject* Subject() const { return mSubject; }
   void Subject(HostObject* value);
   void IsDirty(bool value) { mIsDirty = value; }

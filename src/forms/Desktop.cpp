@@ -174,13 +174,7 @@ void Desktop::LetGoOfClosedForms() {
 void Desktop::CloseOpenForms() {
   const std::vector<std::shared_ptr<Form>> forms = std::move(mOpenForms);
   mOpenForms.clear();
-  for (const std::shared_ptr<Form>& form : forms) {
-    try {
-      form->Unload();
-    } catch (...) {
-      // Nobody is left to be told: what a form cannot keep, on a full disk for example, is lost with the desktop.
-    }
-  }
+  for (const std::shared_ptr<Form>& form : forms) form->UnloadQuietly();
 }
 
 void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {

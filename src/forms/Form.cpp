@@ -89,6 +89,7 @@ Form::Act::Act(Form& form) : mKeep(form.weak_from_this().lock()), mForm(form) {
 
 Form::Act::~Act() {
   Desktop& desktop = mForm.mDesktop;
+  if (mForm.mActs == 1 && mForm.mUnloadsWhenHidden && !mForm.mVisible) mForm.UnloadQuietly();
   if (--mForm.mActs == 0) mForm.Release();
   desktop.LeaveAct();
 }
@@ -154,6 +155,14 @@ void Form::Unload() {
   mActive = nullptr;
   DropWindow();
   if (error) std::rethrow_exception(error);
+}
+
+void Form::UnloadQuietly() noexcept {
+  try {
+    Unload();
+  } catch (...) {
+    // Nobody is left to be told.
+  }
 }
 
 void Form::DropWindow() {

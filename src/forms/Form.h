@@ -94,6 +94,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// Takes the form from the screen, runs Form_Unload and gives up the window; Form_Release follows at the end of the
   /// outermost act. Does nothing when not loaded. What Form_Unload throws travels when all else is done.
   void Unload();
+  /// The same for a form that nobody waits for: what it cannot keep, on a full disk for example, is lost with it.
+  void UnloadQuietly() noexcept;
+  /// For a modeless form that nobody shows again or asks for its outcome: it unloads by itself once it is hidden.
+  void UnloadWhenHidden() { mUnloadsWhenHidden = true; }
   /// Repaints the form with all that has changed, without waiting for events.
   void Refresh();
   /// While false, nothing that the user does reaches the form; it looks as before. True at first.
@@ -196,6 +200,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   int mTop = 0;
   bool mLoaded = false;
   bool mRetired = false;
+  bool mUnloadsWhenHidden = false;
   int mActs = 0;
   bool mVisible = false;
   bool mEnabled = true;

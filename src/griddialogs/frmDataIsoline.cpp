@@ -182,10 +182,10 @@ bool frmDataIsoline::Save() {
   }
 }
 
-void frmDataIsoline::Form_Unload() {
+void frmDataIsoline::Form_Release() {
   mIsolines = nullptr;
   mFont.reset();
-  EditForm::Form_Unload();
+  EditForm::Form_Release();
 }
 
 }  // namespace orx

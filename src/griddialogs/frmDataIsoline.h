@@ -65,7 +65,7 @@ class frmDataIsoline final : public EditForm {
  protected:
   void Fill() override;
   bool Save() override;
-  void Form_Unload() override;
+  void Form_Release() override;
 
  private:
   void FillLists();

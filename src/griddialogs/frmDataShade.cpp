@@ -231,10 +231,10 @@ void frmDataShade::ApplyScaling() {
   Write(*mMultiplier.Value(), &S::ScaleMultiplier, &S::ScaleMultiplier);
 }
 
-void frmDataShade::Form_Unload() {
+void frmDataShade::Form_Release() {
   mShade = nullptr;
   mShade2 = nullptr;
-  EditForm::Form_Unload();
+  EditForm::Form_Release();
 }
 
 }  // namespace orx

@@ -81,7 +81,7 @@ class frmDataShade final : public EditForm {
   bool Check() override;
   bool Save() override;
   void Form_Resize() override { fraIntensity2.Place(fraIntensity1.Place()); }
-  void Form_Unload() override;
+  void Form_Release() override;
 
  private:
   void ShowDesignTexts();

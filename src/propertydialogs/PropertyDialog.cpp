@@ -65,13 +65,16 @@ void PropertyDialog::Fill() {
 }
 
 void PropertyDialog::Do(Act act) {
-  Pages().ForEach([&](PropertyPage& page) { ButtonStep([&] { (page.*act)(); }); });
+  Pages().ForEach([&](PropertyPage& page) {
+    if (!IsRetired()) ButtonStep([&] { (page.*act)(); });
+  });
 }
 
 void PropertyDialog::Tell(Notification notify) {
   if (!mCallBack) return;
   ButtonStep([this] { mLastChange = IsAnyDirty(); });
-  ButtonStep([&] { (mCallBack->*notify)(mLastChange); });
+  // Asking the pages may have cost the form its window, and with it the call-back.
+  if (mCallBack) ButtonStep([&] { (mCallBack->*notify)(mLastChange); });
 }
 
 void PropertyDialog::Relay(Act act, Notification notify) {
@@ -106,9 +109,13 @@ void PropertyDialog::CloseUpButtons() {
 }
 
 void PropertyDialog::Form_Unload() {
-  mPages.reset();
   mCallBack = nullptr;
   OkCancelForm::Form_Unload();
+}
+
+void PropertyDialog::Form_Release() {
+  mPages.reset();
+  OkCancelForm::Form_Release();
 }
 
 }  // namespace orx

@@ -71,7 +71,7 @@ class PropertyDialog : public OkCancelForm {
   virtual void RegisterClient(HostObject* client, const std::string& registryKey) = 0;
   /// Whether the object was changed, as the result of the dialog has it; false when the form is not loaded, since its
   /// pages are gone then. Setting it loads the form.
-  virtual bool IsDirty() const { return mPages && mPages->IsResultDirty(); }
+  virtual bool IsDirty() const { return IsLoaded() && mPages && mPages->IsResultDirty(); }
   virtual void IsDirty(bool value) { Pages().IsDirty(value); }
   /// Has the pages load the object's values. Loads the form.
   virtual void RefreshContents() = 0;
@@ -86,6 +86,7 @@ class PropertyDialog : public OkCancelForm {
   void TakeLanguage() override;
   void Fill() override;
   void Form_Unload() override;
+  void Form_Release() override;
 
   virtual void cmdApply_Click();
   void Accept() override;
@@ -94,7 +95,7 @@ class PropertyDialog : public OkCancelForm {
   virtual void Apply();
   /// Has all pages do one thing, and tells the call-back, if there is one, whether anything has changed.
   virtual void Relay(Act act, Notification notify);
-  /// The two halves of that.
+  /// The two halves of that. Neither goes on once the form is retired.
   void Do(Act act);
   void Tell(Notification notify);
   /// Runs one step of these. What it throws ends the button, unless a dialog goes on with the next step.

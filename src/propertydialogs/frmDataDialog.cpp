@@ -56,7 +56,7 @@ void frmDataDialog::Form_Resize() {
   ErrorTrap trap;
   trap.Step([&] { CloseUpButtons(); });
   trap.Step([&] { LayOut(); });
-  trap.Step([&] { RefreshContents(); });
+  if (!IsRetired()) trap.Step([&] { RefreshContents(); });
 }
 
 void frmDataDialog::LayOut() {
@@ -97,9 +97,11 @@ void frmDataDialog::Form_MouseDown(Point at) {
 }
 
 void frmDataDialog::Form_Unload() {
+  PageHostForm::Form_Unload();
+  // A form whose page could not be made has never been put anywhere.
+  if (!HasPages()) return;
   Kept().Keep(*this);
   Kept().Write("Height", Height());
-  PageHostForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -109,9 +109,9 @@ void frmMapSettings::IsDirty(bool value) {
 void frmMapSettings::RefreshContents() {
   if (!mMap) return;
   Load();
-  if (!HasPages()) return;
+  if (!HasPages() || IsRetired()) return;
   Pages().Client(mCurrentObject);
-  Pages().RefreshContents();
+  if (!IsRetired()) Pages().RefreshContents();
 }
 
 void frmMapSettings::Arrange() {
@@ -136,14 +136,14 @@ void frmMapSettings::FillList() {
     const std::string name = mLayers->Name();
     sftLayers.AddRow({Trimmed(name, kSpaces).empty() ? "Map" : name, 0, 0, kMapTag, true});
   }
-  if (mMap) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
+  if (mMap && !IsRetired()) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
 }
 
 void frmMapSettings::AddRows(IMap& map, const char* defaultName, const char* tag, int level) {
   const std::int32_t count = map.LayerCount();
-  for (std::int32_t i = 1; i <= count; ++i) {
+  for (std::int32_t i = 1; i <= count && !IsRetired(); ++i) {
     sftLayers.AddRow({NameOr(map.LayerName(i), defaultName, i), level, i, tag});
-    if (&map == mMap) AddTiles(map.Layer(i), level + 1);
+    if (&map == mMap && !IsRetired()) AddTiles(map.Layer(i), level + 1);
   }
 }
 
@@ -173,6 +173,7 @@ bool frmMapSettings::ShowSelection(int row) {
 }
 
 void frmMapSettings::SelectRow(int row) {
+  if (IsRetired()) return;
   // The list shows the row already when the events are let through.
   ShowSelection(row);
   const int turn = ++mSelections;
@@ -239,6 +240,7 @@ void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
   const int position = FoldedPosition() + rows;
   bool isMoved = false;
   trap.Step([&] { isMoved = (mCurrentMap->*move)(mSelectedLayer); });
+  if (IsRetired()) return;
   if (!isMoved) return trap.Step([&] { OwnerDesktop().Beep(); });
   trap.Step([&] { FillList(); });
   trap.Step([&] { SelectPosition(position); });
@@ -251,6 +253,7 @@ void frmMapSettings::cmdRemove_Click() {
   int position = sftLayers.PositionOf(mSelectedRow);
   bool isRemoved = false;
   trap.Step([&] { isRemoved = mCurrentMap->RemoveLayer(mSelectedLayer); });
+  if (IsRetired()) return;
   if (isRemoved) {
     position = FoldedPosition();
     // The layer may be gone for good.
@@ -273,6 +276,7 @@ void frmMapSettings::cmdAdd_Click() {
       files.clear();
   });
   for (const std::string& path : files) {
+    if (IsRetired()) break;
     trap.Step([&] { desktop.Pointer(Pointer::Hourglass); });
     trap.Step([&] { AddFile(path); });
   }
@@ -282,7 +286,7 @@ void frmMapSettings::cmdAdd_Click() {
 }
 
 void frmMapSettings::AddFile(const std::string& path) {
-  if (!mMap->AddLayer(path, {})) return;
+  if (!mMap->AddLayer(path, {}) || IsRetired()) return;
   ErrorTrap trap;
   trap.Step([&] { FillList(); });
   trap.Step([&] { RefreshContents(); });
@@ -316,8 +320,9 @@ void frmMapSettings::cmdCancel_Click() {
 }
 
 void frmMapSettings::Form_Unload() {
-  Kept().Keep(*this);
   PropertyDialog::Form_Unload();
+  // A form whose pages could not be made has never been put anywhere.
+  if (HasPages()) Kept().Keep(*this);
 }
 
 }  // namespace orx

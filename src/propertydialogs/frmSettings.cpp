@@ -11,7 +11,7 @@ frmSettings::frmSettings(Desktop& desktop, IPageFactory& pages)
 void frmSettings::Ready() {
   if (!LanguageActive()) return;
   // The caption of the first tab is left to the translation of the form.
-  for (int tab = 1; tab < ssTab.TabCount(); ++tab) {
+  for (int tab = 1; tab < ssTab.TabCount() && LanguageActive(); ++tab) {
     ssTab.Tab(tab);
     ssTab.TabCaption(tab, Language()->TranslateText(LayerPages().at(static_cast<std::size_t>(tab)).TabCaption));
   }
@@ -20,7 +20,7 @@ void frmSettings::Ready() {
 
 void frmSettings::Apply() {
   PageHostForm::Apply();
-  IsDirty(false);
+  if (!IsRetired()) IsDirty(false);
 }
 
 }  // namespace orx

@@ -47,13 +47,17 @@ void CCommonMapDialogs::Language(ILanguage* value) {
 
 std::int32_t CCommonMapDialogs::ShowPages(const std::shared_ptr<PropertyDialog>& form, const Request& request) {
   if (!form) return 0;
+  // What the form holds stays until it is asked for its outcome, whatever the host does meanwhile, also to this object.
+  const Form::Act act(*form);
+  const PropertyTask task{request.Client, mRegistryKey, mCallBack, request.Number};
   ErrorTrap trap;
   trap.Step([&] { form->Language(mLanguage); });
-  form->Take({request.Client, mRegistryKey, mCallBack, request.Number}, trap);
+  form->Take(task, trap);
   trap.Step([&] { form->RefreshContents(); });
   // Loading translates the designed caption, so that it has to come before another one.
   trap.Step([&] { form->Load(); });
   if (!Trimmed(request.Caption, kSpaces).empty()) trap.Step([&] { form->Caption(request.Caption); });
+  if (request.Mode == ShowMode::Modeless) form->UnloadWhenHidden();
   trap.Step([&] { form->Show(request.Mode, request.Owner); });
   std::int32_t result = 0;
   trap.Step([&] {
