@@ -1,4 +1,4 @@
-#include "maplibrary/model/MapText.h"
+#include "tests/support/MapText.h"
 
 #include <bit>
 #include <charconv>
@@ -6,9 +6,10 @@
 
 #include "maplibrary/model/TiledLayer.h"
 
-namespace orx::maplibrary {
-
+namespace orx::test {
 namespace {
+
+using namespace maplibrary;
 
 std::string Text(double value) {
   char digits[40];
@@ -186,4 +187,4 @@ std::string Serialise(const Map& map) {
   return lines.All();
 }
 
-}  // namespace orx::maplibrary
+}  // namespace orx::test
