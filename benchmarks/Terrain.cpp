@@ -3,7 +3,7 @@
 
 #include "maplibrary/drawing/Contours.h"
 #include "maplibrary/drawing/DrawIsolines.h"
-#include "maplibrary/drawing/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 #include "maplibrary/model/SampleMap.h"
 
 namespace orx::bench {

@@ -1,9 +1,9 @@
-// A host's automation object as a host object of the library: it answers for kinds.
+// A host's automation object as a host object of the library: it answers for interfaces.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
+#include <typeindex>
 
 #include "com/Handles.h"
 #include "hostobjects/HostObject.h"
@@ -17,23 +17,18 @@ class AutomationObject final : public HostObject, public std::enable_shared_from
   explicit AutomationObject(IDispatch* object) : mObject(object) {}
 
   IDispatch* Automation() const { return mObject.Get(); }
-  void* Query(Kind kind) override;
+  HostInterface* ViewFor(const std::type_info& wanted) override;
   std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
 
   /// The same host object for the same automation object, kept here; null for null.
   AutomationObject* Adopt(const ComPtr<IDispatch>& object);
 
  private:
-  struct View {
-    /// What lives as long as the view, and the pointer to exactly the interface of the kind.
-    std::shared_ptr<void> Owner;
-    void* Interface = nullptr;
-  };
-
-  View MakeView(Kind kind);
+  /// Null for an interface that the object does not have.
+  std::shared_ptr<HostInterface> MakeView(const std::type_info& wanted);
 
   ComPtr<IDispatch> mObject;
-  std::map<Kind, View> mViews;
+  std::map<std::type_index, std::shared_ptr<HostInterface>> mViews;
   std::map<IUnknown*, std::shared_ptr<AutomationObject>> mAdopted;
 };
 

@@ -29,7 +29,7 @@ const std::set<std::string> kPublicHeaders = {
     "HeadlessDesktop.h", "QtDesktop.h", "Win32Desktop.h",
     // The embedded host.
     "FormLanguage.h", "TextLanguage.h", "DrawMap.h", "GroundRect.h", "LayerStack.h", "Legend.h", "Map.h", "MapLayer.h",
-    "MapText.h", "PlacedExtent.h", "SampleMap.h", "PageFactory.h"};
+    "PlacedExtent.h", "SampleMap.h", "PageFactory.h"};
 
 /// The public headers by their paths under src/.
 std::vector<std::string> Listed() {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "maplibrary/drawing/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 #include "maplibrary/model/ColorRamp.h"
 #include "tests/maplibrary/Drawing.h"
 

@@ -7,7 +7,7 @@
 #include <functional>
 
 #include "hostobjects/RunTimeError.h"
-#include "maplibrary/drawing/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {

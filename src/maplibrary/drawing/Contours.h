@@ -17,7 +17,6 @@ struct GridPlace {
 /// A line on which the grid has one value. A closed one ends where it starts.
 struct Contour {
   std::vector<GridPlace> Points;
-  bool IsClosed() const { return Points.size() > 2 && Points.front() == Points.back(); }
 };
 
 /// All contours of a level, joined: each is as long as it can be. Between centres the values run evenly; where all four

@@ -8,7 +8,7 @@
 #include "maplibrary/drawing/DrawPeaks.h"
 #include "maplibrary/drawing/DrawShapes.h"
 #include "maplibrary/drawing/MapView.h"
-#include "maplibrary/drawing/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 
 namespace orx::maplibrary {
 

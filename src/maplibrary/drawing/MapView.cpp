@@ -13,16 +13,6 @@ int Rounded(double length, int most) {
   return std::clamp(static_cast<int>(std::lround(std::clamp(length, 1.0, static_cast<double>(most)))), 1, most);
 }
 
-/// The value of a grid at a point of the ground that its place covers.
-std::optional<double> ValueIn(const PlacedGrid& placed, const GroundPoint& point) {
-  if (placed.Place.IsEmpty()) return std::nullopt;
-  const double column = (point.X - placed.Place.Left) / placed.Place.Width() * placed.Grid->Columns;
-  const double row = (placed.Place.Top - point.Y) / placed.Place.Height() * placed.Grid->Rows;
-  if (!(column >= 0 && column < placed.Grid->Columns && row >= 0 && row < placed.Grid->Rows)) return std::nullopt;
-  const double value = placed.Grid->At(static_cast<std::int32_t>(row), static_cast<std::int32_t>(column));
-  return std::isnan(value) ? std::nullopt : std::optional(value);
-}
-
 }  // namespace
 
 MapView::MapView(const GroundRect& window, Size size) : mWindow(Normalised(window)) {
@@ -40,12 +30,6 @@ PixelPoint MapView::ToPixel(const GroundPoint& point) const {
           mPixels.Top + (mWindow.Top - point.Y) / mWindow.Height() * mPixels.Height};
 }
 
-GroundPoint MapView::ToGround(const Point& pixel) const {
-  if (IsEmpty()) return {};
-  return {mWindow.Left + (pixel.X + 0.5 - mPixels.Left) / mPixels.Width * mWindow.Width(),
-          mWindow.Top - (pixel.Y + 0.5 - mPixels.Top) / mPixels.Height * mWindow.Height()};
-}
-
 bool MapView::Contains(const GroundPoint& point) const {
   return !IsEmpty() && point.X >= mWindow.Left && point.X <= mWindow.Right && point.Y >= mWindow.Bottom &&
          point.Y <= mWindow.Top;
@@ -53,18 +37,6 @@ bool MapView::Contains(const GroundPoint& point) const {
 
 MapView ViewOf(const Map& map, Size size) {
   return MapView(map.Window().Current(), size);
-}
-
-std::optional<double> ValueAt(const Map& map, const GroundPoint& point) {
-  const auto& layers = map.Stack().All();
-  for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
-    if (!(*layer)->Visible()) continue;
-    const std::vector<PlacedGrid> grids = (*layer)->Grids();
-    for (auto grid = grids.rbegin(); grid != grids.rend(); ++grid) {
-      if (const auto value = ValueIn(*grid, point)) return value;
-    }
-  }
-  return std::nullopt;
 }
 
 }  // namespace orx::maplibrary

@@ -1,8 +1,6 @@
 // Where ground and pixels meet while a map is shown: places of the one in the other.
 #pragma once
 
-#include <optional>
-
 #include "forms/Geometry.h"
 #include "maplibrary/files/GroundRect.h"
 #include "maplibrary/model/Map.h"
@@ -27,8 +25,6 @@ class MapView {
   /// The pixels that the window fills.
   Rect Pixels() const { return mPixels; }
   PixelPoint ToPixel(const GroundPoint& point) const;
-  /// The ground at the middle of a pixel.
-  GroundPoint ToGround(const Point& pixel) const;
   bool Contains(const GroundPoint& point) const;
 
  private:
@@ -38,8 +34,5 @@ class MapView {
 
 /// The view of a map in a picture of that size.
 MapView ViewOf(const Map& map, Size size);
-
-/// The value of the topmost visible layer that has one at this point of the ground.
-std::optional<double> ValueAt(const Map& map, const GroundPoint& point);
 
 }  // namespace orx::maplibrary

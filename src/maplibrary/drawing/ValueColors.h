@@ -21,9 +21,7 @@ class ValueColors {
   const Color* For(double value) const;
   /// The colour at a share of the range, from 0 to 1.
   const Color& ForShare(double share) const;
-  /// True when values in some range are special, so that they may not be blended with their neighbours.
-  bool HasSpecialRanges() const { return mHasSpecialRanges; }
-  /// True for values of no special range.
+  /// True for values of no special range; others may not be blended with their neighbours.
   bool IsPlain(double value) const { return !mHasSpecialRanges || !SpecialOf(value); }
 
  private:

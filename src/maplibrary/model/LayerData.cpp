@@ -34,23 +34,9 @@ LayerData::LayerData(std::string file, std::shared_ptr<const GridData> grid)
   mShade.Grid(mGrid);
 }
 
-void* LayerData::Query(Kind kind) {
-  switch (kind) {
-    case Kind::Data:
-      return static_cast<IData*>(this);
-    case Kind::Classification:
-      return static_cast<IClassification*>(this);
-    case Kind::DataOptions:
-      return static_cast<IDataOptions*>(this);
-    case Kind::Shade:
-      return static_cast<ShadeSettings*>(&mShade);
-    case Kind::ExtendedShade:
-      return static_cast<ShadeSettings2*>(&mShade);
-    case Kind::Isolines:
-      return static_cast<IIsolines*>(&mLines);
-    default:
-      return nullptr;
-  }
+HostInterface* LayerData::ViewFor(const std::type_info& wanted) {
+  if (wanted == typeid(IIsolines)) return &mLines;
+  return &mShade;
 }
 
 void LayerData::FileName(const std::string& value) {

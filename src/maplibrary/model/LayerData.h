@@ -21,8 +21,8 @@ class LayerData final : public HostObject, public IData, public IClassification,
   /// `grid` must not be null; `file` is where it came from, empty for none.
   LayerData(std::string file, std::shared_ptr<const GridData> grid);
 
-  /// Answers for IData, IClassification, IDataOptions, both kinds of shading, and IIsolines.
-  void* Query(Kind kind) override;
+  /// Answers for the shading, basic and extended, and the contour lines.
+  HostInterface* ViewFor(const std::type_info& wanted) override;
 
   std::int32_t ClassCount() override { return mClasses; }
   std::string FileName() override { return mFile; }

@@ -10,17 +10,8 @@ Map::Map(std::string name) : mName(std::move(name)) {
   AddLegend(LegendKind::Layers, "Layers", LegendCorner::TopLeft);
 }
 
-void* Map::Query(Kind kind) {
-  switch (kind) {
-    case Kind::Map:
-      return static_cast<IMap*>(this);
-    case Kind::Extent:
-      return static_cast<IExtent*>(this);
-    case Kind::Legends:
-      return static_cast<ILegends*>(this);
-    default:
-      return nullptr;
-  }
+HostInterface* Map::ViewFor(const std::type_info& wanted) {
+  return wanted == typeid(IExtent) ? Extent() : nullptr;
 }
 
 MapLayer* Map::AddLayer(const std::string& path, const std::string&) {

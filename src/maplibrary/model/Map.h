@@ -21,8 +21,8 @@ class Map : public HostObject, public IMap, public ILegends, private PlacedExten
   /// A map without layers, with an elevation legend (bottom right) and a layer legend (top left).
   explicit Map(std::string name = {});
 
-  /// Answers for IMap, IExtent and ILegends.
-  void* Query(Kind kind) override;
+  /// The map is an extent too, but for dialogs only: for others its members are those of a map.
+  HostInterface* ViewFor(const std::type_info& wanted) override;
 
   std::int32_t LayerCount() override { return mLayers.Count(); }
   std::string LayerName(std::int32_t index) override { return mLayers.At(index).Name(); }
@@ -69,7 +69,6 @@ class Layers : public HostObject, public ILayers {
   /// The map must outlive the collection.
   explicit Layers(maplibrary::Map& map) : mMap(map) {}
 
-  void* Query(Kind kind) override { return kind == Kind::Layers ? static_cast<ILayers*>(this) : nullptr; }
   std::string Name() override { return mMap.Name(); }
   maplibrary::Map* Map() override { return &mMap; }
 

@@ -15,19 +15,6 @@ bool IsCharacterCode(std::int32_t code) {
 
 }  // namespace
 
-void* MapLayer::Query(Kind kind) {
-  switch (kind) {
-    case Kind::Layer:
-      return static_cast<ILayer*>(this);
-    case Kind::Labels:
-      return static_cast<ILabels*>(this);
-    case Kind::Extent:
-      return static_cast<IExtent*>(this);
-    default:
-      return nullptr;
-  }
-}
-
 std::optional<Peak> MapLayer::HighestPoint() const {
   std::optional<Peak> highest;
   for (const PlacedGrid& placed : Grids()) {

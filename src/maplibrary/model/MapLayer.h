@@ -43,9 +43,6 @@ struct MarkedPeak {
 /// unless from 0 to 1000 points.
 class MapLayer : public HostObject, public ILayer, public ILabels, public PlacedExtent {
  public:
-  /// Answers for ILayer, ILabels and IExtent.
-  void* Query(Kind kind) override;
-
   /// The grids of the layer in drawing order; those of invisible tiles are left out.
   virtual std::vector<PlacedGrid> Grids() const = 0;
   /// The highest point of what Grids gives; none when no cell has a value.

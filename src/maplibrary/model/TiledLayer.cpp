@@ -6,10 +6,6 @@
 
 namespace orx::maplibrary {
 
-void* TiledLayer::Query(Kind kind) {
-  return kind == Kind::Map ? static_cast<IMap*>(this) : MapLayer::Query(kind);
-}
-
 std::vector<PlacedGrid> TiledLayer::Grids() const {
   std::vector<PlacedGrid> grids;
   for (const auto& tile : mTiles.All()) {

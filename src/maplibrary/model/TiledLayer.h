@@ -18,8 +18,6 @@ class TiledLayer : public MapLayer, public IMap {
  public:
   TiledLayer(std::string name, std::string source) : MapLayer(std::move(name), std::move(source)) {}
 
-  /// Answers for IMap too.
-  void* Query(Kind kind) override;
   std::vector<PlacedGrid> Grids() const override;
   std::vector<MarkedPeak> MarkedPeaks() const override;
 

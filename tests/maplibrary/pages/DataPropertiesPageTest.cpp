@@ -8,14 +8,14 @@
 namespace orx::test {
 namespace {
 
-/// A data object with a file and a known range.
+/// A data object with a file and a known range; all else is another's.
 class FileData final : public HostObject, public IData {
  public:
   RecordedData Rest;
   std::string File = "/data/old.bil";
   bool IsBroken = false;
 
-  void* Query(Kind kind) override { return kind == Kind::Data ? static_cast<IData*>(this) : Rest.Query(kind); }
+  HostInterface* ViewFor(const std::type_info&) override { return static_cast<IData*>(&Rest); }
   std::int32_t ClassCount() override { return 4; }
   std::string FileName() override { return File; }
   void FileName(const std::string& value) override {

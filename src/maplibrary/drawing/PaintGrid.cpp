@@ -1,4 +1,4 @@
-#include "maplibrary/drawing/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 
 #include <algorithm>
 #include <cmath>
@@ -150,14 +150,6 @@ Image BlankImage(Size size) {
   image.Width = size.Width;
   image.Height = size.Height;
   image.Pixels.resize(static_cast<std::size_t>(size.Width) * static_cast<std::size_t>(size.Height) * 4);
-  return image;
-}
-
-Image RenderGrid(const GridData& grid, const GroundRect& window, Size size, Sampling sampling) {
-  Image image = BlankImage(size);
-  // The grid lives as long as this call; the pointer owns nothing.
-  const std::shared_ptr<const GridData> borrowed(std::shared_ptr<void>(), &grid);
-  PaintGrid(image, window, {borrowed, grid.Edges()}, RangeOf(grid).value_or(ValueRange()), sampling);
   return image;
 }
 

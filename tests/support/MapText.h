@@ -5,10 +5,10 @@
 
 #include "maplibrary/model/Map.h"
 
-namespace orx::maplibrary {
+namespace orx::test {
 
 /// Every setting of the map, its legends, layers and tiles, one to a line, numbers in hexadecimal; grid values as a
 /// check sum. Equal texts mean equal maps.
-std::string Serialise(const Map& map);
+std::string Serialise(const maplibrary::Map& map);
 
-}  // namespace orx::maplibrary
+}  // namespace orx::test

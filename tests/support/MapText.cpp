@@ -1,4 +1,4 @@
-#include "maplibrary/model/MapText.h"
+#include "tests/support/MapText.h"
 
 #include <bit>
 #include <charconv>
@@ -8,9 +8,10 @@
 #include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/TiledLayer.h"
 
-namespace orx::maplibrary {
-
+namespace orx::test {
 namespace {
+
+using namespace maplibrary;
 
 std::string Text(double value) {
   char digits[40];
@@ -188,4 +189,4 @@ std::string Serialise(const Map& map) {
   return lines.All();
 }
 
-}  // namespace orx::maplibrary
+}  // namespace orx::test

@@ -19,8 +19,4 @@ Image BlankImage(Size size);
 void PaintGrid(Image& image, const GroundRect& window, const PlacedGrid& placed, const ValueRange& range,
                Sampling sampling = Sampling::Blended);
 
-/// A new image of `size` pixels of the part of the ground in `window`, transparent where the grid has no value. Colours
-/// reach over the grid's own range of values.
-Image RenderGrid(const GridData& grid, const GroundRect& window, Size size, Sampling sampling = Sampling::Blended);
-
 }  // namespace orx::maplibrary

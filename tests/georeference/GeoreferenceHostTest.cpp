@@ -182,7 +182,7 @@ TEST_F(GeoreferenceService, OtherObjectsShowNothing) {
 
 TEST_F(GeoreferenceService, AnErrorOfTheQuestionWhatAnObjectIsReachesTheHost) {
   struct Broken final : HostObject {
-    void* Query(Kind) override { throw RunTimeError(1001, "No answer."); }
+    HostInterface* ViewFor(const std::type_info&) override { throw RunTimeError(1001, "No answer."); }
   } broken;
   EXPECT_THROW(service.ShowGeoReference(&broken), RunTimeError);
 }

@@ -106,7 +106,6 @@ TEST_F(ClassifyTest, WithoutAnObjectTheRoutineBeepsAndShowsNothing) {
 
 TEST_F(ClassifyTest, WithoutAClassificationNothingIsShown) {
   struct Bare final : HostObject, IData {
-    void* Query(Kind kind) override { return kind == Kind::Data ? static_cast<IData*>(this) : nullptr; }
     std::int32_t ClassCount() override { return 3; }
     void FileName(const std::string&) override {}
   } bare;

@@ -1,5 +1,5 @@
 // Grids as pictures: colours, places of cells, missing values, and both ways of sampling.
-#include "maplibrary/drawing/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 
 #include <gtest/gtest.h>
 
@@ -23,6 +23,14 @@ std::string Shares(const Image& image) {
     text += image.Pixels[i + 3] == 0 ? '.' : letter;
   }
   return text;
+}
+
+/// A new image of the part of the ground in the window. Colours reach over the grid's own range of values.
+Image RenderGrid(const GridData& grid, const GroundRect& window, Size size, Sampling sampling = Sampling::Blended) {
+  Image image = BlankImage(size);
+  PaintGrid(image, window, {std::make_shared<const GridData>(grid), grid.Edges()}, RangeOf(grid).value_or(ValueRange()),
+            sampling);
+  return image;
 }
 
 TEST(MapLibraryColorRamp, ColoursRunFromLowlandsToSummitsWithoutSteps) {

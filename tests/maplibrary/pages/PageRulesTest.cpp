@@ -46,9 +46,7 @@ TEST_P(MapLibraryPagesOfEachKind, APageWithoutAClientIsEmptyAndDisabled) {
 }
 
 TEST_P(MapLibraryPagesOfEachKind, AClientWithoutWhatThePageEditsDisablesIt) {
-  class : public HostObject {
-    void* Query(Kind) override { return nullptr; }
-  } other;
+  PlainObject other;
   const auto page = MakeFilled(GetParam());
   EXPECT_NE(Calls{}, EnabledInputs());
   page->Page->Client(&other);

@@ -4,11 +4,11 @@
 #include <algorithm>
 
 #include "forms/TreeList.h"
-#include "maplibrary/model/MapText.h"
 #include "maplibrary/model/SampleMap.h"
 #include "pickers/CharacterGrid.h"
 #include "tests/files/FilesTest.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/support/MapText.h"
 
 namespace orx::test {
 namespace {
@@ -48,7 +48,7 @@ TEST_F(ExamplesHost, ListsTheMapItsLayersAndTheirTiles) {
 }
 
 TEST_F(ExamplesHost, OKUntouchedInEveryDialogLeavesEveryBitOfTheMap) {
-  const std::string before = maplibrary::Serialise(*map);
+  const std::string before = Serialise(*map);
   for (int entry = 0; entry < window->cboLayer.ListCount(); ++entry) {
     user.Choose(window->cboLayer, entry);
     for (Button* button : {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends}) {
@@ -57,7 +57,7 @@ TEST_F(ExamplesHost, OKUntouchedInEveryDialogLeavesEveryBitOfTheMap) {
       script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
       user.Click(*button);
       EXPECT_TRUE(LastLine().ends_with("not changed (0)")) << LastLine();
-      EXPECT_EQ(before, maplibrary::Serialise(*map)) << form << " of " << window->cboLayer.Text();
+      EXPECT_EQ(before, Serialise(*map)) << form << " of " << window->cboLayer.Text();
     }
   }
 }
@@ -157,7 +157,7 @@ TEST_F(ExamplesHost, SpecialValuesAreDrawnAsSet) {
 }
 
 TEST_F(ExamplesHost, OKUntouchedInTheDialogsOfTheDataLeavesEveryBitOfTheMap) {
-  const std::string before = maplibrary::Serialise(*map);
+  const std::string before = Serialise(*map);
   for (const auto& [button, form] : {std::pair{"cmdClassify", "frmDataClassify"},
                                      {"cmdOptions", "frmDataOptions"},
                                      {"cmdShade", "frmDataShade"},
@@ -165,7 +165,7 @@ TEST_F(ExamplesHost, OKUntouchedInTheDialogsOfTheDataLeavesEveryBitOfTheMap) {
     script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
     Press(user, *window, button);
     EXPECT_TRUE(LastLine().ends_with("not changed (0)")) << LastLine();
-    EXPECT_EQ(before, maplibrary::Serialise(*map)) << form;
+    EXPECT_EQ(before, Serialise(*map)) << form;
   }
 }
 
@@ -211,11 +211,11 @@ TEST_F(ExamplesHost, TheColorSchemesOpen) {
 
 TEST_F(ExamplesHost, TheMapIsGeoreferencedWhateverIsChosen) {
   user.Choose(window->cboLayer, 3);
-  const std::string before = maplibrary::Serialise(*map);
+  const std::string before = Serialise(*map);
   script.ExpectForm("frmGeoreference", [&](Form& shown) { Press(user, shown, "cmdOK"); });
   Press(user, *window, "cmdGeoreference");
   EXPECT_EQ("Georeference: done (-1)", LastLine());
-  EXPECT_EQ(before, maplibrary::Serialise(*map));
+  EXPECT_EQ(before, Serialise(*map));
   const std::vector<Mark> drawn = Drawn();
   const double top = map->Extent()->Top();
   script.ExpectForm("frmGeoreference", [&](Form& shown) {
@@ -231,11 +231,11 @@ TEST_F(ExamplesHost, TheMapIsGeoreferencedWhateverIsChosen) {
 }
 
 TEST_F(ExamplesHost, TheSymbolOfTheChosenLayerIsPickedAndDrawn) {
-  const std::string before = maplibrary::Serialise(*map);
+  const std::string before = Serialise(*map);
   script.ExpectForm("frmTrueType", [&](Form& shown) { Press(user, shown, "cmdOK"); });
   Press(user, *window, "cmdSymbol");
   EXPECT_EQ("Symbol of Terrain: not changed (0)", LastLine());
-  EXPECT_EQ(before, maplibrary::Serialise(*map));
+  EXPECT_EQ(before, Serialise(*map));
   const std::vector<Mark> drawn = Drawn();
   script.ExpectForm("frmTrueType", [&](Form& shown) {
     user.DoubleClickAt(Get<PictureBox>(shown, "picFont"), CharacterGrid(desktop().Scale()).PlaceOf(0xA4));
