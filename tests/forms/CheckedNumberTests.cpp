@@ -1,8 +1,8 @@
 // Checked number fields: what they accept, what they refuse, and that values stay exact.
 #include <cstdio>
 
-#include "forms/FieldTexts.h"
 #include "forms/CheckedNumberField.h"
+#include "forms/FieldTexts.h"
 #include "tests/support/DesktopTest.h"
 
 namespace orx::test {
