@@ -27,31 +27,25 @@ frmDataClassify::frmDataClassify(Desktop& desktop)
                          .Caption = "Data Classify",
                          .HelpKey = "_HelpLayerDataClassify",
                          .Client = {7200, 6675}}) {
-  cboMethod.Click = [this] {
-    if (mIsBusy) return;
-    mModel.Method = cboMethod.SelectedData();
-    RefreshControls();
-  };
+  cboMethod.Click = [this] { Take(mMethod); };
   cboFormat.Click = [this] {
     if (mIsBusy) return;
     mModel.ValueFormat = cboFormat.Text();
     RefreshControls();
   };
   cboRangeFormat.Click = [this] {
-    if (!mIsBusy) mModel.LegendStyle = cboRangeFormat.SelectedData();
+    if (mIsBusy) return;
+    mFields.Write(mStyle);
+    mFields.Read(mStyle);
   };
   chkAutoClassify.Click = [this] { chkAutoClassify_Click(); };
-  chkClassiffyAsMissing.Click = [this] { mModel.OutsideAsMissing = chkClassiffyAsMissing.IsChecked(); };
-  chkSeriesInLegend.Click = [this] {
-    if (mIsBusy) return;
-    mModel.ShowParameterName = chkSeriesInLegend.IsChecked();
-    RefreshControls();
-  };
+  chkClassiffyAsMissing.Click = [this] { mFields.Write(mOutside); };
+  chkSeriesInLegend.Click = [this] { Take(mShowName); };
   cboClasses.Change = [this] { cboClasses_Change(); };
   cboClasses.Click = [this] { cboClasses_Click(); };
-  HandleRange(mMinimum, &Classification::MoveMinimum);
-  HandleRange(mMaximum, &Classification::MoveMaximum);
-  HandleRange(mStep, &Classification::ChangeStep);
+  HandleRange(mMinimum, txtMin, &Classification::MoveMinimum);
+  HandleRange(mMaximum, txtMax, &Classification::MoveMaximum);
+  HandleRange(mStep, txtStep, &Classification::ChangeStep);
   for (TextBox* const field : {&txtSizeFirst, &txtSizeLast})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
   cmdDefault.Click = [this] { cmdDefault_Click(); };
@@ -65,14 +59,14 @@ void frmDataClassify::SetData(HostObject* data, double dMin, double dMax, std::i
 }
 
 void frmDataClassify::Fill() {
-  const auto* const data = QueryKind<IClassification>(Subject());
+  auto* const data = QueryKind<IClassification>(Subject());
   if (!data) return Unload();
   mModel.ReadFrom(*data);
   mSaved = {mModel.Method, mModel.ClassCount};
   cmdDefault.Visible(mDefaultMin != kUnknownRangeEnd || mDefaultMax != kUnknownRangeEnd);
   FillLists();
   chkClassiffyAsMissing.Enabled(true);
-  chkClassiffyAsMissing.Value(CheckedIf(mModel.OutsideAsMissing));
+  mFields.Read(mOutside);
   FillClasses();
   RefreshControls();
 }
@@ -133,19 +127,21 @@ void frmDataClassify::EnableRange() {
 
 void frmDataClassify::ShowLists() {
   const BusyScope busy(mIsBusy);
-  if (!cboMethod.SelectData(mModel.Method)) cboMethod.ListIndex(0);
+  for (Setting* const setting : std::initializer_list<Setting*>{&mMethod, &mShowName, &mStyle}) mFields.Read(*setting);
   cboFormat.ListIndex(IndexOfFormat(mModel.ValueFormat));
-  chkSeriesInLegend.Value(CheckedIf(mModel.ShowParameterName));
-  if (!cboRangeFormat.SelectData(mModel.LegendStyle)) cboRangeFormat.ListIndex(0);
   // What is being typed there stays.
-  if (!mSizeFirst.IsEdited()) mSizeFirst.Show(mModel.FirstClassSize);
-  if (!mSizeLast.IsEdited()) mSizeLast.Show(mModel.LastClassSize);
+  for (NumberSetting* const size : {&mSizeFirst, &mSizeLast})
+    if (!size->IsEdited()) mFields.Read(*size);
 }
 
 void frmDataClassify::ShowRange() {
-  mMinimum.Show(mModel.Minimum, FormattedRange(mModel.Minimum));
-  mMaximum.Show(mModel.Maximum, FormattedRange(mModel.Maximum));
-  mStep.Show(mModel.Step, FormattedRange(mModel.Step));
+  for (NumberSetting* const setting : {&mMinimum, &mMaximum, &mStep}) mFields.Read(*setting);
+}
+
+void frmDataClassify::Take(Setting& setting) {
+  if (mIsBusy) return;
+  mFields.Write(setting);
+  RefreshControls();
 }
 
 std::string frmDataClassify::FormattedRange(double value) const {
@@ -182,12 +178,12 @@ void frmDataClassify::TakeClassCount() {
   RefreshControls();
 }
 
-void frmDataClassify::HandleRange(ShownNumber& field, RangeRule rule) {
-  field.Box().GotFocus = [&field] { modMain::SelectAllText(field.Box()); };
-  field.Box().LostFocus = [this, &field, rule] { Range_LostFocus(field, rule); };
+void frmDataClassify::HandleRange(NumberSetting& field, TextBox& box, RangeRule rule) {
+  box.GotFocus = [&box] { modMain::SelectAllText(box); };
+  box.LostFocus = [this, &field, rule] { Range_LostFocus(field, rule); };
 }
 
-void frmDataClassify::Range_LostFocus(ShownNumber& field, RangeRule rule) {
+void frmDataClassify::Range_LostFocus(NumberSetting& field, RangeRule rule) {
   if (!field.IsEdited()) return;
   const std::optional<double> value = field.Value();
   if (value) {
@@ -222,19 +218,19 @@ bool frmDataClassify::RefuseValue(const char* text, Control& field) {
 }
 
 bool frmDataClassify::Check() {
-  for (const ShownNumber* const field : {&mMinimum, &mMaximum, &mStep})
+  for (const NumberSetting* const field : {&mMinimum, &mMaximum, &mStep})
     if (!field->Value()) return RefuseValue(kInvalidNumber, field->Box());
   if (!TypedClassCount()) return RefuseValue(kInvalidNumber, cboClasses);
-  for (const ShownNumber* const field : {&mSizeFirst, &mSizeLast})
+  for (const NumberSetting* const field : {&mSizeFirst, &mSizeLast})
     if (!field->Value()) return RefuseValue(kInvalidNumber, field->Box());
-  mModel.Minimum = *mMinimum.Value();
-  mModel.Maximum = *mMaximum.Value();
+  mFields.Write(mMinimum);
+  mFields.Write(mMaximum);
   // Written so that values which compare with nothing are refused too.
   if (!(mModel.Minimum < mModel.Maximum)) return RefuseValue(kWrongOrder, txtMin);
-  mModel.Step = *mStep.Value();
+  mFields.Write(mStep);
   if (!TakeClassCountOnOK()) return false;
-  mModel.FirstClassSize = *mSizeFirst.Value();
-  mModel.LastClassSize = *mSizeLast.Value();
+  mFields.Write(mSizeFirst);
+  mFields.Write(mSizeLast);
   return true;
 }
 

@@ -15,7 +15,7 @@
 #include "forms/ComboBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/ShownNumber.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
 
 namespace orx {
@@ -86,8 +86,10 @@ class frmDataClassify final : public EditForm {
   std::string FormattedRange(double value) const;
   void ShowClassCount(std::int32_t count);
 
-  void HandleRange(ShownNumber& field, RangeRule rule);
-  void Range_LostFocus(ShownNumber& field, RangeRule rule);
+  /// Takes what a field shows into the model, and refreshes all.
+  void Take(Setting& setting);
+  void HandleRange(NumberSetting& field, TextBox& box, RangeRule rule);
+  void Range_LostFocus(NumberSetting& field, RangeRule rule);
   void cboClasses_Change();
   void cboClasses_Click();
   void TakeClassCount();
@@ -104,11 +106,21 @@ class frmDataClassify final : public EditForm {
   SavedClassification mSaved;
   std::string mShownClasses;
   bool mIsBusy = false;
-  ShownNumber mMinimum{txtMin};
-  ShownNumber mMaximum{txtMax};
-  ShownNumber mStep{txtStep};
-  ShownNumber mSizeFirst{txtSizeFirst};
-  ShownNumber mSizeLast{txtSizeLast};
+
+  // The fields and the model; what the data object holds is the model's.
+  Settings mFields{WriteRule::Always};
+  Part<Classification> mOf{mFields, [this] { return &mModel; }};
+  using M = Classification;
+  const NumberRule mRange{.Format = [this](double value) { return FormattedRange(value); }};
+  ChoiceSetting mMethod{cboMethod, mOf(&M::Method), {.Otherwise = 0}};
+  FlagSetting mShowName{chkSeriesInLegend, mOf(&M::ShowParameterName)};
+  NumberSetting mMinimum{txtMin, mOf(&M::Minimum), mRange};
+  NumberSetting mMaximum{txtMax, mOf(&M::Maximum), mRange};
+  NumberSetting mStep{txtStep, mOf(&M::Step), mRange};
+  FlagSetting mOutside{chkClassiffyAsMissing, mOf(&M::OutsideAsMissing)};
+  ChoiceSetting mStyle{cboRangeFormat, mOf(&M::LegendStyle), {.Otherwise = 0}};
+  NumberSetting mSizeFirst{txtSizeFirst, mOf(&M::FirstClassSize)};
+  NumberSetting mSizeLast{txtSizeLast, mOf(&M::LastClassSize)};
 };
 
 }  // namespace orx

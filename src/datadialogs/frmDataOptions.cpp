@@ -15,13 +15,12 @@ frmDataOptions::frmDataOptions(Desktop& desktop)
 }
 
 void frmDataOptions::HandleEvents(int index) {
-  chkEnabled[index].Click = [this, index] { Switch(index, &SpecialValueRecord::Enabled, chkEnabled[index]); };
-  chkInLegend[index].Click = [this, index] { Switch(index, &SpecialValueRecord::InLegend, chkInLegend[index]); };
-  chkTransparent[index].Click = [this, index] {
-    Switch(index, &SpecialValueRecord::Transparent, chkTransparent[index]);
-  };
-  txtMinValue[index].Change = [this, index] { TakeBound(index, &SpecialValueRecord::LowerBound, mMinimum[index]); };
-  txtMaxValue[index].Change = [this, index] { TakeBound(index, &SpecialValueRecord::UpperBound, mMaximum[index]); };
+  Fields& fields = mFields[index];
+  chkEnabled[index].Click = [this, index, &fields] { Switch(index, fields.Enabled); };
+  chkInLegend[index].Click = [this, index, &fields] { Switch(index, fields.InLegend); };
+  chkTransparent[index].Click = [this, index, &fields] { Switch(index, fields.Transparent); };
+  txtMinValue[index].Change = [this, index, &fields] { TakeBound(index, fields.Minimum); };
+  txtMaxValue[index].Change = [this, index, &fields] { TakeBound(index, fields.Maximum); };
   for (TextBox* const field : {&txtMinValue[index], &txtMaxValue[index]})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
   mColors[index].Chosen = [this, index](Color color) {
@@ -44,32 +43,25 @@ void frmDataOptions::ShowRecord(int index) {
 }
 
 void frmDataOptions::ShowOne(int index) {
-  const SpecialValueRecord& record = Record(index);
+  const bool isEnabled = Record(index).Enabled;
   const BusyScope busy(mIsBusy);
-  chkEnabled[index].Value(CheckedIf(record.Enabled));
-  chkInLegend[index].Value(CheckedIf(record.InLegend));
-  chkTransparent[index].Value(CheckedIf(record.Transparent));
-  pctColor[index].BackColor(record.Color);
-  mMinimum[index].Show(record.LowerBound);
-  mMaximum[index].Show(record.UpperBound);
+  mFields[index].All.Read();
   for (Control* const control : std::initializer_list<Control*>{
            &lblMinData[index], &lblMaxData[index], &txtMinValue[index], &txtMaxValue[index], &lblColorData[index],
            &chkInLegend[index], &chkTransparent[index], &pctColor[index]})
-    control->Enabled(record.Enabled);
+    control->Enabled(isEnabled);
 }
 
-void frmDataOptions::Switch(int index, bool SpecialValueRecord::*field, const CheckBox& box) {
-  if (mIsBusy || Record(index).*field == box.IsChecked()) return;
-  Record(index).*field = box.IsChecked();
+void frmDataOptions::Switch(int index, FlagSetting& setting) {
+  if (mIsBusy || !setting.Differs()) return;
+  mFields[index].All.Write(setting);
   ShowRecord(index);
   IsDirty(true);
 }
 
-void frmDataOptions::TakeBound(int index, double SpecialValueRecord::*field, const ShownNumber& text) {
-  if (mIsBusy) return;
-  const std::optional<double> value = text.Value();
-  if (!value) return;
-  Record(index).*field = *value;
+void frmDataOptions::TakeBound(int index, NumberSetting& setting) {
+  if (mIsBusy || !setting.Value()) return;
+  mFields[index].All.Write(setting);
   IsDirty(true);
 }
 
@@ -79,15 +71,16 @@ void frmDataOptions::cmdDefault_Click() {
 }
 
 bool frmDataOptions::Check() {
-  for (const ShownNumber* const field : {&mMinimum[0], &mMaximum[0], &mMinimum[1]})
+  const auto& [missing, zero, noData] = mFields;
+  for (const NumberSetting* const field : {&missing.Minimum, &missing.Maximum, &zero.Minimum})
     if (!field->Value())
       return Refuse({"Valid number required.", "Invalid number", MessageIcon::Information}, field->Box());
-  const double lower = *mMinimum[0].Value();
-  const double upper = *mMaximum[0].Value();
+  const double lower = *missing.Minimum.Value();
+  const double upper = *missing.Maximum.Value();
   if (upper < lower) return Refuse({"Number too large.", "Invalid range", MessageIcon::Information}, txtMinValue[0]);
   Record(0).LowerBound = lower;
   Record(0).UpperBound = upper;
-  mValues.ZeroRange(*mMinimum[1].Value());
+  mValues.ZeroRange(*zero.Minimum.Value());
   return true;
 }
 

@@ -9,7 +9,7 @@
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "forms/ShownNumber.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
 
 namespace orx {
@@ -99,20 +99,35 @@ class frmDataOptions final : public EditForm {
   static constexpr Rect kInLegend{3720, 450, 2580, 300};
   static constexpr Rect kTransparent{3720, 780, 2580, 300};
 
+  /// The fields of one kind and its record.
+  struct Fields {
+    Fields(frmDataOptions& form, int index)
+        : Form(form), Index(index), Of(All, [this] { return &Form.Record(Index); }) {}
+
+    using R = SpecialValueRecord;
+    frmDataOptions& Form;
+    int Index;
+    Settings All{WriteRule::Always};
+    Part<R> Of;
+    FlagSetting Enabled{Form.chkEnabled[Index], Of(&R::Enabled)};
+    FlagSetting InLegend{Form.chkInLegend[Index], Of(&R::InLegend)};
+    FlagSetting Transparent{Form.chkTransparent[Index], Of(&R::Transparent)};
+    ColorSetting Ground{Form.pctColor[Index], Of(&R::Color)};
+    NumberSetting Minimum{Form.txtMinValue[Index], Of(&R::LowerBound)};
+    NumberSetting Maximum{Form.txtMaxValue[Index], Of(&R::UpperBound)};
+  };
+
   void HandleEvents(int index);
   SpecialValueRecord& Record(int index) { return mValues.Records.at(static_cast<std::size_t>(index)); }
   void ShowOne(int index);
-  void Switch(int index, bool SpecialValueRecord::*field, const CheckBox& box);
-  void TakeBound(int index, double SpecialValueRecord::*field, const ShownNumber& text);
+  void Switch(int index, FlagSetting& setting);
+  void TakeBound(int index, NumberSetting& setting);
   void cmdDefault_Click();
 
   SpecialValues mValues;
   bool mIsBusy = false;
   ColorBox mColors[kSpecialKinds]{ColorBox(pctColor[0]), ColorBox(pctColor[1]), ColorBox(pctColor[2])};
-  ShownNumber mMinimum[kSpecialKinds]{ShownNumber(txtMinValue[0]), ShownNumber(txtMinValue[1]),
-                                      ShownNumber(txtMinValue[2])};
-  ShownNumber mMaximum[kSpecialKinds]{ShownNumber(txtMaxValue[0]), ShownNumber(txtMaxValue[1]),
-                                      ShownNumber(txtMaxValue[2])};
+  Fields mFields[kSpecialKinds]{{*this, 0}, {*this, 1}, {*this, 2}};
 };
 
 }  // namespace orx

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "dialogframe/ColorBox.h"
 #include "dialogframe/EditForm.h"
@@ -13,9 +12,10 @@
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "forms/ShownChoice.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IGridSettings.h"
+#include "hostobjects/PassOver.h"
 
 namespace orx {
 
@@ -69,27 +69,39 @@ class frmDataIsoline final : public EditForm {
 
  private:
   void FillLists();
-  void ReadObject();
-  void ReadFont();
   void cmdFont_Click();
-
-  void Apply();
-  void ApplyLine();
-  void ApplyLabels();
-  void ApplyFont();
-  std::string NumberText(double value) const;
-  /// The number of a field; throws NoNumber where there is none.
-  template <class Field>
-  double NumberOf(Field& field) const;
-  std::int32_t LongOf(double value, Control& field) const;
-  template <class Object, class Value, class Given>
-  void Write(Object& object, const Given& now, Value (Object::*read)() const, void (Object::*write)(Given));
 
   IIsolines* mIsolines = nullptr;
   std::int32_t mFlags = 0;
-  std::optional<ColoredFont> mFont;
-  ColorBox mColor{pctColor};
-  ShownChoice mStyle{cmbLineStyle};
+  ColoredFont mFont;
+  ColorBox mColorBox{pctColor};
+
+  // In the order in which they are read and written.
+  Settings mSettings{WriteRule::WhenTheHostDiffers, PassOver};
+  Part<IIsolines> mLines{mSettings, mIsolines};
+  Part<ILineStyle> mLine{mLines, &IIsolines::Line};
+  Part<ILabelFont> mLabelFont{mLines, &IIsolines::LabelFont};
+  using Lines = IIsolines;
+  using Line = ILineStyle;
+  using Face = ILabelFont;
+  NumberSetting mStep{cmbRangeStep, mLines(&Lines::RangeStep, &Lines::RangeStep), {.Initially = 1}};
+  ColorSetting mColor{pctColor, mLine(&Line::Color, &Line::Color)};
+  NumberSetting mWidth{txtLineWidth, mLine(&Line::Width, &Line::Width), {.Initially = 1}};
+  ChoiceSetting mStyle{cmbLineStyle, mLine(&Line::Style, &Line::Style), {.Otherwise = 0}};
+  FlagSetting mRangeColor{chkLineUseRangeColor, mLines(&Lines::UseRangeColor, &Lines::UseRangeColor)};
+  FlagSetting mRangeWidth{chkLineUseRangeWidth, mLines(&Lines::UseRangeWidth, &Lines::UseRangeWidth)};
+  NumberSetting mMaxWidth{txtLineMaxWidth, mLines(&Lines::MaxWidth, &Lines::MaxWidth), {.Initially = 1}};
+  FlagSetting mVisible{chkLabelVisible, mLines(&Lines::LabelVisible, &Lines::LabelVisible)};
+  FlagSetting mAllIsolines{chkLabelAllIsolines, mLines(&Lines::LabelAllIsolines, &Lines::LabelAllIsolines)};
+  FlagSetting mLabelColor{chkLabelUseRangeColor, mLines(&Lines::LabelUseRangeColor, &Lines::LabelUseRangeColor)};
+  NumberSetting mDistance{cmbLabelDistance, mLines(&Lines::LabelDistance, &Lines::LabelDistance), {.Initially = 0.25}};
+  HeldSetting<std::string> mFontName{mFont.Face.Name, mLabelFont(&Face::Name, &Face::Name)};
+  HeldSetting<double> mFontSize{mFont.Face.Size, mLabelFont(&Face::Size, &Face::Size)};
+  HeldSetting<bool> mBold{mFont.Face.Bold, mLabelFont(&Face::Bold, &Face::Bold)};
+  HeldSetting<bool> mItalic{mFont.Face.Italic, mLabelFont(&Face::Italic, &Face::Italic)};
+  HeldSetting<bool> mUnderline{mFont.Face.Underline, mLabelFont(&Face::Underline, &Face::Underline)};
+  HeldSetting<bool> mStrikethrough{mFont.Face.Strikethrough, mLabelFont(&Face::Strikethrough, &Face::Strikethrough)};
+  HeldSetting<Color> mFontColor{mFont.Color, mLabelFont(&Face::Color, &Face::Color)};
 };
 
 }  // namespace orx

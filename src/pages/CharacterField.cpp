@@ -62,7 +62,7 @@ std::optional<std::int32_t> CharacterField::Parse(std::string_view text) const {
 std::optional<Message> CharacterField::Take(const std::string& text) {
   const std::optional<std::int32_t> code = Parse(text);
   if (!code || !IsCharacter(*code))
-    return MakeMessage(fieldtexts::kWrongValue, pagetexts::kNoCharacter, {Name(), text});
+    return MakeMessage(fieldtexts::kWrongValue, pagetexts::kNoCharacter, {FieldName(Box()), text});
   Become(*code);
   return std::nullopt;
 }

@@ -10,9 +10,10 @@ namespace orx::pages {
 
 /// Accepts a character, its code in hexadecimal ("U+41") or with two or more digits in decimal ("65"), and the shown
 /// form with either part replaced. The value is the Unicode code point; controls are refused.
-class CharacterField final : public ValueField<std::int32_t> {
+class CharacterField : public CheckedField<std::int32_t> {
  public:
-  using ValueField::ValueField;
+  /// As CheckedField.
+  using CheckedField::CheckedField;
 
  protected:
   std::optional<Message> Take(const std::string& text) override;

@@ -5,7 +5,6 @@
 
 #include "forms/Form.h"
 #include "hostobjects/EdgeOrder.h"
-#include "hostobjects/IMap.h"
 
 namespace orx::pages {
 namespace {
@@ -20,7 +19,6 @@ double Readable(double size) {
 }  // namespace
 
 CoordinatesPage::CoordinatesPage(const PageSite& site) : PageBase(site) {
-  for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) Watch(*field);
   mHorizontal.Changed = [this] { ShowSizes(); };
   mVertical.Changed = [this] { ShowSizes(); };
   cmdGeoreference.Click = [this] { cmdGeoreference_Click(); };
@@ -32,18 +30,10 @@ IExtent* CoordinatesPage::Extent() const {
   return map ? map->Extent() : nullptr;
 }
 
-void CoordinatesPage::ReadClient() {
-  const IExtent& extent = *Extent();
-  mRead = Edges{extent.Left(), extent.Right(), extent.Bottom(), extent.Top()};
-}
-
 void CoordinatesPage::ShowValues() {
-  if (mRead) {
-    mHorizontal.Values(mRead->Left, mRead->Right);
-    mVertical.Values(mRead->Bottom, mRead->Top);
-  } else {
-    for (NumberField* field : {&mLeft, &mRight, &mBottom, &mTop}) field->Clear();
-  }
+  PageBase::ShowValues();
+  mHorizontal.Restart();
+  mVertical.Restart();
   ShowSizes();
   cmdGeoreference.Visible(GeoreferenceRequested.HasHandler() && QueryKind<IMap>(Client()));
 }
@@ -59,14 +49,12 @@ void CoordinatesPage::ShowSizes() {
 }
 
 void CoordinatesPage::WriteClient() {
-  IExtent& extent = *Extent();
-  Edges& read = *mRead;
-  const auto left = [&] { Write(read.Left, mLeft.Value(), [&](double value) { extent.Left(value); }); };
-  const auto right = [&] { Write(read.Right, mRight.Value(), [&](double value) { extent.Right(value); }); };
-  const auto bottom = [&] { Write(read.Bottom, mBottom.Value(), [&](double value) { extent.Bottom(value); }); };
-  const auto top = [&] { Write(read.Top, mTop.Value(), [&](double value) { extent.Top(value); }); };
-  WriteInOrder(mLeft.Value() > read.Left, left, right);
-  WriteInOrder(mBottom.Value() > read.Bottom, bottom, top);
+  const auto write = [this](CheckedNumberSetting& lower, CheckedNumberSetting& upper) {
+    WriteInOrder(
+        lower.Value() > lower.HostValue(), [&] { List().Write(lower); }, [&] { List().Write(upper); });
+  };
+  write(mLeft, mRight);
+  write(mBottom, mTop);
 }
 
 void CoordinatesPage::cmdGeoreference_Click() {

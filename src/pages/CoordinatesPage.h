@@ -4,13 +4,9 @@
 #include "forms/Button.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/NumberField.h"
 #include "forms/TextBox.h"
+#include "hostobjects/IMap.h"
 #include "pages/PageBase.h"
-
-namespace orx {
-class IExtent;
-}
 
 namespace orx::pages {
 
@@ -50,31 +46,22 @@ class CoordinatesPage final : public PageBase {
 
  protected:
   bool IsSupported() const override { return Extent() != nullptr; }
-  void ReadClient() override;
-  void ForgetClient() override { mRead.reset(); }
   void ShowValues() override;
   void WriteClient() override;
   bool CheckTogether() override { return mHorizontal.Check() && mVertical.Check(); }
 
  private:
-  struct Edges {
-    double Left;
-    double Right;
-    double Bottom;
-    double Top;
-  };
-
   IExtent* Extent() const;
   void ShowSizes();
   void cmdGeoreference_Click();
 
-  NumberField mLeft{txtLeft};
-  NumberField mRight{txtRight};
-  NumberField mBottom{txtBottom};
-  NumberField mTop{txtTop};
+  Part<IExtent> mExtent{List(), [this] { return Extent(); }};
+  CheckedNumberSetting mLeft{txtLeft, mExtent(&IExtent::Left, &IExtent::Left)};
+  CheckedNumberSetting mRight{txtRight, mExtent(&IExtent::Right, &IExtent::Right)};
+  CheckedNumberSetting mBottom{txtBottom, mExtent(&IExtent::Bottom, &IExtent::Bottom)};
+  CheckedNumberSetting mTop{txtTop, mExtent(&IExtent::Top, &IExtent::Top)};
   NumberSpan mHorizontal{mLeft, mRight};
   NumberSpan mVertical{mBottom, mTop};
-  std::optional<Edges> mRead;
 };
 
 }  // namespace orx::pages

@@ -27,30 +27,23 @@ HostObject* DataPropertiesPage::DataObject() const {
   return layer ? layer->Data() : nullptr;
 }
 
-void DataPropertiesPage::ReadClient() {
-  HostObject* const data = DataObject();
-  Values read;
-  read.File = QueryKind<IData>(data)->FileName();
-  if (const auto* const classes = QueryKind<IClassification>(data)) {
-    read.Method = classes->ClassifyMethod();
-    read.Minimum = classes->MinValue();
-    read.Maximum = classes->MaxValue();
-    read.Count = classes->NumberOfClasses();
-    read.Format = classes->ValueFormat();
-  }
-  mRead = read;
-  mChosenFile.reset();
+void DataPropertiesPage::ShowValues() {
+  PageBase::ShowValues();
+  ShowFile(txtFile.Text());
+  ShowClasses();
+  ShowButtons();
 }
 
-void DataPropertiesPage::ShowValues() {
-  const std::string file = mRead ? mChosenFile.value_or(mRead->File) : std::string();
+void DataPropertiesPage::ShowFile(const std::string& file) {
   txtFile.Text(file);
   txtFile.ToolTipText(file);
+}
+
+void DataPropertiesPage::ShowClasses() {
   txtMethod.Text(MethodText());
   txtRange.Text(RangeText());
-  txtCount.Text(mRead ? std::to_string(mRead->Count) : std::string());
-  txtFormat.Text(mRead ? mRead->Format : std::string());
-  ShowButtons();
+  txtCount.Text(HasRead() ? std::to_string(mCount) : std::string());
+  txtFormat.Text(HasRead() ? mValueFormat : std::string());
 }
 
 void DataPropertiesPage::ShowButtons() {
@@ -64,8 +57,8 @@ void DataPropertiesPage::ShowButtons() {
 }
 
 std::string DataPropertiesPage::MethodText() const {
-  if (!mRead) return {};
-  switch (mRead->Method) {
+  if (!HasRead()) return {};
+  switch (mMethod) {
     case classifymethod::kEqualIntervals:
       return Translated(Language(), "Equal intervals");
     case classifymethod::kAutomatic:
@@ -75,31 +68,23 @@ std::string DataPropertiesPage::MethodText() const {
     case classifymethod::kUserDefined:
       return Translated(Language(), "User defined");
     default:
-      return std::to_string(mRead->Method);
+      return std::to_string(mMethod);
   }
 }
 
 std::string DataPropertiesPage::RangeText() const {
-  if (!mRead) return {};
-  if (mRead->Minimum == kUnknownRangeEnd && mRead->Maximum == kUnknownRangeEnd)
-    return Translated(Language(), "not known");
+  if (!HasRead()) return {};
+  if (mMinimum == kUnknownRangeEnd && mMaximum == kUnknownRangeEnd) return Translated(Language(), "not known");
   const numbers::Separators separators = Surface.OwnerForm().OwnerDesktop().Separators();
-  const auto text = [&](double value) { return numbers::FormatNumber(value, mRead->Format, separators); };
-  return text(mRead->Minimum) + kRangeSign + text(mRead->Maximum);
-}
-
-void DataPropertiesPage::WriteClient() {
-  Write(mRead->File, mChosenFile.value_or(mRead->File),
-        [&](const std::string& file) { QueryKind<IData>(DataObject())->FileName(file); });
-  mChosenFile.reset();
+  const auto text = [&](double value) { return numbers::FormatNumber(value, mValueFormat, separators); };
+  return text(mMinimum) + kRangeSign + text(mMaximum);
 }
 
 void DataPropertiesPage::cmdBrowse_Click() {
-  BrowseRequest request{mChosenFile.value_or(mRead->File)};
+  BrowseRequest request{txtFile.Text()};
   BrowseRequested.Raise(request);
   if (request.Cancel) return;
-  mChosenFile = request.FileName;
-  WhileBusy([this] { ShowValues(); });
+  ShowFile(request.FileName);
 }
 
 void DataPropertiesPage::cmdClassify_Click() {
@@ -118,10 +103,11 @@ void DataPropertiesPage::RequestChange(const Event<DataRequest&>& event) {
 void DataPropertiesPage::DataChanged(bool changed) {
   if (!changed) return;
   IsDirty(true);
-  const std::optional<std::string> chosen = mChosenFile;
+  // A chosen file waits for a save all the same.
+  const std::optional<std::string> chosen = mFile.Differs() ? std::optional(txtFile.Text()) : std::nullopt;
   ReadClient();
-  mChosenFile = chosen;
   WhileBusy([this] { ShowValues(); });
+  if (chosen) ShowFile(*chosen);
 }
 
 }  // namespace orx::pages

@@ -2,7 +2,6 @@
 // classes, and the way to the dialogs that change them.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "forms/Button.h"
@@ -49,25 +48,15 @@ class DataPropertiesPage final : public PageBase {
 
  protected:
   bool IsSupported() const override { return QueryKind<IData>(DataObject()) != nullptr; }
-  void ReadClient() override;
-  void ForgetClient() override { mRead.reset(); }
   void ShowValues() override;
-  void WriteClient() override;
 
  private:
-  struct Values {
-    std::string File;
-    std::int32_t Method = 0;
-    double Minimum = kUnknownRangeEnd;
-    double Maximum = kUnknownRangeEnd;
-    std::int32_t Count = 0;
-    std::string Format = "General";
-  };
-
   /// The data object behind the client, null when there is none.
   HostObject* DataObject() const;
   std::string MethodText() const;
   std::string RangeText() const;
+  void ShowFile(const std::string& file);
+  void ShowClasses();
   void ShowButtons();
   void cmdBrowse_Click();
   void cmdClassify_Click();
@@ -75,9 +64,22 @@ class DataPropertiesPage final : public PageBase {
   /// A dialog has written to the data: shows what they are now.
   void DataChanged(bool changed);
 
-  std::optional<Values> mRead;
-  /// The file that the user has chosen and that is not read yet.
-  std::optional<std::string> mChosenFile;
+  std::int32_t mMethod = 0;
+  double mMinimum = kUnknownRangeEnd;
+  double mMaximum = kUnknownRangeEnd;
+  std::int32_t mCount = 0;
+  std::string mValueFormat = "General";
+
+  Part<IData> mData{List(), [this] { return QueryKind<IData>(DataObject()); }};
+  Part<IClassification> mClasses{List(), [this] { return QueryKind<IClassification>(DataObject()); }};
+  using C = IClassification;
+  /// Differs while the user has chosen a file that is not read yet.
+  TextSetting mFile{txtFile, mData(&IData::FileName, &IData::FileName)};
+  HeldSetting<std::int32_t> mClassMethod{mMethod, mClasses(&C::ClassifyMethod)};
+  HeldSetting<double> mClassMinimum{mMinimum, mClasses(&C::MinValue)};
+  HeldSetting<double> mClassMaximum{mMaximum, mClasses(&C::MaxValue)};
+  HeldSetting<std::int32_t> mClassCount{mCount, mClasses(&C::NumberOfClasses)};
+  HeldSetting<std::string> mClassFormat{mValueFormat, mClasses(&C::ValueFormat)};
 };
 
 }  // namespace orx::pages

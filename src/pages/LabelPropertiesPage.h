@@ -5,11 +5,11 @@
 #include "forms/ComboBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/NumberField.h"
 #include "forms/PictureBox.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IMap.h"
-#include "pages/ColorField.h"
+#include "pages/FontField.h"
+#include "pages/HexColorField.h"
 #include "pages/PageBase.h"
 #include "pages/Preview.h"
 
@@ -50,33 +50,25 @@ class LabelPropertiesPage final : public PageBase {
 
  protected:
   bool IsSupported() const override;
-  void ReadClient() override;
-  void ForgetClient() override { mRead.reset(); }
   void ShowValues() override;
-  void WriteClient() override;
   void EnableDependent() override;
 
  private:
-  struct Values {
-    bool ShowLabels = false;
-    LabelContent Content = LabelContent::Name;
-    LabelPosition Position = LabelPosition::Center;
-    double Rotation = 0;
-    Font Face;
-    Color Pen;
-  };
-
   void cboColor_Click();
   void Edited();
   void ColorEdited();
-  Font ShownFont() const;
   void ShowColorName();
   void ShowPreview();
 
-  NumberField mRotation{txtRotation, {.Minimum = -kMaximumRotation, .Maximum = kMaximumRotation}};
-  NumberField mSize{txtSize, {.Minimum = kMinimumSize, .Maximum = kMaximumSize}};
-  ColorField mColor{txtColor};
-  std::optional<Values> mRead;
+  Part<ILabels> mLabels = OfClient<ILabels>();
+  FlagSetting mShowLabels{chkShowLabels, mLabels(&ILabels::ShowLabels, &ILabels::ShowLabels)};
+  ChoiceSetting mContent{cboContent, mLabels(&ILabels::Content, &ILabels::Content)};
+  ChoiceSetting mPosition{cboPosition, mLabels(&ILabels::Position, &ILabels::Position)};
+  CheckedNumberSetting mRotation{
+      txtRotation, mLabels(&ILabels::LabelRotation, &ILabels::LabelRotation), {-kMaximumRotation, kMaximumRotation}};
+  SettingOf<FontField> mFont{{cboFont, txtSize, chkBold, chkItalic, chkUnderline},
+                             mLabels(&ILabels::LabelFont, &ILabels::LabelFont)};
+  SettingOf<HexColorField> mColor{txtColor, mLabels(&ILabels::LabelColor, &ILabels::LabelColor)};
 };
 
 }  // namespace orx::pages

@@ -4,7 +4,7 @@ namespace orx::pages {
 
 LegendsPage::LegendsPage(const PageSite& site) : PageBase(site) {
   FillList(cboCorner, {"Top left", "Top right", "Bottom left", "Bottom right"});
-  Watch(mTextSize);
+  mFields.Translate = List().Translate;
   cboLegend.Click = [this] { cboLegend_Click(); };
   txtTitle.LostFocus = [this] { KeepEdits(); };
 }
@@ -25,44 +25,28 @@ bool LegendsPage::IsSupported() const {
 }
 
 void LegendsPage::ReadClient() {
-  ILegends& legends = *QueryKind<ILegends>(Client());
-  std::vector<Values> read;
-  for (std::int32_t i = 0; i < legends.LegendCount(); ++i) {
-    const ILegend& legend = legends.Legend(i);
-    read.push_back({legend.Title(), legend.Visible(), legend.Corner(), legend.Framed(), legend.TextSize()});
+  std::vector<std::unique_ptr<Legend>> read;
+  const std::int32_t count = QueryKind<ILegends>(Client())->LegendCount();
+  for (std::int32_t i = 0; i < count; ++i) {
+    const auto find = [this, i] { return &QueryKind<ILegends>(Client())->Legend(i); };
+    Legend& legend = *read.emplace_back(std::make_unique<Legend>(find));
+    Adopt(legend.List);
+    legend.List.Read();
   }
-  mRead = mEdited = std::move(read);
-}
-
-void LegendsPage::ForgetClient() {
-  mRead.clear();
-  mEdited.clear();
+  mLegends = std::move(read);
 }
 
 void LegendsPage::ShowValues() {
-  if (!mEdited.empty() && std::exchange(mStartsUp, false)) mShown = static_cast<std::size_t>(StartUpIndex());
-  if (mShown >= mEdited.size()) mShown = 0;
+  if (!mLegends.empty() && std::exchange(mStartsUp, false)) mShown = static_cast<std::size_t>(StartUpIndex());
+  if (mShown >= mLegends.size()) mShown = 0;
   cboLegend.Clear();
-  for (std::size_t i = 0; i < mEdited.size(); ++i) cboLegend.AddItem(Entry(i));
-  if (!mEdited.empty()) cboLegend.ListIndex(static_cast<int>(mShown));
-  ShowLegend();
-}
-
-void LegendsPage::ShowLegend() {
-  const Values values = mEdited.empty() ? Values{} : mEdited[mShown];
-  txtTitle.Text(values.Title);
-  chkVisible.Value(CheckedIf(values.Visible));
-  if (mEdited.empty() || !cboCorner.SelectData(static_cast<std::int32_t>(values.Corner))) cboCorner.ListIndex(-1);
-  chkFramed.Value(CheckedIf(values.Framed));
-  if (mEdited.empty()) {
-    mTextSize.Clear();
-  } else {
-    mTextSize.Value(values.TextSize);
-  }
+  for (std::size_t i = 0; i < mLegends.size(); ++i) cboLegend.AddItem(Entry(i));
+  if (!mLegends.empty()) cboLegend.ListIndex(static_cast<int>(mShown));
+  mFields.Read();
 }
 
 std::string LegendsPage::Entry(std::size_t legend) const {
-  return std::to_string(legend + 1) + ": " + mEdited[legend].Title;
+  return std::to_string(legend + 1) + ": " + mLegends[legend]->Title;
 }
 
 void LegendsPage::cboLegend_Click() {
@@ -70,33 +54,18 @@ void LegendsPage::cboLegend_Click() {
   if (!mTextSize.Check()) return WhileBusy([this] { cboLegend.ListIndex(static_cast<int>(mShown)); });
   KeepEdits();
   mShown = static_cast<std::size_t>(cboLegend.ListIndex());
-  WhileBusy([this] { ShowLegend(); });
+  WhileBusy([this] { mFields.Read(); });
 }
 
 void LegendsPage::KeepEdits() {
-  if (mEdited.empty()) return;
-  Values& edited = mEdited[mShown];
-  edited.Title = txtTitle.Text();
-  edited.Visible = chkVisible.IsChecked();
-  edited.Corner = static_cast<LegendCorner>(cboCorner.SelectedData(static_cast<std::int32_t>(edited.Corner)));
-  edited.Framed = chkFramed.IsChecked();
-  edited.TextSize = mTextSize.Value();
+  if (mLegends.empty()) return;
+  mFields.Write();
   cboLegend.List(static_cast<int>(mShown), Entry(mShown));
 }
 
 void LegendsPage::WriteClient() {
   KeepEdits();
-  ILegends& legends = *QueryKind<ILegends>(Client());
-  for (std::size_t i = 0; i < mRead.size(); ++i) {
-    ILegend& legend = legends.Legend(static_cast<std::int32_t>(i));
-    Values& read = mRead[i];
-    const Values& edited = mEdited[i];
-    Write(read.Title, edited.Title, [&](const std::string& title) { legend.Title(title); });
-    Write(read.Visible, edited.Visible, [&](bool visible) { legend.Visible(visible); });
-    Write(read.Corner, edited.Corner, [&](LegendCorner corner) { legend.Corner(corner); });
-    Write(read.Framed, edited.Framed, [&](bool framed) { legend.Framed(framed); });
-    Write(read.TextSize, edited.TextSize, [&](double points) { legend.TextSize(points); });
-  }
+  for (const auto& legend : mLegends) legend->List.Write();
 }
 
 }  // namespace orx::pages

@@ -1,11 +1,15 @@
 // The page for the legends of a map (ILegends): one is chosen from a list and edited below it.
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/NumberField.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IMap.h"
 #include "pages/PageBase.h"
@@ -41,31 +45,51 @@ class LegendsPage final : public PageBase {
 
  protected:
   bool IsSupported() const override;
+  bool CheckTogether() override { return mFields.Check(); }
   void ReadClient() override;
-  void ForgetClient() override;
+  void ForgetClient() override { mLegends.clear(); }
   void ShowValues() override;
   void WriteClient() override;
 
  private:
-  struct Values {
+  /// One legend as it is edited, and its settings with the host.
+  struct Legend {
+    /// `find` gives the host's legend.
+    explicit Legend(std::function<ILegend*()> find) : Host(List, std::move(find)) {}
+
     std::string Title;
     bool Visible = false;
-    LegendCorner Corner = LegendCorner::TopLeft;
+    std::int32_t Corner = 0;
     bool Framed = false;
     double TextSize = 0;
+
+    Settings List{WriteRule::WhenEdited};
+    Part<ILegend> Host;
+    HeldSetting<std::string> HostTitle{Title, Host(&ILegend::Title, &ILegend::Title)};
+    HeldSetting<bool> HostVisible{Visible, Host(&ILegend::Visible, &ILegend::Visible)};
+    HeldSetting<std::int32_t> HostCorner{Corner, Host(&ILegend::Corner, &ILegend::Corner)};
+    HeldSetting<bool> HostFramed{Framed, Host(&ILegend::Framed, &ILegend::Framed)};
+    HeldSetting<double> HostTextSize{TextSize, Host(&ILegend::TextSize, &ILegend::TextSize)};
   };
 
+  Legend* Shown() { return mLegends.empty() ? nullptr : mLegends[mShown].get(); }
   void cboLegend_Click();
   void KeepEdits();
-  void ShowLegend();
   /// The entry of a legend in the list: "2: Elevation".
   std::string Entry(std::size_t legend) const;
 
-  NumberField mTextSize{txtTextSize, {.Minimum = kMinimumSize, .Maximum = kMaximumSize}};
-  std::vector<Values> mRead;
-  std::vector<Values> mEdited;
+  std::vector<std::unique_ptr<Legend>> mLegends;
   std::size_t mShown = 0;
   bool mStartsUp = true;
+
+  // What the fields show is the legend as it is edited; the host hears of it in WriteClient.
+  Settings mFields{WriteRule::Always};
+  Part<Legend> mLegend{mFields, [this] { return Shown(); }};
+  TextSetting mTitle{txtTitle, mLegend(&Legend::Title)};
+  FlagSetting mVisible{chkVisible, mLegend(&Legend::Visible)};
+  ChoiceSetting mCorner{cboCorner, mLegend(&Legend::Corner)};
+  FlagSetting mFramed{chkFramed, mLegend(&Legend::Framed)};
+  CheckedNumberSetting mTextSize{txtTextSize, mLegend(&Legend::TextSize), {kMinimumSize, kMaximumSize}};
 };
 
 }  // namespace orx::pages

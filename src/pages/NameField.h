@@ -5,9 +5,10 @@
 
 namespace orx::pages {
 
-class NameField final : public ValueField<std::string> {
+class NameField : public CheckedField<std::string> {
  public:
-  using ValueField::ValueField;
+  /// As CheckedField.
+  using CheckedField::CheckedField;
 
  protected:
   std::optional<Message> Take(const std::string& text) override;

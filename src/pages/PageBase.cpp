@@ -1,12 +1,19 @@
 #include "pages/PageBase.h"
 
-#include <algorithm>
-
 #include "forms/ComboBox.h"
 
 namespace orx::pages {
 
 PageBase::PageBase(const PageSite& site) : Surface(site.Parent, site.Name, {.Place = site.Place}) {
+  Adopt(mSettings);
+}
+
+void PageBase::Adopt(Settings& list) {
+  list.Translate = [this](const std::string& text) { return Translated(mLanguage, text); };
+  list.Written = [this](Setting& setting) {
+    mIsDirty = mHasWritten = true;
+    WasWritten(setting);
+  };
 }
 
 void PageBase::Client(HostObject* value) {
@@ -54,15 +61,9 @@ void PageBase::ApplyChanges() {
 bool PageBase::WriteChecked() {
   mHasWritten = false;
   if (!mHasRead) return false;
-  const bool areAccepted = std::all_of(mWatched.begin(), mWatched.end(), [](CheckedField* f) { return f->Check(); });
-  if (!areAccepted || !CheckTogether()) return false;
+  if (!mSettings.Check() || !CheckTogether()) return false;
   WriteClient();
   return true;
-}
-
-void PageBase::Watch(CheckedField& field) {
-  field.Translate = [this](const std::string& text) { return Translated(mLanguage, text); };
-  mWatched.push_back(&field);
 }
 
 void PageBase::FillList(ComboBox& box, std::initializer_list<const char*> texts) {

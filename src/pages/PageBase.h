@@ -2,14 +2,13 @@
 // written, and what counts as changed.
 #pragma once
 
-#include <cmath>
 #include <initializer_list>
 #include <string>
 #include <vector>
 
 #include "forms/BusyScope.h"
-#include "forms/CheckedField.h"
 #include "forms/Panel.h"
+#include "forms/SettingOf.h"
 #include "hostobjects/ILanguage.h"
 #include "hostobjects/PropertyPage.h"
 
@@ -19,10 +18,11 @@ class ComboBox;
 
 namespace orx::pages {
 
-/// A page reads its client in RefreshContents only, and keeps what it read. A save first checks all fields that are
-/// still being typed in; when one is refused, nothing at all is written. Then it writes the values that differ from
-/// those read, and no others, so that a page left as it was calls no setter. IsDirty tells whether such a value was
-/// written; edits that wait for a save do not count. What the client throws travels to the caller.
+/// A page declares its settings, which join its list. It reads its client in RefreshContents only, and keeps what it
+/// read. A save first checks all fields that are still being typed in; when one is refused, nothing at all is written.
+/// Then it writes the settings that differ from what was read, and no others, so that a page left as it was calls no
+/// setter. IsDirty tells whether one was written; edits that wait for a save do not count. What the client throws
+/// travels to the caller.
 class PageBase : public PropertyPage {
  public:
   HostObject* Client() const override { return mClient; }
@@ -45,19 +45,32 @@ class PageBase : public PropertyPage {
 
   /// Whether the client has what the page edits.
   virtual bool IsSupported() const = 0;
-  /// Keeps the client's values as those read. Fields are left alone until all could be read.
-  virtual void ReadClient() = 0;
-  /// Forgets the values read: the page shows nothing.
-  virtual void ForgetClient() = 0;
-  /// Shows the values read. The page is busy meanwhile.
-  virtual void ShowValues() = 0;
-  /// Writes the values that differ, each through Write.
-  virtual void WriteClient() = 0;
+  /// Reads the client. Fields are left alone until all could be read.
+  virtual void ReadClient() { mSettings.Fetch(); }
+  /// Forgets what was read: the page shows nothing.
+  virtual void ForgetClient() { mSettings.Forget(); }
+  /// Shows what was read, or that there is nothing. The page is busy meanwhile.
+  virtual void ShowValues() { mSettings.Show(); }
+  /// Writes the settings that differ.
+  virtual void WriteClient() { mSettings.Write(); }
+  /// Runs when a setting was written.
+  virtual void WasWritten(const Setting&) {}
   /// Checks rules across fields. False when an entry was refused.
   virtual bool CheckTogether() { return true; }
   /// Enables the controls that depend on others, after all were enabled.
   virtual void EnableDependent() {}
 
+  /// The settings of the page.
+  Settings& List() { return mSettings; }
+  /// Has a list that the page makes beside it count what it writes, and translate its messages.
+  void Adopt(Settings& list);
+  /// Where settings find what the page edits: an interface of the client.
+  template <class Interface>
+  Part<Interface> OfClient() {
+    return {mSettings, [this] { return QueryKind<Interface>(Client()); }};
+  }
+  /// True while the page shows a client that it has read.
+  bool HasRead() const { return mHasRead; }
   /// True while the page fills its own controls; their handlers do nothing then.
   bool IsBusy() const { return mIsBusy; }
   /// Runs `fill` with the page busy, also when it throws.
@@ -67,31 +80,12 @@ class PageBase : public PropertyPage {
     fill();
   }
 
-  /// Writes one value when it differs from the one read, which it then becomes.
-  template <class Value, class Setter>
-  void Write(Value& read, const Value& now, Setter&& set) {
-    if (IsSame(read, now)) return;
-    set(now);
-    read = now;
-    mIsDirty = true;
-    mHasWritten = true;
-  }
-
-  /// Has a save check the field, and its messages translated.
-  void Watch(CheckedField& field);
   /// Fills a list with texts that the language translates; the entries are numbered from 0.
   void FillList(ComboBox& box, std::initializer_list<const char*> texts);
 
   Form& OwnerForm() { return Surface.OwnerForm(); }
 
  private:
-  template <class Value>
-  static bool IsSame(const Value& a, const Value& b) {
-    return a == b;
-  }
-  /// A host's NaN that nobody edited is no change either.
-  static bool IsSame(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
-
   struct TranslatedList {
     ComboBox* Box;
     std::vector<std::string> Texts;
@@ -107,7 +101,7 @@ class PageBase : public PropertyPage {
   bool mIsBusy = false;
   bool mHasRead = false;
   bool mHasWritten = false;
-  std::vector<CheckedField*> mWatched;
+  Settings mSettings{WriteRule::WhenEdited};
   std::vector<TranslatedList> mLists;
 };
 

@@ -6,9 +6,9 @@
 #include "forms/ComboBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/NumberField.h"
 #include "forms/PictureBox.h"
 #include "forms/TextBox.h"
+#include "hostobjects/IMap.h"
 #include "pages/CharacterField.h"
 #include "pages/NameField.h"
 #include "pages/PageBase.h"
@@ -49,32 +49,23 @@ class PropertiesPage final : public PageBase {
 
  protected:
   bool IsSupported() const override;
-  void ReadClient() override;
-  void ForgetClient() override { mRead = {}; }
   void ShowValues() override;
-  void WriteClient() override;
+  void WasWritten(const Setting& setting) override;
 
  private:
-  /// The properties of the layer that the page edits, and the source for display.
-  struct Values {
-    std::string Name;
-    bool Visible = false;
-    std::string Source;
-    std::string SymbolFont;
-    std::int32_t SymbolCharacter = 0;
-    double SymbolRotation = 0;
-    double SymbolSize = 0;
-  };
-
   void cmdCharacter_Click();
   void Edited();
   void ShowPreview();
 
-  NameField mName{txtName};
-  CharacterField mCharacter{txtCharacter};
-  NumberField mRotation{txtRotation, {.Minimum = -kMaximumRotation, .Maximum = kMaximumRotation}};
-  NumberField mSize{txtSize, {.Minimum = kMinimumSize, .Maximum = kMaximumSize}};
-  std::optional<Values> mRead;
+  Part<ILayer> mLayer = OfClient<ILayer>();
+  SettingOf<NameField> mName{txtName, mLayer(&ILayer::Name, &ILayer::Name)};
+  FlagSetting mVisible{chkVisible, mLayer(&ILayer::Visible, &ILayer::Visible)};
+  TextSetting mSource{txtSource, mLayer(&ILayer::Source)};
+  TextSetting mFont{cboFont, mLayer(&ILayer::SymbolFont, &ILayer::SymbolFont)};
+  SettingOf<CharacterField> mCharacter{txtCharacter, mLayer(&ILayer::SymbolCharacter, &ILayer::SymbolCharacter)};
+  CheckedNumberSetting mRotation{
+      txtRotation, mLayer(&ILayer::SymbolRotation, &ILayer::SymbolRotation), {-kMaximumRotation, kMaximumRotation}};
+  CheckedNumberSetting mSize{txtSize, mLayer(&ILayer::SymbolSize, &ILayer::SymbolSize), {kMinimumSize, kMaximumSize}};
 };
 
 }  // namespace orx::pages

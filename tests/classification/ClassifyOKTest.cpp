@@ -110,6 +110,18 @@ TEST_F(ClassifyTest, ABoxNobodyTouchedStandsForTheNumberOfTheSettings) {
   EXPECT_EQ(4, data.Classes);
 }
 
+TEST_F(ClassifyTest, AStyleThatTheListLacksGivesWayToTheEntryPickedLast) {
+  data.Style = 9;
+  Classify([] {});
+  EXPECT_EQ(Calls{}, data.Writes());
+  Classify([this] {
+    EXPECT_EQ("By Color", Seen(form->cboRangeFormat));
+    user.Choose(form->cboRangeFormat, 1);
+    user.Choose(form->cboRangeFormat, 0);
+  });
+  EXPECT_EQ(legendstyle::kByColor, data.Style);
+}
+
 TEST_F(ClassifyTest, SwitchesAreWritten) {
   Classify([this] {
     user.Toggle(form->chkClassiffyAsMissing);

@@ -1,6 +1,6 @@
 // The contracts of lists that stand open, picture buttons, picture boxes that are used, and the choice of a colour.
 #include "forms/Glyph.h"
-#include "forms/ShownNumber.h"
+#include "forms/NumberField.h"
 #include "tests/forms/MoreForms.h"
 
 namespace orx::test {
@@ -131,8 +131,8 @@ TEST_F(FormsMore, AnErrorWhileColorsAreOpenClosesThemAndTravels) {
   EXPECT_THROW(desktop().ChooseColor(request), std::runtime_error);
 }
 
-TEST_F(FormsMore, AShownNumberIsExactUntilItReadsOtherwise) {
-  ShownNumber number(form->txtNumber);
+TEST_F(FormsMore, ANumberFieldIsExactUntilItReadsOtherwise) {
+  NumberField number(form->txtNumber);
   EXPECT_EQ(std::nullopt, number.Value());
   number.Show(1.0 / 3, "0.33");
   EXPECT_EQ(1.0 / 3, number.Value());

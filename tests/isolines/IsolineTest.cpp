@@ -208,6 +208,18 @@ TEST_F(Isolines, ATextThatIsNoNumberKeepsTheDialogWithWhatWasWrittenBefore) {
   EXPECT_FALSE(lines.HeldLabelVisible);
 }
 
+TEST_F(Isolines, WhatStandsBeforeATextThatIsNoNumberIsWritten) {
+  Edit([this] {
+    script.ExpectColor([this](ColorRequest& request) { user.PickColor(request, {1, 2, 3}); });
+    user.Click(form->pctColor);
+    user.Type(form->txtLineWidth, "thin");
+    user.Choose(form->cmbLineStyle, 4);
+    user.Click(form->cmdOK);
+    EXPECT_EQ(Calls{"Line.Color="}, Writes());
+    Cancel();
+  });
+}
+
 TEST_F(Isolines, EachNumberFieldIsPointedOut) {
   for (int field = 0; field < 4; ++field) {
     Edit([this, field] {

@@ -129,6 +129,29 @@ TEST_F(Shading, ABasicObjectHasDarkeningAloneAndNoExtendedPropertyIsTouched) {
     EXPECT_EQ(0, std::count(shade.Log.Calls.begin(), shade.Log.Calls.end(), extended)) << extended;
 }
 
+TEST_F(Shading, EverySettingIsReadInOrder) {
+  shade.Log.Calls.clear();
+  script.ExpectForm("frmDataShade", [this](Form& shown) {
+    EXPECT_EQ((Calls{"ShadeVersion", "Altitude", "Azimuth", "CombineColors", "MinIntensity", "MidIntensity",
+                     "MaxIntensity", "NrOfShades", "FirstShadeIndex", "AltitudeDefault", "MidIndexAutomatic",
+                     "ScaleAutomatic", "ScaleFactor", "ScaleMultiplier"}),
+              shade.Log.Calls);
+    user.CloseBox(shown);
+  });
+  modMain::ShowShadeDialog(desktop(), &shade, changed, nullptr);
+}
+
+TEST_F(Shading, AFieldWhoseSettingCannotBeReadHasItsDesignedText) {
+  shade.Log.Failing = {"NrOfShades", "MinIntensity", "Altitude"};
+  Edit([this] {
+    EXPECT_EQ("255", Seen(form->txtNrOfShades));
+    EXPECT_EQ("128", Seen(form->txtNrOfShades2));
+    EXPECT_EQ("50", Seen(form->txtIntensityMin));
+    EXPECT_EQ("30", Seen(form->txtAltitude));
+    Cancel();
+  });
+}
+
 TEST_F(Shading, OKUntouchedWritesNothingButTheCount) {
   EXPECT_FALSE(Edit([] {}));
   EXPECT_FALSE(changed);

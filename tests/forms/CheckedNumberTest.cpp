@@ -1,8 +1,8 @@
-// Number fields: what they accept, what they refuse, and that values stay exact.
+// Checked number fields: what they accept, what they refuse, and that values stay exact.
 #include <cstdio>
 
+#include "forms/CheckedNumberField.h"
 #include "forms/FieldTexts.h"
-#include "forms/NumberField.h"
 #include "tests/support/DesktopTest.h"
 
 namespace orx::test {
@@ -13,16 +13,16 @@ struct NumbersForm final : Form {
     Size.Accepted = [this] { ++SizesAccepted; };
     Span.Changed = [this] { ++SpanChanges; };
     cmdOK.Click = [this] { ++Presses; };
-    Span.Values(10, 20);
+    Span.Show(10, 20);
   }
 
   TextBox txtSize{*this, "txtSize", {.Place = {120, 120, 1500, 330}, .AccessibleName = "Size:"}};
   TextBox txtFrom{*this, "txtFrom", {.Place = {120, 540, 1500, 330}, .AccessibleName = "From"}};
   TextBox txtTo{*this, "txtTo", {.Place = {120, 960, 1500, 330}, .AccessibleName = "To"}};
   Button cmdOK{*this, "cmdOK", {.Caption = "&OK", .Place = {120, 1380, 1275, 375}}, ButtonRole::Default};
-  NumberField Size{txtSize, {.Minimum = 1, .Maximum = 144}};
-  NumberField From{txtFrom};
-  NumberField To{txtTo};
+  CheckedNumberField Size{txtSize, {.Minimum = 1, .Maximum = 144}};
+  CheckedNumberField From{txtFrom};
+  CheckedNumberField To{txtTo};
   NumberSpan Span{From, To};
   int SizesAccepted = 0;
   int SpanChanges = 0;
@@ -51,7 +51,7 @@ class FormsNumberField : public DesktopTest {
 using FormsNumberSpan = FormsNumberField;
 
 TEST_F(FormsNumberField, AValueShowsAsItsShortestText) {
-  form->Size.Value(0.1);
+  form->Size.Show(0.1);
   EXPECT_EQ("0.1", form->txtSize.Text());
 }
 
@@ -72,14 +72,14 @@ TEST_F(FormsNumberField, AnAcceptedEntryIsShownInPlainNotation) {
 }
 
 TEST_F(FormsNumberField, TheFocusSelectsAllOfTheText) {
-  form->Size.Value(12.5);
+  form->Size.Show(12.5);
   Show();
   EXPECT_EQ(0, form->txtSize.SelStart());
   EXPECT_EQ(4, form->txtSize.SelLength());
 }
 
 TEST_F(FormsNumberField, LeavingAnUntouchedFieldAcceptsNothing) {
-  form->Size.Value(0.5);
+  form->Size.Show(0.5);
   Show();
   user.Press(*form, kTab);
   EXPECT_EQ(0.5, form->Size.Value());
@@ -87,7 +87,7 @@ TEST_F(FormsNumberField, LeavingAnUntouchedFieldAcceptsNothing) {
 }
 
 TEST_F(FormsNumberField, ATextThatIsNoNumberIsRefusedAndPutBack) {
-  form->Size.Value(12);
+  form->Size.Show(12);
   Show();
   ExpectRefusal("Invalid number", "Size: \"large\" is not a number. Type a number from 1 to 144.");
   TypeAndPress(form->txtSize, "large");
@@ -96,7 +96,7 @@ TEST_F(FormsNumberField, ATextThatIsNoNumberIsRefusedAndPutBack) {
 }
 
 TEST_F(FormsNumberField, ARefusedEntryKeepsTheFocusAndDropsThePress) {
-  form->Size.Value(12);
+  form->Size.Show(12);
   Show();
   ExpectRefusal("Wrong value", "Size: 0.5 is not allowed. Type a number from 1 to 144.");
   TypeAndPress(form->txtSize, "0.5");
@@ -106,7 +106,7 @@ TEST_F(FormsNumberField, ARefusedEntryKeepsTheFocusAndDropsThePress) {
 }
 
 TEST_F(FormsNumberField, EnterChecksTheFieldBeforeItPressesTheDefaultButton) {
-  form->Size.Value(12);
+  form->Size.Show(12);
   Show();
   ExpectRefusal("Wrong value", "Size: 145 is not allowed. Type a number from 1 to 144.");
   user.Type(form->txtSize, "145");
@@ -125,7 +125,7 @@ TEST_F(FormsNumberField, BothEndsOfTheRangeAreAccepted) {
 }
 
 TEST_F(FormsNumberField, AnEmptyEntryIsRefused) {
-  form->Size.Value(12);
+  form->Size.Show(12);
   Show();
   ExpectRefusal("Invalid number", "Size: \"\" is not a number. Type a number from 1 to 144.");
   TypeAndPress(form->txtSize, "");
@@ -153,8 +153,8 @@ TEST_F(FormsNumberField, AFormatThatRoundsLeavesAnUneditedValueExact) {
     std::snprintf(text, sizeof text, "%.2f", value);
     return std::string(text);
   };
-  NumberField rounded(form->txtSize, {.Format = twoPlaces});
-  rounded.Value(1.0 / 3);
+  CheckedNumberField rounded(form->txtSize, {.Format = twoPlaces});
+  rounded.Show(1.0 / 3);
   EXPECT_EQ("0.33", form->txtSize.Text());
   Show();
   user.Press(*form, kTab);
@@ -164,7 +164,7 @@ TEST_F(FormsNumberField, AFormatThatRoundsLeavesAnUneditedValueExact) {
 }
 
 TEST_F(FormsNumberField, AValueOutsideTheRangeStaysUntilItIsEdited) {
-  form->Size.Value(500);
+  form->Size.Show(500);
   Show();
   user.Click(form->cmdOK);
   EXPECT_EQ(1, form->Presses);
@@ -179,7 +179,7 @@ TEST_F(FormsNumberField, CheckTakesAPendingEntryOver) {
 }
 
 TEST_F(FormsNumberField, ClearEmptiesTheBox) {
-  form->Size.Value(7);
+  form->Size.Show(7);
   form->Size.Clear();
   EXPECT_EQ("", form->txtSize.Text());
   EXPECT_TRUE(form->Size.Check());
@@ -187,7 +187,7 @@ TEST_F(FormsNumberField, ClearEmptiesTheBox) {
 
 TEST_F(FormsNumberField, MessagesAreTranslatedBeforeTheValuesArePutIn) {
   form->Size.Translate = [](const std::string& text) { return "<" + text + ">"; };
-  form->Size.Value(12);
+  form->Size.Show(12);
   Show();
   ExpectRefusal("<Wrong value>", "<Size: 0 is not allowed. Type a number from 1 to 144.>");
   TypeAndPress(form->txtSize, "0");
@@ -225,7 +225,7 @@ TEST_F(FormsNumberSpan, EqualEndsAreRefused) {
 }
 
 TEST_F(FormsNumberSpan, APairInWrongOrderFromTheProgramStaysWhileItIsNotEdited) {
-  form->Span.Values(5, 2);
+  form->Span.Show(5, 2);
   Show();
   user.ClickInto(form->txtFrom);
   user.Click(form->cmdOK);

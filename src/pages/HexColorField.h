@@ -7,9 +7,10 @@
 namespace orx::pages {
 
 /// Accepts six hexadecimal digits for red, green and blue, with or without "#" in front.
-class ColorField final : public ValueField<Color> {
+class HexColorField : public CheckedField<Color> {
  public:
-  using ValueField::ValueField;
+  /// As CheckedField.
+  using CheckedField::CheckedField;
 
  protected:
   std::optional<Message> Take(const std::string& text) override;
