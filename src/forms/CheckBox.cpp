@@ -1,6 +1,5 @@
 #include "forms/CheckBox.h"
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -18,10 +17,6 @@ void CheckBox::UserToggle() {
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Value(CheckedIf(mValue == CheckState::Unchecked));
   });
-}
-
-void CheckBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -1,5 +1,6 @@
 #include "forms/CheckedField.h"
 
+#include "forms/CharacterCount.h"
 #include "forms/FieldTexts.h"
 #include "forms/Form.h"
 #include "forms/TextBox.h"

@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -35,10 +34,6 @@ void ComboBox::UserText(const std::string& text) {
     Select(IndexOf(text));
     Change.Raise();
   });
-}
-
-void ComboBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -75,10 +74,6 @@ void ListBox::UserCharacter(char32_t character) {
     const auto textAt = [this](int row) -> const std::string& { return List(row); };
     if (const std::optional<int> row = mTypeAhead.Type(character, {ListCount(), at}, textAt)) ListIndex(*row);
   });
-}
-
-void ListBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "forms/ListControl.h"
-#include "forms/RowWalk.h"
+#include "forms/RowNavigation.h"
 
 namespace orx {
 

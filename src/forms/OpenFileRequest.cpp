@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/TextBox.h"
+#include "forms/CharacterCount.h"
 
 namespace orx {
 namespace {

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 #include "numbers/Numbers.h"
 
@@ -64,10 +63,6 @@ void ProgressBar::Show() {
 void ProgressBar::Placed() {
   mShown = FilledPixels();
   Changed(Aspect::Value);
-}
-
-void ProgressBar::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

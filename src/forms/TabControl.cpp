@@ -1,6 +1,5 @@
 #include "forms/TabControl.h"
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -59,10 +58,6 @@ void TabControl::UserSelect(int tab) {
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Tab(tab);
   });
-}
-
-void TabControl::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -48,7 +48,4 @@ class TextBox final : public Control {
   int mSelLength = 0;
 };
 
-/// The number of characters (code points) in a UTF-8 text.
-int CharacterCount(std::string_view text);
-
 }  // namespace orx

@@ -3,7 +3,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -168,10 +167,6 @@ void TreeList::UserCharacter(char32_t character) {
     SelectPosition(*found);
     KeyDown.Raise(0);
   });
-}
-
-void TreeList::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

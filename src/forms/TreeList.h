@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/Control.h"
-#include "forms/RowWalk.h"
+#include "forms/RowNavigation.h"
 
 namespace orx {
 

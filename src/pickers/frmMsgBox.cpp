@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "forms/CharacterCount.h"
 #include "forms/Desktop.h"
-#include "forms/TextBox.h"
 
 namespace orx {
 namespace {

@@ -6,9 +6,9 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "forms/CharacterCount.h"
 #include "forms/Desktop.h"
 #include "forms/OpenFileRequest.h"
-#include "forms/TextBox.h"
 #include "hostobjects/ErrorTrap.h"
 
 namespace orx::modDialog {

@@ -1,5 +1,6 @@
 #include "service/modMain.h"
 
+#include "forms/CharacterCount.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"

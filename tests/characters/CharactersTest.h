@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "forms/CharacterCount.h"
 #include "pickers/frmTrueType.h"
 #include "service/modMainDialogs.h"
 #include "tests/support/DesktopTest.h"

@@ -1,4 +1,5 @@
 // The classification dialog as its user works with it: what it shows, and how range, step and classes move.
+#include "forms/CharacterCount.h"
 #include "tests/classification/ClassifyTest.h"
 
 namespace orx::test {

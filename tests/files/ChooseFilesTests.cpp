@@ -1,4 +1,5 @@
 // Choosing files in the platform's own dialog.
+#include "forms/CharacterCount.h"
 #include "tests/files/FilesTest.h"
 
 namespace orx::test {

@@ -1,6 +1,7 @@
 // The fixture of the georeference dialog, opened as pages and the service open it.
 #pragma once
 
+#include "forms/CharacterCount.h"
 #include "pickers/frmGeoreference.h"
 #include "service/modMainDialogs.h"
 #include "tests/georeference/GroundMap.h"

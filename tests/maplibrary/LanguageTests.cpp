@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <sstream>
 
-#include "forms/TextBox.h"
+#include "forms/CharacterCount.h"
 #include "hostobjects/RunTimeError.h"
 #include "maplibrary/PseudoLanguage.h"
 #include "maplibrary/TextLanguage.h"

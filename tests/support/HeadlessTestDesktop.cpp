@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "desktops/headless/HeadlessDesktop.h"
+#include "forms/CharacterCount.h"
 #include "tests/support/User.h"
 
 namespace orx::test {

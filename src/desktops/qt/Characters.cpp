@@ -5,7 +5,7 @@
 
 #include "desktops/qt/CanvasPainter.h"
 #include "forms/AnsiCharacters.h"
-#include "forms/TextBox.h"
+#include "forms/CharacterCount.h"
 
 namespace orx::qt {
 namespace {

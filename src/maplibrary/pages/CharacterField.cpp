@@ -3,8 +3,8 @@
 #include <charconv>
 #include <cstdio>
 
+#include "forms/CharacterCount.h"
 #include "forms/FieldTexts.h"
-#include "forms/TextBox.h"
 #include "maplibrary/CharacterText.h"
 #include "maplibrary/Trimmed.h"
 #include "maplibrary/pages/PageTexts.h"

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/CharacterCount.h"
 #include "forms/PictureBox.h"
 #include "maplibrary/pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"

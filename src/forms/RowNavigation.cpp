@@ -1,4 +1,4 @@
-#include "forms/RowWalk.h"
+#include "forms/RowNavigation.h"
 
 #include <algorithm>
 #include <string_view>
