@@ -1,11 +1,11 @@
 #include "forms/Desktop.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "forms/ColorRequest.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
+#include "forms/Pixels.h"
 
 namespace orx {
 namespace {
@@ -25,11 +25,11 @@ std::string DescribeError(const std::exception_ptr& error) {
 Desktop::~Desktop() = default;
 
 int Desktop::ToPixels(int twips) const {
-  return static_cast<int>(std::lround(twips * Scale() / kTwipsPerPixel));
+  return TwipsToPixels(twips, Scale());
 }
 
 int Desktop::ToTwips(int pixels) const {
-  return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale()));
+  return PixelsToTwips(pixels, Scale());
 }
 
 MessageAnswer Desktop::ShowMessage(const Message& message) {

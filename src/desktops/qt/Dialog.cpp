@@ -12,7 +12,7 @@
 
 namespace orx::qt {
 
-Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
+Dialog::Dialog(Form& form) : mForm(form), mContent(*this, form) {
   setObjectName(ToQt(form.Name()));
   // A font of its own, every control would have to take over.
   if (const QFont face = DialogFont(); face != font()) setFont(face);
@@ -92,11 +92,11 @@ void Dialog::keyPressEvent(QKeyEvent* event) {
 
 void Dialog::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
-  if (mRetired || mForm.Border() == BorderStyle::Fixed || size() == mGround.WindowSize()) return;
-  const int width = size().width() - mGround.ExtraWidth();
+  if (mRetired || mForm.Border() == BorderStyle::Fixed || size() == mContent.WindowSize()) return;
+  const int width = size().width() - mContent.ExtraWidth();
   const int height = size().height();
   Report([&] { mForm.UserResize({mForm.OwnerDesktop().ToTwips(width), mForm.OwnerDesktop().ToTwips(height)}); });
-  if (!mRetired) mGround.Arrange();
+  if (!mRetired) mContent.Arrange();
 }
 
 void Dialog::moveEvent(QMoveEvent* event) {

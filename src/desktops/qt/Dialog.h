@@ -8,7 +8,7 @@
 #include <functional>
 #include <optional>
 
-#include "desktops/qt/Surface.h"
+#include "desktops/qt/ContentPane.h"
 
 namespace orx::qt {
 
@@ -17,7 +17,7 @@ class Dialog final : public QDialog {
   explicit Dialog(Form& form);
 
   Form& Owner() const { return mForm; }
-  Surface& Ground() { return mGround; }
+  ContentPane& Content() { return mContent; }
 
   /// Runs `act`, which reports to the form. Does nothing while the program itself moves the widgets, nor when the form
   /// is not shown. `act` and its surroundings may be gone when this returns.
@@ -63,7 +63,7 @@ class Dialog final : public QDialog {
 
  private:
   Form& mForm;
-  Surface mGround;
+  ContentPane mContent;
   int mQuiet = 0;
   int mActs = 0;
   bool mRetired = false;

@@ -29,7 +29,7 @@ DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)),
   MakePeers(form, nullptr);
   // A label looks for the peer of its neighbour, so all are there before the first one shows anything.
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
-  mDialog->Ground().Complete();
+  mDialog->Content().Complete();
   OrderTabs();
   UpdateCaption();
 }
@@ -41,10 +41,9 @@ DialogWindow::~DialogWindow() {
 void DialogWindow::MakePeers(const Container& container, QWidget* parent) {
   for (Control* const control : container.Children()) {
     std::unique_ptr<Peer>& peer =
-        mPeers.emplace_back(mMaker.Make(*control, parent ? *parent : mDialog->Ground().HomeOf(*control)));
+        mPeers.emplace_back(mMaker.Make(*control, parent ? *parent : mDialog->Content().HomeOf(*control)));
     control->Peer(peer.get());
     QWidget& widget = peer->Widget();
-    if (!parent) mDialog->Ground().Add(*control, widget);
     if (const Container* const inner = control->AsContainer()) MakePeers(*inner, &widget);
   }
 }
@@ -116,7 +115,7 @@ void DialogWindow::UpdateCaption() {
 void DialogWindow::UpdatePlace() {
   const Dialog::Quiet quiet(*mDialog);
   const Desktop& desktop = mForm.OwnerDesktop();
-  const QSize size = mDialog->Ground().WindowSize();
+  const QSize size = mDialog->Content().WindowSize();
   if (mForm.Border() == BorderStyle::Fixed) {
     mDialog->setFixedSize(size);
   } else {
@@ -124,7 +123,7 @@ void DialogWindow::UpdatePlace() {
     mDialog->resize(size);
   }
   mDialog->move(desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()));
-  mDialog->Ground().Arrange();
+  mDialog->Content().Arrange();
 }
 
 void DialogWindow::UpdateEnabled() {

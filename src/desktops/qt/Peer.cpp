@@ -39,7 +39,7 @@ void Peer::UpdateAll() {
 void Peer::TakeFocus() {
   const Dialog::Quiet quiet(mDialog);
   mFocus->setFocus(ReasonToFocus());
-  mDialog.Ground().Reveal(*mWidget);
+  mDialog.Content().Reveal(*mWidget);
 }
 
 void Peer::Mirror(Aspect aspect) {
@@ -48,7 +48,7 @@ void Peer::Mirror(Aspect aspect) {
       return MirrorPlace();
     case Aspect::Visible:
       ShowIf(mControl.Visible());
-      return ArrangeGround();
+      return ArrangeContent();
     case Aspect::Enabled:
       return mWidget->setEnabled(mControl.Enabled());
     case Aspect::ToolTip:
@@ -79,12 +79,12 @@ void Peer::MirrorName() {
 }
 
 void Peer::MirrorPlace() {
-  mWidget->setGeometry(mDialog.Ground().PlaceOf(mControl));
-  ArrangeGround();
+  ArrangeContent();
+  mWidget->setGeometry(mDialog.Content().PlaceOf(mControl));
 }
 
-void Peer::ArrangeGround() {
-  if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+void Peer::ArrangeContent() {
+  if (!mControl.Parent().ContainerControl()) mDialog.Content().Arrange();
 }
 
 void Peer::FocusCame(QObject& watched, QEvent& event) {
@@ -96,7 +96,7 @@ void Peer::FocusCame(QObject& watched, QEvent& event) {
   // A control that was clicked while the window was not yet the active one gets the focus along with the window.
   if (IsOutsideTheForm(reason) && control.HasFocus()) return;
   dialog.Report([&] {
-    dialog.Ground().Reveal(widget);
+    dialog.Content().Reveal(widget);
     dialog.Owner().UserFocus(control);
   });
 }

@@ -39,8 +39,8 @@ class Peer : public QObject, public ControlPeer {
   void MirrorName();
   void MirrorToolTip();
   void MirrorPlace();
-  /// Lets the ground of the form follow a control that stands on it.
-  void ArrangeGround();
+  /// Lets the content pane follow a control that stands directly in it.
+  void ArrangeContent();
   /// Lets the widget have the event, then tells the form that the focus has come.
   void FocusCame(QObject& watched, QEvent& event);
 

@@ -81,7 +81,7 @@ class ComboBoxPeer final : public Peer {
   }
 
   void MirrorPlace() {
-    const RECT place = Owner().Ground().PlaceOf(mControl);
+    const RECT place = Owner().Content().PlaceOf(mControl);
     // The height that the platform wants to hear includes that of the open list.
     const int closed = place.bottom - place.top;
     const auto frame = 2 * GetSystemMetrics(SM_CYEDGE) + 2;

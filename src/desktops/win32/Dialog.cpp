@@ -20,17 +20,17 @@ constexpr UINT_PTR kUpdateTimer = 1;
 
 }  // namespace
 
-Dialog* Dialog::Around(HWND window) {
+Dialog* Dialog::Containing(HWND window) {
   const HWND root = window ? GetAncestor(window, GA_ROOT) : nullptr;
   if (!root || reinterpret_cast<WNDPROC>(GetClassLongPtrW(root, GCLP_WNDPROC)) != &Dialog::WindowProc) return nullptr;
   return reinterpret_cast<Dialog*>(GetWindowLongPtrW(root, GWLP_USERDATA));
 }
 
-Dialog::Dialog(Form& form) : mForm(form), mFont(MakeDialogFont()), mGround(form) {
+Dialog::Dialog(Form& form) : mForm(form), mFont(MakeDialogFont()), mContent(form) {
   mWindow = CreateWindowExW(Style() & WS_THICKFRAME ? WS_EX_CONTROLPARENT : WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME,
                             WindowClasses::kDialog, L"", Style(), 0, 0, 0, 0, nullptr, nullptr, ThisModule(), nullptr);
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  mGround.Open(mWindow);
+  mContent.Open(mWindow);
 }
 
 Dialog::~Dialog() {
@@ -43,7 +43,7 @@ Dialog::~Dialog() {
 
 BOOL CALLBACK Dialog::ReleaseFrom(HWND window, LPARAM owner) {
   const auto gone = reinterpret_cast<HWND>(owner);
-  if (GetWindow(window, GW_OWNER) == gone && Around(window))
+  if (GetWindow(window, GW_OWNER) == gone && Containing(window))
     SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(GetWindow(gone, GW_OWNER)));
   return TRUE;
 }
@@ -116,12 +116,12 @@ void Dialog::UpdateCaption() {
 void Dialog::UpdatePlace() {
   const Quiet quiet(*this);
   const Desktop& desktop = mForm.OwnerDesktop();
-  const SIZE client = mGround.WindowSize();
+  const SIZE client = mContent.WindowSize();
   RECT frame = {0, 0, client.cx, client.cy};
   AdjustWindowRectEx(&frame, Style(), FALSE, static_cast<DWORD>(GetWindowLongPtrW(mWindow, GWL_EXSTYLE)));
   SetWindowPos(mWindow, nullptr, desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()),
                frame.right - frame.left, frame.bottom - frame.top, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOOWNERZORDER);
-  mGround.Arrange();
+  mContent.Arrange();
 }
 
 void Dialog::Show(ShowMode mode, HWND owner) {
@@ -171,7 +171,7 @@ void Dialog::ToolTip(HWND tool, const std::string& text) {
 void Dialog::Retire() {
   Hide();
   mRetired = true;
-  mGround.Abandon();
+  mContent.Abandon();
   if (mDepth == 0) delete this;
 }
 
@@ -179,13 +179,13 @@ void Dialog::Sized() {
   if (IsIconic(mWindow) || mForm.Border() == BorderStyle::Fixed) return;
   RECT client;
   GetClientRect(mWindow, &client);
-  const SIZE known = mGround.WindowSize();
+  const SIZE known = mContent.WindowSize();
   if (client.right == known.cx && client.bottom == known.cy) return;
   const Desktop& desktop = mForm.OwnerDesktop();
-  const Size size{desktop.ToTwips(static_cast<int>(client.right) - mGround.ExtraWidth()),
+  const Size size{desktop.ToTwips(static_cast<int>(client.right) - mContent.ExtraWidth()),
                   desktop.ToTwips(static_cast<int>(client.bottom))};
   Report([&] { mForm.UserResize(size); });
-  if (!mRetired) mGround.Arrange();
+  if (!mRetired) mContent.Arrange();
 }
 
 void Dialog::Moved() {
@@ -230,7 +230,7 @@ LRESULT Dialog::HitTest(WPARAM wParam, LPARAM lParam) const {
 
 void Dialog::LimitSize(MINMAXINFO& limits) const {
   if (mForm.Border() != BorderStyle::SizableHeight) return;
-  RECT frame = {0, 0, mGround.WindowSize().cx, 0};
+  RECT frame = {0, 0, mContent.WindowSize().cx, 0};
   AdjustWindowRectEx(&frame, Style(), FALSE, static_cast<DWORD>(GetWindowLongPtrW(mWindow, GWL_EXSTYLE)));
   limits.ptMinTrackSize.x = limits.ptMaxTrackSize.x = frame.right - frame.left;
 }
@@ -294,7 +294,7 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (ShowPointer()) return TRUE;
       break;
     case WM_MOUSEWHEEL:
-      mGround.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      mContent.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_TIMER:
       KillTimer(mWindow, kUpdateTimer);

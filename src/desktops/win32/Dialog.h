@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "desktops/win32/Barrier.h"
-#include "desktops/win32/Ground.h"
+#include "desktops/win32/ContentPane.h"
 #include "desktops/win32/Handles.h"
 #include "desktops/win32/Keys.h"
 #include "desktops/win32/WindowClasses.h"
@@ -26,11 +26,11 @@ class Dialog {
   Dialog& operator=(const Dialog&) = delete;
 
   /// The dialog that a window belongs to, null for windows of others.
-  static Dialog* Around(HWND window);
+  static Dialog* Containing(HWND window);
 
   HWND Window() const { return mWindow; }
   Form& Owner() const { return mForm; }
-  win32::Ground& Ground() { return mGround; }
+  ContentPane& Content() { return mContent; }
   HFONT Face() const { return mFont.get(); }
   /// True when the form has let the window go: it may not be touched any more.
   bool IsRetired() const { return mRetired; }
@@ -45,7 +45,7 @@ class Dialog {
   /// Gives the focus to the control that has it in the form, when the window is the active one.
   void FocusActive();
 
-  /// Puts the window at the form's place; sizes are those of the ground.
+  /// Puts the window at the form's place; sizes are those of the content pane.
   void UpdatePlace();
   void UpdateCaption();
   /// Modal windows put all other windows of the thread out of reach until they are hidden.
@@ -112,7 +112,7 @@ class Dialog {
   Form& mForm;
   GdiObject<HFONT> mFont;
   HWND mWindow = nullptr;
-  win32::Ground mGround;
+  ContentPane mContent;
   HWND mToolTips = nullptr;
   HWND mActiveBefore = nullptr;
   HWND mLastFocus = nullptr;

@@ -16,7 +16,7 @@ DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)),
   const Dialog::Quiet quiet(*mDialog);
   MakePeers(form, nullptr);
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
-  mDialog->Ground().Complete();
+  mDialog->Content().Complete();
   UpdateCaption();
 }
 
@@ -33,10 +33,9 @@ int DialogWindow::IdOf(const Control& control) {
 
 void DialogWindow::MakePeers(const Container& container, HWND parent) {
   for (Control* const control : container.Children()) {
-    const HWND home = parent ? parent : mDialog->Ground().HomeOf(*control);
+    const HWND home = parent ? parent : mDialog->Content().HomeOf(*control);
     Peer* const peer = mPeers.emplace_back(mMaker.Make(*control, {home, IdOf(*control)})).get();
     control->Peer(peer);
-    if (!parent) mDialog->Ground().Add(*control, peer->Window());
     if (const Container* const inner = control->AsContainer()) MakePeers(*inner, peer->Window());
   }
 }

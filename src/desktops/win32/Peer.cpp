@@ -69,7 +69,7 @@ LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEWHEEL:
       // A turn of the wheel over a control that the user is not in scrolls the form and changes no value.
       if (mControl.HasFocus()) break;
-      mDialog.Ground().Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      mDialog.Content().Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     default:
       break;
@@ -88,7 +88,7 @@ bool Peer::FocusIsGranted() {
 void Peer::FocusCame() {
   Control& control = mControl;
   Report([&] {
-    mDialog.Ground().Reveal(mWindow);
+    mDialog.Content().Reveal(mWindow);
     control.OwnerForm().UserFocus(control);
   });
 }
@@ -122,11 +122,11 @@ void Peer::TakeFocus() {
   const Dialog::Quiet quiet(mDialog);
   // A window that is not the active one takes the focus when it becomes that.
   if (GetActiveWindow() == mDialog.Window()) FocusNative();
-  mDialog.Ground().Reveal(mWindow);
+  mDialog.Content().Reveal(mWindow);
 }
 
 SIZE Peer::PixelSize() const {
-  const RECT place = mDialog.Ground().PlaceOf(mControl);
+  const RECT place = mDialog.Content().PlaceOf(mControl);
   return {place.right - place.left, place.bottom - place.top};
 }
 
@@ -143,8 +143,7 @@ void Peer::Mirror(Aspect aspect) {
       return MirrorPlace();
     case Aspect::Visible:
       ShowWindow(mWindow, mControl.Visible() ? SW_SHOWNA : SW_HIDE);
-      if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
-      return;
+      return ArrangeContent();
     case Aspect::Enabled:
       return MirrorEnabled();
     case Aspect::ToolTip:
@@ -174,10 +173,14 @@ void Peer::MirrorName() {
 }
 
 void Peer::MirrorPlace() {
-  const RECT place = mDialog.Ground().PlaceOf(mControl);
+  ArrangeContent();
+  const RECT place = mDialog.Content().PlaceOf(mControl);
   SetWindowPos(mWindow, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                SWP_NOACTIVATE | SWP_NOZORDER);
-  if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+}
+
+void Peer::ArrangeContent() {
+  if (!mControl.Parent().ContainerControl()) mDialog.Content().Arrange();
 }
 
 }  // namespace orx::win32

@@ -72,6 +72,8 @@ class Peer : public ControlPeer {
                                        DWORD_PTR peer);
   void FocusCame();
   void MirrorPlace();
+  /// Lets the content pane follow a control that stands directly in it.
+  void ArrangeContent();
   void MirrorEnabled();
   void MirrorName();
   void KeepFocus() const;
