@@ -8,6 +8,14 @@
 
 namespace orx {
 
+void ControlPeer::UpdateAll() {
+  // A list needs its entries before it can show which of them is selected.
+  for (const Aspect aspect :
+       {Aspect::Items, Aspect::Text, Aspect::Value, Aspect::Selection, Aspect::Colors, Aspect::Place, Aspect::Enabled,
+        Aspect::Visible, Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible})
+    Update(aspect);
+}
+
 std::string WithoutMnemonic(std::string_view caption) {
   std::string text;
   for (std::size_t i = 0; i < caption.size(); ++i) {

@@ -27,6 +27,8 @@ class ControlPeer {
   virtual ~ControlPeer() = default;
   /// Brings one aspect of the native control up to the state of the control.
   virtual void Update(Aspect aspect) = 0;
+  /// Brings all aspects up to the state of the control.
+  void UpdateAll();
   /// Gives the native control the keyboard focus, without reporting back.
   virtual void TakeFocus() = 0;
 };

@@ -54,25 +54,32 @@ void ListBox::UserDoubleClick(int row) {
   });
 }
 
+void ListBox::UserPress(const RowPress& press) {
+  press.IsSecond ? UserDoubleClick(press.Position) : UserClick(press.Position);
+}
+
 void ListBox::UserSelect(int row, bool value) {
+  // Where one entry can be selected at most, selecting another one is what ends its selection.
+  if (!value && !MultiSelect()) return;
   UserActOn(row, [&] { Selected(row, value); });
 }
 
 void ListBox::UserKeyDown(int keyCode) {
   OwnerForm().UserAct([&] {
-    if (const std::optional<int> row = PositionAfterKey(keyCode, {ListCount(), FocusRow()}, mPageRows)) ListIndex(*row);
+    if (const std::optional<int> row = PositionAfterKey(keyCode, {ListCount(), FocusPosition()}, PageRows()))
+      ListIndex(*row);
   });
 }
 
 void ListBox::UserCharacter(char32_t character) {
   OwnerForm().UserAct([&] {
-    const int at = FocusRow();
-    if (character == U' ' && (MultiSelect() || !mTypeAhead.IsTyping())) {
+    const int at = FocusPosition();
+    if (character == U' ' && (MultiSelect() || !Typed().IsTyping())) {
       if (IsRow(at)) Selected(at, !MultiSelect() || !Selected(at));
       return;
     }
     const auto textAt = [this](int row) -> const std::string& { return List(row); };
-    if (const std::optional<int> row = mTypeAhead.Type(character, {ListCount(), at}, textAt)) ListIndex(*row);
+    if (const std::optional<int> row = Typed().Type(character, {ListCount(), at}, textAt)) ListIndex(*row);
   });
 }
 

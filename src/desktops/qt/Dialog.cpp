@@ -12,7 +12,7 @@
 
 namespace orx::qt {
 
-Dialog::Dialog(Form& form) : mForm(form), mContent(*this, form) {
+Dialog::Dialog(Form& form) : FormGate(form), mContent(*this, form) {
   setObjectName(ToQt(form.Name()));
   // A font of its own, every control would have to take over.
   if (const QFont face = DialogFont(); face != font()) setFont(face);
@@ -24,25 +24,15 @@ Dialog::Dialog(Form& form) : mForm(form), mContent(*this, form) {
   setMouseTracking(true);
   mUpdateTimer.setSingleShot(true);
   connect(&mUpdateTimer, &QTimer::timeout, this, [this] {
-    if (!mRetired) mForm.ShowUpdates();
+    if (!IsRetired()) Owner().ShowUpdates();
   });
-}
-
-void Dialog::Report(const std::function<void()>& act) {
-  if (mRetired || mQuiet > 0 || !mForm.Visible() || !mForm.Enabled()) return;
-  ++mActs;
-  {
-    const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
-    act();
-  }
-  if (--mActs == 0 && mRetired) deleteLater();
 }
 
 bool Dialog::ReportKey(const QKeyEvent& event) {
   const std::optional<KeyStroke> stroke = StrokeOf(event);
   if (!stroke) return false;
   bool handled = false;
-  Report([&] { handled = mForm.UserKey(*stroke); });
+  Report([&] { handled = Owner().UserKey(*stroke); });
   // A letter with Alt is a command, though none may answer to it; Qt would type the letter.
   return handled || stroke->Key == Key::Character;
 }
@@ -73,14 +63,14 @@ bool Dialog::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Dialog::Retire() {
-  mRetired = true;
+  const Busy busy(*this);
+  CutOff();
   hide();
-  if (mActs == 0) deleteLater();
 }
 
 void Dialog::closeEvent(QCloseEvent* event) {
   event->ignore();
-  Report([this] { mForm.UserClose(); });
+  Report([this] { Owner().UserClose(); });
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
@@ -92,24 +82,24 @@ void Dialog::keyPressEvent(QKeyEvent* event) {
 
 void Dialog::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
-  if (mRetired || mForm.Border() == BorderStyle::Fixed || size() == mContent.WindowSize()) return;
+  if (IsRetired() || Owner().Border() == BorderStyle::Fixed || size() == mContent.WindowSize()) return;
   const int width = size().width() - mContent.ExtraWidth();
   const int height = size().height();
-  Report([&] { mForm.UserResize({mForm.OwnerDesktop().ToTwips(width), mForm.OwnerDesktop().ToTwips(height)}); });
-  if (!mRetired) mContent.Arrange();
+  Report([&] { Owner().UserResize({Owner().OwnerDesktop().ToTwips(width), Owner().OwnerDesktop().ToTwips(height)}); });
+  if (!IsRetired()) mContent.Arrange();
 }
 
 void Dialog::moveEvent(QMoveEvent* event) {
   QDialog::moveEvent(event);
-  if (mRetired) return;
-  const Desktop& desktop = mForm.OwnerDesktop();
-  if (x() == desktop.ToPixels(mForm.Left()) && y() == desktop.ToPixels(mForm.Top())) return;
-  Report([&] { mForm.UserMove(desktop.ToTwips(x()), desktop.ToTwips(y())); });
+  if (IsRetired()) return;
+  const Desktop& desktop = Owner().OwnerDesktop();
+  if (x() == desktop.ToPixels(Owner().Left()) && y() == desktop.ToPixels(Owner().Top())) return;
+  Report([&] { Owner().UserMove(desktop.ToTwips(x()), desktop.ToTwips(y())); });
 }
 
 void Dialog::ReportMouse() {
   const QPoint at = mapFromGlobal(QCursor::pos());
-  Report([&] { mForm.UserMouseMove({at.x(), at.y()}); });
+  Report([&] { Owner().UserMouseMove({at.x(), at.y()}); });
 }
 
 void Dialog::DragBottomEdge() {
@@ -120,7 +110,7 @@ void Dialog::DragBottomEdge() {
 void Dialog::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   mPressedAt = event->position().toPoint();
-  Report([this] { mForm.UserMouseDown({mPressedAt.x(), mPressedAt.y()}); });
+  Report([this] { Owner().UserMouseDown({mPressedAt.x(), mPressedAt.y()}); });
 }
 
 void Dialog::mouseMoveEvent(QMouseEvent* event) {
@@ -128,7 +118,7 @@ void Dialog::mouseMoveEvent(QMouseEvent* event) {
   if (mDragged) {
     resize(width(), std::max(1, at.y() + *mDragged));
   } else {
-    Report([&] { mForm.UserMouseMove({at.x(), at.y()}); });
+    Report([&] { Owner().UserMouseMove({at.x(), at.y()}); });
   }
 }
 
@@ -138,7 +128,7 @@ void Dialog::mouseReleaseEvent(QMouseEvent*) {
 
 void Dialog::leaveEvent(QEvent* event) {
   QDialog::leaveEvent(event);
-  Report([this] { mForm.UserMouseMove({-1, -1}); });
+  Report([this] { Owner().UserMouseMove({-1, -1}); });
 }
 
 }  // namespace orx::qt

@@ -6,6 +6,7 @@
 
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
+#include "forms/PeerMaker.h"
 
 namespace orx::qt {
 namespace {
@@ -25,7 +26,7 @@ QWindow* NamedWindow(const OwnerWindow& owner) {
 
 }  // namespace
 
-DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mMaker(*mDialog) {
+DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)) {
   MakePeers(form, nullptr);
   // A label looks for the peer of its neighbour, so all are there before the first one shows anything.
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
@@ -40,11 +41,10 @@ DialogWindow::~DialogWindow() {
 
 void DialogWindow::MakePeers(const Container& container, QWidget* parent) {
   for (Control* const control : container.Children()) {
-    std::unique_ptr<Peer>& peer =
-        mPeers.emplace_back(mMaker.Make(*control, parent ? *parent : mDialog->Content().HomeOf(*control)));
-    control->Peer(peer.get());
-    QWidget& widget = peer->Widget();
-    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, &widget);
+    QWidget& home = parent ? *parent : mDialog->Content().HomeOf(*control);
+    Peer& peer = *mPeers.emplace_back(PeerMaker<Peer, Dialog, QWidget>(*mDialog, home).Make(*control));
+    control->Peer(&peer);
+    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, &peer.Widget());
   }
 }
 

@@ -9,10 +9,6 @@
 namespace orx::qt {
 namespace {
 
-constexpr Aspect kAspects[] = {Aspect::Items,   Aspect::Text,    Aspect::Value,     Aspect::Selection,
-                               Aspect::Colors,  Aspect::Place,   Aspect::Enabled,   Aspect::Visible,
-                               Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible};
-
 /// True when the whole window or a popup got or lost the focus, so that nothing changes within the form.
 bool IsOutsideTheForm(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
@@ -30,10 +26,6 @@ Peer::Peer(Control& control, Dialog& dialog, QWidget* widget, QWidget* focus)
 void Peer::Update(Aspect aspect) {
   const Dialog::Quiet quiet(mDialog);
   Mirror(aspect);
-}
-
-void Peer::UpdateAll() {
-  for (const Aspect aspect : kAspects) Update(aspect);
 }
 
 void Peer::TakeFocus() {

@@ -18,8 +18,6 @@ class Peer : public QObject, public ControlPeer {
 
   void Update(Aspect aspect) final;
   void TakeFocus() final;
-  /// Brings all aspects up to the state of the control.
-  void UpdateAll();
 
   QWidget& Widget() const { return *mWidget; }
   QWidget& FocusWidget() const { return *mFocus; }

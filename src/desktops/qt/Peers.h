@@ -24,40 +24,4 @@ std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, QWidget& par
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, QWidget& parent);
 
-/// Makes the peer of a control of any kind.
-class PeerMaker final : public ControlVisitor {
- public:
-  explicit PeerMaker(Dialog& dialog) : mDialog(dialog) {}
-
-  std::unique_ptr<Peer> Make(Control& control, QWidget& parent) {
-    mParent = &parent;
-    control.Accept(*this);
-    return std::move(mMade);
-  }
-
-  void Visit(Button& control) override { Take(control); }
-  void Visit(CheckBox& control) override { Take(control); }
-  void Visit(ComboBox& control) override { Take(control); }
-  void Visit(Frame& control) override { Take(control); }
-  void Visit(Label& control) override { Take(control); }
-  void Visit(ListBox& control) override { Take(control); }
-  void Visit(NativeArea& control) override { Take(control); }
-  void Visit(Panel& control) override { Take(control); }
-  void Visit(PictureBox& control) override { Take(control); }
-  void Visit(ProgressBar& control) override { Take(control); }
-  void Visit(TabControl& control) override { Take(control); }
-  void Visit(TextBox& control) override { Take(control); }
-  void Visit(TreeList& control) override { Take(control); }
-
- private:
-  template <class Kind>
-  void Take(Kind& control) {
-    mMade = MakePeer(control, mDialog, *mParent);
-  }
-
-  Dialog& mDialog;
-  QWidget* mParent = nullptr;
-  std::unique_ptr<Peer> mMade;
-};
-
 }  // namespace orx::qt

@@ -13,7 +13,6 @@
 #include <QStyle>
 #include <QUrl>
 #include <algorithm>
-#include <optional>
 
 #include "desktops/qt/Application.h"
 #include "desktops/qt/Characters.h"
@@ -76,8 +75,6 @@ Rect InTwips(const Desktop& desktop, const QRect& place) {
 
 struct QtDesktop::State {
   FileSettings Settings;
-  std::optional<numbers::Separators> Separators;
-  std::optional<Rect> WorkArea;
   bool PointerIsOurs = false;
   /// The scale, and what it was worked out from: measuring a font takes longer than all else in placing a control.
   double Scale = 1;
@@ -95,22 +92,20 @@ QtDesktop::~QtDesktop() {
   DeleteRetiredDialogs();
 }
 
-ScreenMetrics QtDesktop::Metrics(BorderStyle) const {
+ScreenMetrics QtDesktop::SystemMetrics(BorderStyle) const {
   ScreenMetrics metrics;
   if (const QScreen* const screen = QGuiApplication::primaryScreen()) {
     const Rect whole = InTwips(*this, screen->geometry());
     metrics.Screen = {whole.Width, whole.Height};
     metrics.WorkArea = InTwips(*this, screen->availableGeometry());
   }
-  if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
   const QSize frame = FrameSize();
   metrics.Frame = {ToTwips(frame.width()), ToTwips(frame.height())};
   return metrics;
 }
 
-std::vector<Rect> QtDesktop::WorkAreas() const {
-  std::vector<Rect> areas = Desktop::WorkAreas();
-  if (mState->WorkArea) return areas;
+std::vector<Rect> QtDesktop::FurtherWorkAreas() const {
+  std::vector<Rect> areas;
   for (const QScreen* const screen : QGuiApplication::screens())
     if (screen != QGuiApplication::primaryScreen()) areas.push_back(InTwips(*this, screen->availableGeometry()));
   return areas;
@@ -144,18 +139,9 @@ Size QtDesktop::MeasureCharacter(const Font& face, int code) const {
   return CharacterFont(face, DialogFont()).Measure(code);
 }
 
-numbers::Separators QtDesktop::Separators() const {
-  if (mState->Separators) return *mState->Separators;
+numbers::Separators QtDesktop::LocaleSeparators() const {
   const QLocale locale = QLocale::system();
   return {FromQt(locale.decimalPoint()), FromQt(locale.groupSeparator()), FromQt(locale.currencySymbol())};
-}
-
-void QtDesktop::Separators(const numbers::Separators& value) {
-  mState->Separators = value;
-}
-
-void QtDesktop::WorkArea(const Rect& value) {
-  mState->WorkArea = value;
 }
 
 SettingsStore& QtDesktop::Settings() {

@@ -3,6 +3,7 @@
 #include "desktops/win32/GuestScope.h"
 #include "forms/Button.h"
 #include "forms/Form.h"
+#include "forms/PeerMaker.h"
 
 namespace orx::win32 {
 namespace {
@@ -12,7 +13,7 @@ constexpr int kFirstId = 100;
 
 }  // namespace
 
-DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mMaker(*mDialog), mNextId(kFirstId) {
+DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mNextId(kFirstId) {
   const Dialog::Quiet quiet(*mDialog);
   MakePeers(form, nullptr);
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
@@ -33,10 +34,10 @@ int DialogWindow::IdOf(const Control& control) {
 
 void DialogWindow::MakePeers(const Container& container, HWND parent) {
   for (Control* const control : container.Children()) {
-    const HWND home = parent ? parent : mDialog->Content().HomeOf(*control);
-    Peer* const peer = mPeers.emplace_back(mMaker.Make(*control, {home, IdOf(*control)})).get();
-    control->Peer(peer);
-    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, peer->Window());
+    const WindowSite site{parent ? parent : mDialog->Content().HomeOf(*control), IdOf(*control)};
+    Peer& peer = *mPeers.emplace_back(PeerMaker<Peer, Dialog, const WindowSite>(*mDialog, site).Make(*control));
+    control->Peer(&peer);
+    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, peer.Window());
   }
 }
 

@@ -9,10 +9,6 @@
 namespace orx::win32 {
 namespace {
 
-constexpr Aspect kAspects[] = {Aspect::Items,   Aspect::Text,    Aspect::Value,     Aspect::Selection,
-                               Aspect::Colors,  Aspect::Place,   Aspect::Enabled,   Aspect::Visible,
-                               Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible};
-
 /// The window property that holds a control's name: an atom of the global table, which other programs can read.
 constexpr wchar_t kNameProperty[] = L"ControlName";
 
@@ -112,10 +108,6 @@ void Peer::RestoreFocus(HWND last) {
   } else {
     FocusNative();
   }
-}
-
-void Peer::UpdateAll() {
-  for (const Aspect aspect : kAspects) Update(aspect);
 }
 
 void Peer::TakeFocus() {

@@ -24,8 +24,6 @@ class Peer : public ControlPeer {
 
   void Update(Aspect aspect) final;
   void TakeFocus() final;
-  /// Brings all aspects up to the state of the control.
-  void UpdateAll();
 
   /// The peer whose window that is or that it stands in, null when there is none.
   static Peer* Holding(HWND window);

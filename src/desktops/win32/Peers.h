@@ -35,40 +35,4 @@ std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, const Window
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, const WindowSite& site);
 
-/// Makes the peer of a control of any kind.
-class PeerMaker final : public ControlVisitor {
- public:
-  explicit PeerMaker(Dialog& dialog) : mDialog(dialog) {}
-
-  std::unique_ptr<Peer> Make(Control& control, const WindowSite& site) {
-    mSite = site;
-    control.Accept(*this);
-    return std::move(mMade);
-  }
-
-  void Visit(Button& control) override { Take(control); }
-  void Visit(CheckBox& control) override { Take(control); }
-  void Visit(ComboBox& control) override { Take(control); }
-  void Visit(Frame& control) override { Take(control); }
-  void Visit(Label& control) override { Take(control); }
-  void Visit(ListBox& control) override { Take(control); }
-  void Visit(NativeArea& control) override { Take(control); }
-  void Visit(Panel& control) override { Take(control); }
-  void Visit(PictureBox& control) override { Take(control); }
-  void Visit(ProgressBar& control) override { Take(control); }
-  void Visit(TabControl& control) override { Take(control); }
-  void Visit(TextBox& control) override { Take(control); }
-  void Visit(TreeList& control) override { Take(control); }
-
- private:
-  template <class Kind>
-  void Take(Kind& control) {
-    mMade = MakePeer(control, mDialog, mSite);
-  }
-
-  Dialog& mDialog;
-  WindowSite mSite = {};
-  std::unique_ptr<Peer> mMade;
-};
-
 }  // namespace orx::win32

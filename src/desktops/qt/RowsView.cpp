@@ -1,30 +1,31 @@
-#include "desktops/qt/NativeRows.h"
+#include "desktops/qt/RowsView.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
 
 namespace orx::qt {
 
-NativeRows::NativeRows(QWidget* parent) : QListView(parent) {
+RowsView::RowsView(QWidget* parent) : QListView(parent) {
   setUniformItemSizes(true);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   // A press of the mouse must not move the focus by itself: the field that loses it may refuse.
   setFocusPolicy(Qt::TabFocus);
 }
 
-int NativeRows::PageRows() const {
+int RowsView::PageRows() const {
   return viewport()->height() / std::max(1, sizeHintForRow(0));
 }
 
-void NativeRows::keyPressEvent(QKeyEvent* event) {
+void RowsView::keyPressEvent(QKeyEvent* event) {
   const auto keyPressed = KeyPressed;
   if (!keyPressed || !keyPressed(*event)) event->ignore();
 }
 
-void NativeRows::Press(const QMouseEvent& event, bool twice) {
+void RowsView::Press(const QMouseEvent& event, bool isSecond) {
   // What the press sets off may take the functions away.
   const auto pressed = Pressed;
-  if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint(), twice);
+  if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint(), isSecond);
 }
 
 }  // namespace orx::qt
