@@ -13,7 +13,7 @@ void CheckBox::Value(CheckState value) {
 
 void CheckBox::UserToggle() {
   OwnerForm().UserAct([this] {
-    // The native box has ticked itself already; it waits for what becomes of the click.
+    // The native box has already changed its mark; it must show the state that the control ends up with.
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Value(CheckedIf(mValue == CheckState::Unchecked));
   });

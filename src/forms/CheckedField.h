@@ -1,5 +1,5 @@
-// A text field that accepts some texts only. The rules of typing into such a field are kept here for all kinds of
-// values.
+// A text field that accepts only certain texts. The rules for typing into such a field are the same for all kinds of
+// values and are kept here.
 #pragma once
 
 #include <functional>
@@ -17,8 +17,8 @@ class TextBox;
 ///
 /// When the focus comes, all of the text is selected. When it leaves, the text is checked if it was changed: an
 /// accepted one becomes the value and is shown in plain notation; for a refused one the text from before comes back, a
-/// message tells why, and the focus returns to the field with its text selected, so that a button pressed meanwhile
-/// does nothing.
+/// message says why, and the focus returns to the field with its text selected, so that a button pressed meanwhile does
+/// nothing.
 class CheckedField {
  public:
   /// Takes the box over; nothing is selected or checked yet.
@@ -31,9 +31,9 @@ class CheckedField {
   TextBox& Box() const { return mBox; }
   /// The name of the field in messages: its accessible name without a colon at the end.
   std::string Name() const;
-  /// True while the box holds a text that was neither accepted nor refused yet.
+  /// True while the box holds a text that has been neither accepted nor refused.
   bool IsPending() const;
-  /// Checks a pending text at once, for a save that comes while the focus is still here. False when it was refused.
+  /// Checks a pending text at once, for saving while the focus is still here. False when it was refused.
   bool Check();
   /// Shows a message, then moves the focus here and selects the text.
   void Refuse(const Message& message);
@@ -42,16 +42,16 @@ class CheckedField {
   std::function<std::string(const std::string&)> Translate;
   /// Raised when a typed text was accepted.
   Event<> Accepted;
-  /// Raised when the focus has left and the field is in order, whether or not it was changed.
+  /// Raised when the focus has left and the text is accepted, whether or not it was changed.
   Event<> Left;
 
  protected:
-  /// Makes `text` the value, or returns the message that refuses it.
+  /// Makes `text` the value, or returns the message with which it is refused.
   virtual std::optional<Message> Take(const std::string& text) = 0;
   /// The text that stands for the value.
   virtual std::string ValueText() const = 0;
 
-  /// Puts the text of the value into the box. For values set by program.
+  /// Puts the text of the value into the box. For values that the program sets.
   void ShowValue();
   /// A message with its texts translated and the values put in.
   Message MakeMessage(const char* title, const char* text, std::initializer_list<std::string_view> values) const;
@@ -66,8 +66,8 @@ class CheckedField {
   std::string mShown;
 };
 
-/// A checked field for values of one type. A value that the program sets is taken as it is, without an event, and stays
-/// exactly that until the user enters another one.
+/// A checked field for values of one type. A value that the program sets is not checked, raises no event, and stays
+/// exact until the user enters another one.
 template <class Type>
 class ValueField : public CheckedField {
  public:
@@ -80,7 +80,7 @@ class ValueField : public CheckedField {
     Become(value);
     ShowValue();
   }
-  /// Empties the box, for a field that has no value at present; Value() is the type's own default.
+  /// Empties the box, for a field that has no value at present; Value() is then the type's default.
   void Clear() {
     mValue = {};
     mHasValue = false;

@@ -21,7 +21,7 @@ void ComboBox::Text(const std::string& value) {
 
 void ComboBox::UserPick(int index) {
   OwnerForm().UserAct([&] {
-    // The native list shows the entry already; it waits for what becomes of the choice.
+    // The native list already shows the entry; it must show the one that the control ends up with.
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) ListIndex(index);
   });

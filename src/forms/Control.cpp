@@ -55,7 +55,7 @@ void Control::Caption(const std::string& value) {
   if (mDesign.Caption == value) return;
   mDesign.Caption = value;
   Changed(Aspect::Text);
-  // The control behind a label has its name from it.
+  // A label gives the control behind it its name.
   const std::vector<Control*>& siblings = mParent.Children();
   const auto self = std::find(siblings.begin(), siblings.end(), this);
   if (self != siblings.end() && self + 1 != siblings.end()) (*(self + 1))->Changed(Aspect::Accessible);

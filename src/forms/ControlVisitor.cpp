@@ -1,4 +1,4 @@
-// Each kind of control leads a visitor to the member for its kind.
+// Each kind of control calls the visitor's member for its kind.
 #include "forms/ControlVisitor.h"
 
 #include "forms/Button.h"

@@ -115,7 +115,7 @@ void Desktop::RunModal(Form& form) {
     form.Window()->RunModal();
   } catch (...) {
     session.Error = std::current_exception();
-    // Its owner would stay out of reach.
+    // A form that stayed up would keep the user from its owner.
     form.Hide();
   }
   std::erase(mSessions, &session);
@@ -143,9 +143,10 @@ void Desktop::LeaveAct() {
 }
 
 void Desktop::LetGoOfClosedForms() {
-  // Whatever acts are running may still use them.
+  // Acts that are still running may use them.
   if (mActs > 0) return;
-  // A form that closes may be the last to hold another one, so the list is settled before anything is let go.
+  // A form that closes may hold the last reference to another one, so the list is complete before any of them is
+  // released.
   const auto closed = std::stable_partition(mOpenForms.begin(), mOpenForms.end(),
                                             [](const std::shared_ptr<Form>& form) { return form->Visible(); });
   const std::vector<std::shared_ptr<Form>> gone(closed, mOpenForms.end());

@@ -48,7 +48,7 @@ void ListBox::UserClick(int row) {
 
 void ListBox::UserDoubleClick(int row) {
   UserActOn(row, [&] {
-    // Among several, the first of the two clicks may have taken it out of the selection.
+    // Where several can be selected, the first click may have taken it out of the selection.
     Selected(row, true);
     DblClick.Raise();
   });
@@ -59,7 +59,7 @@ void ListBox::UserPress(const RowPress& press) {
 }
 
 void ListBox::UserSelect(int row, bool value) {
-  // Where one entry can be selected at most, selecting another one is what ends its selection.
+  // Where only one entry can be selected, selecting another one ends its selection.
   if (!value && !MultiSelect()) return;
   UserActOn(row, [&] { Selected(row, value); });
 }

@@ -14,7 +14,7 @@ enum class ListSelection { Single, Several };
 
 /// Entries live here alone: a native list asks for those that it paints, so that a list of any length costs what its
 /// entries cost. It scrolls when its entries need more room, also sideways. Fill a long one before its form is shown:
-/// each entry that comes later is brought to the screen by itself.
+/// an entry that is added later is brought to the screen at once.
 ///
 /// Single: a click, the arrow keys, Home, End, Page Up, Page Down and typed letters select an entry, and the one before
 /// is no longer selected. ListIndex is the selected entry.

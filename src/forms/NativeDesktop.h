@@ -19,6 +19,11 @@ class NativeDesktop : public Desktop {
   /// Gives a part of the screen, in twips, to keep the dialogs in, in place of the screens' own work areas.
   void WorkArea(const Rect& value) { mWorkArea = value; }
 
+  /// Writes a picture of a form on the screen, or of the message box that is open, to a PNG file: without the window's
+  /// frame, in the screen's full resolution. False when nothing is shown or the file cannot be written.
+  virtual bool SavePicture(const Form& form, const std::string& pngPath) const = 0;
+  virtual bool SaveMessagePicture(const std::string& pngPath) const = 0;
+
  protected:
   /// As Metrics, with the screen's own work area.
   virtual ScreenMetrics SystemMetrics(BorderStyle border) const = 0;

@@ -15,7 +15,7 @@ std::optional<Message> NumberField::Take(const std::string& text) {
     return MakeMessage(fieldtexts::kInvalidNumber, message,
                        {Name(), text, PlainText(mRule.Minimum), PlainText(mRule.Maximum)});
   }
-  // Written so that a value which compares with nothing is refused too.
+  // Written so that NaN, which compares with nothing, is refused as well.
   if (!(*value >= mRule.Minimum && *value <= mRule.Maximum))
     return MakeMessage(fieldtexts::kWrongValue, fieldtexts::kOutOfRange,
                        {Name(), PlainText(*value), PlainText(mRule.Minimum), PlainText(mRule.Maximum)});

@@ -1,4 +1,4 @@
-// A text field for a number, and two such fields that hold the ends of a span.
+// A text field for a number, and a pair of such fields for the ends of a span.
 #pragma once
 
 #include <functional>
@@ -14,8 +14,8 @@ namespace orx {
 struct NumberRule {
   double Minimum = std::numeric_limits<double>::lowest();
   double Maximum = std::numeric_limits<double>::max();
-  /// How the number is shown; none: the shortest text that reads back as the same number. A format that rounds costs
-  /// nothing of the value: a field that is not edited stands for the exact number that it was given.
+  /// How the number is shown; none: the shortest text that reads back as the same number. A format that rounds does not
+  /// change the value: a field that is not edited stands for the exact number that it was given.
   std::function<std::string(double)> Format = nullptr;
 };
 
@@ -36,10 +36,10 @@ class NumberField final : public ValueField<double> {
 };
 
 /// Two number fields of which the first must be less than the second. The order is checked when the focus leaves the
-/// pair, not on the way from one field to the other: so both ends can be typed one after the other, in any order, when
-/// a span moves past its old ends. A span in wrong order is refused like a wrong entry: a message names both values,
-/// both fields get back the numbers from before, and the focus returns to the field that it has left.
-/// It takes the Left event of both fields.
+/// pair, not on the way from one field to the other: so the user can type both ends in any order when a span moves past
+/// its old ends. A span in the wrong order is refused like a wrong entry: a message names both values, both fields get
+/// their previous numbers back, and the focus returns to the field that it left. It takes the Left event of both
+/// fields.
 class NumberSpan {
  public:
   /// Takes over the Left events of both fields, which must live as long as the span.
@@ -47,7 +47,7 @@ class NumberSpan {
   NumberSpan(const NumberSpan&) = delete;
   NumberSpan& operator=(const NumberSpan&) = delete;
 
-  /// Shows both numbers, without an event. Numbers in wrong order stay as they are until the user enters another one.
+  /// Shows both numbers, without an event. Numbers in the wrong order stay until the user enters another one.
   void Values(double lower, double upper);
   /// Checks pending texts and the order at once, for a save. False when something was refused.
   bool Check();

@@ -1,4 +1,4 @@
-// A list that shows one of a host's codes.
+// A list from which the user picks one of a host's codes.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace orx {
 
-/// Stands for the code that it was given until the user picks another entry, also for a code that the list does not
-/// have. The list must live as long; its entries carry the codes.
+/// Stands for the code that it was given until the user picks another entry, even for a code that the list does not
+/// have. The entries carry the codes. The list must outlive this.
 class ShownChoice {
  public:
   /// Shows nothing yet.

@@ -10,7 +10,7 @@ class TextBox;
 
 /// Stands for the exact number that it was given while its text reads as the number shown, however much the text
 /// rounds; a text that the user has changed stands for what it reads. Numbers are read in the locale of the form's
-/// desktop. The box must live as long.
+/// desktop. The box must outlive this.
 class ShownNumber {
  public:
   /// Shows nothing yet.
@@ -26,7 +26,7 @@ class ShownNumber {
   void Show(double value);
   /// The number that the field stands for; none when its text is no number.
   std::optional<double> Value() const;
-  /// True when the field does not stand for the number shown any more.
+  /// True when the field no longer stands for the number shown.
   bool IsEdited() const;
 
  private:

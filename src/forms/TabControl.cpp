@@ -54,7 +54,7 @@ void TabControl::Tab(int tab) {
 
 void TabControl::UserSelect(int tab) {
   OwnerForm().UserAct([&] {
-    // The native strip has switched already; it waits for what becomes of the choice.
+    // The native strip has already switched; it must show the tab that the control ends up with.
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Tab(tab);
   });

@@ -77,7 +77,7 @@ void TreeList::FindShown() const {
   if (std::exchange(mShownIsKnown, true)) return;
   mShown.clear();
   mPositions.assign(mRows.size(), -1);
-  // Rows below a folded one are passed over until one comes that is not deeper.
+  // Rows below a folded one are skipped until one comes that is not deeper.
   int foldedLevel = -1;
   for (int row = 0; row < ListCount(); ++row) {
     const TreeRow& each = mRows[static_cast<std::size_t>(row)];

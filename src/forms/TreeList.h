@@ -1,4 +1,4 @@
-// A list of rows in levels, of which the deeper ones can be folded away: layers with their tiles.
+// A list of rows in levels, where a row can hide those below it: layers with their tiles.
 #pragma once
 
 #include <cstdint>
@@ -10,11 +10,11 @@
 
 namespace orx {
 
-/// One row. What follows with a greater level is what it holds.
+/// One row. It holds the rows of a greater level that follow it.
 struct TreeRow {
   std::string Text;
   int Level = 0;
-  /// A number and a mark of the form's own.
+  /// A number and a text for the form's own use.
   std::int32_t Data = 0;
   std::string Tag = {};
   /// Whether the rows below it can be seen.

@@ -19,7 +19,7 @@ QSize NativeSize(Size size) {
 
 ContentPane::ContentPane(QWidget& dialog, const Form& form)
     : mForm(form), mDialog(dialog), mBody(new QWidget(&dialog)), mArrangement(Current()) {
-  // The dialog follows the mouse beside its controls.
+  // The dialog is told of the mouse between its controls.
   mBody->setMouseTracking(true);
 }
 
@@ -29,12 +29,12 @@ void ContentPane::MakeScrollable() {
   mScroll->setFrameShape(QFrame::NoFrame);
   mScroll->setFocusPolicy(Qt::NoFocus);
   mScroll->setWidget(mBody);
-  // The dialog's own background shows through, as if nothing stood between.
+  // The dialog's own background shows through.
   mScroll->viewport()->setAutoFillBackground(false);
   mBody->setAutoFillBackground(false);
   mScroll->setMouseTracking(true);
   mScroll->viewport()->setMouseTracking(true);
-  // Pinned controls stand before it.
+  // Pinned controls are in front of it.
   mScroll->lower();
   mScroll->show();
   // A widget that moves to another parent loses the focus.

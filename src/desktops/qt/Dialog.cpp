@@ -14,9 +14,9 @@ namespace orx::qt {
 
 Dialog::Dialog(Form& form) : FormGate(form), mContent(*this, form) {
   setObjectName(ToQt(form.Name()));
-  // A font of its own, every control would have to take over.
+  // A font set here would have to be passed on to every control.
   if (const QFont face = DialogFont(); face != font()) setFont(face);
-  // The end of the host's application is not for a dialog to decide.
+  // Closing a dialog must not end the host's application.
   setAttribute(Qt::WA_QuitOnClose, false);
   Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (form.Border() == BorderStyle::Fixed) flags |= Qt::MSWindowsFixedSizeDialogHint;
@@ -33,7 +33,7 @@ bool Dialog::ReportKey(const QKeyEvent& event) {
   if (!stroke) return false;
   bool handled = false;
   Report([&] { handled = Owner().UserKey(*stroke); });
-  // A letter with Alt is a command, though none may answer to it; Qt would type the letter.
+  // A letter with Alt is a command even when no control has that mnemonic; Qt would type the letter.
   return handled || stroke->Key == Key::Character;
 }
 
@@ -74,8 +74,8 @@ void Dialog::closeEvent(QCloseEvent* event) {
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
-  // Keys come here from a control that had no use for them, and the form has seen them there; only without a control
-  // they are new. The base class is passed by: it would close the dialog on Escape and press buttons on Enter.
+  // Keys arrive here from a control that had no use for them, and the form has already seen those; only without such a
+  // control are they new. The base class is not called: it would close the dialog on Escape and press buttons on Enter.
   event->ignore();
   if ((!focusWidget() || focusWidget() == this) && ReportKey(*event)) event->accept();
 }

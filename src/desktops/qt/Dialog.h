@@ -21,13 +21,13 @@ class Dialog final : public QDialog, public FormGate {
   bool ReportKey(const QKeyEvent& event);
   /// Tells the form where the mouse is.
   void ReportMouse();
-  /// Has the window system drag the lower edge, or does so itself where that cannot.
+  /// Has the window system drag the lower edge, or drags it here where the window system cannot.
   void DragBottomEdge();
-  /// Has the form show what it keeps back, once, after that time.
+  /// Has the form show, once and after that time, the changes that it holds back.
   void CallShowUpdates(std::chrono::milliseconds after) { mUpdateTimer.start(after); }
-  /// Has all presses of mouse and keys in this window come to nothing.
+  /// Drops all presses of mouse and keys in this window, or lets them through again.
   void BlockInput(bool block);
-  /// Cuts the dialog off from its form and deletes it as soon as no event of it runs.
+  /// Cuts the dialog off from its form and deletes it as soon as none of its events is being handled.
   void Retire();
 
   /// Escape and the default button are the form's business.
@@ -50,7 +50,7 @@ class Dialog final : public QDialog, public FormGate {
   ContentPane mContent;
   QTimer mUpdateTimer;
   QPoint mPressedAt;
-  /// While the dialog drags its edge itself: how far the edge stands below the mouse.
+  /// While the dialog drags its edge itself: how far below the mouse the edge is.
   std::optional<int> mDragged;
 };
 

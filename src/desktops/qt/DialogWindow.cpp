@@ -11,7 +11,7 @@
 namespace orx::qt {
 namespace {
 
-/// The window that the host has named, null when there is none.
+/// The window that the host has named as owner, null when there is none.
 QWindow* NamedWindow(const OwnerWindow& owner) {
   if (owner.OwnerForm && owner.OwnerForm->Window()) {
     const Dialog* const dialog = static_cast<DialogWindow*>(owner.OwnerForm->Window())->Native();
@@ -28,7 +28,7 @@ QWindow* NamedWindow(const OwnerWindow& owner) {
 
 DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)) {
   MakePeers(form, nullptr);
-  // A label looks for the peer of its neighbour, so all are there before the first one shows anything.
+  // A label looks for the peer of its neighbour, so all peers exist before the first one shows anything.
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
   mDialog->Content().Complete();
   OrderTabs();
@@ -62,7 +62,7 @@ QWindow* DialogWindow::WindowOf(const OwnerWindow& owner) const {
   QWindow* const named = NamedWindow(owner);
   const QWidget* const modal = QApplication::activeModalWidget();
   if (!modal || modal == mDialog) return named;
-  // A modal window of the host keeps the user from all windows that do not stand before it.
+  // A modal window of the host keeps the user from all windows that are not in front of it.
   for (const QWindow* at = named; at; at = at->transientParent())
     if (at == modal->windowHandle()) return named;
   return modal->windowHandle();
@@ -89,7 +89,7 @@ void DialogWindow::RunModal() {
   if (mEnded) return;
   Desktop& desktop = mForm.OwnerDesktop();
   QTimer::singleShot(0, &mLoop, [this, &desktop] {
-    // Qt bears no exception that passes through its loops.
+    // Exceptions must not pass through Qt's event loops.
     try {
       if (!mEnded) desktop.ModalIsRunning({.ShownForm = &mForm});
     } catch (...) {
@@ -98,7 +98,7 @@ void DialogWindow::RunModal() {
     }
   });
   mLoop.exec();
-  // The host's application is about to end: the dialog goes as by its close box.
+  // The host's application is about to end: the dialog closes as if by its close box.
   if (!mEnded) mForm.WindowLost();
   if (mHookError) std::rethrow_exception(std::exchange(mHookError, nullptr));
 }
@@ -135,7 +135,7 @@ void DialogWindow::Repaint() {
 }
 
 void DialogWindow::PaintChanges() {
-  // What Qt would send itself before long.
+  // Qt would send this itself before long.
   QEvent request(QEvent::UpdateRequest);
   QCoreApplication::sendEvent(mDialog, &request);
 }

@@ -10,7 +10,8 @@
 namespace orx::qt {
 namespace {
 
-/// Paints entries and keeps the width of the widest one that came into view, as nobody measures all of a long list.
+/// Paints entries and keeps the width of the widest one that came into view; measuring all of a long list would take
+/// too long.
 class EntryPainter final : public QStyledItemDelegate {
  public:
   EntryPainter(RowsView& view, RowMeasures measures) : QStyledItemDelegate(&view), mView(view), mMeasures(measures) {}
@@ -20,7 +21,7 @@ class EntryPainter final : public QStyledItemDelegate {
     const int width = QStyledItemDelegate::sizeHint(option, index).width();
     if (width <= mWidest) return;
     mWidest = width;
-    // Not from within a paint event.
+    // Not during a paint event.
     QMetaObject::invokeMethod(
         &mView, [this] { mView.doItemsLayout(); }, Qt::QueuedConnection);
   }

@@ -1,4 +1,4 @@
-// The native mirror of each kind of control, one function a kind, each in the file named after the kind.
+// Makes the native mirror of each kind of control. Each function is in the file named after its kind.
 #pragma once
 
 #include <memory>
@@ -8,8 +8,8 @@
 
 namespace orx::qt {
 
-/// Makes the peer of a control with a new widget in `parent`. The widget shows nothing of the control yet: call
-/// UpdateAll when the peers of all controls are there.
+/// Makes the peer of a control with a new widget in `parent`. The widget does not show the control's state yet: call
+/// UpdateAll once all controls have their peers.
 std::unique_ptr<Peer> MakePeer(Button& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(CheckBox& control, Dialog& dialog, QWidget& parent);
 std::unique_ptr<Peer> MakePeer(ComboBox& control, Dialog& dialog, QWidget& parent);

@@ -28,19 +28,19 @@
 namespace orx::qt {
 namespace {
 
-/// The font size, in points, for which the dialogs are drawn up.
+/// The font size, in points, for which the dialogs are designed.
 constexpr double kDesignPoints = 9;
 constexpr double kDesignDotsPerInch = 96;
 
-/// What the window manager adds to a dialog, as the style thinks of frames. The truth is known only when a window has
-/// been shown, and dialogs are placed before.
+/// The size that the window manager adds to a dialog, estimated from the style's frames. The exact size is known only
+/// after a window has been shown, and dialogs are placed before that.
 QSize FrameSize() {
   const QStyle& style = *QApplication::style();
   const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
   return {2 * edge, 2 * edge + style.pixelMetric(QStyle::PM_TitleBarHeight)};
 }
 
-/// Deletes the dialogs that wait for it; without a running event loop nobody else does.
+/// Deletes the dialogs that wait for it; without a running event loop nothing else does.
 void DeleteRetiredDialogs() {
   std::vector<Dialog*> dialogs;
   for (QWidget* const window : QApplication::topLevelWidgets())
@@ -76,7 +76,7 @@ Rect InTwips(const Desktop& desktop, const QRect& place) {
 struct QtDesktop::State {
   FileSettings Settings;
   bool PointerIsOurs = false;
-  /// The scale, and what it was worked out from: measuring a font takes longer than all else in placing a control.
+  /// The scale, and what it was computed from: measuring a font takes longer than everything else in placing a control.
   double Scale = 1;
   double Dots = 0;
   QFont MeasuredFont;
@@ -188,7 +188,7 @@ void QtDesktop::DoBeep() {
 }
 
 void QtDesktop::DoSetPointer(orx::Pointer value) {
-  // One override at most is this desktop's own; those of the host below it stay.
+  // At most one override is this desktop's own; the host's below it stay.
   if (mState->PointerIsOurs) QGuiApplication::restoreOverrideCursor();
   mState->PointerIsOurs = value != orx::Pointer::Default;
   if (mState->PointerIsOurs)

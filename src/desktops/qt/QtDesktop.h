@@ -9,8 +9,7 @@
 
 namespace orx::qt {
 
-/// Use it on the thread of the QApplication only. Dialogs take the application's font, at 9 points or more, and grow
-/// with it.
+/// For the thread of the QApplication only. Dialogs use the application's font, at 9 points or more, and grow with it.
 class QtDesktop final : public NativeDesktop {
  public:
   /// Uses the host's QApplication. When there is none, one is made that serves all desktops to come and stays until the
@@ -24,11 +23,8 @@ class QtDesktop final : public NativeDesktop {
   Color SystemColor(orx::SystemColor which) const override;
   Size MeasureCharacter(const Font& face, int code) const override;
   SettingsStore& Settings() override;
-
-  /// Writes a picture of a form that is shown, or of the message box that is open, without the frame of its window and
-  /// with all the pixels of the screen, as PNG file. False when nothing is shown or the file cannot be written.
-  bool SavePicture(const Form& form, const std::string& pngPath) const;
-  bool SaveMessagePicture(const std::string& pngPath) const;
+  bool SavePicture(const Form& form, const std::string& pngPath) const override;
+  bool SaveMessagePicture(const std::string& pngPath) const override;
 
  protected:
   ScreenMetrics SystemMetrics(BorderStyle border) const override;

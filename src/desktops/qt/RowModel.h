@@ -1,4 +1,4 @@
-// The rows of a list as a view asks for them: they stay in the control, and the view reads those that it shows.
+// The rows of a list, for a view: they stay in the control, and the view reads those that it shows.
 #pragma once
 
 #include <QAbstractListModel>
@@ -8,7 +8,7 @@
 
 namespace orx::qt {
 
-/// Belongs to a view, which may outlive the control: Forget cuts it off, and the view is empty from then on.
+/// Belongs to a view, which may outlive the control: after Forget the view is empty.
 class RowModel final : public QAbstractListModel {
  public:
   RowModel(const RowList& rows, QObject* parent) : QAbstractListModel(parent), mRows(&rows) {}
@@ -22,9 +22,9 @@ class RowModel final : public QAbstractListModel {
   }
   /// True when the control has a row for it.
   bool Holds(const QModelIndex& index) const { return mRows && index.row() >= 0 && index.row() < mRows->ShownCount(); }
-  /// Only while it holds any index.
+  /// To be called only while it holds an index.
   const RowList& Rows() const { return *mRows; }
-  /// Has the view read all anew.
+  /// Makes the view read everything again.
   void Renew() {
     beginResetModel();
     endResetModel();

@@ -8,8 +8,8 @@
 namespace orx::qt {
 namespace {
 
-/// Hands a key press to the control of a list, which lives as long as the dialog is not retired. True when it was of
-/// use.
+/// Hands a key press to the control of a list, which lives as long as the dialog is not retired. True when it has been
+/// handled.
 bool ReportKey(RowList& rows, Dialog& dialog, const RowsView& view, const QKeyEvent& event) {
   if (rows.ScrollsAcross() && (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right)) {
     view.horizontalScrollBar()->triggerAction(event.key() == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub

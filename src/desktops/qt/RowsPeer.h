@@ -7,7 +7,7 @@
 
 namespace orx::qt {
 
-/// A view that asks for what it paints. It shows rows and scrolls; mouse and keys are the control's business.
+/// A view that reads only what it paints. It shows rows and scrolls; mouse and keys are handled in the control.
 class RowsPeer : public Peer {
  public:
   RowsPeer(Control& control, RowList& rows, Dialog& dialog, RowsView* view);

@@ -9,7 +9,7 @@ namespace orx::qt {
 RowsView::RowsView(QWidget* parent) : QListView(parent) {
   setUniformItemSizes(true);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
-  // A press of the mouse must not move the focus by itself: the field that loses it may refuse.
+  // A press of the mouse must not move the focus by itself: the field that loses it may refuse to let go.
   setFocusPolicy(Qt::TabFocus);
 }
 
@@ -23,7 +23,7 @@ void RowsView::keyPressEvent(QKeyEvent* event) {
 }
 
 void RowsView::Press(const QMouseEvent& event, bool isSecond) {
-  // What the press sets off may take the functions away.
+  // The handlers of the press may reset the functions.
   const auto pressed = Pressed;
   if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint(), isSecond);
 }

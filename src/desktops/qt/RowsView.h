@@ -6,15 +6,15 @@
 
 namespace orx::qt {
 
-/// Shows rows and scrolls; mouse and keys are the control's business. The peer empties the functions when it goes.
+/// Shows rows and scrolls; mouse and keys are handled in the control. The peer resets the functions when it goes.
 class RowsView final : public QListView {
  public:
   explicit RowsView(QWidget* parent);
   /// A press of the left button, and whether it is the second one right after the first.
   std::function<void(QPoint, bool)> Pressed;
-  /// True when the key was of use.
+  /// True when the key has been handled.
   std::function<bool(const QKeyEvent&)> KeyPressed;
-  /// How many rows there is room for.
+  /// The number of rows that fit.
   int PageRows() const;
 
  protected:

@@ -69,7 +69,7 @@ class TreeListPeer final : public RowsPeer {
   }
 
   void MirrorRows() {
-    // Anew, but from the same row on as before.
+    // The rows are read again, but the first one in view stays the same.
     const int first = View().verticalScrollBar()->value();
     Model().Renew();
     View().doItemsLayout();

@@ -31,7 +31,7 @@ LRESULT CALLBACK ContentPane::PaneProc(HWND window, UINT message, WPARAM wParam,
   if (self.mIsComplete) {
     if (message == WM_VSCROLL) self.ScrollBy(SB_VERT, LOWORD(wParam));
     if (message == WM_HSCROLL) self.ScrollBy(SB_HORZ, LOWORD(wParam));
-    // The pane covers the dialog from the same corner on.
+    // The pane covers the dialog from the same corner, so places are the same.
     if (message == WM_MOUSEMOVE || message == WM_LBUTTONDOWN)
       return SendMessageW(self.mDialog, message, wParam, lParam);
   }

@@ -8,8 +8,8 @@
 #include <algorithm>
 
 #include "desktops/win32/Fonts.h"
+#include "desktops/win32/MousePointers.h"
 #include "desktops/win32/Peer.h"
-#include "desktops/win32/Pointers.h"
 #include "desktops/win32/Text.h"
 #include "forms/Form.h"
 
@@ -36,7 +36,7 @@ Dialog::Dialog(Form& form) : FormGate(form), mFont(MakeDialogFont()), mContent(f
 Dialog::~Dialog() {
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, 0);
   if (mDestroyed) return;
-  // The platform destroys the windows that a window owns with it, but here each form has its own life.
+  // The platform destroys a window together with those that it owns, but here each form has its own life.
   EnumThreadWindows(GetCurrentThreadId(), &Dialog::ReleaseFrom, reinterpret_cast<LPARAM>(mWindow));
   DestroyWindow(mWindow);
 }
@@ -68,12 +68,12 @@ bool Dialog::ReportKey(const MSG& message) {
   if (!stroke) return false;
   bool handled = false;
   Report([&] { handled = Owner().UserKey(*stroke); });
-  // The platform would sound its signal for a dialog key that has nothing to do in a field of one line.
+  // For a dialog key that does nothing in a field of one line, the platform would beep.
   return handled || (stroke->Key != Key::Character && !(peer && peer->TakesReturn()));
 }
 
 bool Dialog::NoticeFocus() {
-  // Windows of somebody else tell nobody here that they have taken the focus.
+  // Windows of others do not report here that they have taken the focus.
   const HWND focus = GetFocus();
   const Peer* const holder = Peer::Holding(focus);
   if (!holder || !holder->HoldsForeignWindows() || holder->Subject().HasFocus()) return true;
@@ -135,13 +135,13 @@ void Dialog::Show(ShowMode mode, HWND owner) {
 void Dialog::Hide() {
   const Quiet quiet(*this);
   mHook.reset();
-  // While they are disabled, the platform would look for a window of another program to activate.
+  // While the other windows are disabled, the platform would activate a window of another program.
   mBarrier.reset();
   const bool wasActive = GetActiveWindow() == mWindow;
   ShowWindow(mWindow, SW_HIDE);
   if (wasActive && mActiveBefore && IsWindow(mActiveBefore) && IsWindowVisible(mActiveBefore))
     SetActiveWindow(mActiveBefore);
-  // A hidden window is to outlive the one that it stood before.
+  // A hidden window is to outlive its owner.
   if (!mDestroyed) SetWindowLongPtrW(mWindow, GWLP_HWNDPARENT, 0);
 }
 
@@ -198,7 +198,7 @@ void Dialog::WatchActivation(bool isActive) {
 }
 
 void Dialog::Destroyed() {
-  // By the host, together with the window that this one stood before: the form goes as by its close box.
+  // The host has destroyed it, together with its owner window: the form closes as if by its close box.
   mDestroyed = true;
   Report([this] { Owner().WindowLost(); });
 }
@@ -236,7 +236,7 @@ void Dialog::ReportMouse() {
 }
 
 bool Dialog::ShowPointer() {
-  // The platform asks here whatever control the mouse is over.
+  // The platform asks here, whichever control the mouse is over.
   ReportMouse();
   if (IsRetired()) return true;
   const HCURSOR pointer = CursorOf(Owner().OwnerDesktop().Pointer());

@@ -47,8 +47,7 @@ HWND DialogWindow::WindowOf(const OwnerWindow& owner) const {
   // The dialogs of the platform belong to whole windows, not to the controls in them.
   if (const auto window = reinterpret_cast<HWND>(owner.NativeHandle); window && IsWindow(window))
     return GetAncestor(window, GA_ROOT);
-  // Without an owner the dialog stands before whatever the user works in; behind a modal window it could not be
-  // reached.
+  // Without an owner the dialog is shown in front of the active window; behind a modal window it could not be reached.
   const HWND active = GetActiveWindow();
   return active != mDialog->Window() ? active : nullptr;
 }
@@ -73,7 +72,7 @@ void DialogWindow::RunModal() {
   while (!mEnded) {
     GetMessageW(&message, nullptr, 0, 0);
     if (HandleOneMessage(message) || mEnded) continue;
-    // The host's program is about to end: the dialog goes as by its close box.
+    // The host's program is about to end: the dialog closes as if by its close box.
     mForm.WindowLost();
     return;
   }
@@ -95,8 +94,8 @@ void DialogWindow::UpdatePlace() {
 }
 
 void DialogWindow::UpdateEnabled() {
-  // Input is dropped as it is taken from the queue. The platform's own way would have another program's window
-  // activated when a dialog closes that belongs to this one.
+  // Input is dropped as it is taken from the queue. If the window were disabled, the platform would activate another
+  // program's window when a dialog in front of this one closes.
 }
 
 void DialogWindow::Repaint() {

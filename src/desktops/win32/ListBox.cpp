@@ -20,7 +20,7 @@ class ListBoxPeer final : public RowsPeer {
     if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorSelection();
     Peer::Mirror(aspect);
     if (aspect == Aspect::Items || aspect == Aspect::Place) FillWidth();
-    // Before it has its place, a list has no room to show anything in.
+    // A list without its place has no room to show anything.
     if (aspect == Aspect::Place) RevealCurrent();
   }
 

@@ -59,11 +59,11 @@ LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     }
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-      // The press must not move the focus by itself: the field that loses it may refuse.
+      // The press must not move the focus by itself: the field that loses it may refuse to let go.
       if (mControl.TakesFocus() && !FocusIsGranted()) return 0;
       break;
     case WM_MOUSEWHEEL:
-      // A turn of the wheel over a control that the user is not in scrolls the form and changes no value.
+      // Turning the wheel over a control that does not have the focus scrolls the form and changes no value.
       if (mControl.HasFocus()) break;
       mDialog.Content().Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
@@ -96,7 +96,7 @@ void Peer::Update(Aspect aspect) {
 }
 
 void Peer::KeepFocus() const {
-  // The form sends the focus to another control, if there is one; without any focus the keys would be lost.
+  // The form moves the focus to another control, if there is one; without any focus the keys would be lost.
   if (GetActiveWindow() != mDialog.Window() || IsWindowVisible(GetFocus())) return;
   SetFocus(mDialog.Window());
 }
@@ -112,7 +112,7 @@ void Peer::RestoreFocus(HWND last) {
 
 void Peer::TakeFocus() {
   const Dialog::Quiet quiet(mDialog);
-  // A window that is not the active one takes the focus when it becomes that.
+  // A window that is not active takes the focus when it is activated.
   if (GetActiveWindow() == mDialog.Window()) FocusNative();
   mDialog.Content().Reveal(mWindow);
 }
@@ -148,7 +148,7 @@ void Peer::Mirror(Aspect aspect) {
 }
 
 void Peer::MirrorEnabled() {
-  // The platform lets what stands in a disabled window look as if it could be used.
+  // The platform draws the controls in a disabled window as if they could be used.
   bool isEnabled = true;
   for (const Control* at = &mControl; at; at = at->Parent().ContainerControl()) isEnabled = isEnabled && at->Enabled();
   EnableWindow(mWindow, isEnabled);
@@ -159,7 +159,7 @@ void Peer::MirrorEnabled() {
 }
 
 void Peer::MirrorName() {
-  // A caption is the window's text, which is its name already.
+  // A caption is the window's text, which already is its name.
   if (mControl.Caption().empty() || !mControl.ShowsCaption())
     mIsAnnotated = SetAccessibleName(mFocus, mControl.AccessibleName());
 }

@@ -1,4 +1,4 @@
-// The native mirror of each kind of control, one function a kind, each in the file named after the kind.
+// Makes the native mirror of each kind of control. Each function is in the file named after its kind.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace orx::win32 {
 
-/// Where and with which control id a window is to be made.
+/// Where a window is to be made, and its control id.
 struct WindowSite {
   HWND Parent;
   int Id;
@@ -19,8 +19,8 @@ HWND MakeWindow(const wchar_t* className, DWORD style, const WindowSite& site, D
 /// Makes an empty child window that its peer draws or that holds controls.
 HWND MakePane(DWORD style, const WindowSite& site);
 
-/// Makes the peer of a control with a new window. The window shows nothing of the control yet: call UpdateAll when the
-/// peers of all controls are there.
+/// Makes the peer of a control with a new window. The window does not show the control's state yet: call UpdateAll once
+/// all controls have their peers.
 std::unique_ptr<Peer> MakePeer(Button& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(CheckBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(ComboBox& control, Dialog& dialog, const WindowSite& site);

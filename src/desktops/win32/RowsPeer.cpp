@@ -29,7 +29,7 @@ RowsPeer::RowsPeer(Control& control, RowList& rows, Dialog& dialog, HWND window)
   Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
   LVCOLUMNW column = {};
   Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
-  // The height of the pictures that rows might have is the height of the rows.
+  // The rows are as high as the pictures that they might have.
   const int height = mMeasures.Height(TextHeight(window, dialog.Face()));
   Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(ImageList_Create(1, height, ILC_COLOR, 1, 1)));
 }
@@ -70,7 +70,7 @@ LRESULT RowsPeer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
       return 0;
     case WM_RBUTTONDOWN:
     case WM_RBUTTONDBLCLK:
-      // The native list would select by it.
+      // The native list would select the row.
       return 0;
     case WM_KEYDOWN:
       if (GetKeyState(VK_CONTROL) < 0) return 0;

@@ -13,7 +13,7 @@
 
 namespace orx::win32 {
 
-/// A list view that asks for what it paints. It shows rows and scrolls; mouse and keys are the control's business.
+/// A list view that reads only what it paints. It shows rows and scrolls; mouse and keys are handled in the control.
 class RowsPeer : public Peer {
  public:
   RowsPeer(Control& control, RowList& rows, Dialog& dialog, HWND window);
@@ -23,7 +23,7 @@ class RowsPeer : public Peer {
   LRESULT OnNotify(const NMHDR& notice) override;
 
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  /// Has the view read all rows anew.
+  /// Makes the view read all rows again.
   void MirrorRows();
   /// Shows a row as selected or not, and as the one with the focus; -1: all of them.
   void MirrorState(int position, UINT state, UINT mask) const;
@@ -47,7 +47,7 @@ class RowsPeer : public Peer {
   int mWidest = 0;
 };
 
-/// Makes the window of such a list, with styles beside those that all have.
+/// Makes the window of such a list; `style` comes on top of the styles that all of them have.
 HWND MakeRowsWindow(const WindowSite& site, DWORD style);
 
 }  // namespace orx::win32

@@ -12,17 +12,17 @@
 #include "desktops/win32/Fonts.h"
 #include "desktops/win32/GuestScope.h"
 #include "desktops/win32/MessageBox.h"
-#include "desktops/win32/Picture.h"
+#include "desktops/win32/MousePointers.h"
 #include "desktops/win32/PlatformDialog.h"
-#include "desktops/win32/Pointers.h"
 #include "desktops/win32/RegistrySettings.h"
 #include "desktops/win32/Text.h"
+#include "desktops/win32/WindowPicture.h"
 #include "forms/Form.h"
 
 namespace orx::win32 {
 namespace {
 
-/// The font size, in points, and the resolution for which the dialogs are drawn up.
+/// The font size, in points, and the resolution for which the dialogs are designed.
 constexpr double kDesignPoints = 9;
 constexpr double kDesignDotsPerInch = 96;
 
@@ -32,7 +32,7 @@ std::string LocaleText(LCTYPE what) {
   return Narrowed(text);
 }
 
-/// What the frame adds to a client area.
+/// The size that the frame adds to a client area.
 SIZE FrameSize(BorderStyle border) {
   RECT frame = {};
   const bool isFixed = border == BorderStyle::Fixed;
@@ -41,7 +41,7 @@ SIZE FrameSize(BorderStyle border) {
   return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
-/// The help engine takes the file's name in 8 bits.
+/// The help engine takes the name of the file in the 8-bit code page.
 void AskHelpEngine(const HelpRequest& request) {
   const std::wstring wide = Widened(request.FileName);
   const int length = WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);

@@ -10,9 +10,9 @@
 
 namespace orx::win32 {
 
-/// Use it on one thread only, which has a message queue. It is a guest there: the look of the common controls and the
-/// awareness of the screen's dpi are taken for the time of a call and given back. Dialogs take the user's font for
-/// messages, at 9 points or more, and grow with it and with the system's dpi.
+/// For one thread only, which has a message queue. The desktop is a guest there: the look of the common controls and
+/// the awareness of the screen's dpi are set for the duration of a call and then restored. Dialogs use the user's font
+/// for messages, at 9 points or more, and grow with it and with the system's dpi.
 class Win32Desktop final : public NativeDesktop {
  public:
   Win32Desktop();
@@ -24,14 +24,11 @@ class Win32Desktop final : public NativeDesktop {
   Color SystemColor(orx::SystemColor which) const override;
   Size MeasureCharacter(const Font& face, int code) const override;
   SettingsStore& Settings() override;
+  bool SavePicture(const Form& form, const std::string& pngPath) const override;
+  bool SaveMessagePicture(const std::string& pngPath) const override;
 
-  /// Gives a function in place of the platform's help engine.
+  /// Replaces the platform's help engine.
   void HelpEngine(std::function<void(const HelpRequest&)> engine);
-
-  /// Writes a picture of a form that is shown, or of the message box that is open, without the frame of its window, as
-  /// PNG file. False when nothing is shown or the file cannot be written.
-  bool SavePicture(const Form& form, const std::string& pngPath) const;
-  bool SaveMessagePicture(const std::string& pngPath) const;
 
  protected:
   ScreenMetrics SystemMetrics(BorderStyle border) const override;
