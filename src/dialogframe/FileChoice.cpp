@@ -8,9 +8,9 @@
 
 #include "forms/Desktop.h"
 #include "forms/OpenFileRequest.h"
-#include "forms/TextBox.h"
 #include "hostobjects/ErrorTrap.h"
 #include "text/AsciiCase.h"
+#include "text/CharacterCount.h"
 #include "text/Paths.h"
 
 namespace orx::modDialog {

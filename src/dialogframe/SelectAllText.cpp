@@ -2,6 +2,7 @@
 
 #include "forms/TextBox.h"
 #include "hostobjects/ErrorTrap.h"
+#include "text/CharacterCount.h"
 
 namespace orx::modMain {
 

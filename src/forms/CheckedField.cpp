@@ -3,6 +3,7 @@
 #include "forms/FieldTexts.h"
 #include "forms/Form.h"
 #include "forms/TextBox.h"
+#include "text/CharacterCount.h"
 
 namespace orx {
 

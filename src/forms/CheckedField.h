@@ -1,5 +1,5 @@
-// A text field that accepts some texts only. The rules of typing into such a field are kept here for all kinds of
-// values.
+// A text field that accepts only certain texts. The rules for typing into such a field are the same for all kinds of
+// values and are kept here.
 #pragma once
 
 #include <functional>
@@ -43,11 +43,11 @@ class CheckedEntry {
   std::function<std::string(const std::string&)> Translate;
   /// Raised when a typed text was accepted.
   Event<> Accepted;
-  /// Raised when the focus has left and the field is in order, whether or not it was changed.
+  /// Raised when the focus has left and the text is accepted, whether or not it was changed.
   Event<> Left;
 
  protected:
-  /// Makes `text` the value, or returns the message that refuses it.
+  /// Makes `text` the value, or returns the message with which it is refused.
   virtual std::optional<Message> Take(const std::string& text) = 0;
   /// The text that stands for the value.
   virtual std::string ValueText() const = 0;
@@ -92,7 +92,7 @@ class CheckedField : public CheckedEntry {
     Become(value);
     ShowValue(true);
   }
-  /// Empties the box, for a field that has no value at present; Value() is the type's own default.
+  /// Empties the box, for a field that has no value at present; Value() is then the type's default.
   void Clear() {
     mValue = {};
     mHasValue = false;

@@ -1,11 +1,11 @@
 #include "forms/Desktop.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "forms/ColorRequest.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
+#include "forms/Pixels.h"
 
 namespace orx {
 namespace {
@@ -37,11 +37,11 @@ class Topmost {
 Desktop::~Desktop() = default;
 
 int Desktop::ToPixels(int twips) const {
-  return static_cast<int>(std::lround(twips * Scale() / kTwipsPerPixel));
+  return TwipsToPixels(twips, Scale());
 }
 
 int Desktop::ToTwips(int pixels) const {
-  return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale()));
+  return PixelsToTwips(pixels, Scale());
 }
 
 template <class Run>
@@ -134,7 +134,7 @@ void Desktop::RunModal(Form& form) {
     form.Window()->RunModal();
   } catch (...) {
     session.Error = std::current_exception();
-    // Its owner would stay out of reach.
+    // A form that stayed up would keep the user from its owner.
     form.Hide();
   }
   std::erase(mSessions, &session);
@@ -162,9 +162,10 @@ void Desktop::LeaveAct() {
 }
 
 void Desktop::LetGoOfClosedForms() {
-  // Whatever acts are running may still use them.
+  // Acts that are still running may use them.
   if (mActs > 0) return;
-  // A form that closes may be the last to hold another one, so the list is settled before anything is let go.
+  // A form that closes may hold the last reference to another one, so the list is complete before any of them is
+  // released.
   const auto closed = std::stable_partition(mOpenForms.begin(), mOpenForms.end(),
                                             [](const std::shared_ptr<Form>& form) { return form->Visible(); });
   const std::vector<std::shared_ptr<Form>> gone(closed, mOpenForms.end());

@@ -1,5 +1,5 @@
 // The one interface between forms and a platform. The public members keep the rules that all desktops share (the hook,
-// modal sessions, modeless forms staying alive); the protected virtual ones are the bare moves that a platform makes.
+// modal sessions, modeless forms staying alive); the protected virtual ones are what a platform has to do.
 #pragma once
 
 #include <exception>
@@ -17,7 +17,7 @@
 
 namespace orx {
 
-/// Whether a user may size the window; SizableHeight: by its lower edge only.
+/// Whether the user may size the window; SizableHeight: by its lower edge only.
 enum class BorderStyle { Fixed, Sizable, SizableHeight };
 
 /// The screen in twips: its size, the part not covered by task bars, and what a window's frame adds to the client area.
@@ -77,7 +77,7 @@ class Desktop {
   virtual numbers::Separators Separators() const = 0;
   /// Where settings are kept between runs; lives as long as the desktop.
   virtual SettingsStore& Settings() = 0;
-  /// Lets paint and input events that wait be handled.
+  /// Has pending paint and input events handled.
   void ProcessPendingEvents();
 
   /// True while a modal form is open.
@@ -124,15 +124,15 @@ class Desktop {
   auto RunBox(const Modal& modal, Run&& run);
   void RunModal(Form& form);
   void EndModal(const Form& form);
-  /// Takes over the window of a form that unloads, so that a modal loop still running in it can come to its end.
+  /// Takes over the window of a form that unloads, so that a modal loop still running in it can end.
   void Retire(const Form& form, std::unique_ptr<FormWindow> window);
   /// Keeps a modeless form alive until it is hidden or unloaded.
   void KeepOpen(std::shared_ptr<Form> form);
   void EnterAct() { ++mActs; }
   void LeaveAct();
   void LetGoOfClosedForms();
-  /// Takes an error that a handler let go, so that it can travel to the caller of the modal Show; without a modal form
-  /// the user is told.
+  /// Takes an exception that a handler did not catch, so that the caller of the modal Show gets it; without a modal
+  /// form the user is told.
   void HandlerFailed(const Form& form, std::exception_ptr error);
 
   DesktopHook* mHook = nullptr;

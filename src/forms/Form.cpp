@@ -61,7 +61,7 @@ void Form::Center() {
 Rect Form::NearestWorkArea() const {
   const std::int64_t right = std::int64_t{mLeft} + Width();
   const std::int64_t bottom = std::int64_t{mTop} + Height();
-  // What two spans have in common; negative: the gap between them.
+  // The length that two spans share; negative: the gap between them.
   const auto overlap = [](std::int64_t low, std::int64_t high, std::int64_t otherLow, std::int64_t otherHigh) {
     return std::min(high, otherHigh) - std::max(low, otherLow);
   };

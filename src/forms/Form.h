@@ -18,7 +18,7 @@ class Button;
 class ScreenUpdates;
 enum class ButtonRole;
 
-/// How a form is drawn up. The client area is in twips.
+/// How a form is designed. The client area is in twips.
 struct FormDesign {
   std::string Caption = {};
   Size Client = {};
@@ -30,8 +30,8 @@ struct FormDesign {
 /// All members are for the user-interface thread of the desktop.
 class Form : public Container, public std::enable_shared_from_this<Form> {
  public:
-  /// Draws an empty form up, neither loaded nor shown; the desktop must outlive it. `name` is the name by which tests
-  /// and automation find it.
+  /// Makes an empty form, neither loaded nor shown; the desktop must outlive it. `name` is the name by which tests and
+  /// automation find it.
   Form(Desktop& desktop, std::string name, FormDesign design);
   ~Form() override;
 
@@ -86,10 +86,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// form neither loads nor shows.
   bool IsRetired() const { return mRetired; }
   /// Loads and shows the form; one that unloads itself as it loads is not shown. Modal: returns when it was hidden or
-  /// unloaded, and throws what a handler let go. Modeless: returns at once. Throws std::logic_error when the form is
-  /// shown already, and when it is to be modeless while a modal one is open, which would keep the user from it.
+  /// unloaded, and rethrows what a handler did not catch. Modeless: returns at once. Throws std::logic_error when the
+  /// form is shown already, and when it is to be modeless while a modal one is open, which would keep the user from it.
   void Show(ShowMode mode = ShowMode::Modal, OwnerWindow owner = {});
-  /// Takes the form from the screen and keeps it as it is.
+  /// Hides the form and keeps its state.
   void Hide();
   /// Takes the form from the screen, runs Form_Unload and gives up the window; Form_Release follows at the end of the
   /// outermost act. Does nothing when not loaded. What Form_Unload throws travels when all else is done.
@@ -105,7 +105,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Enabled(bool value);
   /// True while the form is on the screen.
   bool Visible() const { return mVisible; }
-  /// True while the form is on the screen and whoever shows it waits for it to go.
+  /// True while the form is on the screen and the caller of Show waits for it to close.
   bool IsModal() const { return mVisible && mMode == ShowMode::Modal; }
 
   /// The control with the focus, null when none has it.
@@ -119,12 +119,12 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// taken it back or the control is not reachable.
   bool MoveFocus(Control& to);
 
-  /// For desktops and test users: runs what a user's act sets off. Errors that handlers let go end the modal loop and
-  /// travel to the caller of Show; nothing is thrown here.
+  /// For desktops and test users: runs what an act of the user sets off. Exceptions that handlers do not catch end the
+  /// modal loop and reach the caller of Show; nothing is thrown here.
   void UserAct(const std::function<void()>& act);
   /// The native focus has come to a control by mouse or by the platform.
   void UserFocus(Control& control);
-  /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and is dealt with.
+  /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and has been handled.
   bool UserKey(const KeyStroke& stroke);
   /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs. A form
   /// that the user cannot reach, because a box or another form is modal above it, stays.
@@ -138,7 +138,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void UserMouseMove(Point at);
   void UserMouseDown(Point at);
 
-  /// For desktops: changes that were kept back (see PaceUpdates) are to reach the screen now.
+  /// For desktops: brings the changes that were held back (see PaceUpdates) to the screen now.
   void ShowUpdates();
 
   /// The native window, null while there is none.
@@ -166,7 +166,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   virtual void Form_MouseMove(Point) {}
   virtual void Form_MouseDown(Point) {}
   /// For forms of a program that is too busy to handle events: from now on texts and values that change reach the
-  /// screen without any, at most 60 times a second. What is kept back by that follows as soon as events are handled.
+  /// screen without any, at most 60 times a second. Changes that are held back follow as soon as events are handled.
   /// Controls of such a form live as long as it does.
   void PaceUpdates();
   /// Called from Form_MouseDown: the user goes on to drag the lower edge of the window.
@@ -181,7 +181,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Release();
   /// Closes the window; the peers go with it.
   void DropWindow();
-  /// The work area that the window lies in for the greater part, or that is nearest to it.
+  /// The work area that holds most of the window, or is nearest to it.
   Rect NearestWorkArea() const;
   void KeepOnScreen();
   /// Runs the focus events until the focus rests.

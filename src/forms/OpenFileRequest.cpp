@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/TextBox.h"
+#include "text/CharacterCount.h"
 #include "text/Trimmed.h"
 
 namespace orx {

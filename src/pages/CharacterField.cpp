@@ -6,6 +6,7 @@
 #include "forms/FieldTexts.h"
 #include "forms/TextBox.h"
 #include "pages/PageTexts.h"
+#include "text/CharacterCount.h"
 #include "text/CharacterText.h"
 #include "text/Trimmed.h"
 

@@ -5,6 +5,7 @@
 #include "forms/Desktop.h"
 #include "forms/TextBox.h"
 #include "text/AsciiCase.h"
+#include "text/CharacterCount.h"
 
 namespace orx {
 namespace {

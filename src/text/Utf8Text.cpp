@@ -5,7 +5,7 @@
 namespace orx {
 namespace {
 
-/// The number of bytes that the character at the start of a text takes.
+/// The length in bytes of the character at the start of a text.
 std::size_t LengthOf(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text.front());
   if (lead < 0xC0) return 1;

@@ -8,6 +8,7 @@
 #include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordingHost.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 

@@ -1,5 +1,6 @@
 // The classification dialog as its user works with it: what it shows, and how range, step and classes move.
 #include "tests/classification/ClassifyTest.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 namespace {

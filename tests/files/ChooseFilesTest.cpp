@@ -1,5 +1,6 @@
 // Choosing files in the platform's own dialog.
 #include "tests/files/FilesTest.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 namespace {

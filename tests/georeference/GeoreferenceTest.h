@@ -5,6 +5,7 @@
 #include "service/modMain.h"
 #include "tests/georeference/GroundMap.h"
 #include "tests/support/DesktopTest.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 

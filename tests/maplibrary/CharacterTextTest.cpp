@@ -8,7 +8,6 @@
 namespace orx::test {
 namespace {
 
-
 TEST(MapLibraryCharacterText, EncodesEachLength) {
   EXPECT_EQ("A", CharacterText('A'));
   EXPECT_EQ("ß", CharacterText(0xDF));

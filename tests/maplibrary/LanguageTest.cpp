@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <sstream>
 
-#include "forms/TextBox.h"
 #include "hostobjects/RunTimeError.h"
 #include "languages/PseudoLanguage.h"
 #include "languages/TextLanguage.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 namespace {

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "maplibrary/files/GridData.h"
 #include "maplibrary/model/Layer.h"
 #include "maplibrary/model/Map.h"
 #include "maplibrary/model/TiledLayer.h"
-#include "maplibrary/files/GridData.h"
 
 namespace orx::maplibrary {
 

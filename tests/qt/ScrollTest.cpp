@@ -3,6 +3,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include "forms/Arrangement.h"
 #include "tests/layout/LayoutCheck.h"
 #include "tests/qt/QtTest.h"
 
@@ -59,6 +60,14 @@ TEST_F(QtScroll, AFormThatOutgrowsItsScreenScrollsAndKeepsItsFocus) {
   EXPECT_EQ(desktop().ToPixels(4680), PlaceInWindow(form->cmdOK).top());
   user.Click(form->cmdOK);
   EXPECT_EQ(1, std::count(events.begin(), events.end(), "cmdOK_Click"));
+}
+
+TEST_F(QtScroll, TheScrollBarHasTheRangeOfTheArrangement) {
+  ShowOnLowScreen();
+  const Arrangement arrangement = Arrange(*form, {Bar().width(), Bar().width()});
+  EXPECT_GT(Bar().maximum(), 0);
+  EXPECT_EQ(arrangement.Clamped({0, 99999}).Y, Bar().maximum());
+  EXPECT_EQ(arrangement.Down.Seen, Bar().pageStep());
 }
 
 TEST_F(QtScroll, TheScrollBarTakesNoWidthFromTheControls) {

@@ -1,4 +1,5 @@
 // Forms that are higher than the screen: the buttons stay in reach and the rest scrolls.
+#include "forms/Arrangement.h"
 #include "tests/layout/LayoutCheck.h"
 #include "tests/win32/Win32Test.h"
 
@@ -45,6 +46,17 @@ TEST_F(Win32Scroll, OnALowScreenTheButtonsStayAtTheBottom) {
   EXPECT_FALSE(HasBar(WS_HSCROLL));
   user.Click(form->cmdOK);
   EXPECT_EQ(1, std::count(events.begin(), events.end(), "cmdOK_Click"));
+}
+
+TEST_F(Win32Scroll, TheScrollBarHasTheRangeOfTheArrangement) {
+  ShowOnLowScreen();
+  const int bar = GetSystemMetrics(SM_CXVSCROLL);
+  const Arrangement arrangement = Arrange(*form, {bar, bar});
+  EXPECT_EQ(arrangement.Down.Seen, static_cast<int>(Bar(SB_VERT).nPage));
+  EXPECT_EQ(arrangement.Down.Whole, Bar(SB_VERT).nMax + 1);
+  Send(Pane(), WM_VSCROLL, SB_BOTTOM);
+  EXPECT_GT(Bar(SB_VERT).nPos, 0);
+  EXPECT_EQ(arrangement.Clamped({0, 99999}).Y, Bar(SB_VERT).nPos);
 }
 
 TEST_F(Win32Scroll, ScrolledToTheEndEverythingStandsAboveTheButtons) {

@@ -80,7 +80,7 @@ std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
 }
 
 MessageAnswer HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
-  // It counts as read when the hook returns.
+  // The message counts as read when the hook returns.
   MessageAnswer answer = message.Harmless();
   ModalIsRunning({.ShownMessage = &message, .Answer = &answer});
   return answer;

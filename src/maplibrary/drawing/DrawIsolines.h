@@ -3,8 +3,8 @@
 
 #include "maplibrary/drawing/MapLettering.h"
 #include "maplibrary/drawing/MapView.h"
-#include "maplibrary/model/Layer.h"
 #include "maplibrary/files/GridData.h"
+#include "maplibrary/model/Layer.h"
 
 namespace orx::maplibrary {
 

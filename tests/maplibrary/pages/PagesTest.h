@@ -11,6 +11,7 @@
 #include "service/CCommonMapDialogs.h"
 #include "tests/maplibrary/pages/RecordedObjects.h"
 #include "tests/support/DesktopTest.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 

@@ -1,4 +1,4 @@
-#include "desktops/win32/Picture.h"
+#include "desktops/win32/WindowPicture.h"
 
 #include <vector>
 
@@ -41,7 +41,7 @@ bool SavePicture(HWND window, const std::string& pngPath) {
   if (!window || !IsWindowVisible(window)) return false;
   RECT client;
   GetClientRect(window, &client);
-  // The window's own surface is complete, whatever stands before it on the screen.
+  // The window's own surface is complete, whatever covers it on the screen.
   RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   const WindowContext screen(window);
   const MemoryContext buffer(screen.Get(), client.right, client.bottom);

@@ -1,19 +1,19 @@
-#include "desktops/win32/Barrier.h"
+#include "desktops/win32/ModalBarrier.h"
 
 #include <utility>
 
 namespace orx::win32 {
 
-thread_local Barrier* Barrier::theNewest = nullptr;
+thread_local ModalBarrier* ModalBarrier::theNewest = nullptr;
 
-Barrier::Barrier(HWND front, HWND owner) : mFront(front), mOlder(std::exchange(theNewest, this)) {
-  EnumThreadWindows(GetCurrentThreadId(), &Barrier::Disable, reinterpret_cast<LPARAM>(this));
+ModalBarrier::ModalBarrier(HWND front, HWND owner) : mFront(front), mOlder(std::exchange(theNewest, this)) {
+  EnumThreadWindows(GetCurrentThreadId(), &ModalBarrier::Disable, reinterpret_cast<LPARAM>(this));
   if (owner) Disable(owner, reinterpret_cast<LPARAM>(this));
 }
 
-Barrier::~Barrier() {
-  Barrier* newer = nullptr;
-  Barrier** link = &theNewest;
+ModalBarrier::~ModalBarrier() {
+  ModalBarrier* newer = nullptr;
+  ModalBarrier** link = &theNewest;
   while (*link != this) {
     newer = *link;
     link = &newer->mOlder;
@@ -27,8 +27,8 @@ Barrier::~Barrier() {
     if (IsWindow(window)) EnableWindow(window, TRUE);
 }
 
-BOOL CALLBACK Barrier::Disable(HWND window, LPARAM barrier) {
-  auto& self = *reinterpret_cast<Barrier*>(barrier);
+BOOL CALLBACK ModalBarrier::Disable(HWND window, LPARAM barrier) {
+  auto& self = *reinterpret_cast<ModalBarrier*>(barrier);
   if (window == self.mFront || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
   EnableWindow(window, FALSE);
   self.mDisabled.push_back(window);

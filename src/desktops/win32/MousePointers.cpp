@@ -1,4 +1,4 @@
-#include "desktops/win32/Pointers.h"
+#include "desktops/win32/MousePointers.h"
 
 namespace orx::win32 {
 
@@ -19,7 +19,7 @@ void ShowPointer(Pointer pointer) {
     SetCursor(cursor);
     return;
   }
-  // The window would be asked with the next move of the mouse, but a user who waits does not move it.
+  // The window would be asked when the mouse moves next, but a user who waits does not move it.
   POINT place = {};
   GetCursorPos(&place);
   const HWND window = WindowFromPoint(place);

@@ -1,4 +1,4 @@
-#include "forms/RowWalk.h"
+#include "forms/RowNavigation.h"
 
 #include <algorithm>
 #include <string_view>
@@ -41,7 +41,7 @@ bool TypeAhead::IsTyping() const {
 std::optional<int> TypeAhead::Type(char32_t character, RowSpan rows,
                                    const std::function<const std::string&(int)>& textAt) {
   if (!IsTyping()) mTyped.clear();
-  // A blank belongs to a name only behind other letters.
+  // A blank cannot begin a search.
   if (character < U' ' || (character == U' ' && mTyped.empty())) return std::nullopt;
   mTypedAt = std::chrono::steady_clock::now();
   mTyped += character;
