@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "com/LateBound.h"
+#include "com/SafeArray.h"
 
 namespace orx::com {
 namespace {
@@ -24,76 +25,6 @@ HRESULT ConvertObject(const VARIANT& value, Variant& to) {
   if (!IsNothing(value) && !isZero) return DISP_E_TYPEMISMATCH;
   to.vt = VT_DISPATCH;
   to.pdispVal = nullptr;
-  return S_OK;
-}
-
-/// Puts a value of exactly the element's type into an array.
-HRESULT PutElement(SAFEARRAY* array, LONG index, const Variant& value) {
-  const bool isPointer = value.vt == VT_BSTR || value.vt == VT_DISPATCH || value.vt == VT_UNKNOWN;
-  void* const place = isPointer ? static_cast<void*>(value.bstrVal) : const_cast<LONG*>(&value.lVal);
-  return SafeArrayPutElement(array, &index, place);
-}
-
-/// Owns an array until it is given away in a variant.
-class Array {
- public:
-  Array(VARTYPE element, LONG first, ULONG count) : mArray(SafeArrayCreateVector(element, first, count)) {}
-  ~Array() {
-    if (mArray) SafeArrayDestroy(mArray);
-  }
-  Array(const Array&) = delete;
-  Array& operator=(const Array&) = delete;
-
-  SAFEARRAY* Get() const { return mArray; }
-  void MoveTo(VARTYPE element, Variant& to) {
-    VariantClear(&to);
-    to.vt = static_cast<VARTYPE>(VT_ARRAY | element);
-    to.parray = std::exchange(mArray, nullptr);
-  }
-
- private:
-  SAFEARRAY* mArray;
-};
-
-struct Bounds {
-  LONG First = 0;
-  ULONG Count = 0;
-};
-
-HRESULT BoundsOf(SAFEARRAY* array, Bounds& bounds) {
-  bounds = {};
-  if (!array) return S_OK;
-  if (SafeArrayGetDim(array) != 1) return DISP_E_TYPEMISMATCH;
-  LONG last = 0;
-  HRESULT result = SafeArrayGetLBound(array, 1, &bounds.First);
-  if (SUCCEEDED(result)) result = SafeArrayGetUBound(array, 1, &last);
-  if (SUCCEEDED(result)) bounds.Count = static_cast<ULONG>(last - bounds.First + 1);
-  return result;
-}
-
-HRESULT GetElement(SAFEARRAY* array, VARTYPE element, LONG index, Variant& value) {
-  VariantClear(&value);
-  if (element == VT_VARIANT) return SafeArrayGetElement(array, &index, static_cast<VARIANT*>(&value));
-  const HRESULT result = SafeArrayGetElement(array, &index, &value.lVal);
-  if (SUCCEEDED(result)) value.vt = element;
-  return result;
-}
-
-HRESULT FromArray(SAFEARRAY* from, VARTYPE fromElement, VARTYPE element, LCID locale, Variant& to) {
-  Bounds bounds;
-  HRESULT result = BoundsOf(from, bounds);
-  if (FAILED(result)) return result;
-  Array made(element, bounds.First, bounds.Count);
-  if (!made.Get()) return E_OUTOFMEMORY;
-  for (LONG index = bounds.First; index < bounds.First + static_cast<LONG>(bounds.Count); ++index) {
-    Variant value;
-    Variant converted;
-    result = GetElement(from, fromElement, index, value);
-    if (SUCCEEDED(result)) result = ConvertValue(value, element, locale, converted);
-    if (SUCCEEDED(result)) result = PutElement(made.Get(), index, converted);
-    if (FAILED(result)) return result;
-  }
-  made.MoveTo(element, to);
   return S_OK;
 }
 
@@ -129,6 +60,45 @@ std::size_t SizeOf(VARTYPE type) {
   }
 }
 
+HRESULT GetElement(SAFEARRAY* array, VARTYPE element, LONG index, Variant& value) {
+  value.Clear();
+  if (element == VT_VARIANT) return SafeArrayGetElement(array, &index, static_cast<VARIANT*>(&value));
+  // Anything greater would be written over the end of the variant.
+  if (SizeOf(element) == 0) return DISP_E_TYPEMISMATCH;
+  const HRESULT result = SafeArrayGetElement(array, &index, &value.lVal);
+  if (SUCCEEDED(result)) value.vt = element;
+  return result;
+}
+
+/// Makes an array; `give` gives the value of each element by its index.
+template <class Give>
+HRESULT MakeArray(VARTYPE element, const ArrayBounds& bounds, Variant& to, Give&& give) {
+  SafeArray made(element, bounds);
+  for (ULONG i = 0; i < bounds.Count; ++i) {
+    const LONG index = bounds.First + static_cast<LONG>(i);
+    Variant value;
+    const HRESULT result = give(index, value);
+    if (FAILED(result)) return result;
+    made.Put(index, value);
+  }
+  to = made.MoveToVariant(element);
+  return S_OK;
+}
+
+/// An array of other elements. VT_VARIANT takes all values as they are.
+HRESULT FromArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
+  SAFEARRAY* const array = from.vt & VT_BYREF ? *from.pparray : from.parray;
+  const auto given = static_cast<VARTYPE>(from.vt & VT_TYPEMASK);
+  ArrayBounds bounds;
+  const HRESULT result = BoundsOf(array, bounds);
+  if (FAILED(result)) return result;
+  return MakeArray(element, bounds, to, [&](LONG index, Variant& converted) {
+    Variant value;
+    const HRESULT got = GetElement(array, given, index, value);
+    return FAILED(got) ? got : ConvertValue(value, element, locale, converted);
+  });
+}
+
 /// As such objects may be sparse, any length costs the script nothing, but an array of it has to be made here.
 constexpr std::int32_t kLongestScriptArray = 10'000'000;
 
@@ -139,19 +109,12 @@ HRESULT FromScriptObject(IDispatch* from, VARTYPE element, LCID locale, Variant&
   const std::int32_t count = object.GetLong("length");
   if (count < 0) return DISP_E_TYPEMISMATCH;
   if (count > kLongestScriptArray) return E_OUTOFMEMORY;
-  Array made(element, 0, static_cast<ULONG>(count));
-  if (!made.Get()) return E_OUTOFMEMORY;
-  for (LONG index = 0; index < count; ++index) {
+  return MakeArray(element, {0, static_cast<ULONG>(count)}, to, [&](LONG index, Variant& converted) {
     const std::string name = std::to_string(index);
-    Variant converted;
     // Elements that were never set are not there.
     const Variant value = object.Has(name) ? object.Get(name) : Variant();
-    HRESULT result = ConvertValue(value, element, locale, converted);
-    if (SUCCEEDED(result)) result = PutElement(made.Get(), index, converted);
-    if (FAILED(result)) return result;
-  }
-  made.MoveTo(element, to);
-  return S_OK;
+    return ConvertValue(value, element, locale, converted);
+  });
 }
 
 }  // namespace
@@ -169,11 +132,11 @@ HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to
   Variant value;
   const HRESULT copied = VariantCopyInd(&value, const_cast<VARIANT*>(&from));
   if (FAILED(copied)) return copied;
-  VariantClear(&to);
   if (type == VT_VARIANT) {
     to = std::move(value);
     return S_OK;
   }
+  to.Clear();
   if (type == VT_DISPATCH) return ConvertObject(value, to);
   // Null converts to nothing by the system's rules; here it is a value that was left empty.
   if (value.vt == VT_NULL) value.vt = VT_EMPTY;
@@ -181,20 +144,11 @@ HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to
 }
 
 HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
-  if (from.vt & VT_ARRAY) {
-    SAFEARRAY* const array = from.vt & VT_BYREF ? *from.pparray : from.parray;
-    return FromArray(array, static_cast<VARTYPE>(from.vt & VT_TYPEMASK), element, locale, to);
-  }
-  if (IsNothing(from)) return FromArray(nullptr, element, element, locale, to);
+  if (from.vt & VT_ARRAY) return FromArray(from, element, locale, to);
+  if (IsNothing(from)) return MakeArray(element, {}, to, [](LONG, Variant&) { return S_OK; });
   if (from.vt == VT_DISPATCH && from.pdispVal) return FromScriptObject(from.pdispVal, element, locale, to);
-  Variant converted;
-  HRESULT result = ConvertValue(from, element, locale, converted);
-  if (FAILED(result)) return result;
-  Array made(element, 0, 1);
-  if (!made.Get()) return E_OUTOFMEMORY;
-  result = PutElement(made.Get(), 0, converted);
-  if (SUCCEEDED(result)) made.MoveTo(element, to);
-  return result;
+  return MakeArray(element, {0, 1}, to,
+                   [&](LONG, Variant& converted) { return ConvertValue(from, element, locale, converted); });
 }
 
 HRESULT StoreBehind(const VARIANT& reference, Variant& value) {
@@ -206,21 +160,7 @@ HRESULT StoreBehind(const VARIANT& reference, Variant& value) {
 }
 
 HRESULT ToScriptArray(const VARIANT& from, Variant& to) {
-  if (!(from.vt & VT_ARRAY)) return DISP_E_TYPEMISMATCH;
-  SAFEARRAY* const array = from.vt & VT_BYREF ? *from.pparray : from.parray;
-  Bounds bounds;
-  HRESULT result = BoundsOf(array, bounds);
-  if (FAILED(result)) return result;
-  Array made(VT_VARIANT, bounds.First, bounds.Count);
-  if (!made.Get()) return E_OUTOFMEMORY;
-  for (LONG index = bounds.First; index < bounds.First + static_cast<LONG>(bounds.Count); ++index) {
-    Variant value;
-    result = GetElement(array, static_cast<VARTYPE>(from.vt & VT_TYPEMASK), index, value);
-    if (SUCCEEDED(result)) result = SafeArrayPutElement(made.Get(), &index, static_cast<VARIANT*>(&value));
-    if (FAILED(result)) return result;
-  }
-  made.MoveTo(VT_VARIANT, to);
-  return S_OK;
+  return from.vt & VT_ARRAY ? FromArray(from, VT_VARIANT, LOCALE_INVARIANT, to) : DISP_E_TYPEMISMATCH;
 }
 
 }  // namespace orx::com

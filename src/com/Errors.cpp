@@ -30,12 +30,12 @@ void LeaveErrorInfo(const char* source, const std::string& description) {
 }
 
 std::string SystemText(HRESULT code) {
-  wchar_t* text = nullptr;
+  wchar_t* made = nullptr;
   const DWORD length =
       FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                     nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-  std::string narrow = Narrowed({text, length});
-  LocalFree(text);
+                     nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<wchar_t*>(&made), 0, nullptr);
+  const LocalText text(made);
+  std::string narrow = Narrowed({text.get(), length});
   while (!narrow.empty() && (narrow.back() == '\n' || narrow.back() == '\r')) narrow.pop_back();
   return narrow;
 }

@@ -1,11 +1,12 @@
-// What owns the system's automation handles: interface pointers, strings and variants. Nothing else in the component
-// server releases or frees them.
+// The owners of what most of the component server handles: interface pointers, strings, variants, and memory that the
+// system has allocated. SafeArray.h and TypeDescriptions.h have the rest. Only an owner gives its resource back.
 #pragma once
 
 #include <windows.h>
 
 #include <oleauto.h>
 
+#include <memory>
 #include <new>
 #include <string>
 #include <string_view>
@@ -89,9 +90,11 @@ class Bstr {
   BSTR Get() const { return mText; }
   BSTR Detach() { return std::exchange(mText, nullptr); }
   BSTR* Out() {
-    SysFreeString(std::exchange(mText, nullptr));
+    *this = Bstr();
     return &mText;
   }
+  /// Trades strings with a variable of somebody else, who takes over the other's ownership.
+  void SwapWith(BSTR& other) noexcept { std::swap(mText, other); }
   std::string Text() const;
 
  private:
@@ -135,12 +138,34 @@ class Variant : public VARIANT {
     std::swap(static_cast<VARIANT&>(*this), static_cast<VARIANT&>(other));
     return *this;
   }
-  ~Variant() { VariantClear(this); }
+  ~Variant() { Clear(); }
 
+  void Clear() { VariantClear(this); }
+  /// For functions that give a value back through an argument.
   VARIANT* Out() {
-    VariantClear(this);
+    Clear();
     return this;
   }
+  /// Trades values with a variable of somebody else, who takes over the other's ownership.
+  void SwapWith(VARIANT& other) noexcept { std::swap(static_cast<VARIANT&>(*this), other); }
 };
+
+/// What a failed late-bound call tells about its error.
+class ExceptionInfo : public EXCEPINFO {
+ public:
+  ExceptionInfo() : EXCEPINFO{} {}
+  ~ExceptionInfo();
+  ExceptionInfo(const ExceptionInfo&) = delete;
+  ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+
+  /// The error code. Fills in what the callee has left for later, so ask for it before the texts.
+  HRESULT Code();
+};
+
+struct LocalDeleter {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+/// A text that the system has allocated for its caller on the local heap.
+using LocalText = std::unique_ptr<wchar_t, LocalDeleter>;
 
 }  // namespace orx::com

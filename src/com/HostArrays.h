@@ -17,8 +17,8 @@ namespace orx::com {
 /// of several dimensions is a RunTimeError that names the argument `name`.
 TextArray TextsIn(SAFEARRAY* array, const char* name);
 
-/// The element with the index 1 of an array of texts, when there is one: the name that a dialog opens on.
-std::vector<std::string> FirstOf(SAFEARRAY* files);
+/// The name that a dialog for files opens on: the element with the index 1 of an array of texts; none without it.
+std::vector<std::string> InitialNameIn(SAFEARRAY* files);
 
 /// Throws RunTimeError, naming the argument `name`, for what PutNumbers could not replace: an array of anything but
 /// 32-bit integers, of several dimensions, of a fixed size or locked. No array is fine.

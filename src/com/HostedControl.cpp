@@ -4,6 +4,7 @@
 
 #include "com/ControlKeys.h"
 #include "com/Errors.h"
+#include "desktops/win32/Handles.h"
 
 namespace orx::com {
 namespace {
@@ -11,9 +12,7 @@ namespace {
 constexpr int kHimetricPerInch = 2540;
 
 SIZEL Himetric(const RECT& pixels) {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-  ReleaseDC(nullptr, screen);
+  const int dpi = GetDeviceCaps(win32::WindowContext(nullptr).Get(), LOGPIXELSX);
   return {MulDiv(pixels.right, kHimetricPerInch, dpi), MulDiv(pixels.bottom, kHimetricPerInch, dpi)};
 }
 

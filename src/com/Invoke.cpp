@@ -4,29 +4,10 @@
 #include <vector>
 
 #include "com/Arguments.h"
+#include "com/TypeDescriptions.h"
 
 namespace orx::com {
 namespace {
-
-class FunctionDescription {
- public:
-  FunctionDescription(ITypeInfo& info, UINT index) : mInfo(info) {
-    if (FAILED(mInfo.GetFuncDesc(index, &mDescription))) mDescription = nullptr;
-  }
-  FunctionDescription(FunctionDescription&& other) noexcept
-      : mInfo(other.mInfo), mDescription(std::exchange(other.mDescription, nullptr)) {}
-  ~FunctionDescription() {
-    if (mDescription) mInfo.ReleaseFuncDesc(mDescription);
-  }
-  FunctionDescription& operator=(FunctionDescription&&) = delete;
-
-  explicit operator bool() const { return mDescription != nullptr; }
-  const FUNCDESC* operator->() const { return mDescription; }
-
- private:
-  ITypeInfo& mInfo;
-  FUNCDESC* mDescription = nullptr;
-};
 
 /// The kinds of members that flags may stand for, in the order in which they are looked for. Script hosts do not tell
 /// methods from properties that are read, nor values from objects that are set.
@@ -42,7 +23,7 @@ std::vector<INVOKEKIND> KindsFor(WORD flags) {
 /// Members are looked for one by one: not all systems count those that the interface inherits when asked by number.
 FunctionDescription FindMember(ITypeInfo& info, DISPID member, INVOKEKIND kind) {
   for (UINT index = 0;; ++index) {
-    FunctionDescription found(info, index);
+    FunctionDescription found = FunctionOf(info, index);
     if (!found || (found->memid == member && found->invkind == kind)) return found;
   }
 }
@@ -61,10 +42,10 @@ HRESULT InOrder(const DISPPARAMS& given, std::size_t parameters, bool isPut, std
   return S_OK;
 }
 
-HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, const FunctionDescription& member) {
-  const bool isPut = (member->invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF)) != 0;
+HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, const FUNCDESC& member) {
+  const bool isPut = (member.invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF)) != 0;
   std::vector<Parameter> parameters;
-  for (SHORT i = 0; i < member->cParams; ++i) parameters.push_back(ParameterOf(info, member->lprgelemdescParam[i]));
+  for (SHORT i = 0; i < member.cParams; ++i) parameters.push_back(ParameterOf(info, member.lprgelemdescParam[i]));
   std::vector<VARIANT*> ordered;
   HRESULT result = InOrder(*call.Parameters, parameters.size(), isPut, ordered);
   if (FAILED(result)) return result;
@@ -80,13 +61,13 @@ HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, cons
   std::reverse(reversed.begin(), reversed.end());
   DISPID put = DISPID_PROPERTYPUT;
   DISPPARAMS handed = {reversed.data(), isPut ? &put : nullptr, static_cast<UINT>(reversed.size()), isPut ? 1U : 0U};
-  result = info.Invoke(instance, member->memid, static_cast<WORD>(member->invkind), &handed, call.Result, call.Error,
+  result = info.Invoke(instance, member.memid, static_cast<WORD>(member.invkind), &handed, call.Result, call.Error,
                        call.WrongArgument);
   return FAILED(result) ? result : arguments.WriteBack();
 }
 
 /// An index behind a property that takes none is meant for the collection that it gives.
-HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const FunctionDescription& member) {
+HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const FUNCDESC& member) {
   Variant collection;
   DISPPARAMS none = {};
   HRESULT result = CallMember(info, instance,
@@ -97,8 +78,8 @@ HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const 
                                      call.Error, call.WrongArgument);
 }
 
-bool AsksForItem(const MemberCall& call, const FunctionDescription& member) {
-  return member->invkind == INVOKE_PROPERTYGET && member->cParams == 0 && call.Parameters->cArgs > 0;
+bool AsksForItem(const MemberCall& call, const FUNCDESC& member) {
+  return member.invkind == INVOKE_PROPERTYGET && member.cParams == 0 && call.Parameters->cArgs > 0;
 }
 
 }  // namespace
@@ -106,8 +87,8 @@ bool AsksForItem(const MemberCall& call, const FunctionDescription& member) {
 HRESULT InvokeMember(ITypeInfo& info, void* instance, const MemberCall& call) {
   for (const INVOKEKIND kind : KindsFor(call.Flags))
     if (const FunctionDescription member = FindMember(info, call.Member, kind))
-      return AsksForItem(call, member) ? CallItem(info, instance, call, member)
-                                       : CallMember(info, instance, call, member);
+      return AsksForItem(call, *member) ? CallItem(info, instance, call, *member)
+                                        : CallMember(info, instance, call, *member);
   return DISP_E_MEMBERNOTFOUND;
 }
 

@@ -15,25 +15,6 @@ namespace {
 /// "Object doesn't support this property or method", in the numbers of the older Basic.
 constexpr std::int32_t kNoSuchMember = 438;
 
-/// The texts of an error that a late-bound call gives.
-class ExceptionInfo : public EXCEPINFO {
- public:
-  ExceptionInfo() : EXCEPINFO{} {}
-  ~ExceptionInfo() {
-    SysFreeString(bstrSource);
-    SysFreeString(bstrDescription);
-    SysFreeString(bstrHelpFile);
-  }
-  ExceptionInfo(const ExceptionInfo&) = delete;
-  ExceptionInfo& operator=(const ExceptionInfo&) = delete;
-
-  HRESULT Code() {
-    if (pfnDeferredFillIn) pfnDeferredFillIn(this);
-    if (scode != 0) return scode;
-    return wCode != 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, wCode) : DISP_E_EXCEPTION;
-  }
-};
-
 std::vector<VARIANT> Numbers(std::initializer_list<std::int32_t> arguments) {
   std::vector<VARIANT> numbers;
   for (const std::int32_t argument : arguments) {

@@ -167,7 +167,7 @@ HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL mult
                                 VARIANT_BOOL* result) noexcept {
   if (!files || !result) return E_POINTER;
   return Guarded(kDialogsSource, [&] {
-    std::vector<std::string> chosen = FirstOf(*files);
+    std::vector<std::string> chosen = InitialNameIn(*files);
     // Handles of 64-bit programs fit 32 bits, with their sign.
     const auto owner = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(hWnd));
     const ComPtr<IDispatch> self(this);
@@ -195,8 +195,7 @@ HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFil
     bool isCancelled = *cancelAll != VARIANT_FALSE;
     const ComPtr<IDispatch> self(this);
     const bool answer = (mService.*member)(TextOf(fileName), chosen, isCancelled);
-    Bstr given(chosen);
-    SysFreeString(std::exchange(*newFileName, given.Detach()));
+    Bstr(chosen).SwapWith(*newFileName);
     *cancelAll = isCancelled ? VARIANT_TRUE : VARIANT_FALSE;
     *result = answer ? VARIANT_TRUE : VARIANT_FALSE;
   });
@@ -215,7 +214,7 @@ HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, do
     const ComPtr<IDispatch> self(this);
     *result = mService.ShowCharacterSelection(font, character, rotation, isChanged,
                                               mCaption ? TextOf(*mCaption) : std::string(), OwnerOf(OwnerForm));
-    if (font != before) SysFreeString(std::exchange(*mFontName, Bstr(font).Detach()));
+    if (font != before) Bstr(font).SwapWith(*mFontName);
     *mCharacter = character;
     *mRotation = rotation;
     *mChanged = isChanged ? VARIANT_TRUE : VARIANT_FALSE;

@@ -1,0 +1,46 @@
+// The owner of the automation library's arrays.
+#pragma once
+
+#include "com/Handles.h"
+
+namespace orx::com {
+
+/// The index of the first element, and how many there are.
+struct ArrayBounds {
+  LONG First = 0;
+  ULONG Count = 0;
+};
+
+/// The bounds of an array of one dimension; no array has no elements. DISP_E_TYPEMISMATCH for several dimensions.
+HRESULT BoundsOf(SAFEARRAY* array, ArrayBounds& bounds);
+
+/// An array of one dimension, or none.
+class SafeArray {
+ public:
+  SafeArray() = default;
+  /// Elements that are zero, empty or nothing. Throws std::bad_alloc.
+  SafeArray(VARTYPE element, const ArrayBounds& bounds);
+  SafeArray(SafeArray&& other) noexcept : mArray(std::exchange(other.mArray, nullptr)) {}
+  SafeArray& operator=(SafeArray&& other) noexcept {
+    std::swap(mArray, other.mArray);
+    return *this;
+  }
+  ~SafeArray();
+
+  SAFEARRAY* Get() const { return mArray; }
+  /// For functions that replace an array through an argument.
+  SAFEARRAY** InOut() { return &mArray; }
+  /// Trades arrays with a variable of somebody else, who takes over the other's ownership.
+  void SwapWith(SAFEARRAY*& other) noexcept { std::swap(mArray, other); }
+  /// Gives the array away as a value; `element` is the type of its elements.
+  Variant MoveToVariant(VARTYPE element);
+
+  /// Copies a value into the array. It must be of exactly the type of the elements, unless these are variants. Throws
+  /// RunTimeError.
+  void Put(LONG index, const Variant& value);
+
+ private:
+  SAFEARRAY* mArray = nullptr;
+};
+
+}  // namespace orx::com
