@@ -28,6 +28,43 @@ HRESULT ConvertObject(const VARIANT& value, Variant& to) {
   return S_OK;
 }
 
+/// Makes an array; `give` gives the value of each element by its place, counted from 0.
+template <class Give>
+HRESULT MakeArray(VARTYPE element, const ArrayBounds& bounds, Variant& to, Give&& give) {
+  SafeArray made(element, bounds);
+  for (ULONG place = 0; place < bounds.Count; ++place) {
+    Variant value;
+    const HRESULT result = give(place, value);
+    if (FAILED(result)) return result;
+    made.Put(bounds.First + static_cast<LONG>(place), std::move(value));
+  }
+  to = made.MoveToVariant(element);
+  return S_OK;
+}
+
+HRESULT MakeEmpty(VARTYPE element, Variant& to) {
+  return MakeArray(element, {}, to, [](ULONG, Variant&) { return S_OK; });
+}
+
+/// An array of other elements. VT_VARIANT takes all values as they are.
+HRESULT FromArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
+  SAFEARRAY* const array = from.vt & VT_BYREF ? *from.pparray : from.parray;
+  ArrayBounds bounds;
+  const HRESULT result = BoundsOf(array, bounds);
+  if (FAILED(result)) return result;
+  const auto given = static_cast<VARTYPE>(from.vt & VT_TYPEMASK);
+  // A reference alone does not tell what a record consists of.
+  if (given == VT_RECORD) return DISP_E_TYPEMISMATCH;
+  if (!array) return MakeEmpty(element, to);
+  const ArrayElements elements(array);
+  return MakeArray(element, bounds, to, [&](ULONG place, Variant& converted) {
+    VARIANT reference = {};
+    reference.vt = static_cast<VARTYPE>(VT_BYREF | given);
+    reference.byref = elements.At(place);
+    return ConvertValue(reference, element, locale, converted);
+  });
+}
+
 /// The bytes of a plain value of that type inside a variant; 0 for all others.
 std::size_t SizeOf(VARTYPE type) {
   switch (type) {
@@ -60,45 +97,6 @@ std::size_t SizeOf(VARTYPE type) {
   }
 }
 
-HRESULT GetElement(SAFEARRAY* array, VARTYPE element, LONG index, Variant& value) {
-  value.Clear();
-  if (element == VT_VARIANT) return SafeArrayGetElement(array, &index, static_cast<VARIANT*>(&value));
-  // Anything greater would be written over the end of the variant.
-  if (SizeOf(element) == 0) return DISP_E_TYPEMISMATCH;
-  const HRESULT result = SafeArrayGetElement(array, &index, &value.lVal);
-  if (SUCCEEDED(result)) value.vt = element;
-  return result;
-}
-
-/// Makes an array; `give` gives the value of each element by its index.
-template <class Give>
-HRESULT MakeArray(VARTYPE element, const ArrayBounds& bounds, Variant& to, Give&& give) {
-  SafeArray made(element, bounds);
-  for (ULONG i = 0; i < bounds.Count; ++i) {
-    const LONG index = bounds.First + static_cast<LONG>(i);
-    Variant value;
-    const HRESULT result = give(index, value);
-    if (FAILED(result)) return result;
-    made.Put(index, value);
-  }
-  to = made.MoveToVariant(element);
-  return S_OK;
-}
-
-/// An array of other elements. VT_VARIANT takes all values as they are.
-HRESULT FromArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
-  SAFEARRAY* const array = from.vt & VT_BYREF ? *from.pparray : from.parray;
-  const auto given = static_cast<VARTYPE>(from.vt & VT_TYPEMASK);
-  ArrayBounds bounds;
-  const HRESULT result = BoundsOf(array, bounds);
-  if (FAILED(result)) return result;
-  return MakeArray(element, bounds, to, [&](LONG index, Variant& converted) {
-    Variant value;
-    const HRESULT got = GetElement(array, given, index, value);
-    return FAILED(got) ? got : ConvertValue(value, element, locale, converted);
-  });
-}
-
 /// As such objects may be sparse, any length costs the script nothing, but an array of it has to be made here.
 constexpr std::int32_t kLongestScriptArray = 10'000'000;
 
@@ -109,8 +107,8 @@ HRESULT FromScriptObject(IDispatch* from, VARTYPE element, LCID locale, Variant&
   const std::int32_t count = object.GetLong("length");
   if (count < 0) return DISP_E_TYPEMISMATCH;
   if (count > kLongestScriptArray) return E_OUTOFMEMORY;
-  return MakeArray(element, {0, static_cast<ULONG>(count)}, to, [&](LONG index, Variant& converted) {
-    const std::string name = std::to_string(index);
+  return MakeArray(element, {0, static_cast<ULONG>(count)}, to, [&](ULONG place, Variant& converted) {
+    const std::string name = std::to_string(place);
     // Elements that were never set are not there.
     const Variant value = object.Has(name) ? object.Get(name) : Variant();
     return ConvertValue(value, element, locale, converted);
@@ -145,10 +143,10 @@ HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to
 
 HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
   if (from.vt & VT_ARRAY) return FromArray(from, element, locale, to);
-  if (IsNothing(from)) return MakeArray(element, {}, to, [](LONG, Variant&) { return S_OK; });
+  if (IsNothing(from)) return MakeEmpty(element, to);
   if (from.vt == VT_DISPATCH && from.pdispVal) return FromScriptObject(from.pdispVal, element, locale, to);
   return MakeArray(element, {0, 1}, to,
-                   [&](LONG, Variant& converted) { return ConvertValue(from, element, locale, converted); });
+                   [&](ULONG, Variant& converted) { return ConvertValue(from, element, locale, converted); });
 }
 
 HRESULT StoreBehind(const VARIANT& reference, Variant& value) {

@@ -141,16 +141,18 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
 
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
     if (!values) return E_POINTER;
-    ULONG done = 0;
+    if (fetched) *fetched = 0;
+    std::vector<ComPtr<IDispatch>> found;
     const HRESULT result = Guarded(kFormSource, [&] {
-      for (; done < count && mNext < mCount; ++done, ++mNext) {
-        values[done].vt = VT_DISPATCH;
-        values[done].pdispVal = mControls->ByNumber(static_cast<long>(mNext)).Detach();
-      }
+      while (found.size() < count && mNext + found.size() < mCount)
+        found.push_back(mControls->ByNumber(static_cast<long>(mNext + found.size())));
     });
-    if (fetched) *fetched = done;
+    // Nobody clears what comes with an error.
     if (FAILED(result)) return result;
-    return done == count ? S_OK : S_FALSE;
+    for (const ComPtr<IDispatch>& control : found) *values++ = Variant(control.Get()).Detach();
+    mNext += static_cast<ULONG>(found.size());
+    if (fetched) *fetched = static_cast<ULONG>(found.size());
+    return found.size() == count ? S_OK : S_FALSE;
   }
   HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override {
     const ULONG left = mCount - mNext;

@@ -93,6 +93,8 @@ class Bstr {
     *this = Bstr();
     return &mText;
   }
+  /// For functions that replace a string through an argument.
+  BSTR* InOut() { return &mText; }
   /// Trades strings with a variable of somebody else, who takes over the other's ownership.
   void SwapWith(BSTR& other) noexcept { std::swap(mText, other); }
   std::string Text() const;
@@ -146,6 +148,8 @@ class Variant : public VARIANT {
     Clear();
     return this;
   }
+  /// Gives the value away to the caller.
+  VARIANT Detach() { return std::exchange(static_cast<VARIANT&>(*this), VARIANT{}); }
   /// Trades values with a variable of somebody else, who takes over the other's ownership.
   void SwapWith(VARIANT& other) noexcept { std::swap(static_cast<VARIANT&>(*this), other); }
 };

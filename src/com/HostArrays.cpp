@@ -43,12 +43,9 @@ TextArray TextsIn(SAFEARRAY* array, const char* name) {
   Check(BoundsOf(array, bounds), name);
   texts.LowerBound = bounds.First;
   texts.Items.reserve(bounds.Count);
-  for (ULONG i = 0; i < bounds.Count; ++i) {
-    LONG index = bounds.First + static_cast<LONG>(i);
-    Bstr text;
-    Check(SafeArrayGetElement(array, &index, text.Out()), name);
-    texts.Items.push_back(text.Text());
-  }
+  const ArrayElements elements(array);
+  for (ULONG place = 0; place < bounds.Count; ++place)
+    texts.Items.push_back(TextOf(*static_cast<const BSTR*>(elements.At(place))));
   return texts;
 }
 

@@ -30,8 +30,9 @@ HostedPage::HostedPage(const PageSite& site, const std::string& progId, const CL
       mControl(control),
       mMembers(MembersOf(mControl).Get()),
       mArea(site.Parent, site.Name, {.Place = site.Place}) {
-  mEvents = PageEvents::Connect(mControl.Object(), *this);
   HandleArea();
+  // Last, as nobody would disconnect the events of a page that was not made to its end.
+  mEvents = PageEvents::Connect(mControl.Object(), *this);
 }
 
 HostedPage::~HostedPage() {

@@ -65,9 +65,10 @@ class ClassesKey {
  public:
   explicit ClassesKey(RegisteredFor whom) {
     const HKEY root = whom == RegisteredFor::AllUsers ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-    Check(HRESULT_FROM_WIN32(RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                                             mKey.Out(), nullptr)),
-          "The registry's classes cannot be opened");
+    // Kept first: the macro looks at its argument twice.
+    const LSTATUS status =
+        RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, mKey.Out(), nullptr);
+    Check(HRESULT_FROM_WIN32(status), "The registry's classes cannot be opened");
   }
 
   void Write(const Entry& entry) const {

@@ -1,5 +1,7 @@
 #include "com/SafeArray.h"
 
+#include <algorithm>
+
 #include "com/Errors.h"
 
 namespace orx::com {
@@ -9,6 +11,14 @@ HRESULT BoundsOf(SAFEARRAY* array, ArrayBounds& bounds) {
   if (SafeArrayGetDim(array) != 1) return DISP_E_TYPEMISMATCH;
   bounds.Count = array->rgsabound[0].cElements;
   return SafeArrayGetLBound(array, 1, &bounds.First);
+}
+
+ArrayElements::ArrayElements(SAFEARRAY* array) : mArray(array) {
+  Check(SafeArrayAccessData(array, &mFirst), "The elements of an array cannot be read");
+}
+
+ArrayElements::~ArrayElements() {
+  SafeArrayUnaccessData(mArray);
 }
 
 SafeArray::SafeArray(VARTYPE element, const ArrayBounds& bounds)
@@ -27,11 +37,14 @@ Variant SafeArray::MoveToVariant(VARTYPE element) {
   return value;
 }
 
-void SafeArray::Put(LONG index, const Variant& value) {
-  const bool isPointer = value.vt == VT_BSTR || value.vt == VT_DISPATCH || value.vt == VT_UNKNOWN;
-  const void* place = isPointer ? static_cast<const void*>(value.bstrVal) : &value.lVal;
-  if (mArray->fFeatures & FADF_VARIANT) place = static_cast<const VARIANT*>(&value);
-  Check(SafeArrayPutElement(mArray, &index, const_cast<void*>(place)), "An array cannot take an element");
+void SafeArray::Put(LONG index, Variant value) {
+  void* place = nullptr;
+  Check(SafeArrayPtrOfIndex(mArray, &index, &place), "An array has no such element");
+  if (mArray->fFeatures & FADF_VARIANT) return value.SwapWith(*static_cast<VARIANT*>(place));
+  Check(mArray->cbElements <= sizeof(value.llVal) ? S_OK : DISP_E_TYPEMISMATCH, "An array has other elements");
+  auto* const element = static_cast<unsigned char*>(place);
+  // All plain values start at the same place of a variant.
+  std::swap_ranges(element, element + mArray->cbElements, reinterpret_cast<unsigned char*>(&value.llVal));
 }
 
 }  // namespace orx::com

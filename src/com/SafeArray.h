@@ -14,6 +14,22 @@ struct ArrayBounds {
 /// The bounds of an array of one dimension; no array has no elements. DISP_E_TYPEMISMATCH for several dimensions.
 HRESULT BoundsOf(SAFEARRAY* array, ArrayBounds& bounds);
 
+/// The elements of somebody's array, which stays locked as long as this lives. Throws RunTimeError.
+class ArrayElements {
+ public:
+  explicit ArrayElements(SAFEARRAY* array);
+  ~ArrayElements();
+  ArrayElements(const ArrayElements&) = delete;
+  ArrayElements& operator=(const ArrayElements&) = delete;
+
+  /// An element by its place in memory, counted from 0.
+  void* At(ULONG place) const { return static_cast<char*>(mFirst) + std::size_t{place} * mArray->cbElements; }
+
+ private:
+  SAFEARRAY* mArray;
+  void* mFirst = nullptr;
+};
+
 /// An array of one dimension, or none.
 class SafeArray {
  public:
@@ -35,9 +51,9 @@ class SafeArray {
   /// Gives the array away as a value; `element` is the type of its elements.
   Variant MoveToVariant(VARTYPE element);
 
-  /// Copies a value into the array. It must be of exactly the type of the elements, unless these are variants. Throws
+  /// Moves a value into the array. It must be of exactly the type of the elements, unless these are variants. Throws
   /// RunTimeError.
-  void Put(LONG index, const Variant& value);
+  void Put(LONG index, Variant value);
 
  private:
   SAFEARRAY* mArray = nullptr;

@@ -93,7 +93,7 @@ constexpr Freeing kFreeings[] = {
     {"HeapFree", ""},
     {"free", ""},
     {"SafeArrayDestroy", "src/com/SafeArray."},
-    {"SafeArrayUnaccessData", ""},
+    {"SafeArrayUnaccessData", "src/com/SafeArray."},
     {"SafeArrayUnlock", ""},
     {"ReleaseTypeAttr", "src/com/TypeDescriptions."},
     {"ReleaseFuncDesc", "src/com/TypeDescriptions."},

@@ -73,17 +73,23 @@ class WindowContext {
 class RegistryKey {
  public:
   RegistryKey() = default;
-  ~RegistryKey() {
-    if (mKey) RegCloseKey(mKey);
-  }
+  ~RegistryKey() { Close(); }
   RegistryKey(const RegistryKey&) = delete;
   RegistryKey& operator=(const RegistryKey&) = delete;
 
   HKEY Get() const { return mKey; }
-  /// For functions that open a key; only while none is open.
-  HKEY* Out() { return &mKey; }
+  /// For functions that open a key.
+  HKEY* Out() {
+    Close();
+    return &mKey;
+  }
 
  private:
+  void Close() {
+    if (mKey) RegCloseKey(mKey);
+    mKey = nullptr;
+  }
+
   HKEY mKey = nullptr;
 };
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "com/Dispatch.h"
+#include "com/SafeArray.h"
 
 namespace orx::com::test {
 
@@ -67,6 +68,8 @@ class Recorder final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDial
 
 /// The elements of an array of texts, and an array made of them.
 std::vector<std::string> TextsOf(SAFEARRAY* array);
-SAFEARRAY* ArrayOfTexts(const std::vector<std::string>& texts, LONG first = 0);
+SafeArray ArrayOfTexts(const std::vector<std::string>& texts, LONG first = 0);
+/// An array of two dimensions, which no member takes.
+SafeArray TableOf(VARTYPE element);
 
 }  // namespace orx::com::test
