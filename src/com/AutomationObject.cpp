@@ -4,9 +4,9 @@
 
 #include <initializer_list>
 
-#include "com/Adapters.h"
 #include "com/DataAdapters.h"
 #include "com/GridAdapters.h"
+#include "com/MapAdapters.h"
 
 namespace orx::com {
 namespace {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "com/Handles.h"
+#include "com/LateBound.h"
 #include "hostobjects/HostObject.h"
 
 namespace orx::com {
@@ -35,6 +36,18 @@ class AutomationObject final : public HostObject, public std::enable_shared_from
   ComPtr<IDispatch> mObject;
   std::map<Kind, View> mViews;
   std::map<IUnknown*, std::shared_ptr<AutomationObject>> mAdopted;
+};
+
+/// The base of an adapter: an interface of the library over the members of an automation object.
+template <class Interface>
+class AdapterOf : public Interface {
+ public:
+  /// `owner` keeps the objects that the members give, and must outlive the adapter.
+  AdapterOf(AutomationObject& owner, const ComPtr<IDispatch>& object) : mOwner(owner), mObject(object.Get()) {}
+
+ protected:
+  AutomationObject& mOwner;
+  LateBound mObject;
 };
 
 }  // namespace orx::com

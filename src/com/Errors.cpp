@@ -2,13 +2,12 @@
 
 #include <new>
 
-#include "com/Handles.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
 namespace {
 
-/// Error numbers of the older Basic's kind have this in front, as error codes.
+/// What stands before a run-time error number in its error code.
 constexpr HRESULT kAutomationErrors = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 0);
 constexpr std::int32_t kGreatestNumber = 0xFFFF;
 

@@ -5,6 +5,9 @@
 #include <windows.h>
 
 #include <string>
+#include <type_traits>
+
+#include "com/Handles.h"
 
 namespace orx::com {
 
@@ -21,6 +24,21 @@ void Check(HRESULT result, const std::string& what);
 /// Throws RunTimeError with a description that was collected elsewhere (EXCEPINFO of a late-bound call).
 [[noreturn]] void ThrowError(HRESULT result, const std::string& description);
 
+/// What leaves by an [out] argument, for the types that members give.
+inline BSTR Given(const std::string& text) {
+  return Bstr(text).Detach();
+}
+inline VARIANT_BOOL Given(bool value) {
+  return value ? VARIANT_TRUE : VARIANT_FALSE;
+}
+inline std::int32_t Given(std::int32_t value) {
+  return value;
+}
+template <class Interface>
+Interface* Given(ComPtr<Interface> object) {
+  return object.Detach();
+}
+
 /// Runs a boundary method's body: S_OK, or the error that its exception stands for.
 template <class Body>
 HRESULT Guarded(const char* source, Body&& body) noexcept {
@@ -30,6 +48,15 @@ HRESULT Guarded(const char* source, Body&& body) noexcept {
   } catch (...) {
     return ReturnError(source);
   }
+}
+
+/// Gives the caller what `read` answers. E_POINTER when there is no place for it; after an error a place for a pointer
+/// holds null, any other is as it was.
+template <class Place, class Read>
+HRESULT Give(const char* source, Place* place, Read&& read) noexcept {
+  if (!place) return E_POINTER;
+  if constexpr (std::is_pointer_v<Place>) *place = nullptr;
+  return Guarded(source, [&] { *place = Given(read()); });
 }
 
 }  // namespace orx::com

@@ -62,17 +62,17 @@ void HostedPage::Client(HostObject* value) {
   IDispatch* const object = AutomationOf(value);
   if (value && !object)
     ThrowError(E_NOINTERFACE, "The page control " + mProgId + " cannot edit this object: it is no automation object.");
-  mMembers.Put("Client", Variant(object));
+  mMembers.Put("Client", object);
   mClient = value;
 }
 
 void HostedPage::Language(ILanguage* value) {
-  mMembers.Put("Language", Variant(AutomationOf(value)));
+  mMembers.Put("Language", AutomationOf(value));
   mLanguage = value;
 }
 
 void HostedPage::Selected(bool value) {
-  if (mMembers.Has("Selected")) mMembers.Put("Selected", Variant(value));
+  if (mMembers.Has("Selected")) mMembers.Put("Selected", value);
   PropertyPage::Selected(value);
 }
 

@@ -30,9 +30,9 @@ class HostedPage final : public PropertyPage {
   /// the control's own words then, which is no reason not to show it.
   void Language(ILanguage* value) override;
   bool IsDirty() const override { return mMembers.GetBool("IsDirty"); }
-  void IsDirty(bool value) override { mMembers.Put("IsDirty", Variant(value)); }
+  void IsDirty(bool value) override { mMembers.Put("IsDirty", value); }
   std::int32_t StartUpIndex() const override { return mMembers.GetLong("StartUpIndex"); }
-  void StartUpIndex(std::int32_t value) override { mMembers.Put("StartUpIndex", Variant(value)); }
+  void StartUpIndex(std::int32_t value) override { mMembers.Put("StartUpIndex", value); }
   void RefreshContents() override { mMembers.Call("RefreshContents"); }
   void SaveChanges() override { mMembers.Call("SaveChanges"); }
   void DiscardChanges() override { mMembers.Call("DiscardChanges"); }

@@ -12,9 +12,6 @@
 namespace orx::com {
 namespace {
 
-/// "Object doesn't support this property or method", in the numbers of the older Basic.
-constexpr std::int32_t kNoSuchMember = 438;
-
 std::vector<VARIANT> Numbers(std::initializer_list<std::int32_t> arguments) {
   std::vector<VARIANT> numbers;
   for (const std::int32_t argument : arguments) {
@@ -53,7 +50,7 @@ bool LateBound::Has(const std::string& name) const {
 
 DISPID LateBound::Require(const std::string& name) const {
   const DISPID member = Find(name);
-  if (member == kNone) throw RunTimeError(kNoSuchMember, "The object has no member \"" + name + "\".");
+  if (member == kNone) throw RunTimeError(kErrorNoSuchMember, "The object has no member \"" + name + "\".");
   return member;
 }
 
@@ -114,6 +111,12 @@ std::string LateBound::GetText(const std::string& name, std::initializer_list<st
 
 ComPtr<IDispatch> LateBound::GetObject(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
   return ComPtr<IDispatch>(Converted(Get(name, arguments), VT_DISPATCH, name).pdispVal);
+}
+
+ComPtr<IDispatch> LateBound::RequireObject(const std::string& name) const {
+  ComPtr<IDispatch> object = GetObject(name);
+  if (!object) throw RunTimeError(kErrorNotLoaded, name + " is Nothing.");
+  return object;
 }
 
 void LateBound::Put(const std::string& name, Variant value) const {

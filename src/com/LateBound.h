@@ -30,9 +30,15 @@ class LateBound {
   std::string GetText(const std::string& name, std::initializer_list<std::int32_t> arguments = {}) const;
   /// Null for Nothing.
   ComPtr<IDispatch> GetObject(const std::string& name, std::initializer_list<std::int32_t> arguments = {}) const;
+  /// Throws RunTimeError (kErrorNotLoaded) for Nothing.
+  ComPtr<IDispatch> RequireObject(const std::string& name) const;
 
   /// Sets a property; objects by reference.
   void Put(const std::string& name, Variant value) const;
+  template <class Value>
+  void Put(const std::string& name, const Value& value) const {
+    Put(name, Variant(value));
+  }
 
   /// Calls a method. Arguments stand in their order; one that travels by reference is a variant of VT_BYREF.
   Variant Call(const std::string& name, VARIANT* arguments = nullptr, UINT count = 0) const;

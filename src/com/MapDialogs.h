@@ -8,7 +8,7 @@
 
 #include "com/Dispatch.h"
 #include "com/HostAdapters.h"
-#include "com/Surroundings.h"
+#include "com/ThreadContext.h"
 #include "service/CCommonMapDialogs.h"
 
 namespace orx::com {
@@ -73,8 +73,12 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
   HRESULT ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::FormShowMode* mModal, const VARIANT* OwnerForm,
                      long* result, Dialog&& dialog) noexcept;
 
-  // The surroundings outlive the service, which uses them.
-  std::shared_ptr<Surroundings> mSurroundings;
+  using DialogMember = std::int32_t (orx::CCommonMapDialogs::*)(HostObject*, const std::string&, ShowMode, OwnerWindow);
+  /// A dialog that needs no other arguments than all have.
+  auto Plain(DialogMember member);
+
+  // Outlives the service, which uses it.
+  std::shared_ptr<ThreadContext> mContext;
   orx::CCommonMapDialogs mService;
   // Plain pointers to the host's objects, and what speaks to them. No reference is held.
   IDispatch* mLanguage = nullptr;

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "com/Dispatch.h"
-#include "com/Surroundings.h"
+#include "com/ThreadContext.h"
 #include "service/CCommonProgressDialog.h"
 
 namespace orx::com {
@@ -29,8 +29,8 @@ class ProgressDialog final : public ClassObject<::CCommonProgressDialog, ::_CCom
   HRESULT STDMETHODCALLTYPE Refresh() noexcept override;
 
  private:
-  // The surroundings outlive the service, which uses them.
-  std::shared_ptr<Surroundings> mSurroundings;
+  // Outlives the service, which uses it.
+  std::shared_ptr<ThreadContext> mContext;
   orx::CCommonProgressDialog mService;
 };
 

@@ -1,4 +1,4 @@
-// The numbers of the errors that the map library raises beside those of the dialogs.
+// What the map library requires of values that hosts hand over. All functions throw RunTimeError.
 #pragma once
 
 #include <cstdint>
@@ -7,10 +7,6 @@
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::maplibrary {
-
-inline constexpr std::int32_t kErrorSubscript = 9;
-inline constexpr std::int32_t kErrorFileAccess = 75;
-inline constexpr std::int32_t kErrorInvalidValue = 380;
 
 /// Throws "Subscript out of range: ..." unless first <= index <= last. `what` names the counted things in singular.
 void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std::int32_t last);

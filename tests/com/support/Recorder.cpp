@@ -162,7 +162,7 @@ HRESULT Recorder::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMo
 HRESULT Recorder::ShowProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                  long* result) noexcept {
   return Guarded("Recorder", [&] {
-    if (!Failure.empty()) throw RunTimeError(321, Failure);
+    if (!Failure.empty()) throw RunTimeError(kErrorFileFormat, Failure);
     Note("ShowProperties", mObj, mCaption, mModal, OwnerForm);
     *result = 9;
   });

@@ -16,7 +16,7 @@ class Recorder final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDial
  public:
   /// The calls, such as: ShowLegends(object, 3, "A", 1, missing).
   std::vector<std::string> Calls;
-  /// When not empty, ShowProperties fails with this description and the error number 321.
+  /// When not empty, ShowProperties fails with this description and kErrorFileFormat.
   std::string Failure;
 
   HRESULT STDMETHODCALLTYPE get_RegistryKey(BSTR* value) noexcept override;

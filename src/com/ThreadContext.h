@@ -11,14 +11,14 @@ namespace orx::com {
 
 /// Service objects of a thread hold it. When the last one is let go while a modeless dialog is still open, it stays
 /// until that is closed.
-class Surroundings {
+class ThreadContext {
  public:
-  virtual ~Surroundings() = default;
+  virtual ~ThreadContext() = default;
   virtual Desktop& Screen() = 0;
   virtual IPageFactory& Pages() = 0;
 
   /// Those of the calling thread; made when there are none.
-  static std::shared_ptr<Surroundings> OfThread();
+  static std::shared_ptr<ThreadContext> OfThread();
   /// Lets go of those that only waited for dialogs of the calling thread which have been closed since. True while any
   /// are left, on any thread.
   static bool StillOpen();

@@ -7,9 +7,6 @@
 namespace orx::com::test {
 namespace {
 
-constexpr HRESULT kTypeMismatchCode = static_cast<HRESULT>(0x800A000D);
-constexpr HRESULT kFixedArrayCode = static_cast<HRESULT>(0x800A000A);
-
 class ListSelection : public MapDialogsTest {
  protected:
   HRESULT Choose() {
@@ -116,25 +113,25 @@ TEST_F(ListSelection, WithoutAnArrayOfEntriesTheListIsEmpty) {
 
 TEST_F(ListSelection, EntriesOfAnotherTypeOrOfSeveralDimensionsAreErrors) {
   entries = SafeArray(VT_R8, {0, 2});
-  ExpectRefused(kTypeMismatchCode, "mSelection");
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelection");
   entries = TableOf(VT_BSTR);
-  ExpectRefused(kTypeMismatchCode, "mSelection");
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelection");
 }
 
 TEST_F(ListSelection, AnArrayForTheIndexesOfAnotherTypeOrOfSeveralDimensionsIsAnError) {
   selected = SafeArray(VT_I2, {1, 2});
-  ExpectRefused(kTypeMismatchCode, "mSelected");
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelected");
   selected = TableOf(VT_I4);
-  ExpectRefused(kTypeMismatchCode, "mSelected");
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelected");
 }
 
 TEST_F(ListSelection, AnArrayForTheIndexesThatCannotBeReplacedIsAnErrorBeforeAnythingIsShown) {
   selected = ArrayOfNumbers({77});
   SafeArrayLock(selected.Get());
-  ExpectRefused(kFixedArrayCode, "mSelected");
+  ExpectRefused(CodeOf(kErrorFixedArray), "mSelected");
   SafeArrayUnlock(selected.Get());
   selected.Get()->fFeatures |= FADF_FIXEDSIZE;
-  ExpectRefused(kFixedArrayCode, "mSelected");
+  ExpectRefused(CodeOf(kErrorFixedArray), "mSelected");
   selected.Get()->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
   EXPECT_EQ(NumbersOf(selected), std::vector<long>{77});
 }
@@ -146,7 +143,7 @@ TEST_F(ListSelection, AnArrayThatIsLockedMeanwhileStays) {
     SafeArrayLock(selected.Get());
     dynamic_cast<ListBox&>(*form.Find("lstSingleSelect")).UserDoubleClick(0);
   };
-  EXPECT_EQ(Choose(), kFixedArrayCode);
+  EXPECT_EQ(Choose(), CodeOf(kErrorFixedArray));
   EXPECT_EQ(result, 0);
   SafeArrayUnlock(selected.Get());
   EXPECT_EQ(NumbersOf(selected), std::vector<long>{77});

@@ -92,7 +92,7 @@ TEST_F(CharacterDialog, PlacesForAllResultsAreRequired) {
 
 TEST_F(CharacterDialog, ATextAsOwnerIsAnErrorAndNothingIsShown) {
   Variant text("Main window");
-  EXPECT_EQ(Choose(&text), static_cast<HRESULT>(0x800A000D));
+  EXPECT_EQ(Choose(&text), CodeOf(kErrorTypeMismatch));
   EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
   EXPECT_TRUE(shown.empty());
   EXPECT_EQ(character, 'A');

@@ -89,7 +89,7 @@ TEST(OwnerArgument, AnythingElseIsRefusedWithAReason) {
       OwnerOf(owner);
       ADD_FAILURE() << "Type " << owner->vt << " was taken.";
     } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), 13) << owner->vt;
+      EXPECT_EQ(error.Number(), kErrorTypeMismatch) << owner->vt;
       EXPECT_NE(std::string(error.what()).find("OwnerForm"), std::string::npos);
     }
   }

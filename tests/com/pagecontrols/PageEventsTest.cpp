@@ -3,9 +3,10 @@
 
 #include <OrvexMapDialogs2.h>
 
-#include "com/PageControls.h"
+#include "com/PageControlFactory.h"
 #include "tests/com/pagecontrols/TestRegistration.h"
 #include "tests/com/pagecontrols/TestTypeLibrary.h"
+#include "tests/com/support/ScriptObject.h"
 #include "tests/support/DesktopTest.h"
 
 namespace orx::test {
@@ -174,14 +175,14 @@ TEST_F(PageEventsTest, WhatAHandlerThrowsComesBackAsErrorWithDescription) {
   const com::Variant name("Relief");
   com::ExceptionInfo exception;
   EXPECT_EQ(DISP_E_EXCEPTION, Control().Raise(2, {name}, &exception));
-  EXPECT_EQ(static_cast<HRESULT>(0x800A0000 + 1001), exception.scode);
+  EXPECT_EQ(com::test::CodeOf(1001), exception.scode);
   EXPECT_EQ("This name is taken.", com::TextOf(exception.bstrDescription));
 }
 
 TEST_F(PageEventsTest, WithoutRoomForADescriptionTheCodeItselfComesBack) {
   Page().NameChanged = [](const std::string&) { throw RunTimeError(1001, "This name is taken."); };
   const com::Variant name("Relief");
-  EXPECT_EQ(static_cast<HRESULT>(0x800A0000 + 1001), Control().Raise(2, {name}));
+  EXPECT_EQ(com::test::CodeOf(1001), Control().Raise(2, {name}));
   com::ComPtr<IErrorInfo> info;
   com::Bstr description;
   ASSERT_EQ(S_OK, GetErrorInfo(0, info.Out()));
