@@ -151,7 +151,7 @@ HRESULT Arguments::WriteBack() {
     Variant result;
     HRESULT code = S_OK;
     if (temporary->What.IsArray) {
-      // Script hosts read arrays of variants only.
+      // Script hosts can read arrays of variants only.
       code = ToScriptArray(temporary->Value, result);
     } else {
       result = std::move(temporary->Value);

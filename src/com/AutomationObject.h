@@ -1,4 +1,4 @@
-// A host's automation object as a host object of the library: it answers for kinds.
+// Makes a host's automation object a host object of the library, which can be asked for the kinds it supports.
 #pragma once
 
 #include <functional>
@@ -11,8 +11,8 @@
 
 namespace orx::com {
 
-/// Keeps a counted reference to the host's object, the interfaces that it was asked for, and the objects that those
-/// have given.
+/// Holds a reference to the host's object, and keeps the interfaces that were asked for and the objects that these
+/// returned.
 class AutomationObject final : public HostObject, public std::enable_shared_from_this<AutomationObject> {
  public:
   explicit AutomationObject(IDispatch* object) : mObject(object) {}
@@ -21,12 +21,12 @@ class AutomationObject final : public HostObject, public std::enable_shared_from
   void* Query(Kind kind) override;
   std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
 
-  /// The same host object for the same automation object, kept here; null for null.
+  /// Returns the same host object for the same automation object, and keeps it. Null for null.
   AutomationObject* Adopt(const ComPtr<IDispatch>& object);
 
  private:
   struct View {
-    /// What lives as long as the view, and the pointer to exactly the interface of the kind.
+    /// The adapter, and a pointer to exactly the interface of the kind.
     std::shared_ptr<void> Owner;
     void* Interface = nullptr;
   };

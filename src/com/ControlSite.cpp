@@ -17,7 +17,7 @@ HRESULT GiveWindow(const ISiteOwner* owner, HWND* window) {
   return *window ? S_OK : E_FAIL;
 }
 
-/// What a control can ask of its surroundings; those that are not here it decides by itself.
+/// The ambient properties that a control can ask for. It decides all others itself.
 Variant Ambient(DISPID id) {
   const auto flag = [](bool value) { return Variant(value); };
   const auto number = [](LONG value) { return Variant(static_cast<std::int32_t>(value)); };
@@ -108,7 +108,7 @@ HRESULT ControlSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWin
 }
 
 HRESULT ControlSite::OnPosRectChange(const RECT*) noexcept {
-  // The dialog decides on the place: the answer is the one that the control has.
+  // The dialog decides on the place, and the control is told the one that it has.
   return Guarded(kSiteSource, [this] {
     if (mOwner) mOwner->PlaceAsked();
   });

@@ -12,7 +12,7 @@ bool IsNothing(const VARIANT& value) {
   return value.vt == VT_EMPTY || value.vt == VT_NULL;
 }
 
-/// No object is said in many ways: Nothing, Empty, Null, and 0 by those who have none of these.
+/// Hosts express "no object" as Nothing, Empty or Null, and as 0 where the language has none of these.
 HRESULT ConvertObject(const VARIANT& value, Variant& to) {
   if (value.vt == VT_DISPATCH || value.vt == VT_UNKNOWN) {
     to.vt = VT_DISPATCH;
@@ -28,7 +28,7 @@ HRESULT ConvertObject(const VARIANT& value, Variant& to) {
   return S_OK;
 }
 
-/// Makes an array; `give` gives the value of each element by its place, counted from 0.
+/// Makes an array; `give` returns the value of each element by its position, counted from 0.
 template <class Give>
 HRESULT MakeArray(VARTYPE element, const ArrayBounds& bounds, Variant& to, Give&& give) {
   SafeArray made(element, bounds);
@@ -46,14 +46,14 @@ HRESULT MakeEmpty(VARTYPE element, Variant& to) {
   return MakeArray(element, {}, to, [](ULONG, Variant&) { return S_OK; });
 }
 
-/// An array of other elements. VT_VARIANT takes all values as they are.
+/// Converts the elements of an array. VT_VARIANT takes all values as they are.
 HRESULT FromArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
   SAFEARRAY* const array = from.vt & VT_BYREF ? *from.pparray : from.parray;
   ArrayBounds bounds;
   const HRESULT result = BoundsOf(array, bounds);
   if (FAILED(result)) return result;
   const auto given = static_cast<VARTYPE>(from.vt & VT_TYPEMASK);
-  // A reference alone does not tell what a record consists of.
+  // A record cannot be copied without its description.
   if (given == VT_RECORD) return DISP_E_TYPEMISMATCH;
   if (!array) return MakeEmpty(element, to);
   const ArrayElements elements(array);
@@ -65,7 +65,7 @@ HRESULT FromArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to
   });
 }
 
-/// The bytes of a plain value of that type inside a variant; 0 for all others.
+/// The size in bytes of a plain value of that type inside a variant; 0 for other types.
 std::size_t SizeOf(VARTYPE type) {
   switch (type) {
     case VT_I1:
@@ -97,7 +97,7 @@ std::size_t SizeOf(VARTYPE type) {
   }
 }
 
-/// As such objects may be sparse, any length costs the script nothing, but an array of it has to be made here.
+/// Such an object may be sparse: any length costs the script nothing, but here an array of that length is allocated.
 constexpr std::int32_t kLongestScriptArray = 10'000'000;
 
 /// The arrays of some script languages are objects with the members "length", "0", "1", ...
@@ -136,7 +136,7 @@ HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to
   }
   to.Clear();
   if (type == VT_DISPATCH) return ConvertObject(value, to);
-  // Null converts to nothing by the system's rules; here it is a value that was left empty.
+  // The system has no conversion for Null; here it is a value that was left empty.
   if (value.vt == VT_NULL) value.vt = VT_EMPTY;
   return VariantChangeTypeEx(&to, &value, locale, VARIANT_ALPHABOOL, type);
 }

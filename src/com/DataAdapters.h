@@ -15,7 +15,7 @@ class DataAdapter final : public AdapterOf<IData> {
   using AdapterOf::AdapterOf;
 
   std::int32_t ClassCount() override { return mObject.GetLong("ClassCount"); }
-  /// What an object does not tell is not known.
+  /// Unknown when the object lacks the member.
   std::string FileName() override { return mObject.Has("FileName") ? mObject.GetText("FileName") : std::string(); }
   void FileName(const std::string& value) override { mObject.Put("FileName", value); }
   double MinimumOfData() override { return RangeEnd("MinimumOfData"); }
@@ -85,7 +85,7 @@ class DataOptionsAdapter final : public AdapterOf<IDataOptions> {
  private:
   ISpecialValue& Special(const char* member);
 
-  /// One for each member, for the object that the host gave last.
+  /// One for each member, over the object that the host returned last.
   std::map<std::string, std::unique_ptr<SpecialValueAdapter>> mSpecial;
 };
 

@@ -61,7 +61,7 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   }
 
  private:
-  /// What the type library says of the interface; loaded when it is first asked for.
+  /// The type library's description of the interface, loaded on first use.
   ITypeInfo* Description() {
     if (!mDescription) mDescription = TypeInfoOf(__uuidof(Interface));
     return mDescription.Get();
@@ -80,7 +80,7 @@ class ClassObject : public DispatchObject<Interface, IProvideClassInfo> {
   }
 
  protected:
-  /// Runs the body of a method in which events are handled: a host may let go of the object then.
+  /// Runs the body of a method that handles events: the host may release the object from within one.
   template <class Body>
   HRESULT Kept(const char* source, Body&& body) noexcept {
     const ComPtr<Interface> keep(this);

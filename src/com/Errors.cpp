@@ -7,7 +7,7 @@
 namespace orx::com {
 namespace {
 
-/// What stands before a run-time error number in its error code.
+/// The error code of a run-time error is this plus its number.
 constexpr HRESULT kAutomationErrors = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 0);
 constexpr std::int32_t kGreatestNumber = 0xFFFF;
 
@@ -74,7 +74,7 @@ HRESULT ReturnError(const char* source) noexcept {
     }
     LeaveErrorInfo(source, description);
   } catch (...) {
-    // Without memory for the description the code alone has to tell.
+    // There was no memory for the description, so only the code is returned.
     SetErrorInfo(0, nullptr);
   }
   return code;

@@ -24,7 +24,7 @@ void Check(HRESULT result, const std::string& what);
 /// Throws RunTimeError with a description that was collected elsewhere (EXCEPINFO of a late-bound call).
 [[noreturn]] void ThrowError(HRESULT result, const std::string& description);
 
-/// What leaves by an [out] argument, for the types that members give.
+/// Converts results of the library to what [out] arguments carry. The caller owns strings and references.
 inline BSTR Given(const std::string& text) {
   return Bstr(text).Detach();
 }
@@ -39,7 +39,7 @@ Interface* Given(ComPtr<Interface> object) {
   return object.Detach();
 }
 
-/// Runs a boundary method's body: S_OK, or the error that its exception stands for.
+/// Runs the body of a boundary method. Returns S_OK, or the error code of the exception.
 template <class Body>
 HRESULT Guarded(const char* source, Body&& body) noexcept {
   try {
@@ -50,8 +50,8 @@ HRESULT Guarded(const char* source, Body&& body) noexcept {
   }
 }
 
-/// Gives the caller what `read` answers. E_POINTER when there is no place for it; after an error a place for a pointer
-/// holds null, any other is as it was.
+/// Stores the result of `read` in an [out] argument. E_POINTER when it is null. After an error a pointer is null, and
+/// any other value is unchanged.
 template <class Place, class Read>
 HRESULT Give(const char* source, Place* place, Read&& read) noexcept {
   if (!place) return E_POINTER;

@@ -118,7 +118,7 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
   std::shared_ptr<LentForm::Loan> mLoan;
 };
 
-/// For Each over the controls.
+/// Serves For Each over the controls.
 class ControlsEnumerator final : public Counted<IEnumVARIANT> {
  public:
   ControlsEnumerator(const ControlsObject& controls, ULONG count, ULONG next)
@@ -132,7 +132,7 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
       while (found.size() < count && mNext + found.size() < mCount)
         found.push_back(mControls->ByNumber(static_cast<long>(mNext + found.size())));
     });
-    // Nobody clears what comes with an error.
+    // A caller does not release values that come with an error.
     if (FAILED(result)) return result;
     for (const ComPtr<IDispatch>& control : found) *values++ = Variant(control.Get()).Detach();
     mNext += static_cast<ULONG>(found.size());

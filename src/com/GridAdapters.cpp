@@ -26,7 +26,7 @@ bool ShadeAdapter::SuggestScaleFactor(double& value) {
     if (success != VARIANT_FALSE) value = suggested;
     return success != VARIANT_FALSE;
   }
-  // The variables of scripts have no types.
+  // Variables of scripts are untyped.
   Variant suggested(0.0);
   Variant success(false);
   VARIANT arguments[] = {ReferenceTo(suggested), ReferenceTo(success)};

@@ -8,7 +8,7 @@
 
 namespace orx::com {
 
-/// Serves basic and extended objects; of a basic one nobody asks for the extended settings.
+/// Serves basic and extended objects; nobody asks a basic one for the extended settings.
 class ShadeAdapter final : public AdapterOf<ShadeSettings2> {
  public:
   using AdapterOf::AdapterOf;
@@ -97,7 +97,7 @@ class IsolinesAdapter final : public AdapterOf<orx::IIsolines> {
   void RangeStep(std::int32_t value) override { mObject.Put("RangeStep", value); }
   bool LabelAllIsolines() const override { return mObject.GetBool("LabelAllIsolines"); }
   void LabelAllIsolines(bool value) override { mObject.Put("LabelAllIsolines", value); }
-  /// The objects that the host gave last; throw when it gives Nothing.
+  /// The objects that the host returned last. They throw RunTimeError when it returns Nothing.
   orx::ILineStyle& Line() override;
   orx::ILabelFont& LabelFont() override;
 

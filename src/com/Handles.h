@@ -1,5 +1,6 @@
-// The owners of what most of the component server handles: interface pointers, strings, variants, and memory that the
-// system has allocated. SafeArray.h and TypeDescriptions.h have the rest. Only an owner gives its resource back.
+// The owners of COM resources: interface pointers, strings, variants, error information and system-allocated text. The
+// owners of arrays and type descriptions are in SafeArray.h and TypeDescriptions.h. Nothing but an owner frees its
+// resource.
 #pragma once
 
 #include <windows.h>
@@ -33,13 +34,13 @@ class ComPtr {
     return *this;
   }
 
-  /// Takes over a reference that somebody else has added.
+  /// Takes over a reference that the caller holds.
   static ComPtr Attach(Interface* pointer) {
     ComPtr taken;
     taken.mPointer = pointer;
     return taken;
   }
-  /// Gives the reference away to the caller.
+  /// Hands the reference over to the caller.
   Interface* Detach() { return std::exchange(mPointer, nullptr); }
   void Reset() {
     if (Interface* const gone = std::exchange(mPointer, nullptr)) gone->Release();
@@ -49,19 +50,19 @@ class ComPtr {
   Interface* operator->() const { return mPointer; }
   explicit operator bool() const { return mPointer != nullptr; }
 
-  /// For functions that give an interface back through an argument.
+  /// For functions that return an interface through an argument.
   Interface** Out() {
     Reset();
     return &mPointer;
   }
   void** OutVoid() { return reinterpret_cast<void**>(Out()); }
 
-  /// Another interface of the object, empty when it has none.
+  /// Another interface of the object; empty when the object does not have it.
   template <class Other>
   ComPtr<Other> As(const IID& iid = __uuidof(Other)) const {
     return mPointer ? ComPtr<Other>::From(mPointer, iid) : ComPtr<Other>();
   }
-  /// The interface of any object, empty when there is no object or it has none.
+  /// An interface of any object; empty when there is no object or the object does not have it.
   static ComPtr From(IUnknown* object, const IID& iid = __uuidof(Interface)) {
     ComPtr found;
     if (object && FAILED(object->QueryInterface(iid, found.OutVoid()))) found.mPointer = nullptr;
@@ -93,9 +94,9 @@ class Bstr {
     *this = Bstr();
     return &mText;
   }
-  /// For functions that replace a string through an argument.
+  /// For functions that replace the string through an argument.
   BSTR* InOut() { return &mText; }
-  /// Trades strings with a variable of somebody else, who takes over the other's ownership.
+  /// Swaps the string with a caller's variable, which then owns what was here.
   void SwapWith(BSTR& other) noexcept { std::swap(mText, other); }
   std::string Text() const;
 
@@ -143,18 +144,18 @@ class Variant : public VARIANT {
   ~Variant() { Clear(); }
 
   void Clear() { VariantClear(this); }
-  /// For functions that give a value back through an argument.
+  /// For functions that return a value through an argument.
   VARIANT* Out() {
     Clear();
     return this;
   }
-  /// Gives the value away to the caller.
+  /// Hands the value over to the caller.
   VARIANT Detach() { return std::exchange(static_cast<VARIANT&>(*this), VARIANT{}); }
-  /// Trades values with a variable of somebody else, who takes over the other's ownership.
+  /// Swaps the value with a caller's variable, which then owns what was here.
   void SwapWith(VARIANT& other) noexcept { std::swap(static_cast<VARIANT&>(*this), other); }
 };
 
-/// What a failed late-bound call tells about its error.
+/// The error information of a late-bound call.
 class ExceptionInfo : public EXCEPINFO {
  public:
   ExceptionInfo() : EXCEPINFO{} {}
@@ -162,7 +163,7 @@ class ExceptionInfo : public EXCEPINFO {
   ExceptionInfo(const ExceptionInfo&) = delete;
   ExceptionInfo& operator=(const ExceptionInfo&) = delete;
 
-  /// The error code. Fills in what the callee has left for later, so ask for it before the texts.
+  /// The error code. This also completes information that the callee has deferred, so call it before reading the texts.
   HRESULT Code();
 };
 

@@ -16,14 +16,14 @@ void RequireElements(SAFEARRAY* array, VARTYPE type, const std::string& descript
   if (!HasElements(array, type)) throw RunTimeError(kErrorTypeMismatch, description);
 }
 
-/// Throws for arrays that belong to their place, and for those that somebody works in.
+/// Throws for arrays that cannot be reallocated, and for those that are in use.
 void RequireReplaceable(const SAFEARRAY* array, const std::string& name) {
   if (!array || (!(array->fFeatures & (FADF_STATIC | FADF_EMBEDDED | FADF_FIXEDSIZE)) && array->cLocks == 0)) return;
   throw RunTimeError(kErrorFixedArray,
                      name + " is an array of a fixed size or locked. Hand over one that can be resized.");
 }
 
-/// Puts an array with these elements, counted from 1, in the place of another.
+/// Replaces an array by one with these elements that counts from 1.
 template <class Element>
 void Replace(VARTYPE type, const std::vector<Element>& elements, SAFEARRAY*& array, const char* name) {
   RequireReplaceable(array, name);

@@ -17,7 +17,7 @@ SIZEL Himetric(const RECT& pixels) {
 }
 
 void Begin(IOleObject& control, IOleClientSite* site) {
-  // Some controls ask for their surroundings in InitNew already, and none minds having the site before.
+  // Some controls use their site in InitNew already, and none minds having it earlier.
   Check(control.SetClientSite(site), "SetClientSite");
   if (const auto stream = ComPtr<IPersistStreamInit>::From(&control)) {
     const HRESULT result = stream->InitNew();

@@ -14,7 +14,7 @@ ComPtr<IDispatch> MembersOf(const HostedControl& control) {
   return members;
 }
 
-/// Says in the page's place why it is not there.
+/// Shows the reason where the page would be.
 void ShowReason(HWND area, const std::string& reason) {
   RECT place;
   GetClientRect(area, &place);
@@ -31,7 +31,7 @@ HostedPage::HostedPage(const PageSite& site, const std::string& progId, const CL
       mMembers(MembersOf(mControl).Get()),
       mArea(site.Parent, site.Name, {.Place = site.Place}) {
   HandleArea();
-  // Last, as nobody would disconnect the events of a page that was not made to its end.
+  // Last, because nobody would disconnect the events of a page whose constructor throws.
   mEvents = PageEvents::Connect(mControl.Object(), *this);
 }
 
@@ -53,7 +53,7 @@ void HostedPage::Open(HWND area) {
   try {
     mControl.Open(area);
   } catch (const RunTimeError& error) {
-    // The dialog is on its way to the screen with its buttons, and the page's members answer.
+    // The dialog is about to be shown with its buttons, and the page's members still work.
     ShowReason(area, "The page control " + mProgId + " does not show itself. " + error.what());
   }
 }

@@ -9,8 +9,8 @@
 namespace orx::com {
 namespace {
 
-/// The kinds of members that flags may stand for, in the order in which they are looked for. Script hosts do not tell
-/// methods from properties that are read, nor values from objects that are set.
+/// The kinds of members that the flags may mean, in the order in which they are tried. Script hosts do not distinguish
+/// methods from reading a property, nor setting a value from setting an object.
 std::vector<INVOKEKIND> KindsFor(WORD flags) {
   if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
     if (flags & DISPATCH_PROPERTYPUTREF) return {INVOKE_PROPERTYPUTREF, INVOKE_PROPERTYPUT};
@@ -20,7 +20,7 @@ std::vector<INVOKEKIND> KindsFor(WORD flags) {
   return {INVOKE_FUNC, INVOKE_PROPERTYGET};
 }
 
-/// Members are looked for one by one: not all systems count those that the interface inherits when asked by number.
+/// Looks through all members: systems differ in whether a look-up by identifier counts inherited ones.
 FunctionDescription FindMember(ITypeInfo& info, DISPID member, INVOKEKIND kind) {
   for (UINT index = 0;; ++index) {
     FunctionDescription found = FunctionOf(info, index);
@@ -37,7 +37,7 @@ HRESULT InOrder(const DISPPARAMS& given, std::size_t parameters, bool isPut, std
     if (name != DISPID_PROPERTYPUT && (name < 0 || at >= parameters)) return DISP_E_PARAMNOTFOUND;
     ordered[at] = &given.rgvarg[i];
   }
-  // What has no name stands behind, the last argument first.
+  // Arguments without names follow, the last one first.
   for (UINT i = given.cNamedArgs; i < given.cArgs; ++i) ordered[given.cArgs - 1 - i] = &given.rgvarg[i];
   return S_OK;
 }
@@ -66,7 +66,7 @@ HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, cons
   return FAILED(result) ? result : arguments.WriteBack();
 }
 
-/// An index behind a property that takes none is meant for the collection that it gives.
+/// An index after a property that takes none is meant for the collection that the property returns.
 HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const FUNCDESC& member) {
   Variant collection;
   DISPPARAMS none = {};

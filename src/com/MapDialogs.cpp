@@ -52,7 +52,7 @@ HRESULT MapDialogs::get_Language(IDispatch** value) noexcept {
 HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
   return Guarded(kDialogsSource, [&] {
     IDispatch* const language = value ? *value : nullptr;
-    // The old adapter lives until the service has the new one, whatever the new language throws when it is asked.
+    // The old adapter lives until the service has the new one, even if the new language throws when it is set.
     const auto before = std::exchange(mLanguageAdapter, AdaptLanguage(language));
     mLanguage = language;
     mService.Language(mLanguageAdapter.get());
@@ -154,7 +154,7 @@ HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL mult
   if (!files || !result) return E_POINTER;
   return Kept(kDialogsSource, [&] {
     std::vector<std::string> chosen = InitialNameIn(*files);
-    // Handles of 64-bit programs fit 32 bits, with their sign.
+    // Window handles of 64-bit programs fit 32 bits and are sign-extended.
     const auto owner = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(hWnd));
     const bool isChosen = (mService.*member)(owner, multiselect != VARIANT_FALSE, chosen);
     if (isChosen) PutTexts(chosen, *files, "Files");
@@ -213,7 +213,7 @@ HRESULT MapDialogs::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMul
   *result = 0;
   return Kept(kDialogsSource, [&] {
     const TextArray entries = TextsIn(*mSelection, "mSelection");
-    // What would be chosen in vain need not be chosen at all.
+    // Fail before the user has chosen, not afterwards.
     RequireNumbers(*mSelected, "mSelected");
     std::vector<std::int32_t> chosen;
     const std::int32_t count =

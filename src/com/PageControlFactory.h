@@ -1,4 +1,4 @@
-// Where page controls are registered, they serve as the dialogs' property pages in place of the embedded ones.
+// Makes property pages of registered page controls, in place of the embedded pages.
 #pragma once
 
 #include <set>
@@ -8,13 +8,12 @@
 
 namespace orx::com {
 
-/// Makes a page of the control that is registered as "OrvexMapControls." with the name of the kind of page. Where none
-/// is registered the embedded page serves.
+/// Makes a page of the control that is registered as "OrvexMapControls." plus the name of the kind of page. Where none
+/// is registered the embedded page is used.
 ///
-/// It serves as well where a registered control cannot be made: an installation that has gone wrong must not lock the
-/// user out of the settings. It is not done silently, since a user who misses the page of the control has to learn why:
-/// a message names the control and the reason, once for each control. An error would reach nobody, for the dialogs'
-/// service traps it.
+/// The embedded page is also used where a registered control cannot be created: a broken installation must not lock
+/// users out of their settings. They are told why the control's page is missing: a message names the control and the
+/// reason, once for each control. An error would reach nobody, because the dialog service traps it.
 class PageControlFactory final : public IPageFactory {
  public:
   /// The embedded factory must outlive this one.

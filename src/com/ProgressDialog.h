@@ -1,7 +1,7 @@
 // The creatable class CCommonProgressDialog: the service class behind its dual interface.
 #pragma once
 
-// The interfaces come first: their names are global there and the library's own ones are not.
+// This header comes first: its interfaces are global, and the library has others of the same names.
 #include <OrvexMapDialogs2.h>
 
 #include <memory>

@@ -27,7 +27,7 @@ const CreatableClass kClasses[] = {
      L"Progress dialog for long operations"},
 };
 
-/// One text in the registry; an empty name is the key's own value.
+/// One text in the registry; an empty name means the default value of the key.
 struct Entry {
   std::wstring Key;
   std::wstring Name;
@@ -60,12 +60,12 @@ std::vector<Entry> EntriesOf(const CreatableClass& made) {
   };
 }
 
-/// The classes of all users or of the present one.
+/// The registry's classes, of all users or of the current one.
 class ClassesKey {
  public:
   explicit ClassesKey(RegisteredFor whom) {
     const HKEY root = whom == RegisteredFor::AllUsers ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-    // Kept first: the macro looks at its argument twice.
+    // HRESULT_FROM_WIN32 evaluates its argument twice.
     const LSTATUS status =
         RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, mKey.Out(), nullptr);
     Check(HRESULT_FROM_WIN32(status), "The registry's classes cannot be opened");
@@ -85,7 +85,7 @@ class ClassesKey {
       Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(key) + "\" cannot be removed");
   }
 
-  /// Removes a key that nothing stands in any more: a user who has registered nothing else had none.
+  /// Removes a key that is empty now: it was not there before, unless the user had registered something else.
   void RemoveEmpty(const wchar_t* key) const {
     if (IsEmpty(key)) RegDeleteKeyW(mKey.Get(), key);
   }
@@ -104,7 +104,7 @@ class ClassesKey {
   win32::RegistryKey mKey;
 };
 
-/// What carries calls of an interface to another thread: the automation library, which knows it from the type library.
+/// The automation library's own proxies, which marshal an interface by its type library.
 constexpr wchar_t kDualProxy[] = L"{00020424-0000-0000-C000-000000000046}";
 constexpr wchar_t kDispatchProxy[] = L"{00020420-0000-0000-C000-000000000046}";
 
@@ -181,7 +181,7 @@ void Register(RegisteredFor whom) {
     for (const PublishedInterface& published : interfaces) WriteAll(classes, EntriesOf(published));
     for (const CreatableClass& made : kClasses) WriteAll(classes, EntriesOf(made));
   } catch (...) {
-    // Half a registration is worse than none. What it failed at is the error to tell.
+    // Half a registration is worse than none. The first failure is the one to report.
     static_cast<void>(Guarded(kRegistrationSource, [&] { Unregister(whom); }));
     throw;
   }
@@ -194,7 +194,7 @@ void Unregister(RegisteredFor whom) {
     classes.Remove(made.ProgId);
     classes.Remove(ClassKey(made));
   }
-  // Last, as it needs the type library, which may be damaged.
+  // Last, because it needs the type library, which may be damaged.
   for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
   for (const wchar_t* const folder : {L"CLSID", L"Interface", L"TypeLib"}) classes.RemoveEmpty(folder);
 }

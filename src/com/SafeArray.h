@@ -11,10 +11,10 @@ struct ArrayBounds {
   ULONG Count = 0;
 };
 
-/// The bounds of an array of one dimension; no array has no elements. DISP_E_TYPEMISMATCH for several dimensions.
+/// The bounds of an array of one dimension; a null array has no elements. DISP_E_TYPEMISMATCH for several dimensions.
 HRESULT BoundsOf(SAFEARRAY* array, ArrayBounds& bounds);
 
-/// The elements of somebody's array, which stays locked as long as this lives. Throws RunTimeError.
+/// The elements of a host's array, which is locked for as long as this lives. Throws RunTimeError.
 class ArrayElements {
  public:
   explicit ArrayElements(SAFEARRAY* array);
@@ -22,7 +22,7 @@ class ArrayElements {
   ArrayElements(const ArrayElements&) = delete;
   ArrayElements& operator=(const ArrayElements&) = delete;
 
-  /// An element by its place in memory, counted from 0.
+  /// The element at a position, counted from 0.
   void* At(ULONG place) const { return static_cast<char*>(mFirst) + std::size_t{place} * mArray->cbElements; }
 
  private:
@@ -34,7 +34,7 @@ class ArrayElements {
 class SafeArray {
  public:
   SafeArray() = default;
-  /// Elements that are zero, empty or nothing. Throws std::bad_alloc.
+  /// All elements are zero, empty or Nothing. Throws std::bad_alloc.
   SafeArray(VARTYPE element, const ArrayBounds& bounds);
   SafeArray(SafeArray&& other) noexcept : mArray(std::exchange(other.mArray, nullptr)) {}
   SafeArray& operator=(SafeArray&& other) noexcept {
@@ -44,14 +44,14 @@ class SafeArray {
   ~SafeArray();
 
   SAFEARRAY* Get() const { return mArray; }
-  /// For functions that replace an array through an argument.
+  /// For functions that replace the array through an argument.
   SAFEARRAY** InOut() { return &mArray; }
-  /// Trades arrays with a variable of somebody else, who takes over the other's ownership.
+  /// Swaps the array with a caller's variable, which then owns what was here.
   void SwapWith(SAFEARRAY*& other) noexcept { std::swap(mArray, other); }
-  /// Gives the array away as a value; `element` is the type of its elements.
+  /// Moves the array into a variant; `element` is the type of its elements.
   Variant MoveToVariant(VARTYPE element);
 
-  /// Moves a value into the array. It must be of exactly the type of the elements, unless these are variants. Throws
+  /// Moves a value into the array. It must have exactly the type of the elements, unless these are variants. Throws
   /// RunTimeError.
   void Put(LONG index, Variant value);
 

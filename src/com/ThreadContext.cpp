@@ -25,7 +25,7 @@ class DialogContext final : public ThreadContext {
   IPageFactory& Pages() override { return mPages; }
 
  private:
-  // The pages of open dialogs go with the desktop, which is why it goes first.
+  // The desktop is the last and so destroyed first: pages of open dialogs go with it, and need the factories.
   maplibrary::PageFactory mEmbedded;
   PageControlFactory mPages{mEmbedded};
   std::unique_ptr<Desktop> mScreen;
@@ -42,7 +42,7 @@ class Threads {
     return Shared(std::make_shared<DialogContext>());
   }
 
-  /// A reference of a service object is gone.
+  /// The last service object of a thread has released its context.
   void Released(std::shared_ptr<ThreadContext> context) {
     const std::lock_guard lock(mMutex);
     Entry& entry = mEntries[GetCurrentThreadId()];
@@ -66,7 +66,7 @@ class Threads {
     std::shared_ptr<ThreadContext> Lingering;
   };
 
-  /// What service objects hold: it reports when the last of them lets go.
+  /// What service objects hold. It reports when the last of them is gone.
   std::shared_ptr<ThreadContext> Shared(std::shared_ptr<ThreadContext> context);
 
   std::mutex mMutex;

@@ -9,21 +9,21 @@
 
 namespace orx::com {
 
-/// Service objects of a thread hold it. When the last one is let go while a modeless dialog is still open, it stays
-/// until that is closed.
+/// The service objects of a thread share it. When the last one is released while a modeless dialog is still open, the
+/// context stays until that dialog is closed.
 class ThreadContext {
  public:
   virtual ~ThreadContext() = default;
   virtual Desktop& Screen() = 0;
   virtual IPageFactory& Pages() = 0;
 
-  /// Those of the calling thread; made when there are none.
+  /// The context of the calling thread, created when there is none.
   static std::shared_ptr<ThreadContext> OfThread();
-  /// Lets go of those that only waited for dialogs of the calling thread which have been closed since. True while any
-  /// are left, on any thread.
+  /// Releases the calling thread's context if it only waited for dialogs that have been closed since. True while any
+  /// thread has a context with open dialogs.
   static bool StillOpen();
 
-  /// For tests: makes the desktops from now on; an empty function: the platform's again.
+  /// For tests: `maker` makes the desktops from now on; an empty function restores the platform's.
   static void DesktopMaker(std::function<std::unique_ptr<Desktop>()> maker);
 };
 

@@ -1,4 +1,4 @@
-// The descriptions that type information lends, given back to it by their owner.
+// The owners of descriptions that ITypeInfo lends: type attributes and function descriptions.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 namespace orx::com {
 
-/// Keeps the type information alive that the description belongs to.
+/// Holds a reference to the type information, which has to release the description.
 struct DescriptionDeleter {
   ComPtr<ITypeInfo> Lender;
   void operator()(TYPEATTR* attributes) const { Lender->ReleaseTypeAttr(attributes); }
@@ -17,14 +17,14 @@ struct DescriptionDeleter {
 using TypeAttributes = std::unique_ptr<TYPEATTR, DescriptionDeleter>;
 using FunctionDescription = std::unique_ptr<FUNCDESC, DescriptionDeleter>;
 
-/// The attributes of a type; null when there are none to be had.
+/// The attributes of a type; null when they cannot be read.
 inline TypeAttributes AttributesOf(ITypeInfo& info) {
   TYPEATTR* attributes = nullptr;
   if (FAILED(info.GetTypeAttr(&attributes))) attributes = nullptr;
   return {attributes, {ComPtr<ITypeInfo>(&info)}};
 }
 
-/// The description of a member, counted from 0; null behind the last one.
+/// The description of the member at an index from 0; null past the last one.
 inline FunctionDescription FunctionOf(ITypeInfo& info, UINT index) {
   FUNCDESC* function = nullptr;
   if (FAILED(info.GetFuncDesc(index, &function))) function = nullptr;

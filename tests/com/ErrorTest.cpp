@@ -10,10 +10,10 @@ namespace {
 
 TEST(Errors, ReachHostsByTheNumbersThatTheyKnow) {
   const std::pair<std::int32_t, unsigned> codes[] = {
-      {kErrorOverflow, 0x800A0006},     {kErrorSubscript, 0x800A0009},    {kErrorFixedArray, 0x800A000A},
-      {kErrorTypeMismatch, 0x800A000D}, {kErrorNoSuchFile, 0x800A0035},   {kErrorFileAccess, 0x800A004B},
-      {kErrorNotLoaded, 0x800A005B},    {kErrorFileFormat, 0x800A0141},   {kErrorInvalidValue, 0x800A017C},
-      {kErrorNotAvailable, 0x800A018E}, {kErrorNoSuchPage, 0x800A01AE},   {kErrorNoSuchMember, 0x800A01B6},
+      {kErrorOverflow, 0x800A0006},     {kErrorSubscript, 0x800A0009},  {kErrorFixedArray, 0x800A000A},
+      {kErrorTypeMismatch, 0x800A000D}, {kErrorNoSuchFile, 0x800A0035}, {kErrorFileAccess, 0x800A004B},
+      {kErrorNotLoaded, 0x800A005B},    {kErrorFileFormat, 0x800A0141}, {kErrorInvalidValue, 0x800A017C},
+      {kErrorNotAvailable, 0x800A018E}, {kErrorNoSuchPage, 0x800A01AE}, {kErrorNoSuchMember, 0x800A01B6},
   };
   for (const auto& [number, code] : codes)
     EXPECT_EQ(Guarded("Errors", [&] { throw RunTimeError(number, "It failed."); }), static_cast<HRESULT>(code))

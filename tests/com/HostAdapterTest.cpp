@@ -111,7 +111,8 @@ TEST(HostAdapter, WhatAMemberRaisesKeepsItsNumberAndDescription) {
   };
   for (const auto& [member, act] : acts) {
     object->Broken = member;
-    EXPECT_EQ(ErrorOf(act), (std::pair<std::int32_t, std::string>{kErrorFileFormat, std::string(member) + " is broken"}));
+    EXPECT_EQ(ErrorOf(act),
+              (std::pair<std::int32_t, std::string>{kErrorFileFormat, std::string(member) + " is broken"}));
   }
 }
 

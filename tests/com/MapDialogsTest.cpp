@@ -1,7 +1,7 @@
 // The members of CCommonMapDialogs, called through the slots as compiled hosts do.
+#include "tests/com/support/MapDialogsTest.h"
 #include "forms/TreeList.h"
 #include "service/modMain.h"
-#include "tests/com/support/MapDialogsTest.h"
 
 namespace orx::com::test {
 namespace {

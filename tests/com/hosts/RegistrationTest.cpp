@@ -126,7 +126,7 @@ TEST_F(Registration, ThatFailsOnTheWayTakesBackWhatItHasWrittenAndLeavesNoKeyOpe
   EXPECT_EQ(ClassKeys(HKEY_CURRENT_USER), user);
 }
 
-/// What the registry does where the user may write for himself alone.
+/// What the registry does where users may only write their own part.
 void WriteAsUser(RegisteredFor whom) {
   if (whom == RegisteredFor::AllUsers) Check(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED), "Software\\Classes");
 }
