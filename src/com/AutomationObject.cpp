@@ -4,15 +4,15 @@
 
 #include <initializer_list>
 
-#include "com/Adapters.h"
 #include "com/DataAdapters.h"
 #include "com/GridAdapters.h"
+#include "com/MapAdapters.h"
 
 namespace orx::com {
 namespace {
 
-/// The object's own dispatch interface of the published kind, or the object itself when its members have the names by
-/// which that kind is known; empty when it is not of the kind.
+/// The published interface of the object if it has it, or the object itself if it has the members that identify the
+/// kind. Empty when it is not of that kind.
 template <class Published>
 ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
                          const char* unlike = nullptr) {
@@ -23,7 +23,7 @@ ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<
   return unlike && named.Has(unlike) ? ComPtr<IDispatch>() : object;
 }
 
-/// The view of a data object: the object itself, or what its member `giver` gives.
+/// A view of a data object: the object itself, or what its member `giver` returns.
 template <class Published>
 ComPtr<IDispatch> PartOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
                          const char* giver) {
@@ -104,7 +104,7 @@ HostInterface* AutomationObject::ViewFor(const std::type_info& wanted) {
 
 AutomationObject* AutomationObject::Adopt(const ComPtr<IDispatch>& object) {
   if (!object) return nullptr;
-  // The identity of an object is its IUnknown; the adapter's reference keeps it from being given to another.
+  // The identity of an object is its IUnknown; the adapter's reference keeps the address from being used again.
   const ComPtr<IUnknown> identity = object.As<IUnknown>();
   std::shared_ptr<AutomationObject>& known = mAdopted[identity.Get()];
   if (!known) known = std::make_shared<AutomationObject>(object.Get());

@@ -43,6 +43,10 @@ TEST(ArchitectureTree, NativeTypesStayInTheDesktops) {
   ExpectNone(NativeNames(Sources()));
 }
 
+TEST(ArchitectureTree, TheComponentServerFreesInOwnersAlone) {
+  ExpectNone(FreesOutsideTheirOwner(Sources()));
+}
+
 TEST(ArchitectureTree, NoFileIsLongerThan400Lines) {
   ExpectNone(FilesLongerThan(400, AllCode()));
 }

@@ -1,6 +1,7 @@
 #include "tests/architecture/Rules.h"
 
 #include <algorithm>
+#include <cctype>
 #include <map>
 #include <set>
 
@@ -83,6 +84,51 @@ bool IsNativeHeader(const std::string& name) {
 /// What includes what, be it files or folders.
 using IncludeGraph = std::map<std::string, std::set<std::string>>;
 
+/// A call that gives a resource back, and the beginning of the only files that may make it; none may where it is empty.
+struct Freeing {
+  std::string_view Call;
+  std::string_view Owner;
+};
+
+constexpr Freeing kFreeings[] = {
+    {"->Release", "src/com/Handles."},
+    {".Release", "src/com/Handles."},
+    {"SysFreeString", "src/com/Handles."},
+    {"VariantClear", "src/com/Handles."},
+    {"LocalFree", "src/com/Handles."},
+    {"CoTaskMemFree", ""},
+    {"GlobalFree", ""},
+    {"HeapFree", ""},
+    {"free", ""},
+    {"SafeArrayDestroy", "src/com/SafeArray."},
+    {"SafeArrayUnaccessData", "src/com/SafeArray."},
+    {"SafeArrayUnlock", ""},
+    {"ReleaseTypeAttr", "src/com/TypeDescriptions."},
+    {"ReleaseFuncDesc", "src/com/TypeDescriptions."},
+    {"ReleaseVarDesc", ""},
+    {"ReleaseTLibAttr", ""},
+    {"Unadvise", "src/com/PageEvents."},
+    {"RegCloseKey", ""},
+    {"CloseHandle", ""},
+    {"FreeLibrary", ""},
+    {"ReleaseDC", ""},
+    {"DeleteDC", ""},
+    {"DeleteObject", ""},
+    {"delete this", "src/com/Counted."},
+};
+
+/// True when the text stands there as whole words, called where it is the name of a function.
+bool Calls(const std::string& code, std::string_view call) {
+  const auto isWordPart = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; };
+  const bool isFunction = call != "delete this";
+  for (std::size_t at = code.find(call); at != std::string::npos; at = code.find(call, at + 1)) {
+    const bool beginsHere = at == 0 || !isWordPart(call.front()) || !isWordPart(code[at - 1]);
+    const std::size_t end = at + call.size();
+    if (beginsHere && end < code.size() && (isFunction ? code[end] == '(' : !isWordPart(code[end]))) return true;
+  }
+  return false;
+}
+
 /// Walks the includes depth first and notes each way back to a file that is being walked.
 class CircleSearch {
  public:
@@ -160,6 +206,18 @@ Breaches NativeNames(const std::vector<SourceFile>& sources) {
       if (IsNativeHeader(header)) found.push_back(file.Path + " includes <" + header + ">");
     for (const std::string& word : file.Words())
       if (IsNativeWord(word)) found.push_back(file.Path + " uses " + word);
+  }
+  return found;
+}
+
+Breaches FreesOutsideTheirOwner(const std::vector<SourceFile>& sources) {
+  Breaches found;
+  for (const SourceFile& file : sources) {
+    if (!file.Path.starts_with("src/com/")) continue;
+    const std::string code = WithoutCommentsAndTexts(file.Text);
+    for (const auto& [call, owner] : kFreeings)
+      if ((owner.empty() || !file.Path.starts_with(owner)) && Calls(code, call))
+        found.push_back(file.Path + " calls " + std::string(call));
   }
   return found;
 }

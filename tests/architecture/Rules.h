@@ -21,6 +21,8 @@ Breaches IncludeCircles(const std::vector<SourceFile>& sources);
 Breaches FolderCircles(const std::vector<SourceFile>& sources);
 /// Native types, headers and platform switches stand in the desktops and the component server only.
 Breaches NativeNames(const std::vector<SourceFile>& sources);
+/// In the component server each kind of resource has one owner: nothing else calls the function that gives it back.
+Breaches FreesOutsideTheirOwner(const std::vector<SourceFile>& sources);
 Breaches FilesLongerThan(std::size_t lines, const std::vector<SourceFile>& files);
 Breaches FilesContaining(const std::string& word, const std::vector<SourceFile>& files);
 

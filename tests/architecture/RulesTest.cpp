@@ -97,9 +97,26 @@ TEST(ArchitectureRules, NativeHeadersAreFound) {
   EXPECT_EQ(NativeNames({{"src/maplibrary/A.h", "#include <QtWidgets>\n"}}).size(), 1u);
 }
 
+TEST(ArchitectureRules, TheComponentServerFreesInOwnersAlone) {
+  const auto freesOf = [](const std::string& path, const std::string& code) {
+    return FreesOutsideTheirOwner({{path, code}});
+  };
+  EXPECT_EQ(freesOf("src/com/A.cpp", "object->Release();"), Breaches{"src/com/A.cpp calls ->Release"});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "SysFreeString(text);"), Breaches{"src/com/A.cpp calls SysFreeString"});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "CoTaskMemFree(p);"), Breaches{"src/com/A.cpp calls CoTaskMemFree"});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "if (none) delete this;"), Breaches{"src/com/A.cpp calls delete this"});
+  EXPECT_EQ(freesOf("src/com/SafeArray.cpp", "SafeArrayDestroy(a); SysFreeString(b);"),
+            Breaches{"src/com/SafeArray.cpp calls SysFreeString"});
+  EXPECT_EQ(freesOf("src/com/Handles.h", "SysFreeString(text); gone->Release();"), Breaches{});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "// free(p)\nA(A&&) = delete; ULONG Release(); MyLocalFree(); pointer.Free();"),
+            Breaches{});
+  EXPECT_EQ(freesOf("tests/com/A.cpp", "SysFreeString(text);"), Breaches{});
+}
+
 TEST(ArchitectureRules, CommentsAndTextsAreTakenOut) {
   EXPECT_EQ(WithoutCommentsAndTexts("a/*b*/c//d\ne"), "ac\ne");
   EXPECT_EQ(WithoutCommentsAndTexts("f(\"a\\\"b\", 'c', 1'000)"), "f(\"\", \"\", 1'000)");
+  EXPECT_EQ(WithoutCommentsAndTexts("f(L'\\\\', b, u8'x')"), "f(L\"\", b, u8\"\")");
   EXPECT_EQ(WithoutCommentsAndTexts("R\"(a \" b)\" c"), "R\"\" c");
 }
 

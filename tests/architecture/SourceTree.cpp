@@ -56,8 +56,12 @@ std::size_t EndOfLiteral(std::string_view code, std::size_t from) {
 
 bool BeginsLiteral(std::string_view code, std::size_t at) {
   if (code[at] == '"') return true;
+  if (code[at] != '\'') return false;
+  std::size_t word = at;
+  while (word > 0 && IsWordPart(code[word - 1])) --word;
   // Between digits an apostrophe only groups them.
-  return code[at] == '\'' && (at == 0 || !IsWordPart(code[at - 1]));
+  const std::string_view prefix = code.substr(word, at - word);
+  return prefix.empty() || prefix == "L" || prefix == "u" || prefix == "U" || prefix == "u8";
 }
 
 }  // namespace

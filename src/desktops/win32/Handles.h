@@ -69,6 +69,30 @@ class WindowContext {
   HDC mContext;
 };
 
+/// A key of the registry, open as long as this lives.
+class RegistryKey {
+ public:
+  RegistryKey() = default;
+  ~RegistryKey() { Close(); }
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+
+  HKEY Get() const { return mKey; }
+  /// For functions that open a key.
+  HKEY* Out() {
+    Close();
+    return &mKey;
+  }
+
+ private:
+  void Close() {
+    if (mKey) RegCloseKey(mKey);
+    mKey = nullptr;
+  }
+
+  HKEY mKey = nullptr;
+};
+
 /// The module that this code is in: the component's DLL, or the program that it is linked with.
 HINSTANCE ThisModule();
 

@@ -6,27 +6,13 @@
 #include <stdexcept>
 #include <vector>
 
+#include "desktops/win32/Handles.h"
 #include "desktops/win32/Text.h"
 
 namespace orx::win32 {
 namespace {
 
 constexpr wchar_t kRoot[] = L"Software\\VB and VBA Program Settings\\";
-
-class RegistryKey {
- public:
-  RegistryKey() = default;
-  RegistryKey(const RegistryKey&) = delete;
-  RegistryKey& operator=(const RegistryKey&) = delete;
-  ~RegistryKey() {
-    if (mKey) RegCloseKey(mKey);
-  }
-  HKEY Get() const { return mKey; }
-  HKEY* Out() { return &mKey; }
-
- private:
-  HKEY mKey = nullptr;
-};
 
 std::wstring PathOf(const SettingName& setting) {
   return kRoot + Widened(setting.Key) + L"\\" + Widened(setting.Section);

@@ -1,4 +1,4 @@
-// Checks of indexes and numbers that the host sets, with errors that tell what is allowed.
+// What the map library requires of values that hosts hand over. All functions throw RunTimeError.
 #pragma once
 
 #include <cstdint>

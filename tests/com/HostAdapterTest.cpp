@@ -111,14 +111,15 @@ TEST(HostAdapter, WhatAMemberRaisesKeepsItsNumberAndDescription) {
   };
   for (const auto& [member, act] : acts) {
     object->Broken = member;
-    EXPECT_EQ(ErrorOf(act), (std::pair<std::int32_t, std::string>{321, std::string(member) + " is broken"}));
+    EXPECT_EQ(ErrorOf(act),
+              (std::pair<std::int32_t, std::string>{kErrorFileFormat, std::string(member) + " is broken"}));
   }
 }
 
 TEST(HostAdapter, AMemberThatIsMissingIsNamed) {
   const auto adapter = AdaptHostObject(MakeCounted<ScriptObject>(FieldsOf(Field("SymbolFont", "Arial"))).Get());
   const auto [number, text] = ErrorOf([&] { QueryKind<ILayer>(adapter.get())->SymbolSize(); });
-  EXPECT_EQ(number, 438);
+  EXPECT_EQ(number, kErrorNoSuchMember);
   EXPECT_NE(text.find("\"SymbolSize\""), std::string::npos) << text;
 }
 
@@ -137,7 +138,7 @@ TEST(HostAdapter, AChoiceThatDoesNotExistIsAnErrorThatTellsTheRange) {
   object->Field("Position") = Variant(std::int32_t{99});
   const auto adapter = AdaptHostObject(object.Get());
   const auto [number, text] = ErrorOf([&] { static_cast<void>(QueryKind<ILabels>(adapter.get())->Position()); });
-  EXPECT_EQ(number, 380);
+  EXPECT_EQ(number, kErrorInvalidValue);
   EXPECT_EQ(text, "Position is 99, but must be from 0 to 4.");
 }
 

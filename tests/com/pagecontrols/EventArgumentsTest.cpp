@@ -51,12 +51,10 @@ TEST(EventArguments, ReferencesAreAnsweredInTheirOwnType) {
 
 TEST(EventArguments, TextIsReplacedThroughItsReference) {
   com::Bstr text("old");
-  BSTR raw = text.Detach();
-  OneArgument argument(Reference(VT_BSTR, &raw));
+  OneArgument argument(Reference(VT_BSTR, text.InOut()));
   EXPECT_EQ("old", argument.Arguments.Text(0));
   argument.Arguments.Answer(0, com::Variant("new"));
-  EXPECT_EQ("new", com::TextOf(raw));
-  SysFreeString(raw);
+  EXPECT_EQ("new", text.Text());
 }
 
 TEST(EventArguments, AVariableOfAScriptTakesTheAnswerAsItIs) {

@@ -11,26 +11,23 @@ namespace {
 class ComFiles : public MapDialogsTest {
  protected:
   ComFiles() { modDialog::ResetRememberedChoices(); }
-  ~ComFiles() override {
-    if (files) SafeArrayDestroy(files);
-    modDialog::ResetRememberedChoices();
-  }
+  ~ComFiles() override { modDialog::ResetRememberedChoices(); }
 
   void Pick(const std::vector<std::string>& names) {
     answerFiles = [names](OpenFileRequest& request) { PutAnswer(request, "C:\\maps", names); };
   }
 
-  SAFEARRAY* files = nullptr;
+  SafeArray files;
   VARIANT_BOOL chosen = VARIANT_TRUE;
 };
 
 TEST_F(ComFiles, ChosenLayersComeBackInAnArrayCountedFromOne) {
   Pick({"a.shp", "b.shp"});
-  ASSERT_EQ(dialogs->ShowAddLayer(0, VARIANT_FALSE, &files, &chosen), S_OK);
+  ASSERT_EQ(dialogs->ShowAddLayer(0, VARIANT_FALSE, files.InOut(), &chosen), S_OK);
   EXPECT_EQ(chosen, VARIANT_TRUE);
-  EXPECT_EQ(TextsOf(files), (std::vector<std::string>{"C:\\maps\\a.shp", "C:\\maps\\b.shp"}));
+  EXPECT_EQ(TextsOf(files.Get()), (std::vector<std::string>{"C:\\maps\\a.shp", "C:\\maps\\b.shp"}));
   LONG first = 0;
-  SafeArrayGetLBound(files, 1, &first);
+  SafeArrayGetLBound(files.Get(), 1, &first);
   EXPECT_EQ(first, 1);
 }
 
@@ -38,31 +35,30 @@ TEST_F(ComFiles, TheElementWithTheIndexOneIsTheNameThatTheDialogOpensOn) {
   std::string initial;
   answerFiles = [&](OpenFileRequest& request) { initial = InitialName(request); };
   files = ArrayOfTexts({"zero.vkr", "one.vkr"}, 0);
-  ASSERT_EQ(dialogs->ShowAddData(0, VARIANT_TRUE, &files, &chosen), S_OK);
+  ASSERT_EQ(dialogs->ShowAddData(0, VARIANT_TRUE, files.InOut(), &chosen), S_OK);
   EXPECT_EQ(initial, "one.vkr");
-  SafeArrayDestroy(files);
   files = ArrayOfTexts({"first.vkr"}, 1);
-  dialogs->ShowAddData(0, VARIANT_TRUE, &files, &chosen);
+  dialogs->ShowAddData(0, VARIANT_TRUE, files.InOut(), &chosen);
   EXPECT_EQ(initial, "first.vkr");
 }
 
 TEST_F(ComFiles, CancelLeavesTheArrayAsItWas) {
   files = ArrayOfTexts({"before"}, 0);
-  ASSERT_EQ(dialogs->ShowAddData(0, VARIANT_FALSE, &files, &chosen), S_OK);
+  ASSERT_EQ(dialogs->ShowAddData(0, VARIANT_FALSE, files.InOut(), &chosen), S_OK);
   EXPECT_EQ(chosen, VARIANT_FALSE);
-  EXPECT_EQ(TextsOf(files), std::vector<std::string>{"before"});
+  EXPECT_EQ(TextsOf(files.Get()), std::vector<std::string>{"before"});
 }
 
 TEST_F(ComFiles, TheOwnersHandleReachesThePlatformWithItsSign) {
   std::uintptr_t owner = 0;
   answerFiles = [&](OpenFileRequest& request) { owner = request.OwnerHandle; };
-  dialogs->ShowAddLayer(-2, VARIANT_FALSE, &files, &chosen);
+  dialogs->ShowAddLayer(-2, VARIANT_FALSE, files.InOut(), &chosen);
   EXPECT_EQ(owner, static_cast<std::uintptr_t>(-2));
 }
 
 TEST_F(ComFiles, PlacesForResultsAreRequired) {
   EXPECT_EQ(dialogs->ShowAddLayer(0, VARIANT_FALSE, nullptr, &chosen), E_POINTER);
-  EXPECT_EQ(dialogs->ShowAddData(0, VARIANT_FALSE, &files, nullptr), E_POINTER);
+  EXPECT_EQ(dialogs->ShowAddData(0, VARIANT_FALSE, files.InOut(), nullptr), E_POINTER);
   VARIANT_BOOL cancelAll = VARIANT_FALSE;
   EXPECT_EQ(dialogs->ShowFileNotFound(nullptr, nullptr, &cancelAll, &chosen), E_POINTER);
   EXPECT_TRUE(shown.empty());

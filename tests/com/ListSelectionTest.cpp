@@ -7,20 +7,13 @@
 namespace orx::com::test {
 namespace {
 
-constexpr HRESULT kTypeMismatchCode = static_cast<HRESULT>(0x800A000D);
-constexpr HRESULT kFixedArrayCode = static_cast<HRESULT>(0x800A000A);
-
 class ListSelection : public MapDialogsTest {
  protected:
-  ~ListSelection() override {
-    for (SAFEARRAY* const array : {entries, selected})
-      if (array) SafeArrayDestroy(array);
-  }
-
   HRESULT Choose() {
     BSTR title = caption.Get();
     BSTR asked = question.Get();
-    return dialogs->ShowListSelection(&entries, &several, &listIndex, &title, &asks, &asked, &selected, &result);
+    return dialogs->ShowListSelection(entries.InOut(), &several, &listIndex, &title, &asks, &asked, selected.InOut(),
+                                      &result);
   }
   /// The user selects the rows and presses the button.
   void Answer(const std::vector<int>& rows, const char* button = "cmdOK") {
@@ -32,27 +25,22 @@ class ListSelection : public MapDialogsTest {
       dynamic_cast<Button&>(*form.Find(button)).UserPress();
     };
   }
-  static std::vector<long> NumbersOf(SAFEARRAY* array) {
-    LONG first = 0;
-    LONG last = -1;
+  static std::vector<long> NumbersOf(const SafeArray& array) {
     VARTYPE type = VT_EMPTY;
-    SafeArrayGetVartype(array, &type);
+    SafeArrayGetVartype(array.Get(), &type);
     EXPECT_EQ(type, VT_I4);
-    SafeArrayGetLBound(array, 1, &first);
-    SafeArrayGetUBound(array, 1, &last);
-    EXPECT_EQ(first, 1);
-    std::vector<long> numbers;
-    for (LONG index = first; index <= last; ++index) {
-      LONG number = 0;
-      SafeArrayGetElement(array, &index, &number);
-      numbers.push_back(number);
-    }
+    ArrayBounds bounds;
+    EXPECT_EQ(BoundsOf(array.Get(), bounds), S_OK);
+    EXPECT_EQ(bounds.First, 1);
+    std::vector<long> numbers(bounds.Count);
+    for (LONG index = 1; index <= static_cast<LONG>(bounds.Count); ++index)
+      SafeArrayGetElement(array.Get(), &index, &numbers[static_cast<std::size_t>(index) - 1]);
     return numbers;
   }
-  static SAFEARRAY* ArrayOfNumbers(std::vector<LONG> numbers) {
-    SAFEARRAY* const made = SafeArrayCreateVector(VT_I4, 1, static_cast<ULONG>(numbers.size()));
-    for (LONG index = 1; index <= static_cast<LONG>(numbers.size()); ++index)
-      SafeArrayPutElement(made, &index, &numbers[static_cast<std::size_t>(index) - 1]);
+  static SafeArray ArrayOfNumbers(const std::vector<std::int32_t>& numbers) {
+    SafeArray made(VT_I4, {1, static_cast<ULONG>(numbers.size())});
+    LONG index = 0;
+    for (const std::int32_t number : numbers) made.Put(++index, Variant(number));
     return made;
   }
   void ExpectRefused(HRESULT code, const std::string& argument) {
@@ -62,8 +50,8 @@ class ListSelection : public MapDialogsTest {
     EXPECT_EQ(result, 0);
   }
 
-  SAFEARRAY* entries = ArrayOfTexts({"Roads", " Rivers ", ""}, 5);
-  SAFEARRAY* selected = nullptr;
+  SafeArray entries = ArrayOfTexts({"Roads", " Rivers ", ""}, 5);
+  SafeArray selected;
   VARIANT_BOOL several = VARIANT_TRUE;
   long listIndex = 0;
   Bstr caption{"Select Layer"};
@@ -92,14 +80,14 @@ TEST_F(ListSelection, AnArrayThatIsThereIsReplaced) {
 
 TEST_F(ListSelection, NoneOfSeveralAndCancelLeaveTheArray) {
   selected = ArrayOfNumbers({77});
-  SAFEARRAY* const before = selected;
+  SAFEARRAY* const before = selected.Get();
   Answer({});
   EXPECT_EQ(Choose(), S_OK);
   EXPECT_EQ(result, 0);
   Answer({1}, "cmdCancel");
   EXPECT_EQ(Choose(), S_OK);
   EXPECT_EQ(result, 0);
-  EXPECT_EQ(selected, before);
+  EXPECT_EQ(selected.Get(), before);
   EXPECT_EQ(NumbersOf(selected), std::vector<long>{77});
 }
 
@@ -113,40 +101,38 @@ TEST_F(ListSelection, OKWithoutAChoiceGivesOneAndAnArrayWithoutElements) {
 }
 
 TEST_F(ListSelection, WithoutAnArrayOfEntriesTheListIsEmpty) {
-  SafeArrayDestroy(std::exchange(entries, nullptr));
+  entries = SafeArray();
   answer = [](Form& form) {
     EXPECT_FALSE(form.Find("cmdOK")->Enabled());
     dynamic_cast<Button&>(*form.Find("cmdCancel")).UserPress();
   };
   EXPECT_EQ(Choose(), S_OK);
   EXPECT_EQ(result, 0);
-  EXPECT_EQ(selected, nullptr);
+  EXPECT_EQ(selected.Get(), nullptr);
 }
 
 TEST_F(ListSelection, EntriesOfAnotherTypeOrOfSeveralDimensionsAreErrors) {
-  SafeArrayDestroy(std::exchange(entries, SafeArrayCreateVector(VT_R8, 0, 2)));
-  ExpectRefused(kTypeMismatchCode, "mSelection");
-  SAFEARRAYBOUND bounds[] = {{2, 0}, {2, 0}};
-  SafeArrayDestroy(std::exchange(entries, SafeArrayCreate(VT_BSTR, 2, bounds)));
-  ExpectRefused(kTypeMismatchCode, "mSelection");
+  entries = SafeArray(VT_R8, {0, 2});
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelection");
+  entries = TableOf(VT_BSTR);
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelection");
 }
 
 TEST_F(ListSelection, AnArrayForTheIndexesOfAnotherTypeOrOfSeveralDimensionsIsAnError) {
-  selected = SafeArrayCreateVector(VT_I2, 1, 2);
-  ExpectRefused(kTypeMismatchCode, "mSelected");
-  SAFEARRAYBOUND bounds[] = {{2, 0}, {2, 0}};
-  SafeArrayDestroy(std::exchange(selected, SafeArrayCreate(VT_I4, 2, bounds)));
-  ExpectRefused(kTypeMismatchCode, "mSelected");
+  selected = SafeArray(VT_I2, {1, 2});
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelected");
+  selected = TableOf(VT_I4);
+  ExpectRefused(CodeOf(kErrorTypeMismatch), "mSelected");
 }
 
 TEST_F(ListSelection, AnArrayForTheIndexesThatCannotBeReplacedIsAnErrorBeforeAnythingIsShown) {
   selected = ArrayOfNumbers({77});
-  SafeArrayLock(selected);
-  ExpectRefused(kFixedArrayCode, "mSelected");
-  SafeArrayUnlock(selected);
-  selected->fFeatures |= FADF_FIXEDSIZE;
-  ExpectRefused(kFixedArrayCode, "mSelected");
-  selected->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
+  SafeArrayLock(selected.Get());
+  ExpectRefused(CodeOf(kErrorFixedArray), "mSelected");
+  SafeArrayUnlock(selected.Get());
+  selected.Get()->fFeatures |= FADF_FIXEDSIZE;
+  ExpectRefused(CodeOf(kErrorFixedArray), "mSelected");
+  selected.Get()->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
   EXPECT_EQ(NumbersOf(selected), std::vector<long>{77});
 }
 
@@ -154,12 +140,12 @@ TEST_F(ListSelection, AnArrayThatIsLockedMeanwhileStays) {
   selected = ArrayOfNumbers({77});
   several = VARIANT_FALSE;
   answer = [this](Form& form) {
-    SafeArrayLock(selected);
+    SafeArrayLock(selected.Get());
     dynamic_cast<ListBox&>(*form.Find("lstSingleSelect")).UserDoubleClick(0);
   };
-  EXPECT_EQ(Choose(), kFixedArrayCode);
+  EXPECT_EQ(Choose(), CodeOf(kErrorFixedArray));
   EXPECT_EQ(result, 0);
-  SafeArrayUnlock(selected);
+  SafeArrayUnlock(selected.Get());
   EXPECT_EQ(NumbersOf(selected), std::vector<long>{77});
 }
 
@@ -174,10 +160,10 @@ TEST_F(ListSelection, PlacesForAllArgumentsAreRequired) {
   BSTR text = nullptr;
   for (int missing = 0; missing < 8; ++missing) {
     const auto unless = [&](int argument, auto* place) { return missing == argument ? nullptr : place; };
-    EXPECT_EQ(
-        dialogs->ShowListSelection(unless(0, &entries), unless(1, &several), unless(2, &listIndex), unless(3, &text),
-                                   unless(4, &asks), unless(5, &text), unless(6, &selected), unless(7, &result)),
-        E_POINTER)
+    EXPECT_EQ(dialogs->ShowListSelection(unless(0, entries.InOut()), unless(1, &several), unless(2, &listIndex),
+                                         unless(3, &text), unless(4, &asks), unless(5, &text),
+                                         unless(6, selected.InOut()), unless(7, &result)),
+              E_POINTER)
         << missing;
   }
   EXPECT_TRUE(shown.empty());
@@ -194,12 +180,13 @@ TEST_F(ListSelection, ALanguageThatFailsIsAnErrorOfTheCall) {
 
 TEST_F(ListSelection, LateBoundCallersGetTheirVariableBackAsAnArray) {
   Answer({0, 2});
-  Variant texts;
-  texts.parray = std::exchange(entries, nullptr);
-  texts.vt = VT_ARRAY | VT_BSTR;
-  Variant variables[] = {
-      std::move(texts), Variant(true), Variant(std::int32_t{0}), Variant("Select Layer"), Variant(false),
-      Variant("Sure?"), Variant()};
+  Variant variables[] = {entries.MoveToVariant(VT_BSTR),
+                         Variant(true),
+                         Variant(std::int32_t{0}),
+                         Variant("Select Layer"),
+                         Variant(false),
+                         Variant("Sure?"),
+                         Variant()};
   VARIANT references[7] = {};
   // The last argument comes first.
   for (int i = 0; i < 7; ++i) {

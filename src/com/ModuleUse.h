@@ -14,7 +14,7 @@ class ModuleUse {
   ModuleUse& operator=(const ModuleUse&) = delete;
 
   static LONG Count() { return theUses; }
-  /// For locks, which have no object that lives as long.
+  /// For IClassFactory::LockServer.
   static void Lock(bool on) { on ? InterlockedIncrement(&theUses) : InterlockedDecrement(&theUses); }
 
  private:

@@ -12,9 +12,9 @@ namespace {
 class Progress : public MapDialogsTest {
  protected:
   static frmProgress& Window() {
-    return dynamic_cast<frmProgress&>(*Surroundings::OfThread()->Screen().OpenForms().back());
+    return dynamic_cast<frmProgress&>(*ThreadContext::OfThread()->Screen().OpenForms().back());
   }
-  static bool IsOpen() { return !Surroundings::OfThread()->Screen().OpenForms().empty(); }
+  static bool IsOpen() { return !ThreadContext::OfThread()->Screen().OpenForms().empty(); }
 
   HRESULT Init(long min, long max, long value) { return progress->Init(&min, &max, &value); }
   long Value() {
@@ -23,9 +23,9 @@ class Progress : public MapDialogsTest {
     return value;
   }
   VARIANT_BOOL CancelAction() {
-    VARIANT_BOOL cancelled = 77;
-    EXPECT_EQ(progress->get_CancelAction(&cancelled), S_OK);
-    return cancelled;
+    VARIANT_BOOL canceled = 77;
+    EXPECT_EQ(progress->get_CancelAction(&canceled), S_OK);
+    return canceled;
   }
   std::string Message() {
     Bstr text;
@@ -58,13 +58,13 @@ TEST_F(Progress, GivesBackWhatItWasGiven) {
 
 TEST_F(Progress, TellsTheErrorOfTheBar) {
   EXPECT_EQ(Init(0, 10, 5), S_OK);
-  EXPECT_EQ(progress->put_Value(11), static_cast<HRESULT>(0x800A017C));
+  EXPECT_EQ(progress->put_Value(11), CodeOf(kErrorInvalidValue));
   EXPECT_EQ(TakenErrorText(), "The value 11 does not fit a progress bar from 0 to 10");
-  EXPECT_EQ(Init(20, 10, 5), static_cast<HRESULT>(0x800A017C));
+  EXPECT_EQ(Init(20, 10, 5), CodeOf(kErrorInvalidValue));
   EXPECT_EQ(TakenErrorText(), "The maximum 10 does not fit a progress bar from 20 to 20");
   EXPECT_EQ(Init(0, 2147483647, 2147483647), S_OK);
   long value = 5;
-  EXPECT_EQ(progress->get_Value(&value), static_cast<HRESULT>(0x800A0006));
+  EXPECT_EQ(progress->get_Value(&value), CodeOf(kErrorOverflow));
   EXPECT_EQ(value, 5);
 }
 
@@ -79,7 +79,7 @@ TEST_F(Progress, RefusesNullPointers) {
   EXPECT_EQ(progress->get_Message(nullptr), E_POINTER);
 }
 
-TEST_F(Progress, IsShownCancelledAndHidden) {
+TEST_F(Progress, IsShownCanceledAndHidden) {
   EXPECT_FALSE(IsOpen());
   EXPECT_EQ(progress->Show(nullptr), S_OK);
   ASSERT_TRUE(IsOpen());
@@ -105,15 +105,15 @@ TEST_F(Progress, IsUsedByName) {
   ScriptCall value(progress.Get(), "Value");
   EXPECT_EQ(value.Call(), S_OK);
   EXPECT_EQ(value.Result.lVal, 7);
-  ScriptCall cancelled(progress.Get(), "CancelAction");
-  EXPECT_EQ(cancelled.Call(), S_OK);
-  EXPECT_EQ(cancelled.Result.vt, VT_BOOL);
+  ScriptCall canceled(progress.Get(), "CancelAction");
+  EXPECT_EQ(canceled.Call(), S_OK);
+  EXPECT_EQ(canceled.Result.vt, VT_BOOL);
   EXPECT_EQ(Message(), "Seven");
   EXPECT_EQ(Caption(), "By name");
   EXPECT_EQ(call("Hide").Call(), S_OK);
   ScriptCall tooGreat(progress.Get(), "Value");
   EXPECT_EQ(tooGreat.Value(Variant(std::int32_t{11})).Put(), DISP_E_EXCEPTION);
-  EXPECT_EQ(tooGreat.Code, static_cast<HRESULT>(0x800A017C));
+  EXPECT_EQ(tooGreat.Code, CodeOf(kErrorInvalidValue));
   EXPECT_EQ(tooGreat.Source, "OrvexMapDialogs2.CCommonProgressDialog");
 }
 
@@ -121,14 +121,14 @@ TEST_F(Progress, GoesWithTheLastReference) {
   EXPECT_EQ(progress->Show(nullptr), S_OK);
   dialogs.Reset();
   progress.Reset();
-  EXPECT_FALSE(Surroundings::StillOpen());
+  EXPECT_FALSE(ThreadContext::StillOpen());
 }
 
 TEST_F(Progress, KeepsTheSurroundingsWithoutADialogOfTheOtherClass) {
   dialogs.Reset();
-  Desktop* const desktop = &Surroundings::OfThread()->Screen();
+  Desktop* const desktop = &ThreadContext::OfThread()->Screen();
   EXPECT_EQ(progress->Show(nullptr), S_OK);
-  EXPECT_EQ(&Surroundings::OfThread()->Screen(), desktop);
+  EXPECT_EQ(&ThreadContext::OfThread()->Screen(), desktop);
   EXPECT_TRUE(IsOpen());
 }
 
@@ -165,7 +165,7 @@ TEST_F(Progress, MayBeLetGoOfWhileItIsModal) {
 
 TEST_F(Progress, AnOwnerOfTheWrongKindShowsNothingAndSaysSo) {
   Variant owner("Main window");
-  EXPECT_EQ(progress->Show(&owner), static_cast<HRESULT>(0x800A000D));
+  EXPECT_EQ(progress->Show(&owner), CodeOf(kErrorTypeMismatch));
   EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
   EXPECT_FALSE(IsOpen());
   Variant none;

@@ -103,11 +103,12 @@ TEST(TypeLibrary, HasItsNameHelpTextAndVersion) {
   EXPECT_EQ(help.Text(), "Orvex Map Dialogs 2");
   TLIBATTR* attributes = nullptr;
   ASSERT_EQ(library->GetLibAttr(&attributes), S_OK);
+  const auto giveBack = [&](TLIBATTR* lent) { library->ReleaseTLibAttr(lent); };
+  const std::unique_ptr<TLIBATTR, decltype(giveBack)> owner(attributes, giveBack);
   EXPECT_EQ(GuidText(attributes->guid), "{47EAA099-2CB6-416D-86DC-283CF0480FF9}");
   EXPECT_EQ(attributes->wMajorVerNum, 2);
   EXPECT_EQ(attributes->wMinorVerNum, 0);
   EXPECT_EQ(attributes->syskind, sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
-  library->ReleaseTLibAttr(attributes);
 }
 
 TEST(TypeLibrary, PublishesTwoCreatableClassesInOrder) {

@@ -5,6 +5,8 @@
 
 #include "com/Errors.h"
 #include "com/Registration.h"
+#include "desktops/win32/Handles.h"
+#include "hostobjects/RunTimeError.h"
 #include "tests/com/hosts/RegistryImage.h"
 #include "tests/com/support/Server.h"
 
@@ -99,7 +101,32 @@ TEST_F(Registration, RefusesToInstallForAnythingElse) {
   EXPECT_TRUE(ClassKeys(HKEY_LOCAL_MACHINE).contains(kClass));
 }
 
-/// What the registry does where the user may write for himself alone.
+/// The number that the system gives to the next key. It gives the lowest that is free: a key that stays open takes one.
+HKEY NextKey() {
+  win32::RegistryKey key;
+  EXPECT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, L"Software", 0, KEY_READ, key.Out()), ERROR_SUCCESS);
+  return key.Get();
+}
+
+TEST_F(Registration, ThatFailsOnTheWayTakesBackWhatItHasWrittenAndLeavesNoKeyOpen) {
+  const std::wstring path = std::wstring(L"Software\\Classes\\") + kClass;
+  const auto fail = [&] {
+    win32::RegistryKey session;
+    // Nothing lasting can be written below a key that goes with the session.
+    ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                              session.Out(), nullptr),
+              ERROR_SUCCESS);
+    EXPECT_THROW(Register(RegisteredFor::User), RunTimeError);
+  };
+  // What the system opens once and keeps is no leak.
+  fail();
+  const HKEY before = NextKey();
+  fail();
+  EXPECT_EQ(NextKey(), before);
+  EXPECT_EQ(ClassKeys(HKEY_CURRENT_USER), user);
+}
+
+/// What the registry does where users may only write their own part.
 void WriteAsUser(RegisteredFor whom) {
   if (whom == RegisteredFor::AllUsers) Check(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED), "Software\\Classes");
 }
@@ -151,16 +178,14 @@ TEST_F(Registration, OfADllThatWasMovedFailsInTheHostAndIsMendedByRegisteringAga
     ASSERT_EQ(copied.RegisterServer(), S_OK);
     EXPECT_EQ(Written(HKEY_LOCAL_MACHINE)[std::wstring(kClass) + L"\\InprocServer32:"], copy.Path());
   }
-  IUnknown* made = nullptr;
+  ComPtr<IUnknown> made;
   const CLSID id = __uuidof(::CCommonMapDialogs);
-  const auto create = [&] {
-    return CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, reinterpret_cast<void**>(&made));
-  };
+  const auto create = [&] { return CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, made.OutVoid()); };
   EXPECT_TRUE(FAILED(create()));
   EXPECT_FALSE(made);
   ASSERT_EQ(server.RegisterServer(), S_OK);
   ASSERT_EQ(create(), S_OK);
-  made->Release();
+  made.Reset();
   CoFreeUnusedLibraries();
 }
 

@@ -9,10 +9,8 @@ namespace {
 
 class CharacterDialog : public MapDialogsTest {
  protected:
-  ~CharacterDialog() override { SysFreeString(font); }
-
   HRESULT Choose(VARIANT* owner = nullptr) {
-    return dialogs->ShowCharacterSelection(&font, &character, &rotation, &changed, nullptr, owner, &result);
+    return dialogs->ShowCharacterSelection(font.InOut(), &character, &rotation, &changed, nullptr, owner, &result);
   }
   /// The user picks B, turns it by 30 degrees and presses the button.
   void Answer(const char* button) {
@@ -27,7 +25,7 @@ class CharacterDialog : public MapDialogsTest {
     };
   }
 
-  BSTR font = SysAllocString(L"No Such Font");
+  Bstr font{"No Such Font"};
   long character = 'A';
   double rotation = 0;
   VARIANT_BOOL changed = VARIANT_FALSE;
@@ -37,7 +35,7 @@ TEST_F(CharacterDialog, WhatIsChosenComesBackInTheArguments) {
   Answer("cmdOK");
   EXPECT_EQ(Choose(), S_OK);
   EXPECT_EQ(result, -1);
-  EXPECT_STREQ(font, L"No Such Font");
+  EXPECT_STREQ(font.Get(), L"No Such Font");
   EXPECT_EQ(character, 'B');
   EXPECT_EQ(rotation, 30);
   EXPECT_EQ(changed, VARIANT_TRUE);
@@ -45,21 +43,21 @@ TEST_F(CharacterDialog, WhatIsChosenComesBackInTheArguments) {
 }
 
 TEST_F(CharacterDialog, CancelChangesNoArgumentAndIsNoError) {
-  const BSTR before = font;
+  const BSTR before = font.Get();
   Answer("cmdCancel");
   EXPECT_EQ(Choose(), S_OK);
   EXPECT_EQ(result, -1);
-  EXPECT_EQ(font, before);
+  EXPECT_EQ(font.Get(), before);
   EXPECT_EQ(character, 'A');
   EXPECT_EQ(rotation, 0);
   EXPECT_EQ(changed, VARIANT_FALSE);
 }
 
 TEST_F(CharacterDialog, ANameThatIsNothingBecomesArial) {
-  SysFreeString(std::exchange(font, nullptr));
+  font = Bstr();
   Answer("cmdOK");
   EXPECT_EQ(Choose(), S_OK);
-  EXPECT_STREQ(font, L"arial");
+  EXPECT_STREQ(font.Get(), L"arial");
 }
 
 TEST_F(CharacterDialog, ARotationThatIsNoWholeNumberGivesZero) {
@@ -73,26 +71,28 @@ TEST_F(CharacterDialog, ARotationThatIsNoWholeNumberGivesZero) {
 TEST_F(CharacterDialog, TheCaptionIsTakenAndHasNoEffect) {
   Bstr caption("A title");
   BSTR given = caption.Get();
-  EXPECT_EQ(dialogs->ShowCharacterSelection(&font, &character, &rotation, &changed, &given, nullptr, &result), S_OK);
+  EXPECT_EQ(dialogs->ShowCharacterSelection(font.InOut(), &character, &rotation, &changed, &given, nullptr, &result),
+            S_OK);
   EXPECT_EQ(shown, std::vector<std::string>{"frmTrueType: Pick True Type"});
 }
 
 TEST_F(CharacterDialog, PlacesForAllResultsAreRequired) {
   EXPECT_EQ(dialogs->ShowCharacterSelection(nullptr, &character, &rotation, &changed, nullptr, nullptr, &result),
             E_POINTER);
-  EXPECT_EQ(dialogs->ShowCharacterSelection(&font, nullptr, &rotation, &changed, nullptr, nullptr, &result), E_POINTER);
-  EXPECT_EQ(dialogs->ShowCharacterSelection(&font, &character, nullptr, &changed, nullptr, nullptr, &result),
+  EXPECT_EQ(dialogs->ShowCharacterSelection(font.InOut(), nullptr, &rotation, &changed, nullptr, nullptr, &result),
             E_POINTER);
-  EXPECT_EQ(dialogs->ShowCharacterSelection(&font, &character, &rotation, nullptr, nullptr, nullptr, &result),
+  EXPECT_EQ(dialogs->ShowCharacterSelection(font.InOut(), &character, nullptr, &changed, nullptr, nullptr, &result),
             E_POINTER);
-  EXPECT_EQ(dialogs->ShowCharacterSelection(&font, &character, &rotation, &changed, nullptr, nullptr, nullptr),
+  EXPECT_EQ(dialogs->ShowCharacterSelection(font.InOut(), &character, &rotation, nullptr, nullptr, nullptr, &result),
+            E_POINTER);
+  EXPECT_EQ(dialogs->ShowCharacterSelection(font.InOut(), &character, &rotation, &changed, nullptr, nullptr, nullptr),
             E_POINTER);
   EXPECT_TRUE(shown.empty());
 }
 
 TEST_F(CharacterDialog, ATextAsOwnerIsAnErrorAndNothingIsShown) {
   Variant text("Main window");
-  EXPECT_EQ(Choose(&text), static_cast<HRESULT>(0x800A000D));
+  EXPECT_EQ(Choose(&text), CodeOf(kErrorTypeMismatch));
   EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
   EXPECT_TRUE(shown.empty());
   EXPECT_EQ(character, 'A');

@@ -1,4 +1,4 @@
-#include "com/PageControls.h"
+#include "com/PageControlFactory.h"
 
 #include "com/HostedPage.h"
 #include "forms/Container.h"

@@ -113,8 +113,7 @@ TEST_F(GroundDialog, PlacesForTheObjectAndTheResultAreRequired) {
 TEST_F(GroundDialog, ANumberAsOwnerWillDoAndATextWillNot) {
   IDispatch* object = map.Object.Get();
   Variant text("Main window");
-  EXPECT_EQ(dialogs->ShowGeoReference(&object, nullptr, nullptr, nullptr, &text, &result),
-            static_cast<HRESULT>(0x800A000D));
+  EXPECT_EQ(dialogs->ShowGeoReference(&object, nullptr, nullptr, nullptr, &text, &result), CodeOf(kErrorTypeMismatch));
   EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
   EXPECT_TRUE(shown.empty());
   Variant none(std::int32_t{0});

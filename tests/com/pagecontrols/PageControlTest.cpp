@@ -1,6 +1,6 @@
 // Dialogs whose page is a registered control: the same calls and outcomes as with an embedded page.
-#include "com/HostedControl.h"
 #include "tests/com/pagecontrols/PageControlTest.h"
+#include "com/HostedControl.h"
 
 #include "forms/NativeArea.h"
 

@@ -1,6 +1,7 @@
 // Class factories of the DLL, and how long it stays loaded.
 #include <gtest/gtest.h>
 
+#include "com/TypeDescriptions.h"
 #include "tests/com/support/Server.h"
 
 namespace orx::com::test {
@@ -35,10 +36,9 @@ TEST_F(Factories, ObjectsTellTheirClass) {
   for (const CLSID& id : classes) {
     ComPtr<ITypeInfo> info;
     ASSERT_EQ(server.Create<IProvideClassInfo>(id)->GetClassInfo(info.Out()), S_OK);
-    TYPEATTR* attributes = nullptr;
-    ASSERT_EQ(info->GetTypeAttr(&attributes), S_OK);
+    const TypeAttributes attributes = AttributesOf(*info.Get());
+    ASSERT_TRUE(attributes);
     EXPECT_TRUE(IsEqualGUID(attributes->guid, id));
-    info->ReleaseTypeAttr(attributes);
   }
 }
 

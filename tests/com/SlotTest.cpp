@@ -100,21 +100,17 @@ TEST_F(Slots, DataAndGroundDialogsStandInTheirOrder) {
 }
 
 TEST_F(Slots, ChoicesStandInTheirOrder) {
-  Bstr font("F");
   int character = 1;
   double rotation = 2;
   short flag = 0;
   BSTR text = caption.Get();
-  BSTR given = font.Detach();
-  slots->Slot15(&given, &character, &rotation, &flag, &text, &owner, &result);
-  EXPECT_EQ(TextOf(given), "Symbols");
-  SysFreeString(given);
+  Bstr font("F");
+  slots->Slot15(font.InOut(), &character, &rotation, &flag, &text, &owner, &result);
+  EXPECT_EQ(font.Text(), "Symbols");
   EXPECT_EQ(character, 65);
-  SAFEARRAY* entries = ArrayOfTexts({"x"});
-  SAFEARRAY* selected = SafeArrayCreateVector(VT_I4, 0, 0);
-  slots->Slot16(&entries, &flag, &mode, &text, &flag, &text, &selected, &result);
-  SafeArrayDestroy(entries);
-  SafeArrayDestroy(selected);
+  SafeArray entries = ArrayOfTexts({"x"});
+  SafeArray selected(VT_I4, {});
+  slots->Slot16(entries.InOut(), &flag, &mode, &text, &flag, &text, selected.InOut(), &result);
   EXPECT_EQ(recorder->Calls,
             (std::vector<std::string>{"ShowCharacterSelection(\"F\", 1, 2.0, False, \"C\", VT3)",
                                       "ShowListSelection([x], True, 1, \"C\", True, \"C\", numbers)"}));
@@ -123,12 +119,11 @@ TEST_F(Slots, ChoicesStandInTheirOrder) {
 TEST_F(Slots, FileMembersStandLast) {
   short flag = 0;
   short answer = 7;
-  SAFEARRAY* files = ArrayOfTexts({"x"});
-  slots->Slot17(5, -1, &files, &answer);
+  SafeArray files = ArrayOfTexts({"x"});
+  slots->Slot17(5, -1, files.InOut(), &answer);
   EXPECT_EQ(answer, -1);
-  slots->Slot18(6, 0, &files, &answer);
+  slots->Slot18(6, 0, files.InOut(), &answer);
   EXPECT_EQ(answer, 0);
-  SafeArrayDestroy(files);
   Bstr newName;
   slots->Slot19(caption.Get(), newName.Out(), &flag, &answer);
   EXPECT_EQ(newName.Text(), "new");

@@ -147,7 +147,7 @@ TEST(DataAdapter, EachMemberIsReadWrittenAndNamedWhenItFails) {
       act();
       ADD_FAILURE() << member;
     } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), 321);
+      EXPECT_EQ(error.Number(), kErrorFileFormat);
       EXPECT_EQ(std::string(error.what()), std::string(member) + " is broken");
     }
     data.Object->Broken.clear();

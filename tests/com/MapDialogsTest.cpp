@@ -1,7 +1,7 @@
 // The members of CCommonMapDialogs, called through the slots as compiled hosts do.
+#include "tests/com/support/MapDialogsTest.h"
 #include "forms/TreeList.h"
 #include "service/modMain.h"
-#include "tests/com/support/MapDialogsTest.h"
 
 namespace orx::com::test {
 namespace {
@@ -210,13 +210,13 @@ TEST_F(MapDialogsTest, AModelessDialogOutlivesTheServiceAndKeepsTheModule) {
   ASSERT_EQ(dialogs->ShowProperties(&given, nullptr, &mode, nullptr, &result), S_OK);
   EXPECT_EQ(result, 0);
   EXPECT_TRUE(shown.empty());
-  Desktop& desktop = Surroundings::OfThread()->Screen();
+  Desktop& desktop = ThreadContext::OfThread()->Screen();
   EXPECT_FALSE(desktop.OpenForms().empty());
   dialogs.Reset();
-  EXPECT_TRUE(Surroundings::StillOpen());
+  EXPECT_TRUE(ThreadContext::StillOpen());
   EXPECT_GT(ReferencesOf(object.Get()), 1u);
   desktop.CloseOpenForms();
-  EXPECT_FALSE(Surroundings::StillOpen());
+  EXPECT_FALSE(ThreadContext::StillOpen());
   EXPECT_EQ(ReferencesOf(object.Get()), 1u);
 }
 
@@ -224,10 +224,10 @@ TEST_F(MapDialogsTest, AServiceMadeLaterFindsTheDialogsThatAreStillOpen) {
   IDispatch* none = nullptr;
   auto mode = ::ShowModeless;
   ASSERT_EQ(dialogs->ShowProperties(&none, nullptr, &mode, nullptr, &result), S_OK);
-  Desktop* const desktop = &Surroundings::OfThread()->Screen();
+  Desktop* const desktop = &ThreadContext::OfThread()->Screen();
   dialogs.Reset();
   dialogs = Create();
-  EXPECT_EQ(&Surroundings::OfThread()->Screen(), desktop);
+  EXPECT_EQ(&ThreadContext::OfThread()->Screen(), desktop);
   desktop->CloseOpenForms();
   EXPECT_EQ(ShowProperties(nullptr), S_OK);
   EXPECT_EQ(shown.size(), 1u);
@@ -239,12 +239,12 @@ TEST_F(MapDialogsTest, AServiceThatIsLetGoFromItsOwnDialogLivesToTheEndOfTheCall
   IDispatch* object = nullptr;
   EXPECT_EQ(plain->ShowProperties(&object, nullptr, nullptr, nullptr, &result), S_OK);
   EXPECT_EQ(result, 0);
-  EXPECT_FALSE(Surroundings::StillOpen());
+  EXPECT_FALSE(ThreadContext::StillOpen());
 }
 
 TEST_F(MapDialogsTest, AnOwnerOfTheWrongKindShowsNothing) {
   Variant owner("Main window");
-  EXPECT_EQ(ShowProperties(nullptr, &owner), static_cast<HRESULT>(0x800A000D));
+  EXPECT_EQ(ShowProperties(nullptr, &owner), CodeOf(kErrorTypeMismatch));
   EXPECT_NE(TakenErrorText().find("OwnerForm"), std::string::npos);
   EXPECT_TRUE(shown.empty());
   EXPECT_EQ(result, 0);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "com/SafeArray.h"
 #include "hostobjects/RunTimeError.h"
 #include "tests/com/support/ScriptCall.h"
 #include "tests/com/support/ScriptObject.h"
@@ -76,9 +77,7 @@ TEST(OwnerArgument, AnythingElseIsRefusedWithAReason) {
   Variant unknown;
   unknown.vt = VT_UNKNOWN;
   unknown.punkVal = MakeCounted<PlainObject>().Detach();
-  Variant array;
-  array.vt = VT_ARRAY | VT_I4;
-  array.parray = SafeArrayCreateVector(VT_I4, 0, 1);
+  const Variant array = SafeArray(VT_I4, {0, 1}).MoveToVariant(VT_I4);
   const Variant object(MakeCounted<ScriptObject>().Get());
   const Variant text("12");
   const Variant truth(true);
@@ -90,7 +89,7 @@ TEST(OwnerArgument, AnythingElseIsRefusedWithAReason) {
       OwnerOf(owner);
       ADD_FAILURE() << "Type " << owner->vt << " was taken.";
     } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), 13) << owner->vt;
+      EXPECT_EQ(error.Number(), kErrorTypeMismatch) << owner->vt;
       EXPECT_NE(std::string(error.what()).find("OwnerForm"), std::string::npos);
     }
   }

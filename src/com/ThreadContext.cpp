@@ -1,11 +1,11 @@
-#include "com/Surroundings.h"
+#include "com/ThreadContext.h"
 
 #include <windows.h>
 
 #include <map>
 #include <mutex>
 
-#include "com/PageControls.h"
+#include "com/PageControlFactory.h"
 #include "desktops/win32/Win32Desktop.h"
 #include "pages/PageFactory.h"
 
@@ -17,15 +17,15 @@ std::function<std::unique_ptr<Desktop>()>& Maker() {
   return maker;
 }
 
-class ThreadSurroundings final : public Surroundings {
+class DialogContext final : public ThreadContext {
  public:
-  ThreadSurroundings() : mScreen(Maker() ? Maker()() : std::make_unique<win32::Win32Desktop>()) {}
+  DialogContext() : mScreen(Maker() ? Maker()() : std::make_unique<win32::Win32Desktop>()) {}
 
   Desktop& Screen() override { return *mScreen; }
   IPageFactory& Pages() override { return mPages; }
 
  private:
-  // The pages of open dialogs go with the desktop, which is why it goes first.
+  // The desktop is the last and so destroyed first: pages of open dialogs go with it, and need the factories.
   pages::PageFactory mEmbedded;
   PageControlFactory mPages{mEmbedded};
   std::unique_ptr<Desktop> mScreen;
@@ -34,19 +34,19 @@ class ThreadSurroundings final : public Surroundings {
 /// One entry for each thread with service objects or open dialogs.
 class Threads {
  public:
-  std::shared_ptr<Surroundings> Find() {
+  std::shared_ptr<ThreadContext> Find() {
     const std::lock_guard lock(mMutex);
     Entry& entry = mEntries[GetCurrentThreadId()];
-    if (std::shared_ptr<Surroundings> known = entry.Lingering ? entry.Lingering : entry.Known.lock())
+    if (std::shared_ptr<ThreadContext> known = entry.Lingering ? entry.Lingering : entry.Known.lock())
       return Shared(std::move(known));
-    return Shared(std::make_shared<ThreadSurroundings>());
+    return Shared(std::make_shared<DialogContext>());
   }
 
-  /// A reference of a service object is gone.
-  void Released(std::shared_ptr<Surroundings> surroundings) {
+  /// The last service object of a thread has released its context.
+  void Released(std::shared_ptr<ThreadContext> context) {
     const std::lock_guard lock(mMutex);
     Entry& entry = mEntries[GetCurrentThreadId()];
-    if (entry.Known.expired() && !surroundings->Screen().OpenForms().empty()) entry.Lingering = std::move(surroundings);
+    if (entry.Known.expired() && !context->Screen().OpenForms().empty()) entry.Lingering = std::move(context);
     if (entry.Known.expired() && !entry.Lingering) mEntries.erase(GetCurrentThreadId());
   }
 
@@ -62,12 +62,12 @@ class Threads {
 
  private:
   struct Entry {
-    std::weak_ptr<Surroundings> Known;
-    std::shared_ptr<Surroundings> Lingering;
+    std::weak_ptr<ThreadContext> Known;
+    std::shared_ptr<ThreadContext> Lingering;
   };
 
-  /// What service objects hold: it reports when the last of them lets go.
-  std::shared_ptr<Surroundings> Shared(std::shared_ptr<Surroundings> surroundings);
+  /// What service objects hold. It reports when the last of them is gone.
+  std::shared_ptr<ThreadContext> Shared(std::shared_ptr<ThreadContext> context);
 
   std::mutex mMutex;
   std::map<DWORD, Entry> mEntries;
@@ -78,28 +78,28 @@ Threads& AllThreads() {
   return threads;
 }
 
-std::shared_ptr<Surroundings> Threads::Shared(std::shared_ptr<Surroundings> surroundings) {
+std::shared_ptr<ThreadContext> Threads::Shared(std::shared_ptr<ThreadContext> context) {
   Entry& entry = mEntries[GetCurrentThreadId()];
   entry.Lingering.reset();
-  if (std::shared_ptr<Surroundings> held = entry.Known.lock()) return held;
-  Surroundings* const pointer = surroundings.get();
-  std::shared_ptr<Surroundings> held(pointer,
-                                     [kept = std::move(surroundings)](Surroundings*) { AllThreads().Released(kept); });
+  if (std::shared_ptr<ThreadContext> held = entry.Known.lock()) return held;
+  ThreadContext* const pointer = context.get();
+  std::shared_ptr<ThreadContext> held(pointer,
+                                      [kept = std::move(context)](ThreadContext*) { AllThreads().Released(kept); });
   entry.Known = held;
   return held;
 }
 
 }  // namespace
 
-std::shared_ptr<Surroundings> Surroundings::OfThread() {
+std::shared_ptr<ThreadContext> ThreadContext::OfThread() {
   return AllThreads().Find();
 }
 
-bool Surroundings::StillOpen() {
+bool ThreadContext::StillOpen() {
   return AllThreads().StillOpen();
 }
 
-void Surroundings::DesktopMaker(std::function<std::unique_ptr<Desktop>()> maker) {
+void ThreadContext::DesktopMaker(std::function<std::unique_ptr<Desktop>()> maker) {
   Maker() = std::move(maker);
 }
 

@@ -3,9 +3,10 @@
 
 #include <OrvexMapDialogs2.h>
 
-#include "com/PageControls.h"
+#include "com/PageControlFactory.h"
 #include "tests/com/pagecontrols/TestRegistration.h"
 #include "tests/com/pagecontrols/TestTypeLibrary.h"
+#include "tests/com/support/ScriptObject.h"
 #include "tests/support/DesktopTest.h"
 
 namespace orx::test {
@@ -36,12 +37,7 @@ class PageEventsTest : public DesktopTest {
 
 /// The arguments of CharacterRequested, passed by reference.
 struct CharacterArguments {
-  CharacterArguments() = default;
-  ~CharacterArguments() { SysFreeString(Font); }
-  CharacterArguments(const CharacterArguments&) = delete;
-  CharacterArguments& operator=(const CharacterArguments&) = delete;
-
-  BSTR Font = com::Bstr("Symbol").Detach();
+  com::Bstr Font{"Symbol"};
   LONG Character = 65;
   double Rotation = 10;
   VARIANT_BOOL Changed = VARIANT_FALSE;
@@ -49,7 +45,7 @@ struct CharacterArguments {
   std::vector<VARIANTARG> ByReference() {
     std::vector<VARIANTARG> arguments(4);
     arguments[0].vt = VT_BYREF | VT_BSTR;
-    arguments[0].pbstrVal = &Font;
+    arguments[0].pbstrVal = Font.InOut();
     arguments[1].vt = VT_BYREF | VT_I4;
     arguments[1].plVal = &Character;
     arguments[2].vt = VT_BYREF | VT_R8;
@@ -69,7 +65,7 @@ TEST_F(PageEventsTest, ACharacterRequestIsAnsweredThroughItsArguments) {
   };
   CharacterArguments arguments;
   EXPECT_EQ(S_OK, Control().Raise(1, arguments.ByReference()));
-  EXPECT_EQ("Wingdings", com::TextOf(arguments.Font));
+  EXPECT_EQ("Wingdings", arguments.Font.Text());
   EXPECT_EQ(0x2713, arguments.Character);
   EXPECT_EQ(45, arguments.Rotation);
   EXPECT_EQ(VARIANT_TRUE, arguments.Changed);
@@ -111,12 +107,11 @@ TEST_F(PageEventsTest, ABrowseRequestIsAnsweredThroughItsArguments) {
     EXPECT_TRUE(request.Cancel);
     request = {"new.bil", false};
   };
-  BSTR file = com::Bstr("old.bil").Detach();
+  com::Bstr file("old.bil");
   VARIANT_BOOL cancel = VARIANT_TRUE;
-  EXPECT_EQ(S_OK, Control().Raise(3, {Reference(file), Reference(cancel)}));
-  EXPECT_EQ("new.bil", com::TextOf(file));
+  EXPECT_EQ(S_OK, Control().Raise(3, {Reference(*file.InOut()), Reference(cancel)}));
+  EXPECT_EQ("new.bil", file.Text());
   EXPECT_EQ(VARIANT_FALSE, cancel);
-  SysFreeString(file);
 }
 
 TEST_F(PageEventsTest, AClassifyRequestBringsTheDataItsRangeAndTheFlags) {
@@ -178,18 +173,16 @@ TEST_F(PageEventsTest, EventsThatThePageDoesNotKnowAreRefused) {
 TEST_F(PageEventsTest, WhatAHandlerThrowsComesBackAsErrorWithDescription) {
   Page().NameChanged = [](const std::string&) { throw RunTimeError(1001, "This name is taken."); };
   const com::Variant name("Relief");
-  EXCEPINFO exception = {};
+  com::ExceptionInfo exception;
   EXPECT_EQ(DISP_E_EXCEPTION, Control().Raise(2, {name}, &exception));
-  EXPECT_EQ(static_cast<HRESULT>(0x800A0000 + 1001), exception.scode);
+  EXPECT_EQ(com::test::CodeOf(1001), exception.scode);
   EXPECT_EQ("This name is taken.", com::TextOf(exception.bstrDescription));
-  SysFreeString(exception.bstrDescription);
-  SysFreeString(exception.bstrSource);
 }
 
 TEST_F(PageEventsTest, WithoutRoomForADescriptionTheCodeItselfComesBack) {
   Page().NameChanged = [](const std::string&) { throw RunTimeError(1001, "This name is taken."); };
   const com::Variant name("Relief");
-  EXPECT_EQ(static_cast<HRESULT>(0x800A0000 + 1001), Control().Raise(2, {name}));
+  EXPECT_EQ(com::test::CodeOf(1001), Control().Raise(2, {name}));
   com::ComPtr<IErrorInfo> info;
   com::Bstr description;
   ASSERT_EQ(S_OK, GetErrorInfo(0, info.Out()));

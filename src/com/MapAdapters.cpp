@@ -1,4 +1,4 @@
-#include "com/Adapters.h"
+#include "com/MapAdapters.h"
 
 #include "com/Colors.h"
 #include "com/Conversion.h"
@@ -8,18 +8,14 @@
 namespace orx::com {
 namespace {
 
-/// "Invalid property value" and "Object variable not set", in the numbers of the older Basic.
-constexpr std::int32_t kInvalidValue = 380;
-constexpr std::int32_t kNoObject = 91;
-
 /// A value of an enumeration that starts at 0 and ends with `last`.
 template <class Enumeration>
 Enumeration EnumOf(const LateBound& object, const char* member, Enumeration last) {
   const std::int32_t value = object.GetLong(member);
   if (value < 0 || value > static_cast<std::int32_t>(last))
-    throw RunTimeError(kInvalidValue, std::string(member) + " is " + std::to_string(value) +
-                                          ", but must be from 0 to " + std::to_string(static_cast<std::int32_t>(last)) +
-                                          ".");
+    throw RunTimeError(kErrorInvalidValue, std::string(member) + " is " + std::to_string(value) +
+                                               ", but must be from 0 to " +
+                                               std::to_string(static_cast<std::int32_t>(last)) + ".");
   return static_cast<Enumeration>(value);
 }
 
@@ -60,12 +56,12 @@ Font LabelsAdapter::LabelFont() const {
 void LabelsAdapter::LabelFont(const Font& value) {
   const LateBound face = Face();
   const Font before = LabelFont();
-  if (value.Name != before.Name) face.Put("Name", Variant(value.Name));
-  if (value.Size != before.Size) face.Put("Size", Variant(value.Size));
-  if (value.Bold != before.Bold) face.Put("Bold", Variant(value.Bold));
-  if (value.Italic != before.Italic) face.Put("Italic", Variant(value.Italic));
-  if (value.Underline != before.Underline) face.Put("Underline", Variant(value.Underline));
-  if (value.Strikethrough != before.Strikethrough) face.Put("Strikethrough", Variant(value.Strikethrough));
+  if (value.Name != before.Name) face.Put("Name", value.Name);
+  if (value.Size != before.Size) face.Put("Size", value.Size);
+  if (value.Bold != before.Bold) face.Put("Bold", value.Bold);
+  if (value.Italic != before.Italic) face.Put("Italic", value.Italic);
+  if (value.Underline != before.Underline) face.Put("Underline", value.Underline);
+  if (value.Strikethrough != before.Strikethrough) face.Put("Strikethrough", value.Strikethrough);
 }
 
 Color LabelsAdapter::LabelColor() const {
@@ -73,7 +69,7 @@ Color LabelsAdapter::LabelColor() const {
 }
 
 void LabelsAdapter::LabelColor(Color value) {
-  Face().Put("Color", Variant(OleColorOf(value)));
+  Face().Put("Color", OleColorOf(value));
 }
 
 LegendCorner LegendAdapter::Corner() const {
@@ -82,11 +78,11 @@ LegendCorner LegendAdapter::Corner() const {
 
 ILegend& LegendsAdapter::Legend(std::int32_t index) {
   const ComPtr<IDispatch> legend = mObject.GetObject("Legend", {index});
-  if (!legend) throw RunTimeError(kNoObject, "There is no legend " + std::to_string(index) + ".");
+  if (!legend) throw RunTimeError(kErrorNotLoaded, "There is no legend " + std::to_string(index) + ".");
   // The identity of an object is its IUnknown.
   const ComPtr<IUnknown> identity = legend.As<IUnknown>();
   std::unique_ptr<LegendAdapter>& known = mLegends[identity.Get()];
-  if (!known) known = std::make_unique<LegendAdapter>(legend);
+  if (!known) known = std::make_unique<LegendAdapter>(mOwner, legend);
   return *known;
 }
 

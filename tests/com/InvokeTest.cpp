@@ -187,7 +187,7 @@ TEST_F(Invoke, WhatAMemberRaisesReachesTheCallerWithItsDescription) {
   EXPECT_EQ(call.Variable(variable).Call(), DISP_E_EXCEPTION);
   EXPECT_EQ(call.Description, "The file \"x\" is damaged.");
   EXPECT_EQ(call.Source, "OrvexMapDialogs2.Recorder");
-  EXPECT_EQ(call.Code, static_cast<HRESULT>(0x800A0141));
+  EXPECT_EQ(call.Code, CodeOf(kErrorFileFormat));
   EXPECT_EQ(variable.pdispVal, object.Get());
 }
 

@@ -10,21 +10,13 @@ namespace {
 
 /// An array as scripts have them: of variants.
 Variant VariantArray(const std::vector<std::string>& texts, LONG first = 0) {
-  Variant made;
-  made.parray = SafeArrayCreateVector(VT_VARIANT, first, static_cast<ULONG>(texts.size()));
-  made.vt = VT_ARRAY | VT_VARIANT;
-  for (LONG i = first; i < first + static_cast<LONG>(texts.size()); ++i) {
-    Variant text(texts[static_cast<std::size_t>(i - first)].c_str());
-    SafeArrayPutElement(made.parray, &i, static_cast<VARIANT*>(&text));
-  }
-  return made;
+  SafeArray made(VT_VARIANT, {first, static_cast<ULONG>(texts.size())});
+  for (const std::string& text : texts) made.Put(first++, Variant(text));
+  return made.MoveToVariant(VT_VARIANT);
 }
 
 Variant TextArray(const std::vector<std::string>& texts) {
-  Variant made;
-  made.parray = ArrayOfTexts(texts);
-  made.vt = VT_ARRAY | VT_BSTR;
-  return made;
+  return ArrayOfTexts(texts).MoveToVariant(VT_BSTR);
 }
 
 class InvokeArrays : public testing::Test {
@@ -56,9 +48,7 @@ TEST_F(InvokeArrays, ArraysOfVariantsBecomeArraysOfTextsAndComeBackAsArraysOfVar
 }
 
 TEST_F(InvokeArrays, ElementsOfAllTypesBecomeTexts) {
-  Variant files;
-  files.parray = SafeArrayCreateVector(VT_I4, 5, 2);
-  files.vt = VT_ARRAY | VT_I4;
+  Variant files = SafeArray(VT_I4, {5, 2}).MoveToVariant(VT_I4);
   EXPECT_EQ(AddLayer(files), "ShowAddLayer(0, True, [0 0])");
 }
 
@@ -103,20 +93,26 @@ TEST_F(InvokeArrays, AnObjectThatClaimsToBeEndlesslyLongIsRefused) {
 }
 
 TEST_F(InvokeArrays, ArraysOfTwoDimensionsAreRefused) {
-  SAFEARRAYBOUND bounds[] = {{2, 0}, {2, 0}};
-  Variant table;
-  table.parray = SafeArrayCreate(VT_VARIANT, 2, bounds);
-  table.vt = VT_ARRAY | VT_VARIANT;
+  Variant table = TableOf(VT_VARIANT).MoveToVariant(VT_VARIANT);
   EXPECT_EQ(AddLayer(table, DISP_E_TYPEMISMATCH), "");
 }
 
+TEST_F(InvokeArrays, ElementsThatAreGreaterThanPlainValuesBecomeTextsToo) {
+  Variant decimals = SafeArray(VT_DECIMAL, {0, 2}).MoveToVariant(VT_DECIMAL);
+  EXPECT_EQ(AddLayer(decimals), "ShowAddLayer(0, True, [0 0])");
+}
+
+TEST_F(InvokeArrays, RecordsAreRefused) {
+  Variant records = SafeArray(VT_I4, {0, 2}).MoveToVariant(VT_RECORD);
+  EXPECT_EQ(AddLayer(records, DISP_E_TYPEMISMATCH), "");
+}
+
 TEST_F(InvokeArrays, ATypedArrayVariableTravelsAsItIs) {
-  SAFEARRAY* files = ArrayOfTexts({"x"});
+  SafeArray files = ArrayOfTexts({"x"});
   ScriptCall call(recorder.Get(), "ShowAddLayer");
-  call.Value(Variant(std::int32_t{0})).Value(Variant(true)).Lent(ReferenceTo(VT_ARRAY | VT_BSTR, files));
+  call.Value(Variant(std::int32_t{0})).Value(Variant(true)).Lent(ReferenceTo(VT_ARRAY | VT_BSTR, *files.InOut()));
   EXPECT_EQ(call.Call(), S_OK);
-  EXPECT_EQ(TextsOf(files), (std::vector<std::string>{"a.bil", "b.bil"}));
-  SafeArrayDestroy(files);
+  EXPECT_EQ(TextsOf(files.Get()), (std::vector<std::string>{"a.bil", "b.bil"}));
 }
 
 TEST_F(InvokeArrays, AnArrayThatCannotGrowIsLeftAsItWas) {
