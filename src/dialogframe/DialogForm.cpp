@@ -21,15 +21,17 @@ void DialogForm::Language(ILanguage* value) {
 }
 
 void DialogForm::Form_Load() {
-  LoadStep([this] { Arrange(); });
-  LoadStep([this] { TakeLanguage(); });
-  LoadStep([this] { Fill(); });
-  if (!IsLoaded()) return;
-  if (mLanguageActive) {
-    LoadStep([this] { mLanguage->TranslateForm(*this); });
-    LoadStep([this] { Caption(mLanguage->TranslateText(Caption())); });
-  }
-  LoadStep([this] { Ready(); });
+  for (const auto step : {&DialogForm::Arrange, &DialogForm::TakeLanguage, &DialogForm::Fill,
+                          &DialogForm::TranslateControls, &DialogForm::TranslateCaption, &DialogForm::Ready})
+    if (IsLoaded()) LoadStep([&] { (this->*step)(); });
+}
+
+void DialogForm::TranslateControls() {
+  if (mLanguageActive) mLanguage->TranslateForm(*this);
+}
+
+void DialogForm::TranslateCaption() {
+  if (mLanguageActive) Caption(mLanguage->TranslateText(Caption()));
 }
 
 void DialogForm::TakeLanguage() {
@@ -42,6 +44,7 @@ void DialogForm::TakeLanguage() {
 
 void DialogForm::Form_Unload() {
   mLanguage = nullptr;
+  mLanguageActive = false;
   mHeld.clear();
 }
 

@@ -60,7 +60,7 @@ void PropertyDialog::TakeLanguage() {
 }
 
 void PropertyDialog::Fill() {
-  // Whether or not it has entries.
+  // Even a language without entries.
   mPages->Language(Language());
 }
 
@@ -71,7 +71,9 @@ void PropertyDialog::Do(Act act) {
 void PropertyDialog::Tell(Notification notify) {
   if (!mCallBack) return;
   ButtonStep([this] { mLastChange = IsAnyDirty(); });
-  ButtonStep([&] { (mCallBack->*notify)(mLastChange); });
+  ButtonStep([&] {
+    if (mCallBack) (mCallBack->*notify)(mLastChange);
+  });
 }
 
 void PropertyDialog::Relay(Act act, Notification notify) {
