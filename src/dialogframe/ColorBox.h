@@ -1,4 +1,4 @@
-// A box that shows a colour and has the user choose another one.
+// A box that shows a colour and lets the user choose another one.
 #pragma once
 
 #include "forms/Appearance.h"
@@ -8,19 +8,19 @@ namespace orx {
 
 class PictureBox;
 
-/// A picture box whose ground is the colour. A click opens the platform's dialog for colours, and so does every key but
-/// Shift; while the box has the focus it wears a mark. It takes the box's Click, KeyDown, GotFocus and LostFocus
-/// events, and the box must live as long.
+/// Shows the colour as the background of a picture box. A click or any key but Shift opens the platform's colour
+/// dialog, and a focus rectangle marks the box while it has the focus. Takes over the Click, KeyDown, GotFocus and
+/// LostFocus events of the box, which must outlive it.
 class ColorBox {
  public:
   explicit ColorBox(PictureBox& box);
   ColorBox(const ColorBox&) = delete;
   ColorBox& operator=(const ColorBox&) = delete;
 
-  /// Draws a thin line around the box, so that a pale colour tells where it ends.
+  /// Draws a thin outline, without which a pale colour would blend into the form.
   void DrawEdge();
 
-  /// Raised when the user has chosen a colour other than the one shown. The box shows it already.
+  /// Raised when the user has chosen a different colour, after the box has taken it on.
   Event<Color> Chosen;
 
  private:

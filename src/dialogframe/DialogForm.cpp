@@ -21,17 +21,17 @@ void DialogForm::Language(ILanguage* value) {
 }
 
 void DialogForm::Form_Load() {
-  const auto run = [this](const std::function<void()>& step) {
-    if (IsLoaded()) LoadStep(step);
-  };
-  run([this] { Arrange(); });
-  run([this] { TakeLanguage(); });
-  run([this] { Fill(); });
-  if (mLanguageActive) {
-    run([this] { mLanguage->TranslateForm(*this); });
-    run([this] { Caption(mLanguage->TranslateText(Caption())); });
-  }
-  run([this] { Ready(); });
+  for (const auto step : {&DialogForm::Arrange, &DialogForm::TakeLanguage, &DialogForm::Fill,
+                          &DialogForm::TranslateControls, &DialogForm::TranslateCaption, &DialogForm::Ready})
+    if (IsLoaded()) LoadStep([&] { (this->*step)(); });
+}
+
+void DialogForm::TranslateControls() {
+  if (mLanguageActive) mLanguage->TranslateForm(*this);
+}
+
+void DialogForm::TranslateCaption() {
+  if (mLanguageActive) Caption(mLanguage->TranslateText(Caption()));
 }
 
 void DialogForm::TakeLanguage() {

@@ -29,39 +29,39 @@ class DialogForm : public Form {
   /// Without a language.
   DialogForm(Desktop& desktop, const DialogDesign& design);
 
-  /// The language, null for none. A plain pointer: nothing is counted, and unloading clears it.
+  /// The language, null for none. A plain pointer that is not reference-counted; unloading clears it.
   ILanguage* Language() const { return mLanguage; }
   void Language(ILanguage* value);
 
  protected:
-  /// Every dialog is loaded in the same order: Arrange, TakeLanguage, Fill, the translation of the controls and of the
-  /// caption, Ready. Once the form is unloaded in one of them the others are left out.
+  /// Loads every dialog in the same order: Arrange, TakeLanguage, Fill, the translation of the controls and of the
+  /// caption, Ready. A form that unloads itself in one of these steps skips the rest.
   void Form_Load() override;
   void Form_Unload() override;
   void Form_Release() override;
 
   /// Puts the form where it is to open.
   virtual void Arrange() { Center(); }
-  /// Takes the help context number from an active language: the number under the help key, rounded to a whole one. A
-  /// text that is no number, or one that does not fit, leaves the designed number.
+  /// Takes the help context number from an active language: the number under the help key, rounded. A text that is not
+  /// a number, or is too large, leaves the designed one.
   virtual void TakeLanguage();
   /// Fills the controls. A form that has nothing to edit unloads itself here.
   virtual void Fill() {}
-  /// Does what has to wait for the translation.
+  /// Runs last, for whatever has to wait for the translation.
   virtual void Ready() {}
-  /// Runs one of these steps. What it throws ends the loading, unless a dialog goes on with the next step.
+  /// Runs one of these steps. An error ends the loading, unless the dialog overrides this to go on with the next step.
   virtual void LoadStep(const std::function<void()>& step) { step(); }
 
-  /// Holds on to what keeps a lent object usable, until the form is released; null is nothing.
+  /// Keeps a borrowed object usable until the form is released. Null is ignored.
   void Hold(const BorrowedObject* lent);
-  /// True when the language had entries when it was last asked, by Language or by AskLanguage.
+  /// True if the language had entries the last time it was asked, by Language or by AskLanguage.
   bool LanguageActive() const { return mLanguageActive; }
   /// Asks the language again whether it has entries.
   void AskLanguage() { mLanguageActive = IsActive(mLanguage); }
   /// What every Help button does.
   void ShowHelp();
 
-  /// Shows the hourglass while `work` runs. What it throws travels, and then the hourglass stays.
+  /// Shows the hourglass while `work` runs. An error travels and leaves the hourglass as it is.
   template <class Work>
   void WithHourglass(Work&& work) {
     OwnerDesktop().Pointer(Pointer::Hourglass);
@@ -70,6 +70,9 @@ class DialogForm : public Form {
   }
 
  private:
+  void TranslateControls();
+  void TranslateCaption();
+
   const char* mHelpKey;
   ILanguage* mLanguage = nullptr;
   bool mLanguageActive = false;

@@ -6,7 +6,7 @@
 
 namespace orx {
 
-/// OK writes to the object under the hourglass. Until then the object is left alone.
+/// The object stays untouched until OK, which writes to it while the hourglass is shown.
 class EditForm : public OkCancelForm {
  public:
   using OkCancelForm::OkCancelForm;
@@ -18,11 +18,11 @@ class EditForm : public OkCancelForm {
   void Form_Load() override;
   void Form_Release() override;
 
-  /// The object; used, not owned, and forgotten when the form is released.
+  /// The object being edited; used, not owned. Releasing the form clears it.
   HostObject* Subject() const { return mSubject; }
   void Subject(HostObject* value);
   void IsDirty(bool value) { mIsDirty = value; }
-  /// Writes what has passed the check. False when the form stays.
+  /// Writes what passed the check. Returns false to keep the form open.
   virtual bool Save() = 0;
   void Accept() override;
   void Discard() override { mIsDirty = false; }

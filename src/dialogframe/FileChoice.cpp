@@ -21,7 +21,7 @@ using namespace std::string_view_literals;
 constexpr std::string_view kNul("\0", 1);
 constexpr std::string_view kTwoNuls("\0\0", 2);
 
-/// The characters that an answer may have, and that a file's own name may have.
+/// The longest answer and the longest file name, in characters.
 constexpr int kBufferLength = 8192;
 constexpr int kFileTitleLength = 512;
 
@@ -46,7 +46,7 @@ constexpr Filter kLayerFilters[] = {
     {"List (*.lst)", "*.lst"},
 };
 
-/// The last one leaves "*.map" out on purpose.
+/// The last entry leaves out "*.map" on purpose.
 constexpr Filter kDataFilters[] = {
     {"Velkor (*.vkr)", "*.vkr"},
     {"Quarel (*.his,*.map)", "*.his;*.map"},
@@ -55,8 +55,8 @@ constexpr Filter kDataFilters[] = {
     {"All Files (*.*)", "*.vkr;*.his;*.bil;*.bip;*.bsq;*.inc"},
 };
 
-/// What is accepted, and what the user is told otherwise. The vector layers accept more than their filter shows, the
-/// message on images names less than is accepted.
+/// What is accepted, and what the user is told otherwise. Vector layers accept more than their filter shows, and the
+/// message about images names fewer types than are accepted.
 struct Rule {
   std::initializer_list<std::string_view> Extensions;
   const char* Refusal;
@@ -88,7 +88,7 @@ Choice ChoiceOf(FileKind kind) {
   return {theChoices.LayerFolder, theChoices.LayerFilterIndex};
 }
 
-/// The rule for a kind and the filter that the user left selected, null when there is none.
+/// The rule for a kind and the filter that the user left selected, or null if there is none.
 const Rule* RuleOf(FileKind kind, std::int32_t filter) {
   if (kind == FileKind::Data) return &kDataRule;
   const bool isKnown = filter >= 1 && filter <= static_cast<std::int32_t>(std::size(kLayerRules));
@@ -122,7 +122,7 @@ OpenFileRequest RequestFor(const FileChoice& choice) {
   return request;
 }
 
-/// The name, filled with blanks. A name that is longer than all of the buffer leaves none.
+/// The name, padded with blanks. A name longer than the whole buffer gives an empty one.
 std::string BufferFor(const std::string& fileName) {
   const int length = CharacterCount(fileName);
   if (length > kBufferLength) return {};
@@ -145,7 +145,7 @@ void Refuse(const FileChoice& choice, const Rule& rule) {
 bool IsAccepted(FileKind kind, std::int32_t filter, const std::string& answer) {
   const Rule* const rule = RuleOf(kind, filter);
   if (!rule) return true;
-  // One matching name among several is enough, and an extension may stand anywhere in it.
+  // One matching name among several is enough, and the extension may occur anywhere in it.
   const std::string text = AsciiUpperCase(answer);
   return std::ranges::any_of(rule->Extensions,
                              [&](std::string_view extension) { return text.find(extension) != std::string::npos; });
@@ -176,7 +176,7 @@ std::vector<std::string> SplitAnswer(const std::string& answer) {
   std::size_t start = 0;
   while (start <= answer.size()) {
     std::size_t end = answer.find('\0', start);
-    // A part in quotes ends with the quote that stands before a NUL or the end.
+    // A quoted part ends at the quote that is followed by a NUL or by the end.
     if (start < answer.size() && answer[start] == '"') {
       std::size_t quote = answer.find('"', start + 1);
       while (quote != std::string::npos && quote + 1 < answer.size() && answer[quote + 1] != '\0')

@@ -1,5 +1,5 @@
-// Choosing files: the two kinds of files with their filters and accepted extensions, and what is remembered of earlier
-// choices.
+// Choosing files: the two kinds of files, with their filters and accepted extensions, and the choices remembered from
+// earlier dialogs.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ namespace modDialog {
 /// What the files are for.
 enum class FileKind : std::int32_t { Layers = 0, Data = 1 };
 
-/// Who asks for files of which kind.
+/// Which kind of files is wanted, and by whom.
 struct FileChoice {
   Desktop& Screen;
   /// The window that the dialog belongs to: HWND on Windows, WId on Qt; 0 for none.
@@ -28,25 +28,25 @@ struct FileChoice {
   ILanguage* Language = nullptr;
 };
 
-/// Has the user choose files. The first entry of `files` is the name that the dialog opens on; afterwards it holds full
-/// paths, one at least. False, with the list as it was, when nothing was chosen or the files are of the wrong type,
-/// which the user is told. Several files can be chosen for layers, one for data, whatever `multiselect` says. Errors
-/// are skipped, nothing is thrown.
+/// Lets the user choose files. The dialog opens on the first entry of `files`, which afterwards holds one or more full
+/// paths. Returns false and leaves the list alone if nothing was chosen, or if the files are of the wrong type, which
+/// the user is told. Layers allow several files and data only one, whatever `multiselect` says. Never throws: failing
+/// steps are skipped.
 bool ChooseFiles(const FileChoice& choice, bool multiselect, std::vector<std::string>& files) noexcept;
 
-/// The same with the platform's answer as it is: a path, or a folder and names, separated by NULs.
+/// The same with the platform's raw answer: a path, or a folder and file names, separated by NULs.
 bool RunOpenFileDialog(const FileChoice& choice, bool multiselect, std::string& fileName) noexcept;
 
-/// What the platform's dialog returned last; 0 when the user cancelled.
+/// What the platform's dialog last returned; 0 if the user cancelled.
 std::int32_t LastSystemResult();
 
-/// The parts of an answer: separated by NULs, which count as text between double quotes that enclose a whole part.
+/// Splits an answer at its NULs. Inside double quotes that enclose a whole part, a NUL is text.
 std::vector<std::string> SplitAnswer(const std::string& answer);
 
-/// True when the answer has an extension of that kind of files; filters are those of layers, counted from 1.
+/// True if the answer contains an extension accepted for that kind. `filter` is a layer filter, counted from 1.
 bool IsAccepted(FileKind kind, std::int32_t filter, const std::string& answer);
 
-/// What is remembered for the life of the process. A folder is empty and an index 0 until the first dialog.
+/// What is remembered for the life of the process. Until the first dialog the folders are empty and the indexes 0.
 struct RememberedChoices {
   std::string DataFolder;
   std::int32_t DataFilterIndex = 0;

@@ -1,4 +1,4 @@
-// The mark that shows where the focus is on a box that is drawn by its form.
+// The focus rectangle of a picture box.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@ class PictureBox;
 
 namespace modMain {
 
-/// Draws the focus rectangle `inset` pixels inside the box; a second call at the same place takes it away. Switches the
-/// box's automatic redraw on. Nothing is thrown.
+/// Draws the focus rectangle `inset` pixels inside the box; drawing it again in the same place removes it. Turns on the
+/// box's automatic redraw. Never throws.
 void DrawInsetFocusRect(PictureBox& box, std::int32_t inset) noexcept;
 
 }  // namespace modMain

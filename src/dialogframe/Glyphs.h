@@ -7,14 +7,14 @@ namespace orx::glyphs {
 
 /// A blank page with a turned corner: something new.
 extern const Glyph kPage;
-/// A disk: keep.
+/// A disk: save.
 extern const Glyph kDisk;
-/// A cross: take away.
+/// A cross: remove.
 extern const Glyph kCross;
-/// A sheet with a list and marks before its lines: properties.
+/// A sheet with a bulleted list: properties.
 extern const Glyph kSheet;
 
-/// A plus: add. Arrows: change places with the one above or below.
+/// A plus: add. Arrows: swap with the neighbour above or below.
 extern const Glyph kPlus;
 extern const Glyph kUp;
 extern const Glyph kDown;

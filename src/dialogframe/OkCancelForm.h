@@ -11,8 +11,8 @@ namespace orx {
 
 class TextBox;
 
-/// OK checks what was entered, accepts it and hides the form; Cancel discards it and hides the form. Hidden, the form
-/// can still be asked for its outcome. The close box runs neither.
+/// OK checks what was entered, accepts it and hides the form; Cancel discards it and hides the form. A hidden form can
+/// still be asked for its outcome. The close box runs neither.
 class OkCancelForm : public DialogForm {
  public:
   using DialogForm::DialogForm;
@@ -22,14 +22,14 @@ class OkCancelForm : public DialogForm {
 
  protected:
   enum class Outcome { Open, Confirmed, Canceled };
-  /// Which of the two a refusal begins with.
+  /// What a refusal does first.
   enum class First { Message, Focus };
 
   void Form_Load() override;
 
-  /// Checks what was entered. False when something was refused: the form stays.
+  /// Checks what was entered. Returns false if something was refused, which keeps the form open.
   virtual bool Check() { return true; }
-  /// Takes over what has passed the check, and closes the form.
+  /// Takes over what passed the check, and closes the form.
   virtual void Accept() { Close(Outcome::Confirmed); }
   /// Drops what was entered.
   virtual void Discard() {}
@@ -38,14 +38,14 @@ class OkCancelForm : public DialogForm {
 
   /// True after OK.
   bool IsConfirmed() const { return mOutcome == Outcome::Confirmed; }
-  /// Sets the outcome of a form that goes on, or that goes without its buttons.
+  /// Sets the outcome without closing the form.
   void Conclude(Outcome outcome) { mOutcome = outcome; }
-  /// Hides the form, so that whoever has shown it can still read it.
+  /// Hides the form rather than unloading it, so that the caller can still read it.
   void Close(Outcome outcome);
 
-  /// Tells the user what is wrong with a field and gives the focus to it. Always false, for Check to pass on.
+  /// Tells the user what is wrong with a field and moves the focus there. Always returns false, for Check to pass on.
   bool Refuse(const Message& message, Control& field, First first = First::Message);
-  /// Refuses what stands in a field that the focus is leaving: the text from before comes back.
+  /// Refuses an entry as the focus leaves its field: restores the previous text and moves the focus back.
   void PutBack(const Message& message, TextBox& field, std::string before);
 
  private:

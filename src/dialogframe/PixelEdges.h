@@ -1,11 +1,11 @@
-// Rectangles of pixels that are hit by the mouse.
+// Hit-testing the mouse against rectangles of pixels.
 #pragma once
 
 #include <cstdint>
 
 namespace orx {
 
-/// The edges of a rectangle in pixels; all four belong to it.
+/// A rectangle in pixels. All four edges belong to it.
 struct PixelEdges {
   std::int32_t Left = 0;
   std::int32_t Top = 0;
@@ -15,7 +15,7 @@ struct PixelEdges {
 
 namespace modMain {
 
-/// True when the point lies in the rectangle or on its edge.
+/// True if the point lies inside the rectangle or on its edge.
 inline bool PointInRect(std::int16_t x, std::int16_t y, const PixelEdges& rectangle) {
   return rectangle.Left <= x && x <= rectangle.Right && rectangle.Top <= y && y <= rectangle.Bottom;
 }

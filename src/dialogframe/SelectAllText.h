@@ -1,4 +1,4 @@
-// What a field does when the focus comes to it.
+// What a field does when it gets the focus.
 #pragma once
 
 namespace orx {
@@ -7,7 +7,7 @@ class TextBox;
 
 namespace modMain {
 
-/// Selects the whole text. Nothing is thrown.
+/// Selects the whole text. Never throws.
 void SelectAllText(TextBox& box) noexcept;
 
 }  // namespace modMain

@@ -1,14 +1,14 @@
-// Keeps a flag raised for as long as a form or page changes its own controls, so that their handlers do nothing.
+// Marks the time in which a form or page changes its own controls, so that their handlers do nothing.
 #pragma once
 
 #include <utility>
 
 namespace orx {
 
-/// Raises the flag for its own lifetime and then brings back what it was, also when something is thrown.
+/// Sets a flag and restores its previous value at the end of the scope, also when an error leaves it.
 class BusyScope {
  public:
-  /// The flag must live longer than the scope.
+  /// The flag must outlive the scope.
   explicit BusyScope(bool& flag) : mFlag(flag), mBefore(std::exchange(flag, true)) {}
   ~BusyScope() { mFlag = mBefore; }
   BusyScope(const BusyScope&) = delete;

@@ -13,19 +13,20 @@ class Desktop;
 
 namespace modMain {
 
-/// The check that data files have to pass; null: that a file can be opened for reading. One for the process, not owned.
+/// Sets the check that data files have to pass, for the whole process; not owned. Null stands for the default: that the
+/// file can be opened for reading.
 void FileCheck(IFileCheck* check);
 
-/// What the user has chosen in BrowseDataFile.
+/// What the user chose in BrowseDataFile.
 struct BrowsedFile {
-  /// UTF-8; as it was when no file was chosen.
+  /// UTF-8; unchanged if no file was chosen.
   std::string FileName;
-  /// False when a file was chosen and has passed the check.
+  /// False if a file was chosen and passed the check.
   bool Cancel = true;
 };
 
-/// Has the user choose a data file in a dialog before the window `ownerHandle` (0: none), in that language (null:
-/// none).
+/// Lets the user choose a data file. The dialog belongs to the window `ownerHandle` (0 for none) and is shown in that
+/// language (null for none).
 void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language, BrowsedFile& file) noexcept;
 
 }  // namespace modMain

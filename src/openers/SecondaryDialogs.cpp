@@ -25,8 +25,8 @@ struct Stage {
   OwnerWindow Owner = {};
 };
 
-/// Shows a dialog, modal: `give` hands over what it is about, and `take` collects its outcome, which is told whether
-/// the dialog was shown and came to its end without an error. True when nothing has failed.
+/// Shows a modal dialog. `give` hands over what to edit; `take` collects the outcome and learns whether the dialog was
+/// shown and closed without an error. Returns true if nothing failed.
 template <class Dialog, class Give, class Take>
 bool Run(const Stage& stage, Give&& give, Take&& take) noexcept {
   ErrorTrap trap;
@@ -59,7 +59,7 @@ bool RunForData(const Stage& stage, HostObject* data, bool& changed, Give&& give
   return isDirty;
 }
 
-/// The extent of the map as it is now, asked for with each value.
+/// The map's current extent, which is fetched anew for each value.
 IExtent& ExtentOf(HostObject* map) {
   IMap* const asked = QueryKind<IMap>(map);
   IExtent* const extent = asked ? asked->Extent() : nullptr;
@@ -82,7 +82,7 @@ void WriteEdges(ErrorTrap& trap, HostObject* map, EdgePair held, EdgePair now, E
   const auto write = [&](double EdgePair::*edge, EdgeSetter set) {
     EdgePair next = held;
     next.*edge = now.*edge;
-    // The opposite edge is in the way only when the map has refused to move it.
+    // The opposite edge is in the way only if the map has refused to move it.
     if (keepsOrder && !next.IsInOrder()) return;
     trap.Step([&] {
       (ExtentOf(map).*set)(now.*edge);
@@ -148,7 +148,7 @@ bool ShowGeoreferenceDialog(Desktop& desktop, HostObject* map, ILanguage* langua
   reading.Step([&] { across.Upper = ExtentOf(map).Right(); });
   reading.Step([&] { up.Lower = ExtentOf(map).Bottom(); });
   reading.Step([&] { up.Upper = ExtentOf(map).Top(); });
-  // What cannot be read must not be written back as something else.
+  // An edge that could not be read must not be overwritten with something else.
   const double ratio = (across.Upper - across.Lower) / (up.Upper - up.Lower);
   if (reading.IsPending() || !std::isfinite(ratio) || ratio == 0) {
     reading.Step([&] { desktop.Beep(); });

@@ -1,5 +1,5 @@
-// The routines that open a dialog for a page or the service and collect its outcome. They protect their
-// caller: errors inside are skipped, never raised.
+// The routines that open a dialog for a page or the service and collect its outcome. They protect their caller: failing
+// steps are skipped, and nothing is thrown.
 #pragma once
 
 #include <cstdint>
@@ -25,38 +25,38 @@ struct ClassifyTask {
   double Maximum = 0;
   /// kMayChangeClassCount or 0.
   std::int32_t Flags = 0;
-  /// Handed to the form, which has no use for it.
+  /// Passed to the form, which does not use it.
   std::string Text = {};
 };
 
-/// Shows the classification dialog, modal and without owner. True, also in `isDirty`, when it has written changed
-/// settings. Without a data object: a beep and False, `isDirty` as it was.
+/// Shows the classification dialog, modal and without owner. Returns true, and sets `isDirty` to the same, if it wrote
+/// changed settings. Without a data object it beeps, returns false and leaves `isDirty` alone.
 bool ShowClassifyDialog(Desktop& desktop, const ClassifyTask& task, bool& isDirty, ILanguage* language) noexcept;
 
-/// Shows the dialog for special values in the same way.
+/// The same for the special values.
 bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
 
-/// Show the dialogs for the relief shading and for the contour lines of a grid in the same way.
+/// The same for the relief shading and for the contour lines of a grid.
 bool ShowShadeDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
 bool ShowIsolineDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept;
 
-/// Tells the user that there are no data styles.
+/// Tells the user that data styles are not supported.
 void ShowDataStyleNotice(Desktop& desktop);
 
-/// Shows the window for colour schemes, modal, in that language. True when nothing has failed.
+/// Shows the window for colour schemes, modal, in that language. Returns true if nothing failed.
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner = {}) noexcept;
 
-/// Shows the dialog for a character of a font and its rotation, modal, in that language. A rotation goes in as whole
-/// degrees, halves to the even neighbour. When a value that comes back differs from the one in `choice`, also in the
-/// letter case of the font or by the fraction of a degree, all of them are taken over and Changed is set; else `choice`
-/// stays as it is. True when nothing has failed, also when the user has cancelled.
+/// Shows the character picker, modal, in that language. The rotation is rounded to whole degrees, halves to even. If
+/// any of the three values comes back different, be it by the letter case of the font or a fraction of a degree, all
+/// three are taken over and Changed is set; otherwise `choice` is left alone. Returns true if nothing failed, also if
+/// the user cancelled.
 bool ShowCharacterDialog(Desktop& desktop, CharacterRequest& choice, ILanguage* language,
                          OwnerWindow owner = {}) noexcept;
 
-/// Shows the dialog that moves a map (an object with IMap) on the ground, modal, in that language, and writes the edges
-/// that come back from it. True when nothing has failed, also when the user has cancelled. A map whose extent cannot be
-/// read, or has no width or no height that can be reckoned with: a beep and False, and nothing is shown. An edge that
-/// the map refuses is passed over.
+/// Shows the dialog for the extent of a map (an object with IMap), modal, in that language, and writes the edges that
+/// come back from it; an edge that the map refuses is skipped. Returns true if nothing failed, also if the user
+/// cancelled. If the extent cannot be read, or its ratio of width to height makes no sense, it beeps, shows nothing and
+/// returns false.
 bool ShowGeoreferenceDialog(Desktop& desktop, HostObject* map, ILanguage* language, OwnerWindow owner = {}) noexcept;
 
 }  // namespace modMain

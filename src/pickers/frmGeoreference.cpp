@@ -58,7 +58,7 @@ bool frmGeoreference::Take(int index, double value) {
   const double right = index == EdgeRight ? value : mRight;
   const double bottom = index == EdgeBottom ? value : mBottom;
   const double width = right - left;
-  // What is typed back to where it was brings back the very same top edge, free of rounding.
+  // Typing the original values again restores the original top edge exactly, without rounding.
   const double top = width == mFirstWidth && bottom == mFirstBottom ? mFirstTop : width / mRatio + bottom;
   if (!std::isfinite(top)) return false;
   mLeft = left;
@@ -77,7 +77,7 @@ bool frmGeoreference::Check() {
 }
 
 void frmGeoreference::Form_Unload() {
-  // Who closes the window has confirmed nothing.
+  // Closing the window confirms nothing.
   Conclude(Outcome::Canceled);
   OkCancelForm::Form_Unload();
 }

@@ -67,7 +67,7 @@ void frmListSelection::SelectFirst() {
 }
 
 bool frmListSelection::Check() {
-  // What was gathered before a No is gathered anew.
+  // Starts over, since an earlier OK may have been answered with No.
   mSelected.clear();
   for (const int row : ShownList().SelectedRows()) mSelected.push_back(ShownList().ItemData(row));
   const bool asks = mAskConfirmation && !mSelected.empty();
@@ -76,7 +76,7 @@ bool frmListSelection::Check() {
 }
 
 void frmListSelection::Form_Unload() {
-  // Who closes the window has chosen nothing, whatever was gathered before a No.
+  // Closing the window chooses nothing, even after an OK that was answered with No.
   mSelected.clear();
   OkCancelForm::Form_Unload();
 }

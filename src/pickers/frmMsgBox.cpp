@@ -12,10 +12,10 @@ namespace {
 
 constexpr char kApplicationTitle[] = "OrvexMapDialogs2";
 constexpr char kEllipsis[] = "\xE2\x80\xA6";
-/// The characters of a path that the label has room for beside the longest prefix.
+/// How many characters of a path fit in the label beside the longest prefix.
 constexpr int kShownPath = 48;
 
-/// A yellow sign with an exclamation mark, in the pixels that the box has.
+/// Draws a yellow warning sign that fills the box.
 void DrawSign(PictureBox& box) {
   const Size size = box.PixelSize();
   const Color yellow{255, 200, 40};
@@ -37,7 +37,7 @@ void DrawSign(PictureBox& box) {
   box.Refresh();
 }
 
-/// The start of the n-th character of a UTF-8 text.
+/// Where the n-th character of a UTF-8 text starts.
 std::size_t OffsetOf(const std::string& text, int character) {
   std::size_t at = 0;
   for (; character > 0 && at < text.size(); --character) do
@@ -46,7 +46,7 @@ std::size_t OffsetOf(const std::string& text, int character) {
   return at;
 }
 
-/// A path that is too long loses its middle: its ends tell the most.
+/// A path that is too long loses its middle, since its ends say the most.
 std::string Shortened(const std::string& path) {
   const int length = CharacterCount(path);
   if (length <= kShownPath) return path;
@@ -80,7 +80,7 @@ void frmMsgBox::Fill() {
 }
 
 void frmMsgBox::Ready() {
-  // A path means nothing to the translation.
+  // Only now, since a path is not to be translated.
   ShowMessageText();
   DrawSign(imgIcon);
 }

@@ -21,13 +21,13 @@ void frmProgress::Fill() {
 }
 
 void frmProgress::Form_Unload() {
-  // Whoever takes the window away wants no more of the operation; the host asks for this later.
+  // Taking the window away cancels the operation. The host asks for it later.
   mCancelAction = true;
   DialogForm::Form_Unload();
 }
 
 bool frmProgress::Form_QueryUnload() {
-  // A host that works on must not lose its window. One that waits for the modal form to go would wait for ever.
+  // A host that is still working must not lose its window, but one that waits for a modal form would wait forever.
   if (!mCancelAction) {
     cmdCancel_Click();
   } else if (IsModal()) {

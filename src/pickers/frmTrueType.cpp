@@ -55,10 +55,10 @@ void frmTrueType::Fill() {
 void frmTrueType::FillFonts() {
   cboFont.Clear();
   const std::vector<std::string> fonts = OwnerDesktop().ScreenFonts();
-  // The system's own font, which comes first, is no choice for a symbol.
+  // The first one is the system's own font, which is not offered for symbols.
   for (std::size_t i = 1; i < fonts.size(); ++i)
     if (!fonts[i].empty()) cboFont.AddItem(fonts[i]);
-  // The first entry is not looked at.
+  // The first entry is not compared.
   for (int i = 1; i < cboFont.ListCount(); ++i)
     if (EqualInAnyCase(cboFont.List(i), mPicked.Font)) return cboFont.ListIndex(i);
   ShowFont();
@@ -142,7 +142,7 @@ void frmTrueType::txtRot_LostFocus() {
 }
 
 void frmTrueType::Form_Unload() {
-  // Who closes the window has confirmed nothing.
+  // Closing the window confirms nothing.
   if (!IsConfirmed()) Discard();
   mGridHasFocus = false;
   OkCancelForm::Form_Unload();

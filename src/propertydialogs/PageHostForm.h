@@ -1,5 +1,5 @@
-// The dialog that hosts one to four property pages of one object. The pages do the editing; the form hands them what
-// they need, relays the buttons, and tells the host's call-back.
+// The dialog that hosts one or more property pages of a single object. The pages do the editing; the form hands them
+// what they need, relays the buttons and notifies the host's call-back.
 #pragma once
 
 #include <string>

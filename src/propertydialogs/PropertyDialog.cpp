@@ -60,7 +60,7 @@ void PropertyDialog::TakeLanguage() {
 }
 
 void PropertyDialog::Fill() {
-  // Whether or not it has entries.
+  // Even a language without entries.
   mPages->Language(Language());
 }
 
@@ -74,7 +74,9 @@ void PropertyDialog::Tell(Notification notify) {
   if (!mCallBack) return;
   ButtonStep([this] { mLastChange = IsAnyDirty(); });
   // Asking the pages may have cost the form its window, and with it the call-back.
-  if (mCallBack) ButtonStep([&] { (mCallBack->*notify)(mLastChange); });
+  ButtonStep([&] {
+    if (mCallBack) (mCallBack->*notify)(mLastChange);
+  });
 }
 
 void PropertyDialog::Relay(Act act, Notification notify) {

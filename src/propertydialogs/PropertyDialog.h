@@ -1,5 +1,5 @@
 // What all dialogs with property pages share: the pages on a tab control, Help, OK, Cancel and Apply along the bottom,
-// the host's call-back and registry key, and all that the service asks of them.
+// the host's call-back and registry key, and everything that the service relies on.
 #pragma once
 
 #include <optional>
@@ -15,7 +15,7 @@
 
 namespace orx {
 
-/// Where everything stands in a dialog with property pages, in twips of the client area.
+/// The layout of a dialog with property pages, in twips of the client area.
 struct PropertyLayout {
   Size Client;
   Rect Tab;
@@ -47,7 +47,7 @@ struct PropertyDesign {
   BorderStyle Border = BorderStyle::Fixed;
 };
 
-/// What the service hands over to a dialog before it is shown.
+/// What the service hands to a dialog before showing it.
 struct PropertyTask {
   /// The object to edit, null for none.
   HostObject* Client;
@@ -62,20 +62,20 @@ class PropertyDialog : public OkCancelForm {
  public:
   PropertyDialog(Desktop& desktop, IPageFactory& factory, const PropertyDesign& design);
 
-  /// Takes over all that a task names, each part in a step of its own.
+  /// Registers everything in the task, each item in a step of its own.
   virtual void Take(const PropertyTask& task, ErrorTrap& trap);
-  /// The host's call-back, null for none. A plain pointer: the host keeps the object alive while the form is open, and
-  /// unloading clears the pointer. Taking one on calls its RegisterNotify.
+  /// Sets the host's call-back, null for none, and calls its RegisterNotify. A plain pointer: the host keeps the object
+  /// alive while the form is open, and unloading clears the pointer.
   void RegisterCallBack(IDialogCallBack* callBack);
-  /// Hands over the object to edit (used, not owned) and the host's registry key.
+  /// Sets the object to edit (used, not owned) and the host's registry key.
   virtual void RegisterClient(HostObject* client, const std::string& registryKey) = 0;
-  /// Whether the object was changed, as the result of the dialog has it; false when the form is not loaded, since its
-  /// pages are gone then. Setting it loads the form.
+  /// Whether the object was changed, which is the result of the dialog. False while the form is not loaded, since it
+  /// has no pages then. Setting it loads the form.
   virtual bool IsDirty() const { return IsLoaded() && mPages && mPages->IsResultDirty(); }
   virtual void IsDirty(bool value) { Pages().IsDirty(value); }
-  /// Has the pages load the object's values. Loads the form.
+  /// Makes the pages load the object's values. Loads the form.
   virtual void RefreshContents() = 0;
-  /// Whether any page had changed something when the call-back was last told.
+  /// What the call-back was last told: whether anything had changed.
   bool LastChange() const { return mLastChange; }
 
  protected:
@@ -91,25 +91,26 @@ class PropertyDialog : public OkCancelForm {
   virtual void cmdApply_Click();
   void Accept() override;
   void Discard() override;
-  /// Has the pages write what Apply applies, and tells the call-back.
+  /// What happens under the hourglass of Apply.
   virtual void Apply();
-  /// Has all pages do one thing, and tells the call-back, if there is one, whether anything has changed.
+  /// Calls a member of all pages, and then tells the call-back, if any, whether anything has changed.
   virtual void Relay(Act act, Notification notify);
   /// The two halves of that. Neither goes on once the form is retired.
   void Do(Act act);
   void Tell(Notification notify);
-  /// Runs one step of these. What it throws ends the button, unless a dialog goes on with the next step.
+  /// Runs one step of these. An error ends the button's work, unless the dialog overrides this to go on with the next
+  /// step.
   virtual void ButtonStep(const std::function<void()>& step) { step(); }
-  /// Whether anything has changed, be it part of the result or not.
+  /// Whether anything has changed, whether it counts in the result or not.
   virtual bool IsAnyDirty() const { return mPages && mPages->IsAnyDirty(); }
 
-  /// The pages. Loads the form; throws RunTimeError when they could not be made.
+  /// The pages. Loads the form; throws RunTimeError if they could not be made.
   PropertyPages& Pages();
   bool HasPages() const { return mPages.has_value(); }
   IDialogCallBack* CallBack() const { return mCallBack; }
   const std::string& RegistryKey() const { return mRegistryKey; }
   void RegistryKey(const std::string& value) { mRegistryKey = value; }
-  /// Without a call-back: hides Apply and moves OK and Cancel one place to the right.
+  /// Without a call-back, hides Apply and moves OK and Cancel one place to the right.
   void CloseUpButtons();
 
  private:
@@ -127,7 +128,7 @@ class PropertyDialog : public OkCancelForm {
   Button cmdApply;
 
  private:
-  // Below the controls: the pages' own controls stand on the tabs and go first.
+  // Declared after the controls: the pages' own controls are on the tabs and have to go first.
   std::optional<PropertyPages> mPages;
 };
 

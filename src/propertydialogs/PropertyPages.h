@@ -10,29 +10,29 @@
 
 namespace orx {
 
-/// A page as its dialog is drawn up with it.
+/// One page in the design of a dialog.
 struct PageDesign {
   PageKind Kind;
   const char* Name;
   const char* TabCaption;
-  /// Has a form answer the page's requests; null leaves them unanswered.
+  /// Sets the form up to answer the page's requests; null leaves them unanswered.
   void (*Answer)(PropertyPage& page, DialogForm& form) = nullptr;
-  /// Whether a change on this page is a change in the result of the dialog.
+  /// Whether a change on this page counts in the result of the dialog.
   bool IsResult = true;
 };
 
-/// The pages of a layer, for the dialogs that show all of them. Labels are no part of the result there.
+/// The four pages of a layer, for the dialogs that show all of them. Labels do not count in their result.
 const std::vector<PageDesign>& LayerPages();
 
-/// Made when the dialog is loaded. What is said to all pages is said in the order of their tabs; what a page throws
-/// travels, and the pages behind it are not told.
+/// Created when the dialog is loaded. Calls go to all pages in the order of their tabs; an error travels, and the
+/// pages after it are not called.
 class PropertyPages {
  public:
-  /// Makes the pages on the tabs, and has their requests answered by the form, which must outlive them. Throws what
-  /// RequirePage throws.
+  /// Makes the pages on the tabs; the form answers their requests and must outlive them. Throws what RequirePage
+  /// throws.
   PropertyPages(IPageFactory& factory, const std::vector<PageDesign>& designs, TabControl& tabs, DialogForm& form);
 
-  /// The page of that kind; throws std::out_of_range where the dialog has none.
+  /// The page of that kind; throws std::out_of_range if the dialog has none.
   PropertyPage& Of(PageKind kind);
   template <class Action>
   void ForEach(Action&& action) {
@@ -43,7 +43,7 @@ class PropertyPages {
   void Language(ILanguage* value);
   void IsDirty(bool value);
   void RefreshContents();
-  /// True when one of the pages has changed something, of all pages or of those that make up the result; each is asked.
+  /// True if any page, or any that counts in the result, has changed something. All of them are asked.
   bool IsAnyDirty() const;
   bool IsResultDirty() const;
   /// Tells each page whether its tab is the selected one.

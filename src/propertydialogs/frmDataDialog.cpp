@@ -9,13 +9,13 @@
 namespace orx {
 namespace {
 
-/// The room around the controls, in twips, and the height of the strip, in pixels.
+/// The margin around the controls, in twips, and the height of the strip, in pixels.
 constexpr int kMargin = 8 * kTwipsPerPixel;
 constexpr int kStripHeight = 3;
 
 constexpr char kPageName[] = "DataProperties1";
 
-/// Mouse positions count in 16 bits.
+/// Mouse positions are tested in 16 bits.
 std::int16_t Narrow(int value) {
   using Limits = std::numeric_limits<std::int16_t>;
   return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
@@ -46,7 +46,7 @@ Placement frmDataDialog::Kept() const {
 void frmDataDialog::Arrange() {
   Kept().Restore(*this);
   const int frame = OwnerDesktop().Metrics(Border()).Frame.Height;
-  // However low the window was kept, its buttons can be reached.
+  // However small the stored height, the buttons stay in reach.
   const int smallest = 2 * kMargin + cmdHelp.Place().Height;
   if (const std::optional<int> height = Kept().Read("Height"))
     ClientSize({ClientSize().Width, std::max(smallest, *height - frame)});
@@ -66,7 +66,7 @@ void frmDataDialog::LayOut() {
   mStrip.Top = mStrip.Bottom - kStripHeight;
   const int top = ClientSize().Height - kMargin - cmdHelp.Place().Height;
   for (Button* const button : std::initializer_list<Button*>{&cmdHelp, &cmdOK, &cmdCancel, &cmdApply}) button->Top(top);
-  // In a window lower than its buttons nothing is left for the page.
+  // A window with room for little but the buttons leaves nothing for the page.
   const Rect tab = ssTab.Place();
   ssTab.Place({tab.Left, tab.Top, tab.Width, std::max(0, top - kMargin - tab.Top)});
   Control* const page = ssTab.Page(0).Find(kPageName);
@@ -90,7 +90,7 @@ void frmDataDialog::Form_MouseMove(Point at) {
 void frmDataDialog::Form_MouseDown(Point at) {
   if (!IsOnStrip(at)) return;
   DragBottomEdge();
-  // The user may have closed the window meanwhile.
+  // The user may have closed the window in the meantime.
   if (!Visible()) return;
   Refresh();
   Form_Resize();

@@ -1,4 +1,4 @@
-// Dialog for the legends of a map. Its Apply button stays even when there is no call-back to be told.
+// Dialog for the legends of a map. Its Apply button stays even without a call-back.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ class frmLegend final : public PageHostForm {
  public:
   frmLegend(Desktop& desktop, IPageFactory& pages);
 
-  /// The call-back comes before the map here.
+  /// Unlike the others, registers the call-back before the object.
   void Take(const PropertyTask& task, ErrorTrap& trap) override;
   /// The legend that the page shows first, by index from 0.
   std::int32_t StartUpIndex() { return Pages().Of(PageKind::Legends).StartUpIndex(); }

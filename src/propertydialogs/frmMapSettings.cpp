@@ -19,7 +19,7 @@ constexpr PropertyLayout kMapLayout{.Client = {9420, 5670},
                                     .CancelLeft = 6675,
                                     .ApplyLeft = 8055};
 
-/// The marks of rows, which tell by a part of them what a row is.
+/// The tags that tell what a row is.
 constexpr char kMapTag[] = "Map";
 constexpr char kLayerTag[] = "Layer";
 constexpr char kTileTag[] = "Tile";
@@ -30,13 +30,13 @@ bool Marks(const std::string& tag, const char* what) {
   return lower.find(what) != std::string::npos;
 }
 
-/// The name of a layer, or what stands for it.
+/// The name of a layer, or a numbered one if it is blank.
 std::string NameOr(std::string name, const char* otherwise, std::int32_t number) {
   if (Trimmed(name, kSpaces).empty()) name = otherwise + std::to_string(number);
   return name;
 }
 
-/// Keeps the list as the screen shows it until all of it is filled, also when a name cannot be had.
+/// Suspends redrawing while the list is being filled, and resumes it even if the host throws.
 class Filling {
  public:
   explicit Filling(TreeList& list) : mList(list) { mList.Redraw(false); }
@@ -51,7 +51,7 @@ class Filling {
 }  // namespace
 
 Design frmMapSettings::PictureDesign(const char* toolTip, int position) {
-  // The caption is not to be seen; it is the key: Alt with the number of the button.
+  // The caption is not shown. It only provides the mnemonic: Alt with the number of the button.
   return {.Caption = "&" + std::to_string(position + 1),
           .Place = {2595, 120 + position * 465, 405, 405},
           .ToolTipText = toolTip};
@@ -82,7 +82,7 @@ void frmMapSettings::RegisterClient(HostObject* client, const std::string& regis
     Hold(client);
     mClient = client;
     mMap = mCurrentMap = map;
-    // An empty map has no first layer.
+    // An empty map has no first layer to ask for.
     mCurrentObject = map->LayerCount() > 0 ? map->Layer(1) : nullptr;
   } else if (ILayers* const layers = QueryKind<ILayers>(client)) {
     Hold(client);
@@ -160,7 +160,7 @@ void frmMapSettings::sftLayers_KeyDown(int keyCode) {
   if (keyCode == kKeyCodeF1) return modMain::ShowHelpFinder(*this, modMain::HelpFile(), sftLayers.HelpContextId());
   const bool isArrow = keyCode >= kKeyCodeLeft && keyCode <= kKeyCodeDown;
   if (isArrow && !sftLayers.Redraw()) sftLayers.Redraw(true);
-  // The other keys count when they have led to another row.
+  // Other keys count if they moved to another row.
   if (isArrow || sftLayers.ListIndex() != mSelectedRow) SelectRow(sftLayers.ListIndex());
 }
 
@@ -174,11 +174,11 @@ bool frmMapSettings::ShowSelection(int row) {
 
 void frmMapSettings::SelectRow(int row) {
   if (IsRetired()) return;
-  // The list shows the row already when the events are let through.
+  // The list shows the row before pending events are handled.
   ShowSelection(row);
   const int turn = ++mSelections;
   OwnerDesktop().ProcessPendingEvents();
-  // What the user has done meanwhile counts: another row was selected, or the window is closed.
+  // Whatever the user did in the meantime wins: another row may be selected, or the window closed.
   if (!IsLoaded() || turn != mSelections) return;
   mSelectedLayer = 0;
   mCurrentMap = mMap;
@@ -186,7 +186,7 @@ void frmMapSettings::SelectRow(int row) {
   try {
     if (ShowSelection(row)) TakeObject();
   } catch (...) {
-    // The pages must not keep an object that the map may have let go.
+    // The pages must not keep an object that the map may have released.
     ShowObject();
     throw;
   }
@@ -232,7 +232,7 @@ void frmMapSettings::NameChanged(const std::string& name) {
   trap.Step([&] { sftLayers.Text(mSelectedRow, name); });
 }
 
-// The buttons beside the list. What a map throws counts as its refusal.
+// The buttons beside the list. An error of the map counts as a refusal.
 
 void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
   ErrorTrap trap;
@@ -256,9 +256,9 @@ void frmMapSettings::cmdRemove_Click() {
   if (IsRetired()) return;
   if (isRemoved) {
     position = FoldedPosition();
-    // The layer may be gone for good.
+    // The layer may no longer exist.
     mCurrentObject = nullptr;
-    trap.Step([&] { Pages().Client(nullptr); });
+    if (HasPages()) trap.Step([&] { Pages().Client(nullptr); });
     trap.Step([&] { FillList(); });
     mListChanged = true;
   }
@@ -293,7 +293,7 @@ void frmMapSettings::AddFile(const std::string& path) {
   mListChanged = true;
 }
 
-// The buttons along the bottom. What pages and call-back throw is skipped.
+// The buttons along the bottom. Errors of the pages and the call-back are skipped.
 
 void frmMapSettings::ButtonStep(const std::function<void()>& step) {
   ErrorTrap trap;

@@ -1,5 +1,5 @@
-// The layer manager: the layers of a map and their tiles in a list, which the user adds, moves and removes, and beside
-// it the four property pages of the selected one.
+// The layer manager: a list of the layers of a map and their tiles, which the user adds, moves and removes, beside the
+// four property pages of the selected one.
 #pragma once
 
 #include <cstdint>
@@ -17,14 +17,14 @@ class frmMapSettings final : public PropertyDialog {
  public:
   frmMapSettings(Desktop& desktop, IPageFactory& pages);
 
-  /// What the host has to say to the dialog; kept, and without a meaning so far.
+  /// Flags of the host, which are kept but have no meaning so far.
   void RegisterFlags(std::int32_t flags) { mFlags = flags; }
   std::int32_t Flags() const { return mFlags; }
-  /// Hands over a map (IMap) or a layer collection (ILayers), used and not owned, and the host's registry key. The user
-  /// is told of other objects, and nothing is kept of them.
+  /// Sets the map (IMap) or layer collection (ILayers) to edit, used and not owned, and the host's registry key. Other
+  /// objects are reported to the user and not kept.
   void RegisterClient(HostObject* client, const std::string& registryKey) override;
   void Take(const PropertyTask& task, ErrorTrap& trap) override;
-  /// Whether layers were added, moved, removed or changed, their labels left out.
+  /// Whether layers were added, moved, removed or changed, apart from their labels.
   bool IsDirty() const override { return mListChanged || PropertyDialog::IsDirty(); }
   void IsDirty(bool value) override;
   /// Shows the selected object on the pages. Does nothing without a map. Loads the form.
@@ -66,16 +66,16 @@ class frmMapSettings final : public PropertyDialog {
   void AddRows(IMap& map, const char* defaultName, const char* tag, int level);
   void AddTiles(HostObject* layer, int level);
   void AddFile(const std::string& path);
-  /// Selects a row and shows its object; a row outside the list stands for the nearest one.
+  /// Selects a row and shows its object. A row outside the list stands for the nearest one.
   void SelectRow(int row);
-  /// The same by the position among the rows that can be seen.
+  /// The same by the position among the visible rows.
   void SelectPosition(int position);
-  /// Where the selected layer stands among the rows while all are folded, as they are when the list was just filled.
+  /// The position of the selected layer while all rows are folded, as they are right after filling.
   int FoldedPosition() const;
   bool ShowSelection(int row);
   void TakeObject();
   void ShowObject();
-  /// Up, Down and Remove work with a layer only.
+  /// Enables Up, Down and Remove, which work on layers only.
   void EnableMoving();
 
   std::int32_t mFlags = 0;
@@ -86,10 +86,10 @@ class frmMapSettings final : public PropertyDialog {
   IMap* mCurrentMap = nullptr;
   std::int32_t mSelectedLayer = 0;
   int mSelectedRow = 0;
-  /// How often a row was selected.
+  /// Counts selections, to tell whether another one came in between.
   int mSelections = 0;
   bool mListChanged = false;
-  /// True while the form itself moves the selection.
+  /// Set while the form itself moves the selection.
   bool mIsSelecting = false;
 };
 

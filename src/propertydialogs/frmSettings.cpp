@@ -10,7 +10,7 @@ frmSettings::frmSettings(Desktop& desktop, IPageFactory& pages)
 
 void frmSettings::Ready() {
   if (!LanguageActive()) return;
-  // The caption of the first tab is left to the translation of the form.
+  // The first tab's caption is left to the translation of the form.
   for (int tab = 1; tab < ssTab.TabCount() && LanguageActive(); ++tab) {
     ssTab.Tab(tab);
     ssTab.TabCaption(tab, Language()->TranslateText(LayerPages().at(static_cast<std::size_t>(tab)).TabCaption));

@@ -1,5 +1,4 @@
-// Dialog for all settings of a layer: its four property pages at once. Its Apply button stays even when there is no
-// call-back to be told.
+// Dialog for all settings of a layer, with all four property pages. Its Apply button stays even without a call-back.
 #pragma once
 
 #include "propertydialogs/PageHostForm.h"
@@ -13,7 +12,7 @@ class frmSettings final : public PageHostForm {
  protected:
   void Ready() override;
   void Form_Resize() override { RefreshContents(); }
-  /// What was applied is no change any more.
+  /// Changes that were applied no longer count.
   void Apply() override;
 };
 

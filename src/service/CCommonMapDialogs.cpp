@@ -20,7 +20,7 @@
 namespace orx {
 namespace {
 
-/// Makes a dialog; null when that fails.
+/// Makes a dialog, or returns null if that fails.
 template <class Dialog>
 std::shared_ptr<PropertyDialog> Make(Desktop& desktop, IPageFactory& pages) {
   std::shared_ptr<PropertyDialog> form;
@@ -54,7 +54,7 @@ std::int32_t CCommonMapDialogs::ShowPages(const std::shared_ptr<PropertyDialog>&
   trap.Step([&] { form->Language(mLanguage); });
   form->Take(task, trap);
   trap.Step([&] { form->RefreshContents(); });
-  // Loading translates the designed caption, so that it has to come before another one.
+  // Loading translates the designed caption, so it has to happen before the caption is replaced.
   trap.Step([&] { form->Load(); });
   if (!Trimmed(request.Caption, kSpaces).empty()) trap.Step([&] { form->Caption(request.Caption); });
   if (request.Mode == ShowMode::Modeless) form->UnloadWhenHidden();
@@ -144,7 +144,7 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
                                                   std::int32_t mListIndex, const std::string& mCaption,
                                                   bool mAskConfirmation, const std::string& mConfirmationQuestion,
                                                   std::vector<std::int32_t>& mSelected) {
-  // Errors reach the host, but not past the unloading.
+  // Errors reach the host, but the form is unloaded first.
   const auto unload = [](frmListSelection* form) { form->Unload(); };
   const auto form = std::make_shared<frmListSelection>(mDesktop);
   const std::unique_ptr<frmListSelection, decltype(unload)> unloaded(form.get(), unload);

@@ -1,4 +1,4 @@
-// Chief header of the routines that choose files. Offered from the top; what stands below includes the single header.
+// Chief header of the routines that choose files, for use from the top. The folders below include the single header.
 #pragma once
 
 #include "dialogframe/FileChoice.h"

@@ -1,5 +1,5 @@
 // Chief header of the routines that dialogs share: help, focus mark, select-all, point in rectangle, and one routine
-// for each dialog that another one opens. Offered from the top; what stands below includes the single headers.
+// for each dialog that another one opens. For use from the top; the folders below include the single headers.
 #pragma once
 
 #include "dialogframe/FocusMark.h"
