@@ -1,9 +1,9 @@
 #include "datadialogs/frmDataClassify.h"
 
 #include <stdexcept>
-#include <utility>
 
 #include "dialogframe/SelectAllText.h"
+#include "forms/BusyScope.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
@@ -23,7 +23,10 @@ constexpr char kInvalidClassCount[] = "Number of classes invalid!";
 }  // namespace
 
 frmDataClassify::frmDataClassify(Desktop& desktop)
-    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {7200, 6675}}) {
+    : EditForm(desktop, {.Name = "frmDataClassify",
+                         .Caption = "Data Classify",
+                         .HelpKey = "_HelpLayerDataClassify",
+                         .Client = {7200, 6675}}) {
   cboMethod.Click = [this] { Take(mMethod); };
   cboFormat.Click = [this] {
     if (mIsBusy) return;
@@ -46,37 +49,30 @@ frmDataClassify::frmDataClassify(Desktop& desktop)
   for (TextBox* const field : {&txtSizeFirst, &txtSizeLast})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
   cmdDefault.Click = [this] { cmdDefault_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmDataClassify::SetData(HostObject* data, double dMin, double dMax, std::int32_t flags, const std::string&) {
-  mData = data;
-  Hold(data);
+  Subject(data);
   mDefaultMin = dMin;
   mDefaultMax = dMax;
   mFlags = flags;
 }
 
-void frmDataClassify::Form_Load() {
-  Center();
-  TakeHelpNumber("_HelpLayerDataClassify");
-  auto* const data = QueryKind<IClassification>(mData);
+void frmDataClassify::Fill() {
+  auto* const data = QueryKind<IClassification>(Subject());
   if (!data) return Unload();
   mModel.ReadFrom(*data);
   mSaved = {mModel.Method, mModel.ClassCount};
-  mIsDirty = false;
   cmdDefault.Visible(mDefaultMin != kUnknownRangeEnd || mDefaultMax != kUnknownRangeEnd);
   FillLists();
   chkClassiffyAsMissing.Enabled(true);
   mFields.Read(mOutside);
   FillClasses();
   RefreshControls();
-  Translate();
 }
 
 void frmDataClassify::FillLists() {
-  mIsBusy = true;
+  const BusyScope busy(mIsBusy);
   cboFormat.Clear();
   for (const char* const format : kValueFormats) cboFormat.AddItem(format);
   FillList(cboMethod, {{"Equal intervals", classifymethod::kEqualIntervals},
@@ -85,7 +81,6 @@ void frmDataClassify::FillLists() {
   FillList(cboRangeFormat, {{"By Color", legendstyle::kByColor},
                             {"By Color and pixel Size", legendstyle::kByColorAndSize},
                             {"By pixel Size", legendstyle::kBySize}});
-  mIsBusy = false;
 }
 
 void frmDataClassify::FillList(ComboBox& box, std::initializer_list<std::pair<const char*, std::int32_t>> entries) {
@@ -94,26 +89,23 @@ void frmDataClassify::FillList(ComboBox& box, std::initializer_list<std::pair<co
 }
 
 void frmDataClassify::FillClasses() {
-  mIsBusy = true;
+  const BusyScope busy(mIsBusy);
   cboClasses.Enabled(false);
   cboClasses.Clear();
   for (int entry = 1; entry <= kListedClasses; ++entry) cboClasses.AddItem(std::to_string(entry), entry);
   std::int32_t count = mModel.ClassCount;
   ErrorTrap trap;
   trap.Step([&] {
-    if (auto* const data = QueryKind<IData>(mData)) count = data->ClassCount();
+    if (auto* const data = QueryKind<IData>(Subject())) count = data->ClassCount();
   });
   ShowClassCount(count);
   cboClasses.Enabled((mFlags & kMayChangeClassCount) != 0);
-  mIsBusy = false;
 }
 
 void frmDataClassify::RefreshControls() {
   if (mModel.IsAutomatic() && !chkAutoClassify.IsChecked()) chkAutoClassify.Value(CheckState::Checked);
   EnableRange();
-  mIsBusy = true;
   ShowLists();
-  mIsBusy = false;
   mModel.FitStep();
   ShowRange();
 }
@@ -134,6 +126,7 @@ void frmDataClassify::EnableRange() {
 }
 
 void frmDataClassify::ShowLists() {
+  const BusyScope busy(mIsBusy);
   for (Setting* const setting : std::initializer_list<Setting*>{&mMethod, &mShowName, &mStyle}) mFields.Read(*setting);
   cboFormat.ListIndex(IndexOfFormat(mModel.ValueFormat));
   // What is being typed there stays.
@@ -156,10 +149,9 @@ std::string frmDataClassify::FormattedRange(double value) const {
 }
 
 void frmDataClassify::ShowClassCount(std::int32_t count) {
-  const bool before = std::exchange(mIsBusy, true);
+  const BusyScope busy(mIsBusy);
   cboClasses.Text(std::to_string(count));
   mShownClasses = cboClasses.Text();
-  mIsBusy = before;
 }
 
 std::optional<double> frmDataClassify::TypedClassCount() const {
@@ -207,9 +199,8 @@ void frmDataClassify::chkAutoClassify_Click() {
   if (mIsBusy) return;
   if (chkAutoClassify.IsChecked()) {
     mSaved.GoAutomatic(mModel, mDefaultMin, mDefaultMax);
-    mIsBusy = true;
+    const BusyScope busy(mIsBusy);
     cboMethod.ListIndex(0);
-    mIsBusy = false;
   } else {
     mSaved.GoBack(mModel);
   }
@@ -222,22 +213,20 @@ void frmDataClassify::cmdDefault_Click() {
   RefreshControls();
 }
 
-bool frmDataClassify::Refuse(const char* text, Control& field) {
-  OwnerDesktop().ShowMessage({text, kWrongValue, MessageIcon::Exclamation});
-  field.SetFocus();
-  return false;
+bool frmDataClassify::RefuseValue(const char* text, Control& field) {
+  return Refuse({text, kWrongValue, MessageIcon::Exclamation}, field);
 }
 
-bool frmDataClassify::TakeFields() {
+bool frmDataClassify::Check() {
   for (const NumberSetting* const field : {&mMinimum, &mMaximum, &mStep})
-    if (!field->Value()) return Refuse(kInvalidNumber, field->Box());
-  if (!TypedClassCount()) return Refuse(kInvalidNumber, cboClasses);
+    if (!field->Value()) return RefuseValue(kInvalidNumber, field->Box());
+  if (!TypedClassCount()) return RefuseValue(kInvalidNumber, cboClasses);
   for (const NumberSetting* const field : {&mSizeFirst, &mSizeLast})
-    if (!field->Value()) return Refuse(kInvalidNumber, field->Box());
+    if (!field->Value()) return RefuseValue(kInvalidNumber, field->Box());
   mFields.Write(mMinimum);
   mFields.Write(mMaximum);
   // Written so that values which compare with nothing are refused too.
-  if (!(mModel.Minimum < mModel.Maximum)) return Refuse(kWrongOrder, txtMin);
+  if (!(mModel.Minimum < mModel.Maximum)) return RefuseValue(kWrongOrder, txtMin);
   mFields.Write(mStep);
   if (!TakeClassCountOnOK()) return false;
   mFields.Write(mSizeFirst);
@@ -250,29 +239,15 @@ bool frmDataClassify::TakeClassCountOnOK() {
     // A box that nobody has touched stands for the number of the settings, which the data may count otherwise.
     if (cboClasses.Text() != mShownClasses) mModel.ClassCount = numbers::RoundToLong(*TypedClassCount());
   } catch (const std::overflow_error&) {
-    return Refuse(kInvalidClassCount, cboClasses);
+    return RefuseValue(kInvalidClassCount, cboClasses);
   }
-  return mModel.ClassCount >= 1 || Refuse(kInvalidClassCount, cboClasses);
+  return mModel.ClassCount >= 1 || RefuseValue(kInvalidClassCount, cboClasses);
 }
 
-void frmDataClassify::cmdOK_Click() {
-  if (!TakeFields()) return;
-  OwnerDesktop().Pointer(Pointer::Hourglass);
+bool frmDataClassify::Save() {
   mModel.FitStep();
-  mIsDirty = mModel.SaveTo(*QueryKind<IClassification>(mData));
-  Hide();
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmDataClassify::cmdCancel_Click() {
-  mIsDirty = false;
-  Hide();
-}
-
-void frmDataClassify::Form_Unload() {
-  mData = nullptr;
-  mIsDirty = false;
-  DialogForm::Form_Unload();
+  IsDirty(mModel.SaveTo(*QueryKind<IClassification>(Subject())));
+  return true;
 }
 
 }  // namespace orx

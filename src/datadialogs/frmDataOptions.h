@@ -2,7 +2,8 @@
 #pragma once
 
 #include "datadialogs/SpecialValueRecord.h"
-#include "dialogframe/DialogForm.h"
+#include "dialogframe/ColorBox.h"
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/Frame.h"
@@ -15,16 +16,14 @@ namespace orx {
 
 /// The controls of the three kinds stand in arrays, in the order of SpecialKind. Works on copies of the three records,
 /// which OK writes, changed or not.
-class frmDataOptions final : public DialogForm {
+class frmDataOptions final : public EditForm {
  public:
   explicit frmDataOptions(Desktop& desktop);
 
   /// The object whose special values are edited; used, not owned. Before the form is loaded; without one, or with one
   /// that has no special values, the form unloads itself as it loads.
-  HostObject* Data() const { return mData; }
-  void Data(HostObject* value);
-  /// True when the user has edited something and OK has written it.
-  bool IsDirty() const { return mIsDirty; }
+  HostObject* Data() const { return Subject(); }
+  void Data(HostObject* value) { Subject(value); }
 
   Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 90, 6450, 1650}}};
   Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1830, 6450, 1650}}};
@@ -77,17 +76,16 @@ class frmDataOptions final : public DialogForm {
       {fraNoData, "chkTransparent(2)", {.Caption = "Transparent", .Place = kTransparent}},
   };
   Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 5370, 1500, 375}, .Pinned = true}};
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3465, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5070, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
   /// Shows one record, by index from 0, or all three with -1. Another index throws std::out_of_range.
   void ShowRecord(int index);
 
  protected:
-  void Form_Load() override;
-  void Form_Unload() override;
+  void Fill() override;
+  bool Check() override;
+  bool Save() override;
 
  private:
   // Places in each of the three frames.
@@ -124,17 +122,11 @@ class frmDataOptions final : public DialogForm {
   void ShowOne(int index);
   void Switch(int index, FlagSetting& setting);
   void TakeBound(int index, NumberSetting& setting);
-  void pctColor_Click(int index);
   void cmdDefault_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
-  bool Validate();
-  bool Refuse(const char* title, const char* text, Control& field);
 
-  HostObject* mData = nullptr;
   SpecialValues mValues;
-  bool mIsDirty = false;
   bool mIsBusy = false;
+  ColorBox mColors[kSpecialKinds]{ColorBox(pctColor[0]), ColorBox(pctColor[1]), ColorBox(pctColor[2])};
   Fields mFields[kSpecialKinds]{{*this, 0}, {*this, 1}, {*this, 2}};
 };
 

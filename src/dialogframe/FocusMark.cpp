@@ -17,12 +17,4 @@ void DrawInsetFocusRect(PictureBox& box, std::int32_t inset) noexcept {
   trap.Step([&] { box.Refresh(); });
 }
 
-void DrawEdge(PictureBox& box) {
-  constexpr Color kEdge{122, 122, 122};
-  const Size size = box.PixelSize();
-  const Point last{size.Width - 1, size.Height - 1};
-  box.Drawing().Clear();
-  box.Drawing().Draw(LineMark{{{0, 0}, {last.X, 0}, last, {0, last.Y}, {0, 0}}, kEdge});
-}
-
 }  // namespace orx::modMain

@@ -1,4 +1,4 @@
-// The marks on boxes that show a colour or a character: where the focus is, and where a pale box ends.
+// The mark that shows where the focus is on a box that is drawn by its form.
 #pragma once
 
 #include <cstdint>
@@ -12,12 +12,6 @@ namespace modMain {
 /// Draws the focus rectangle `inset` pixels inside the box; a second call at the same place takes it away. Switches the
 /// box's automatic redraw on. Nothing is thrown.
 void DrawInsetFocusRect(PictureBox& box, std::int32_t inset) noexcept;
-
-/// Pixels between the edge of a box that shows a colour and its focus mark.
-inline constexpr std::int32_t kColorBoxInset = 3;
-
-/// Draws a thin line around a box that shows a colour, so that a pale one tells where it ends.
-void DrawEdge(PictureBox& box);
 
 }  // namespace modMain
 }  // namespace orx

@@ -10,7 +10,7 @@ namespace orx {
 enum class ButtonRole { Plain, Default, Cancel };
 
 /// A button that a user presses by mouse, Enter, Space or its mnemonic.
-class Button final : public Control {
+class Button : public Control {
  public:
   /// As Control; the role is fixed.
   Button(Container& parent, std::string name, Design design, ButtonRole role = ButtonRole::Plain)

@@ -1,10 +1,7 @@
 #include "griddialogs/frmDataIsoline.h"
 
-#include "dialogframe/FocusMark.h"
 #include "dialogframe/SelectAllText.h"
-#include "forms/ColorRequest.h"
 #include "forms/Desktop.h"
-#include "numbers/Numbers.h"
 
 namespace orx {
 namespace {
@@ -21,35 +18,21 @@ void SelectAll(Control& control) {
 }  // namespace
 
 frmDataIsoline::frmDataIsoline(Desktop& desktop)
-    : DialogForm(desktop, "frmDataIsoline", {.Caption = "Isoline properties", .Client = {7140, 4815}}) {
+    : EditForm(desktop, {.Name = "frmDataIsoline",
+                         .Caption = "Isoline properties",
+                         .HelpKey = "_HelpLayerIsolines",
+                         .Client = {7140, 4815}}) {
   for (TextBox* const field : {&txtLineWidth, &txtLineMaxWidth})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
-  pctColor.Click = [this] { pctColor_Click(); };
-  pctColor.GotFocus = [this] { modMain::DrawInsetFocusRect(pctColor, modMain::kColorBoxInset); };
-  pctColor.LostFocus = [this] { modMain::DrawInsetFocusRect(pctColor, modMain::kColorBoxInset); };
-  pctColor.KeyDown = [this](int keyCode) {
-    if (keyCode != kKeyCodeShift) pctColor_Click();
-  };
-  mSettings.Written = [this](Setting&) { mChanged = true; };
+  mSettings.Written = [this](Setting&) { IsDirty(true); };
   cmdFont.Click = [this] { cmdFont_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmDataIsoline::IsolineObject(HostObject* value) {
-  mObject = value;
-  Hold(value);
-}
-
-void frmDataIsoline::Form_Load() {
-  mChanged = false;
-  Center();
-  TakeHelpNumber("_HelpLayerIsolines");
-  modMain::DrawEdge(pctColor);
+void frmDataIsoline::Fill() {
+  mColorBox.DrawEdge();
   FillLists();
-  mIsolines = QueryKind<IIsolines>(mObject);
+  mIsolines = QueryKind<IIsolines>(Subject());
   mSettings.Read();
-  Translate();
 }
 
 void frmDataIsoline::FillLists() {
@@ -61,40 +44,27 @@ void frmDataIsoline::FillLists() {
   for (const char* const style : kLineStyles) cmbLineStyle.AddItem(style, cmbLineStyle.ListCount());
 }
 
-void frmDataIsoline::pctColor_Click() {
-  ColorRequest request{NativeHandle(), kStartFromColor, pctColor.BackColor()};
-  if (OwnerDesktop().ChooseColor(request)) pctColor.BackColor(request.Color);
-}
-
 void frmDataIsoline::cmdFont_Click() {
   FontRequest request{NativeHandle(), kScreenAndPrinterFonts, mFont};
   if (OwnerDesktop().ChooseFont(request)) mFont = request.Chosen;
   cmdFont.SetFocus();
 }
 
-void frmDataIsoline::cmdOK_Click() {
-  OwnerDesktop().Pointer(Pointer::Hourglass);
+bool frmDataIsoline::Save() {
   try {
     if (mIsolines) mSettings.Write();
-    Hide();
+    return true;
   } catch (const InvalidEntry& refused) {
     OwnerDesktop().Beep();
     refused.Field->SetFocus();
     SelectAll(*refused.Field);
+    return false;
   }
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmDataIsoline::cmdCancel_Click() {
-  mChanged = false;
-  Hide();
 }
 
 void frmDataIsoline::Form_Unload() {
-  mObject = nullptr;
   mIsolines = nullptr;
-  mChanged = false;
-  DialogForm::Form_Unload();
+  EditForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -3,7 +3,8 @@
 
 #include <cstdint>
 
-#include "dialogframe/DialogForm.h"
+#include "dialogframe/ColorBox.h"
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
@@ -20,16 +21,16 @@ namespace orx {
 
 /// Reads each setting into its control when it is loaded, and writes those that differ on OK. It checks nothing before:
 /// at a text that is no number OK ends where it is, with a beep, and the dialog stays open.
-class frmDataIsoline final : public DialogForm {
+class frmDataIsoline final : public EditForm {
  public:
   explicit frmDataIsoline(Desktop& desktop);
 
   /// Set by the caller; the dialog does not read it.
   void Flags(std::int32_t value) { mFlags = value; }
   /// True when OK has written a setting; false after Cancel.
-  bool Changed() const { return mChanged; }
+  bool Changed() const { return IsDirty(); }
   /// The object to edit, used, not owned. Before the form is loaded; without contour lines nothing is read or written.
-  void IsolineObject(HostObject* value);
+  void IsolineObject(HostObject* value) { Subject(value); }
 
   Frame fraLine{*this, "fraLine", {.Caption = "Line", .Place = {120, 120, 6900, 2190}}};
   Label lblRangeStep{fraLine, "lblHelp(0)", {.Caption = "Range step:", .Place = {150, 390, 2070, 240}}};
@@ -58,27 +59,22 @@ class frmDataIsoline final : public DialogForm {
   ComboBox cmbLabelDistance{fraLabel, "cmbLabelDistance", {.Place = {5160, 330, 1530, 330}}, ComboStyle::Editable};
   Button cmdFont{fraLabel, "cmdFont", {.Caption = "&Font...", .Place = {5160, 1125, 1530, 375}}};
 
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 4320, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 4320, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  bool Save() override;
   void Form_Unload() override;
 
  private:
   void FillLists();
-  void pctColor_Click();
   void cmdFont_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
-  HostObject* mObject = nullptr;
   IIsolines* mIsolines = nullptr;
   std::int32_t mFlags = 0;
-  bool mChanged = false;
   ColoredFont mFont;
+  ColorBox mColorBox{pctColor};
 
   // In the order in which they are read and written.
   Settings mSettings{WriteRule::WhenTheHostDiffers, PassOver};

@@ -1,13 +1,18 @@
 #include "griddialogs/frmDataShade.h"
 
 #include "dialogframe/SelectAllText.h"
+#include "forms/BusyScope.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
 
 namespace orx {
 frmDataShade::frmDataShade(Desktop& desktop)
-    : DialogForm(desktop, "frmDataShade", {.Caption = "Data shade", .Client = {7140, 6525}}) {
+    : EditForm(desktop, {.Name = "frmDataShade",
+                         .Caption = "Data shade",
+                         // On purpose the topic of the data options, which tells of both.
+                         .HelpKey = "_HelpLayerDataOptions",
+                         .Client = {7140, 6525}}) {
   cmbShadeVersion.Click = [this] { cmbShadeVersion_Click(); };
   cmbCombine.Click = [this] { cmbCombine_Click(); };
   Couple(txtMinIntensity, txtIntensityMin);
@@ -17,31 +22,19 @@ frmDataShade::frmDataShade(Desktop& desktop)
       field->GotFocus = [field] { modMain::SelectAllText(*field); };
   mSettings.ReadInOrder({&mVersion, &mAltitude, &mAzimuth, &mCombine, &mMinimum, &mMidLight, &mFullSun, &mShades,
                          &mFirstIndex, &mReference, &mUsesReference, &mAutomatic, &mFactor, &mMultiplier});
-  mSettings.Written = [this](Setting&) { mChanged = true; };
+  mSettings.Written = [this](Setting&) { IsDirty(true); };
   cmdScaleFactor.Click = [this] { cmdScaleFactor_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmDataShade::ShadeObject(HostObject* value) {
-  mObject = value;
-  Hold(value);
-}
-
-void frmDataShade::Form_Load() {
-  mChanged = false;
-  Center();
-  // On purpose the topic of the data options, which tells of both.
-  TakeHelpNumber("_HelpLayerDataOptions");
-  mShade2 = QueryKind<ShadeSettings2>(mObject);
-  mShade = mShade2 ? mShade2 : QueryKind<ShadeSettings>(mObject);
+void frmDataShade::Fill() {
+  mShade2 = QueryKind<ShadeSettings2>(Subject());
+  mShade = mShade2 ? mShade2 : QueryKind<ShadeSettings>(Subject());
   if (!mShade) return Unload();
   FillLists();
   mSettings.Read();
   if (!mShades.IsRead()) ShowDesignOfTwin();
   if (!mShade2) cmbShadeVersion.ListIndex(0);
   cmbShadeVersion.Enabled(mShade2 != nullptr);
-  Translate();
 }
 
 void frmDataShade::FillLists() {
@@ -57,10 +50,9 @@ void frmDataShade::FillLists() {
 void frmDataShade::Couple(TextBox& one, TextBox& other) {
   const auto copy = [this](const TextBox& from, TextBox& to) {
     if (mIsCopying) return;
-    mIsCopying = true;
+    const BusyScope copying(mIsCopying);
     ErrorTrap trap;
     trap.Step([&] { to.Text(from.Text()); });
-    mIsCopying = false;
   };
   one.Change = [copy, &one, &other] { copy(one, other); };
   other.Change = [copy, &one, &other] { copy(other, one); };
@@ -68,9 +60,8 @@ void frmDataShade::Couple(TextBox& one, TextBox& other) {
 
 void frmDataShade::ShowDesignOfTwin() {
   // Each of the two has its own text until the setting is read.
-  mIsCopying = true;
+  const BusyScope copying(mIsCopying);
   txtNrOfShades2.Text("128");
-  mIsCopying = false;
 }
 
 void frmDataShade::cmbShadeVersion_Click() {
@@ -86,13 +77,13 @@ void frmDataShade::cmbCombine_Click() {
 }
 
 void frmDataShade::cmdScaleFactor_Click() {
-  OwnerDesktop().Pointer(Pointer::Hourglass);
-  double value = 0;
   bool found = false;
-  ErrorTrap trap;
-  trap.Step([&] { found = mShade->SuggestScaleFactor(value); });
-  if (found) txtScaleFactor.Text(numbers::ShortestText(value, OwnerDesktop().Separators()));
-  OwnerDesktop().Pointer(Pointer::Default);
+  WithHourglass([&] {
+    double value = 0;
+    ErrorTrap trap;
+    trap.Step([&] { found = mShade->SuggestScaleFactor(value); });
+    if (found) txtScaleFactor.Text(numbers::ShortestText(value, OwnerDesktop().Separators()));
+  });
   if (found) return;
   OwnerDesktop().ShowMessage({"Scale factor could not be determined.\r\nData might not be valid yet.",
                               "Suggest Scale Factor not possible", MessageIcon::Information});
@@ -104,28 +95,26 @@ Control& frmDataShade::FieldOf(const NumberSetting& setting) {
   return setting.Box();
 }
 
-bool frmDataShade::Refuse(const char* title, const char* text, const NumberSetting& setting) {
-  FieldOf(setting).SetFocus();
-  OwnerDesktop().ShowMessage({text, title, MessageIcon::Information});
-  return false;
+bool frmDataShade::RefuseNumber(const char* title, const char* text, const NumberSetting& setting) {
+  return Refuse({text, title, MessageIcon::Information}, FieldOf(setting), First::Focus);
 }
 
 bool frmDataShade::IsNumber(const NumberSetting& setting) {
-  return setting.Value() || Refuse("Invalid number", "Valid number required.", setting);
+  return setting.Value() || RefuseNumber("Invalid number", "Valid number required.", setting);
 }
 
 bool frmDataShade::IsAtMost(const NumberSetting& setting, double most) {
   // A number that does not fit its setting is out of range as well.
   const std::optional<double> value = setting.Fitting();
   return (value && setting.Bounds().Allows(*value) && *value <= most) ||
-         Refuse("Invalid range", "Number not within range.", setting);
+         RefuseNumber("Invalid range", "Number not within range.", setting);
 }
 
 bool frmDataShade::IsWithinBounds(const NumberSetting& setting) {
   return IsAtMost(setting, kUnlimited);
 }
 
-bool frmDataShade::Validate() {
+bool frmDataShade::Check() {
   constexpr double kWhole = 100;
   return IsNumber(mAltitude) && IsNumber(mAzimuth) && IsWithinBounds(mAltitude) && IsWithinBounds(mAzimuth) &&
          IsNumber(mFactor) && IsNumber(mMultiplier) && IsWithinBounds(mFactor) && IsWithinBounds(mMultiplier) &&
@@ -148,25 +137,15 @@ bool frmDataShade::UseAllShades() {
   return true;
 }
 
-void frmDataShade::cmdOK_Click() {
-  if (!Validate()) return;
-  OwnerDesktop().Pointer(Pointer::Hourglass);
+bool frmDataShade::Save() {
   mSettings.Write();
-  Hide();
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmDataShade::cmdCancel_Click() {
-  mChanged = false;
-  Hide();
+  return true;
 }
 
 void frmDataShade::Form_Unload() {
-  mObject = nullptr;
   mShade = nullptr;
   mShade2 = nullptr;
-  mChanged = false;
-  DialogForm::Form_Unload();
+  EditForm::Form_Unload();
 }
 
 }  // namespace orx

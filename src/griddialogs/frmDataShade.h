@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "dialogframe/DialogForm.h"
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
@@ -19,16 +19,16 @@ namespace orx {
 
 /// Reads each setting into its control when it is loaded, and writes those that differ on OK. An object without the
 /// extended settings has the method "Darkening" alone.
-class frmDataShade final : public DialogForm {
+class frmDataShade final : public EditForm {
  public:
   explicit frmDataShade(Desktop& desktop);
 
   /// Set by the caller; the dialog does not read it.
   void Flags(std::int32_t value) { mFlags = value; }
   /// True when OK has written a setting; false after Cancel.
-  bool Changed() const { return mChanged; }
+  bool Changed() const { return IsDirty(); }
   /// The object to edit, used, not owned. Before the form is loaded; without shading the form unloads itself then.
-  void ShadeObject(HostObject* value);
+  void ShadeObject(HostObject* value) { Subject(value); }
 
   Frame fraColors{*this, "Frame1(0)", {.Caption = "Colors", .Place = {120, 120, 6900, 3120}}};
   Label lblMethod{fraColors, "Label1(0)", {.Caption = "Shading method:", .Place = {150, 360, 2370, 240}}};
@@ -74,13 +74,13 @@ class frmDataShade final : public DialogForm {
   Label lblAltitude{fraIllumination, "Label1(5)", {.Caption = "Altitude (0' - 90'):", .Place = {3570, 390, 2430, 240}}};
   TextBox txtAltitude{fraIllumination, "txtAltitude", {.Place = {6060, 330, 660, 330}}};
 
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 6030, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 6030, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  bool Check() override;
+  bool Save() override;
   void Form_Resize() override { fraIntensity2.Place(fraIntensity1.Place()); }
   void Form_Unload() override;
 
@@ -97,15 +97,12 @@ class frmDataShade final : public DialogForm {
   void cmbShadeVersion_Click();
   void cmbCombine_Click();
   void cmdScaleFactor_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
-  bool Validate();
   bool IsDarkening() const { return cmbShadeVersion.ListIndex() < 1; }
   bool IsNumber(const NumberSetting& setting);
   bool IsWithinBounds(const NumberSetting& setting);
   bool IsAtMost(const NumberSetting& setting, double most);
-  bool Refuse(const char* title, const char* text, const NumberSetting& setting);
+  bool RefuseNumber(const char* title, const char* text, const NumberSetting& setting);
   /// The field of a setting that the selected method shows.
   Control& FieldOf(const NumberSetting& setting);
 
@@ -113,12 +110,10 @@ class frmDataShade final : public DialogForm {
   bool SetCount();
   bool UseAllShades();
 
-  HostObject* mObject = nullptr;
   ShadeSettings* mShade = nullptr;
   /// Null for an object with the basic settings only.
   ShadeSettings2* mShade2 = nullptr;
   std::int32_t mFlags = 0;
-  bool mChanged = false;
   bool mIsCopying = false;
 
   // In the order in which they are written. txtIntensityMin and txtNrOfShades2 are twins of the fields named here.

@@ -18,25 +18,44 @@
 namespace orx::modMain {
 namespace {
 
-/// Shows a dialog for a data object, which `give` hands over to it.
-template <class DataForm, class Give>
-bool ShowDataDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language, Give&& give,
-                    bool (DataForm::*isChanged)() const) noexcept {
+/// Where a dialog is to be shown, and in which language.
+struct Stage {
+  orx::Desktop& Desktop;
+  ILanguage* Language;
+  OwnerWindow Owner = {};
+};
+
+/// Shows a dialog, modal: `give` hands over what it is about, and `take` collects its outcome, which is told whether
+/// the dialog was shown and came to its end without an error. True when nothing has failed.
+template <class Dialog, class Give, class Take>
+bool Run(const Stage& stage, Give&& give, Take&& take) noexcept {
   ErrorTrap trap;
+  std::shared_ptr<Dialog> form;
+  trap.Step([&] { form = std::make_shared<Dialog>(stage.Desktop); });
+  if (!form) return false;
+  trap.Step([&] { form->Language(stage.Language); });
+  trap.Step([&] { give(*form); });
+  bool wasShown = false;
+  trap.Step([&] {
+    form->Show(ShowMode::Modal, stage.Owner);
+    wasShown = true;
+  });
+  take(*form, wasShown, trap);
+  const bool isDone = !trap.IsPending();
+  trap.Step([&] { form->Unload(); });
+  return isDone;
+}
+
+/// Shows a dialog for a data object, without owner.
+template <class Dialog, class Give>
+bool RunForData(const Stage& stage, HostObject* data, bool& changed, Give&& give) noexcept {
   if (!data) {
-    trap.Step([&] { desktop.Beep(); });
+    ErrorTrap trap;
+    trap.Step([&] { stage.Desktop.Beep(); });
     return false;
   }
-  std::shared_ptr<DataForm> form;
-  trap.Step([&] { form = std::make_shared<DataForm>(desktop); });
-  if (!form) return false;
-  trap.Step([&] { form->Language(language); });
-  trap.Step([&] { give(*form); });
-  trap.Step([&] { form->Show(); });
   bool isDirty = false;
-  trap.Step([&] { isDirty = ((*form).*isChanged)(); });
-  changed = isDirty;
-  trap.Step([&] { form->Unload(); });
+  Run<Dialog>(stage, give, [&](const Dialog& form, bool, ErrorTrap&) { changed = isDirty = form.IsDirty(); });
   return isDirty;
 }
 
@@ -77,25 +96,23 @@ void WriteEdges(ErrorTrap& trap, HostObject* map, EdgePair held, EdgePair now, E
 }  // namespace
 
 bool ShowClassifyDialog(Desktop& desktop, const ClassifyTask& task, bool& isDirty, ILanguage* language) noexcept {
-  const auto give = [&](frmDataClassify& form) {
+  return RunForData<frmDataClassify>({desktop, language}, task.Data, isDirty, [&](frmDataClassify& form) {
     form.SetData(task.Data, task.Minimum, task.Maximum, task.Flags, task.Text);
-  };
-  return ShowDataDialog(desktop, task.Data, isDirty, language, give, &frmDataClassify::IsDirty);
+  });
 }
 
 bool ShowDataOptionsDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
-  const auto give = [&](frmDataOptions& form) { form.Data(data); };
-  return ShowDataDialog(desktop, data, changed, language, give, &frmDataOptions::IsDirty);
+  return RunForData<frmDataOptions>({desktop, language}, data, changed, [&](frmDataOptions& form) { form.Data(data); });
 }
 
 bool ShowShadeDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
-  const auto give = [&](frmDataShade& form) { form.ShadeObject(data); };
-  return ShowDataDialog(desktop, data, changed, language, give, &frmDataShade::Changed);
+  return RunForData<frmDataShade>({desktop, language}, data, changed,
+                                  [&](frmDataShade& form) { form.ShadeObject(data); });
 }
 
 bool ShowIsolineDialog(Desktop& desktop, HostObject* data, bool& changed, ILanguage* language) noexcept {
-  const auto give = [&](frmDataIsoline& form) { form.IsolineObject(data); };
-  return ShowDataDialog(desktop, data, changed, language, give, &frmDataIsoline::Changed);
+  return RunForData<frmDataIsoline>({desktop, language}, data, changed,
+                                    [&](frmDataIsoline& form) { form.IsolineObject(data); });
 }
 
 void ShowDataStyleNotice(Desktop& desktop) {
@@ -103,71 +120,52 @@ void ShowDataStyleNotice(Desktop& desktop) {
 }
 
 bool ShowColorsDialog(Desktop& desktop, ILanguage* language, OwnerWindow owner) noexcept {
-  ErrorTrap trap;
-  std::shared_ptr<frmManageColors> form;
-  trap.Step([&] { form = std::make_shared<frmManageColors>(desktop); });
-  if (!form) return false;
-  trap.Step([&] { form->Language(language); });
-  trap.Step([&] { form->Show(ShowMode::Modal, owner); });
-  const bool isDone = !trap.IsPending();
-  trap.Step([&] { form->Unload(); });
-  return isDone;
+  return Run<frmManageColors>(
+      {desktop, language, owner}, [](frmManageColors&) {}, [](const frmManageColors&, bool, ErrorTrap&) {});
 }
 
 bool ShowCharacterDialog(Desktop& desktop, CharacterRequest& choice, ILanguage* language, OwnerWindow owner) noexcept {
-  ErrorTrap trap;
-  std::shared_ptr<frmTrueType> form;
-  trap.Step([&] { form = std::make_shared<frmTrueType>(desktop); });
-  if (!form) return false;
-  trap.Step([&] { form->Language(language); });
-  trap.Step([&] { form->SelFont(choice.FontName); });
-  trap.Step([&] { form->SelCharacter(choice.Character); });
-  trap.Step([&] { form->SelRotation(numbers::RoundToLong(choice.Rotation)); });
-  trap.Step([&] { form->Show(ShowMode::Modal, owner); });
-  trap.Step([&] {
-    const bool isSame = form->SelFont() == choice.FontName && form->SelCharacter() == choice.Character &&
-                        form->SelRotation() == choice.Rotation;
-    if (!isSame) choice = {form->SelFont(), form->SelCharacter(), static_cast<double>(form->SelRotation()), true};
-  });
-  const bool isDone = !trap.IsPending();
-  trap.Step([&] { form->Unload(); });
-  return isDone;
+  const auto give = [&](frmTrueType& form) {
+    form.SelFont(choice.FontName);
+    form.SelCharacter(choice.Character);
+    form.SelRotation(numbers::RoundToLong(choice.Rotation));
+  };
+  const auto take = [&](const frmTrueType& form, bool, ErrorTrap& trap) {
+    trap.Step([&] {
+      const bool isSame = form.SelFont() == choice.FontName && form.SelCharacter() == choice.Character &&
+                          form.SelRotation() == choice.Rotation;
+      if (!isSame) choice = {form.SelFont(), form.SelCharacter(), static_cast<double>(form.SelRotation()), true};
+    });
+  };
+  return Run<frmTrueType>({desktop, language, owner}, give, take);
 }
 
 bool ShowGeoreferenceDialog(Desktop& desktop, HostObject* map, ILanguage* language, OwnerWindow owner) noexcept {
   EdgePair across{};
   EdgePair up{};
-  ErrorTrap trap;
-  trap.Step([&] { across.Lower = ExtentOf(map).Left(); });
-  trap.Step([&] { across.Upper = ExtentOf(map).Right(); });
-  trap.Step([&] { up.Lower = ExtentOf(map).Bottom(); });
-  trap.Step([&] { up.Upper = ExtentOf(map).Top(); });
+  ErrorTrap reading;
+  reading.Step([&] { across.Lower = ExtentOf(map).Left(); });
+  reading.Step([&] { across.Upper = ExtentOf(map).Right(); });
+  reading.Step([&] { up.Lower = ExtentOf(map).Bottom(); });
+  reading.Step([&] { up.Upper = ExtentOf(map).Top(); });
   // What cannot be read must not be written back as something else.
   const double ratio = (across.Upper - across.Lower) / (up.Upper - up.Lower);
-  if (trap.IsPending() || !std::isfinite(ratio) || ratio == 0) {
-    trap.Step([&] { desktop.Beep(); });
+  if (reading.IsPending() || !std::isfinite(ratio) || ratio == 0) {
+    reading.Step([&] { desktop.Beep(); });
     return false;
   }
-  std::shared_ptr<frmGeoreference> form;
-  trap.Step([&] { form = std::make_shared<frmGeoreference>(desktop); });
-  if (!form) return false;
-  trap.Step([&] { form->Language(language); });
-  form->LeftEdge(across.Lower);
-  form->RightEdge(across.Upper);
-  form->BottomEdge(up.Lower);
-  form->TopEdge(up.Upper);
-  bool isConfirmed = false;
-  trap.Step([&] {
-    form->Show(ShowMode::Modal, owner);
-    isConfirmed = !form->Canceled();
-  });
-  if (isConfirmed) {
-    WriteEdges(trap, map, across, {form->LeftEdge(), form->RightEdge()}, &IExtent::Left, &IExtent::Right);
-    WriteEdges(trap, map, up, {form->BottomEdge(), form->TopEdge()}, &IExtent::Bottom, &IExtent::Top);
-  }
-  const bool isDone = !trap.IsPending();
-  trap.Step([&] { form->Unload(); });
-  return isDone;
+  const auto give = [&](frmGeoreference& form) {
+    form.LeftEdge(across.Lower);
+    form.RightEdge(across.Upper);
+    form.BottomEdge(up.Lower);
+    form.TopEdge(up.Upper);
+  };
+  const auto take = [&](const frmGeoreference& form, bool wasShown, ErrorTrap& trap) {
+    if (!wasShown || form.Canceled()) return;
+    WriteEdges(trap, map, across, {form.LeftEdge(), form.RightEdge()}, &IExtent::Left, &IExtent::Right);
+    WriteEdges(trap, map, up, {form.BottomEdge(), form.TopEdge()}, &IExtent::Bottom, &IExtent::Top);
+  };
+  return Run<frmGeoreference>({desktop, language, owner}, give, take);
 }
 
 }  // namespace orx::modMain

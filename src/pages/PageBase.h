@@ -4,9 +4,9 @@
 
 #include <initializer_list>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "forms/BusyScope.h"
 #include "forms/Panel.h"
 #include "forms/SettingOf.h"
 #include "hostobjects/ILanguage.h"
@@ -86,18 +86,6 @@ class PageBase : public PropertyPage {
   Form& OwnerForm() { return Surface.OwnerForm(); }
 
  private:
-  class BusyScope {
-   public:
-    explicit BusyScope(bool& flag) : mFlag(flag), mBefore(std::exchange(flag, true)) {}
-    ~BusyScope() { mFlag = mBefore; }
-    BusyScope(const BusyScope&) = delete;
-    BusyScope& operator=(const BusyScope&) = delete;
-
-   private:
-    bool& mFlag;
-    bool mBefore;
-  };
-
   struct TranslatedList {
     ComboBox* Box;
     std::vector<std::string> Texts;

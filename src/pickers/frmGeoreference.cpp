@@ -18,26 +18,23 @@ enum Edge { EdgeLeft, EdgeRight, EdgeBottom, EdgeTop };
 }  // namespace
 
 frmGeoreference::frmGeoreference(Desktop& desktop)
-    : DialogForm(desktop, "frmGeoreference", {.Caption = "Georeference", .Client = {4830, 3165}}) {
+    : OkCancelForm(desktop, {.Name = "frmGeoreference",
+                             .Caption = "Georeference",
+                             .HelpKey = "_HelpMapGeoreference",
+                             .Client = {4830, 3165}}) {
   for (int i = 0; i < kEdges; ++i) {
     txtInput[i].GotFocus = [this, i] { txtInput_GotFocus(i); };
     txtInput[i].LostFocus = [this, i] { txtInput_LostFocus(i); };
   }
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmGeoreference::Form_Load() {
-  mCanceled = false;
-  Center();
-  TakeHelpNumber("_HelpMapGeoreference");
+void frmGeoreference::Fill() {
   const double edges[] = {mLeft, mRight, mBottom, mTop};
   for (int i = 0; i < kEdges; ++i) txtInput[i].Text(numbers::ShortestText(edges[i], OwnerDesktop().Separators()));
   mFirstWidth = mRight - mLeft;
   mFirstBottom = mBottom;
   mFirstTop = mTop;
   mRatio = mFirstWidth / (mTop - mBottom);
-  Translate();
 }
 
 void frmGeoreference::txtInput_GotFocus(int index) {
@@ -50,7 +47,8 @@ void frmGeoreference::txtInput_LostFocus(int index) {
   if (Trimmed(field.Text(), kSpaces) == mTextOnEntry) return;
   const numbers::Separators separators = OwnerDesktop().Separators();
   const std::optional<double> value = numbers::ToDouble(field.Text(), separators);
-  if (!value || !Take(index, *value)) return Refuse(field);
+  if (!value || !Take(index, *value))
+    return PutBack({"Input not valid.", kWrongValueTitle, MessageIcon::Exclamation}, field, mTextOnEntry);
   txtInput[EdgeTop].Text(numbers::FormatNumber(mTop, kTopFormat, separators));
   mTextOnEntry = field.Text();
 }
@@ -70,29 +68,18 @@ bool frmGeoreference::Take(int index, double value) {
   return true;
 }
 
-void frmGeoreference::Refuse(TextBox& field) {
-  const std::string before = mTextOnEntry;
-  OwnerDesktop().ShowMessage({"Input not valid.", kWrongValueTitle, MessageIcon::Exclamation});
-  field.Text(before);
-  field.SetFocus();
-}
-
-void frmGeoreference::cmdOK_Click() {
-  mCanceled = !(mLeft < mRight);
-  if (!mCanceled) return Hide();
+bool frmGeoreference::Check() {
+  if (mLeft < mRight) return true;
+  Conclude(Outcome::Canceled);
   OwnerDesktop().ShowMessage(
       {"Right value must be greater than right value.", kWrongValueTitle, MessageIcon::Exclamation});
-}
-
-void frmGeoreference::cmdCancel_Click() {
-  mCanceled = true;
-  Hide();
+  return false;
 }
 
 void frmGeoreference::Form_Unload() {
   // Who closes the window has confirmed nothing.
-  mCanceled = true;
-  DialogForm::Form_Unload();
+  Conclude(Outcome::Canceled);
+  OkCancelForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -4,8 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "dialogframe/DialogForm.h"
-#include "forms/Button.h"
+#include "dialogframe/OkCancelForm.h"
 #include "forms/CheckBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
@@ -17,7 +16,7 @@ namespace orx {
 /// Keeps the ratio of width to height that the edges have when the form is loaded: whichever edge is typed, the top one
 /// moves. An edge that the user leaves alone stays exactly the number that was given, and the top one does until
 /// another edge is typed.
-class frmGeoreference final : public DialogForm {
+class frmGeoreference final : public OkCancelForm {
  public:
   explicit frmGeoreference(Desktop& desktop);
 
@@ -31,8 +30,7 @@ class frmGeoreference final : public DialogForm {
   void BottomEdge(double value) { mBottom = value; }
   double TopEdge() const { return mTop; }
   void TopEdge(double value) { mTop = value; }
-  /// True after Cancel, after an OK that was refused, and once the form is unloaded, as by its close box.
-  bool Canceled() const { return mCanceled; }
+  // An OK that was refused counts as cancelled, and so does a form that is unloaded, as by its close box.
 
   static constexpr int kEdges = 4;
   Frame fraGeoreference{*this, "fraGeoreference", {.Place = {120, 90, 4590, 2955}}};
@@ -54,12 +52,12 @@ class frmGeoreference final : public DialogForm {
                           "chkAspectRatio",
                           {.Caption = "Keep aspect ratio", .Place = {1350, 1905, 3090, 300}, .Enabled = false},
                           CheckState::Grayed};
-  Button cmdOK{fraGeoreference, "cmdOK", {.Caption = "&OK", .Place = {1335, 2430, 1500, 375}}, ButtonRole::Default};
-  Button cmdCancel{
-      fraGeoreference, "cmdCancel", {.Caption = "&Cancel", .Place = {2940, 2430, 1500, 375}}, ButtonRole::Cancel};
+  OKButton cmdOK{*this, fraGeoreference, {.Place = {1335, 2430, 1500, 375}}};
+  CancelButton cmdCancel{*this, fraGeoreference, {.Place = {2940, 2430, 1500, 375}}};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  bool Check() override;
   void Form_Unload() override;
 
  private:
@@ -72,9 +70,6 @@ class frmGeoreference final : public DialogForm {
   /// Makes a typed number the edge of that index; a top edge is not kept. Then the top edge follows. False, and nothing
   /// is changed, when there is no such top edge.
   bool Take(int index, double value);
-  void Refuse(TextBox& field);
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
   double mLeft = 0;
   double mRight = 0;
@@ -86,7 +81,6 @@ class frmGeoreference final : public DialogForm {
   double mFirstWidth = 0;
   double mFirstBottom = 0;
   double mFirstTop = 0;
-  bool mCanceled = false;
   /// The text, without blanks around it, that the field with the focus had when the focus came.
   std::string mTextOnEntry;
 };

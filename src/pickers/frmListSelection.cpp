@@ -10,10 +10,11 @@
 namespace orx {
 
 frmListSelection::frmListSelection(Desktop& desktop)
-    : DialogForm(desktop, "frmListSelection", {.Caption = "Select Layer", .Client = {5400, 4755}}) {
+    : OkCancelForm(desktop, {.Name = "frmListSelection",
+                             .Caption = "Select Layer",
+                             .HelpKey = "_HelpMapListSelection",
+                             .Client = {5400, 4755}}) {
   for (ListBox* const list : {&lstMultiSelect, &lstSingleSelect}) list->DblClick = [this] { cmdOK_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmListSelection::Init(TextArray selection, bool multiselect, std::int32_t listIndex, bool askConfirmation,
@@ -26,22 +27,25 @@ void frmListSelection::Init(TextArray selection, bool multiselect, std::int32_t 
   mCaption = std::move(caption);
 }
 
-void frmListSelection::Form_Load() {
+void frmListSelection::LoadStep(const std::function<void()>& step) {
   ErrorTrap trap;
-  trap.Step([this] { Center(); });
-  trap.Step([this] { TakeHelpNumber("_HelpMapListSelection"); });
+  trap.Step(step);
+}
+
+void frmListSelection::Fill() {
   Caption(mCaption);
   lstMultiSelect.Visible(mMultiselect);
   lstSingleSelect.Visible(!mMultiselect);
-  trap.Step([this] { FillList(); });
+  LoadStep([this] { FillList(); });
   if (ShownList().ListCount() == 0) {
     for (Control* const control : std::initializer_list<Control*>{&lstMultiSelect, &lstSingleSelect, &cmdOK})
       control->Enabled(false);
   } else {
     SelectFirst();
   }
-  trap.Step([this] { TranslateControls(); });
-  trap.Step([this] { TranslateCaption(); });
+}
+
+void frmListSelection::Ready() {
   if (!Caption().empty()) ShownList().GivenName(Caption());
 }
 
@@ -62,34 +66,26 @@ void frmListSelection::SelectFirst() {
   list.Selected(mListIndex <= list.ListCount() ? mListIndex - 1 : 0, true);
 }
 
-void frmListSelection::cmdOK_Click() {
+bool frmListSelection::Check() {
   // What was gathered before a No is gathered anew.
   mSelected.clear();
   for (const int row : ShownList().SelectedRows()) mSelected.push_back(ShownList().ItemData(row));
   const bool asks = mAskConfirmation && !mSelected.empty();
   const Message question{mConfirmationQuestion, Caption(), MessageIcon::Exclamation, MessageButtons::YesNo};
-  if (asks && OwnerDesktop().ShowMessage(question) == MessageAnswer::No) return;
-  mCancelled = false;
-  Hide();
-}
-
-void frmListSelection::cmdCancel_Click() {
-  mSelected.clear();
-  mCancelled = true;
-  Hide();
+  return !asks || OwnerDesktop().ShowMessage(question) != MessageAnswer::No;
 }
 
 void frmListSelection::Form_Unload() {
   // Who closes the window has chosen nothing, whatever was gathered before a No.
   mSelected.clear();
-  DialogForm::Form_Unload();
+  OkCancelForm::Form_Unload();
 }
 
-void frmListSelection::GetSelectedItems(std::vector<std::int32_t>& selected, bool& cancelled,
+void frmListSelection::GetSelectedItems(std::vector<std::int32_t>& selected, bool& canceled,
                                         std::int32_t& count) const noexcept {
-  cancelled = mCancelled;
+  canceled = Canceled();
   count = 0;
-  if (mCancelled || (mMultiselect && mSelected.empty())) return;
+  if (canceled || (mMultiselect && mSelected.empty())) return;
   count = mMultiselect ? static_cast<std::int32_t>(mSelected.size()) : 1;
   ErrorTrap trap;
   trap.Step([&] { selected = mSelected; });

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogframe/DialogForm.h"
-#include "forms/Button.h"
+#include "dialogframe/OkCancelForm.h"
 #include "forms/ListBox.h"
 #include "hostobjects/TextArray.h"
 
@@ -14,7 +13,7 @@ namespace orx {
 
 /// Shows one of two lists. Entries are chosen by OK and by a double click, and told by their indexes in the host's
 /// array. Cancel chooses nothing, and neither does the close box, which does not count as Cancel.
-class frmListSelection final : public DialogForm {
+class frmListSelection final : public OkCancelForm {
  public:
   explicit frmListSelection(Desktop& desktop);
 
@@ -27,18 +26,20 @@ class frmListSelection final : public DialogForm {
   /// What was chosen, once the dialog has closed: whether the user has cancelled, the indexes and their number. After
   /// Cancel, and among several when none was chosen, `selected` stays as it is and `count` is 0. Where one can be
   /// chosen, `count` is 1 otherwise, also when none was and `selected` is empty.
-  void GetSelectedItems(std::vector<std::int32_t>& selected, bool& cancelled, std::int32_t& count) const noexcept;
+  void GetSelectedItems(std::vector<std::int32_t>& selected, bool& canceled, std::int32_t& count) const noexcept;
 
   ListBox lstMultiSelect{
       *this, "lstMultiSelect", {.Place = kList, .AccessibleName = kListName}, ListSelection::Several};
   ListBox lstSingleSelect{*this, "lstSingleSelect", {.Place = kList, .AccessibleName = kListName}};
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {2175, 4260, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {3780, 4260, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
+  void LoadStep(const std::function<void()>& step) override;
+  void Fill() override;
+  void Ready() override;
+  bool Check() override;
+  void Discard() override { mSelected.clear(); }
   void Form_Unload() override;
 
  private:
@@ -50,15 +51,12 @@ class frmListSelection final : public DialogForm {
   ListBox& ShownList() { return mMultiselect ? lstMultiSelect : lstSingleSelect; }
   void FillList();
   void SelectFirst();
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
   TextArray mItems;
   std::string mCaption;
   std::string mConfirmationQuestion;
   bool mMultiselect = false;
   bool mAskConfirmation = false;
-  bool mCancelled = false;
   std::int32_t mListIndex = 0;
   /// The indexes that the last OK has gathered.
   std::vector<std::int32_t> mSelected;

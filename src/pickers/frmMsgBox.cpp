@@ -57,7 +57,8 @@ std::string Shortened(const std::string& path) {
 }  // namespace
 
 frmMsgBox::frmMsgBox(Desktop& desktop)
-    : DialogForm(desktop, "frmMsgBox", {.Caption = "MsgBox", .Client = {6600, 1800}}) {
+    : DialogForm(desktop,
+                 {.Name = "frmMsgBox", .Caption = "MsgBox", .HelpKey = "_HelpMapMsgBox", .Client = {6600, 1800}}) {
   cmdBrowse.Click = [this] { cmdBrowse_Click(); };
   cmdCancel.Click = [this] {
     mCancelAll = false;
@@ -70,15 +71,15 @@ frmMsgBox::frmMsgBox(Desktop& desktop)
   cmdHelp.Click = [this] { ShowHelp(); };
 }
 
-void frmMsgBox::Form_Load() {
-  Center();
-  TakeHelpNumber("_HelpMapMsgBox");
+void frmMsgBox::Fill() {
   if (mCaption.empty()) mCaption = kApplicationTitle;
   Form::Caption(mCaption);
   if (mMessage.empty()) mMessage = "File not found...";
   mCancelAll = false;
-  Translate();
-  // After the translation, to which a path means nothing.
+}
+
+void frmMsgBox::Ready() {
+  // A path means nothing to the translation.
   ShowMessageText();
   DrawSign(imgIcon);
 }

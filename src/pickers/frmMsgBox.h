@@ -42,7 +42,8 @@ class frmMsgBox final : public DialogForm {
   Button cmdHelp{*this, "cmdHelp", {.Caption = "&Help", .Place = {120, 1320, 1500, 375}}};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  void Ready() override;
 
  private:
   static constexpr Color kGround{240, 240, 240};

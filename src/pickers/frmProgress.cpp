@@ -3,18 +3,21 @@
 namespace orx {
 
 frmProgress::frmProgress(Desktop& desktop)
-    : DialogForm(desktop, "frmProgress", {.Caption = "Progress", .Client = {5700, 1785}}) {
+    : DialogForm(
+          desktop,
+          {.Name = "frmProgress", .Caption = "Progress", .HelpKey = "_HelpMapProgress", .Client = {5700, 1785}}) {
   cmdCancel.Click = [this] { cmdCancel_Click(); };
   PaceUpdates();
 }
 
-void frmProgress::Form_Load() {
-  Center();
+void frmProgress::TakeLanguage() {
+  AskLanguage();
+  DialogForm::TakeLanguage();
+}
+
+void frmProgress::Fill() {
   mCancelAction = false;
   cmdCancel.Enabled(true);
-  AskLanguage();
-  TakeHelpNumber("_HelpMapProgress");
-  Translate();
 }
 
 void frmProgress::Form_Unload() {

@@ -27,7 +27,8 @@ class frmProgress final : public DialogForm {
   Label lblMsg{*this, "lblMsg", {.Caption = "Message ...", .Place = {180, 180, 5340, 510}}, Alignment::Left, true};
 
  protected:
-  void Form_Load() override;
+  void TakeLanguage() override;
+  void Fill() override;
   void Form_Unload() override;
   bool Form_QueryUnload() override;
 

@@ -25,7 +25,9 @@ bool IsRotation(double degrees) {
 }  // namespace
 
 frmTrueType::frmTrueType(Desktop& desktop)
-    : DialogForm(desktop, "frmTrueType", {.Caption = "Pick True Type", .Client = {6210, 5640}}) {
+    : OkCancelForm(
+          desktop,
+          {.Name = "frmTrueType", .Caption = "Pick True Type", .HelpKey = "_HelpMapTrueType", .Client = {6210, 5640}}) {
   txtRot.GotFocus = [this] { txtRot_GotFocus(); };
   txtRot.LostFocus = [this] { txtRot_LostFocus(); };
   picFont.GotFocus = [this] { picFont_GotFocus(); };
@@ -34,8 +36,6 @@ frmTrueType::frmTrueType(Desktop& desktop)
   picFont.MouseDown = [this](Point at) { picFont_MouseDown(at); };
   picFont.DblClick = [this] { cmdOK_Click(); };
   cboFont.Click = [this] { ShowFont(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmTrueType::SelCharacter(std::int32_t value) {
@@ -46,14 +46,10 @@ void frmTrueType::SelRotation(std::int32_t value) {
   mPicked.Rotation = mGiven.Rotation = IsRotation(value) ? value : 0;
 }
 
-void frmTrueType::Form_Load() {
-  mConfirmed = false;
-  Center();
-  TakeHelpNumber("_HelpMapTrueType");
+void frmTrueType::Fill() {
   picFont.BackColor(OwnerDesktop().SystemColor(SystemColor::Window));
   txtRot.Text(std::to_string(mPicked.Rotation));
   FillFonts();
-  Translate();
 }
 
 void frmTrueType::FillFonts() {
@@ -141,28 +137,15 @@ void frmTrueType::txtRot_LostFocus() {
     mPicked.Rotation = numbers::RoundToLong(degrees);
     return;
   }
-  const std::string before = mRotationOnEntry;
-  OwnerDesktop().ShowMessage(
-      {"Value for rotation must be between -360 and 360 degrees.", "Wrong value", MessageIcon::Exclamation});
-  txtRot.Text(before);
-  txtRot.SetFocus();
-}
-
-void frmTrueType::cmdOK_Click() {
-  mConfirmed = true;
-  Hide();
-}
-
-void frmTrueType::cmdCancel_Click() {
-  mPicked = mGiven;
-  Hide();
+  PutBack({"Value for rotation must be between -360 and 360 degrees.", "Wrong value", MessageIcon::Exclamation}, txtRot,
+          mRotationOnEntry);
 }
 
 void frmTrueType::Form_Unload() {
   // Who closes the window has confirmed nothing.
-  if (!mConfirmed) mPicked = mGiven;
+  if (!IsConfirmed()) Discard();
   mGridHasFocus = false;
-  DialogForm::Form_Unload();
+  OkCancelForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -4,8 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "dialogframe/DialogForm.h"
-#include "forms/Button.h"
+#include "dialogframe/OkCancelForm.h"
 #include "forms/ComboBox.h"
 #include "forms/Label.h"
 #include "forms/Panel.h"
@@ -17,7 +16,7 @@ namespace orx {
 
 /// Shows the single-byte codes of a font as a grid. OK and a double click on the grid keep what is picked; Cancel and
 /// the close box bring back what was given.
-class frmTrueType final : public DialogForm {
+class frmTrueType final : public OkCancelForm {
  public:
   explicit frmTrueType(Desktop& desktop);
 
@@ -43,13 +42,12 @@ class frmTrueType final : public DialogForm {
   TextBox txtRot{RowRotation, "txtRot", {.Place = {1440, 0, 1200, 330}}};
   PictureBox picFont{RowGrid, "picFont", {.Place = {0, 0, 5970, 3975}}, Color{255, 255, 255}, PictureUse::Input};
   ComboBox cboFont{RowFont, "cboFont", {.Place = {1440, 0, 4530, 330}}};
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {2985, 5145, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4590, 5145, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  void Discard() override { mPicked = mGiven; }
   void Form_Unload() override;
 
  private:
@@ -74,12 +72,9 @@ class frmTrueType final : public DialogForm {
   void picFont_LostFocus();
   void picFont_KeyDown(int keyCode);
   void picFont_MouseDown(const Point& at);
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
   Choice mPicked;
   Choice mGiven;
-  bool mConfirmed = false;
   CharacterGrid mGrid;
   /// The cell that was drawn last, on which the focus mark stands while the grid has the focus.
   Rect mCell;

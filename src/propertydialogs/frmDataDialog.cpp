@@ -25,41 +25,31 @@ std::int16_t Narrow(int value) {
 
 frmDataDialog::frmDataDialog(Desktop& desktop, IPageFactory& pages)
     : PageHostForm(desktop, pages,
-                   {
-                       .FormName = "frmDataDialog",
-                       .Caption = "Data Classify",
-                       .HelpKey = "_HelpLayerDataProperties",
-                       .TabCaptions = {"Data"},
-                       .Layout =
-                           {
-                               .Client = {6465, 5910},
+                   {.Name = "frmDataDialog",
+                    .Caption = "Data Classify",
+                    .HelpKey = "_HelpLayerDataProperties",
+                    .Pages = {{PageKind::DataProperties, kPageName, "Data", AnswerDataRequests}},
+                    .Layout = {.Client = {6465, 5910},
                                .Tab = {120, 120, 6255, 5175},
                                .ButtonTop = 5415,
                                .HelpLeft = 120,
                                .OKLeft = 2340,
                                .CancelLeft = 3720,
-                               .ApplyLeft = 5100,
-                           },
-                       .Border = BorderStyle::SizableHeight,
-                   },
-                   {.Kind = PageKind::DataProperties, .Name = kPageName}) {
+                               .ApplyLeft = 5100},
+                    .Border = BorderStyle::SizableHeight}) {
 }
 
 Placement frmDataDialog::Kept() const {
   return {OwnerDesktop(), RegistryKey(), "DataDialog"};
 }
 
-void frmDataDialog::Position() {
+void frmDataDialog::Arrange() {
   Kept().Restore(*this);
   const int frame = OwnerDesktop().Metrics(Border()).Frame.Height;
   // However low the window was kept, its buttons can be reached.
   const int smallest = 2 * kMargin + cmdHelp.Place().Height;
   if (const std::optional<int> height = Kept().Read("Height"))
     ClientSize({ClientSize().Width, std::max(smallest, *height - frame)});
-}
-
-void frmDataDialog::AnswerRequests(PropertyPage& page) {
-  AnswerDataRequests(page, *this);
 }
 
 void frmDataDialog::Form_Resize() {
@@ -75,7 +65,7 @@ void frmDataDialog::LayOut() {
   mStrip = {.Left = 0, .Right = desktop.ToPixels(client.Width), .Bottom = desktop.ToPixels(client.Height)};
   mStrip.Top = mStrip.Bottom - kStripHeight;
   const int top = ClientSize().Height - kMargin - cmdHelp.Place().Height;
-  for (Button* const button : {&cmdHelp, &cmdOK, &cmdCancel, &cmdApply}) button->Top(top);
+  for (Button* const button : std::initializer_list<Button*>{&cmdHelp, &cmdOK, &cmdCancel, &cmdApply}) button->Top(top);
   // In a window lower than its buttons nothing is left for the page.
   const Rect tab = ssTab.Place();
   ssTab.Place({tab.Left, tab.Top, tab.Width, std::max(0, top - kMargin - tab.Top)});

@@ -16,8 +16,7 @@ class frmDataDialog final : public PageHostForm {
   const PixelEdges& SizingStrip() const { return mStrip; }
 
  protected:
-  void Position() override;
-  void AnswerRequests(PropertyPage& page) override;
+  void Arrange() override;
   void Form_Resize() override;
   void Form_Unload() override;
   void Form_MouseMove(Point at) override;

@@ -1,6 +1,8 @@
 // Dialog for the legends of a map. Its Apply button stays even when there is no call-back to be told.
 #pragma once
 
+#include <cstdint>
+
 #include "propertydialogs/PageHostForm.h"
 
 namespace orx {
@@ -9,9 +11,14 @@ class frmLegend final : public PageHostForm {
  public:
   frmLegend(Desktop& desktop, IPageFactory& pages);
 
+  /// The call-back comes before the map here.
+  void Take(const PropertyTask& task, ErrorTrap& trap) override;
   /// The legend that the page shows first, by index from 0.
-  std::int32_t StartUpIndex() { return Page().StartUpIndex(); }
-  void StartUpIndex(std::int32_t value) { Page().StartUpIndex(value); }
+  std::int32_t StartUpIndex() { return Pages().Of(PageKind::Legends).StartUpIndex(); }
+  void StartUpIndex(std::int32_t value) { Pages().Of(PageKind::Legends).StartUpIndex(value); }
+
+ protected:
+  void Form_Resize() override {}
 };
 
 }  // namespace orx

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include "dialogframe/FileChoice.h"
 #include "dialogframe/Help.h"
+#include "forms/BusyScope.h"
 #include "text/Trimmed.h"
 
 namespace orx {
@@ -36,18 +36,6 @@ std::string NameOr(std::string name, const char* otherwise, std::int32_t number)
   return name;
 }
 
-class Flag {
- public:
-  explicit Flag(bool& flag) : mFlag(flag), mBefore(std::exchange(flag, true)) {}
-  ~Flag() { mFlag = mBefore; }
-  Flag(const Flag&) = delete;
-  Flag& operator=(const Flag&) = delete;
-
- private:
-  bool& mFlag;
-  bool mBefore;
-};
-
 /// Keeps the list as the screen shows it until all of it is filled, also when a name cannot be had.
 class Filling {
  public:
@@ -70,15 +58,12 @@ Design frmMapSettings::PictureDesign(const char* toolTip, int position) {
 }
 
 frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
-    : PropertyDialog(desktop,
-                     {
-                         .FormName = "frmMapSettings",
-                         .Caption = "Map Layer Properties",
-                         .HelpKey = "_HelpMapSettings",
-                         .TabCaptions = {LayerPages::kTabCaptions.begin(), LayerPages::kTabCaptions.end()},
-                         .Layout = kMapLayout,
-                     }),
-      mFactory(pages) {
+    : PropertyDialog(desktop, pages,
+                     {.Name = "frmMapSettings",
+                      .Caption = "Map Layer Properties",
+                      .HelpKey = "_HelpMapSettings",
+                      .Pages = LayerPages(),
+                      .Layout = kMapLayout}) {
   PutFirst({&sftLayers, &cmdAdd, &cmdUp, &cmdDown, &cmdRemove});
   sftLayers.Click = [this] { sftLayers_Click(); };
   sftLayers.KeyDown = [this](int keyCode) { sftLayers_KeyDown(keyCode); };
@@ -87,7 +72,7 @@ frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
   cmdDown.Click = [this] { MoveSelected(&IMap::MoveLayerDown, 1); };
   cmdRemove.Click = [this] { cmdRemove_Click(); };
   ssTab.Click = [this](int) {
-    if (mPages) mPages->Select(ssTab.Tab());
+    if (HasPages()) Pages().Select(ssTab.Tab());
   };
 }
 
@@ -110,29 +95,33 @@ void frmMapSettings::RegisterClient(HostObject* client, const std::string& regis
   }
 }
 
+void frmMapSettings::Take(const PropertyTask& task, ErrorTrap& trap) {
+  PropertyDialog::Take(task, trap);
+  trap.Step([&] { RegisterFlags(task.Number); });
+}
+
 void frmMapSettings::IsDirty(bool value) {
   Load();
-  if (mPages) mPages->IsDirty(value);
+  if (HasPages()) Pages().IsDirty(value);
   mListChanged = value;
 }
 
 void frmMapSettings::RefreshContents() {
   if (!mMap) return;
   Load();
-  if (!mPages) return;
-  mPages->Client(mCurrentObject);
-  mPages->Do(&PropertyPage::RefreshContents);
+  if (!HasPages()) return;
+  Pages().Client(mCurrentObject);
+  Pages().RefreshContents();
 }
 
-void frmMapSettings::Form_Load() {
-  mPages.emplace(mFactory, ssTab, *this);
-  mPages->Page(LayerPages::TabProperties).NameChanged = [this](const std::string& name) { NameChanged(name); };
+void frmMapSettings::Arrange() {
+  Pages().Of(PageKind::Properties).NameChanged = [this](const std::string& name) { NameChanged(name); };
   Kept().Restore(*this);
-  mPages->Select(ssTab.Tab());
+  Pages().Select(ssTab.Tab());
   EnableMoving();
-  TakeLanguage();
-  mPages->Language(Language());
-  Translate();
+}
+
+void frmMapSettings::Ready() {
   FillList();
   SelectRow(0);
 }
@@ -141,7 +130,7 @@ void frmMapSettings::Form_Load() {
 
 void frmMapSettings::FillList() {
   const Filling filling(sftLayers);
-  const Flag selecting(mIsSelecting);
+  const BusyScope selecting(mIsSelecting);
   sftLayers.Clear();
   if (mLayers) {
     const std::string name = mLayers->Name();
@@ -176,7 +165,7 @@ void frmMapSettings::sftLayers_KeyDown(int keyCode) {
 }
 
 bool frmMapSettings::ShowSelection(int row) {
-  const Flag selecting(mIsSelecting);
+  const BusyScope selecting(mIsSelecting);
   mSelectedRow = std::clamp(row, -1, sftLayers.ListCount() - 1);
   if (mSelectedRow < 0 && sftLayers.ListCount() > 0) mSelectedRow = 0;
   sftLayers.ListIndex(mSelectedRow);
@@ -266,7 +255,7 @@ void frmMapSettings::cmdRemove_Click() {
     position = FoldedPosition();
     // The layer may be gone for good.
     mCurrentObject = nullptr;
-    trap.Step([&] { mPages->Client(nullptr); });
+    trap.Step([&] { Pages().Client(nullptr); });
     trap.Step([&] { FillList(); });
     mListChanged = true;
   }
@@ -300,50 +289,34 @@ void frmMapSettings::AddFile(const std::string& path) {
   mListChanged = true;
 }
 
-// The buttons along the bottom.
+// The buttons along the bottom. What pages and call-back throw is skipped.
 
-bool frmMapSettings::IsAnyDirty() const {
-  return mPages->IsAnyDirty() || mListChanged;
+void frmMapSettings::ButtonStep(const std::function<void()>& step) {
+  ErrorTrap trap;
+  trap.Step(step);
 }
 
-void frmMapSettings::Notify(ErrorTrap& trap, void (IDialogCallBack::*notify)(bool)) {
-  if (!CallBack()) return;
-  trap.Step([&] { mLastChange = IsAnyDirty(); });
-  trap.Step([&] { (CallBack()->*notify)(mLastChange); });
+void frmMapSettings::Relay(Act act, Notification notify) {
+  if (HasPages()) PropertyDialog::Relay(act, notify);
 }
 
 void frmMapSettings::cmdApply_Click() {
-  ErrorTrap trap;
-  if (!mPages) return;
-  mPages->Do(&PropertyPage::ApplyChanges, trap);
-  if (CallBack()) {
-    trap.Step([&] { OwnerDesktop().Pointer(Pointer::Hourglass); });
-    Notify(trap, &IDialogCallBack::ApplyNotify);
-    trap.Step([&] { IsDirty(false); });
-  }
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
-}
-
-void frmMapSettings::cmdOK_Click() {
-  ErrorTrap trap;
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Hourglass); });
-  if (mPages) mPages->Do(&PropertyPage::SaveChanges, trap);
-  if (mPages) Notify(trap, &IDialogCallBack::OKNotify);
-  trap.Step([&] { Close(false); });
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+  if (!HasPages()) return;
+  Do(&PropertyPage::ApplyChanges);
+  if (!CallBack()) return OwnerDesktop().Pointer(Pointer::Default);
+  WithHourglass([this] {
+    Tell(&IDialogCallBack::ApplyNotify);
+    ButtonStep([this] { IsDirty(false); });
+  });
 }
 
 void frmMapSettings::cmdCancel_Click() {
-  ErrorTrap trap;
-  if (mPages) mPages->Do(&PropertyPage::DiscardChanges, trap);
-  if (mPages) Notify(trap, &IDialogCallBack::CancelNotify);
-  trap.Step([&] { Close(true); });
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+  PropertyDialog::cmdCancel_Click();
+  OwnerDesktop().Pointer(Pointer::Default);
 }
 
 void frmMapSettings::Form_Unload() {
   Kept().Keep(*this);
-  mPages.reset();
   PropertyDialog::Form_Unload();
 }
 

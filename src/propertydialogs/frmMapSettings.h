@@ -3,14 +3,11 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "dialogframe/Glyphs.h"
 #include "forms/TreeList.h"
-#include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
-#include "propertydialogs/LayerPages.h"
 #include "propertydialogs/Placement.h"
 #include "propertydialogs/PropertyDialog.h"
 
@@ -25,16 +22,16 @@ class frmMapSettings final : public PropertyDialog {
   std::int32_t Flags() const { return mFlags; }
   /// Hands over a map (IMap) or a layer collection (ILayers), used and not owned, and the host's registry key. The user
   /// is told of other objects, and nothing is kept of them.
-  void RegisterClient(HostObject* client, const std::string& registryKey);
+  void RegisterClient(HostObject* client, const std::string& registryKey) override;
+  void Take(const PropertyTask& task, ErrorTrap& trap) override;
   /// Whether layers were added, moved, removed or changed, their labels left out.
-  bool IsDirty() const { return mListChanged || (mPages && mPages->IsDirtyBesideLabels()); }
-  void IsDirty(bool value);
+  bool IsDirty() const override { return mListChanged || PropertyDialog::IsDirty(); }
+  void IsDirty(bool value) override;
   /// Shows the selected object on the pages. Does nothing without a map. Loads the form.
-  void RefreshContents();
+  void RefreshContents() override;
 
-  /// What the host was last told by the call-back, and where the user is: the position of the selected layer in its
-  /// map, from 1; 0 for the row of the map, for tiles, and while nothing is selected.
-  bool LastChange() const { return mLastChange; }
+  /// The position of the selected layer in its map, from 1; 0 for the row of the map, for tiles, and while nothing is
+  /// selected.
   std::int32_t SelectedLayer() const { return mSelectedLayer; }
 
   TreeList sftLayers{*this, "sftLayers", {.Place = {120, 120, 2400, 4995}, .AccessibleName = "Layers"}};
@@ -44,7 +41,8 @@ class frmMapSettings final : public PropertyDialog {
   Button cmdRemove{*this, "cmdRemove", PictureDesign("Remove selected layer", 3), glyphs::kCross};
 
  protected:
-  void Form_Load() override;
+  void Arrange() override;
+  void Ready() override;
   void Form_Unload() override;
 
  private:
@@ -52,8 +50,10 @@ class frmMapSettings final : public PropertyDialog {
 
   static Design PictureDesign(const char* toolTip, int position);
   void cmdApply_Click() override;
-  void cmdOK_Click() override;
   void cmdCancel_Click() override;
+  void Relay(Act act, Notification notify) override;
+  void ButtonStep(const std::function<void()>& step) override;
+  bool IsAnyDirty() const override { return PropertyDialog::IsAnyDirty() || mListChanged; }
   void cmdAdd_Click();
   void cmdRemove_Click();
   void MoveSelected(MoveLayer move, int rows);
@@ -77,11 +77,7 @@ class frmMapSettings final : public PropertyDialog {
   void ShowObject();
   /// Up, Down and Remove work with a layer only.
   void EnableMoving();
-  bool IsAnyDirty() const;
-  /// Tells the call-back, if there is one, what has changed. Errors are skipped.
-  void Notify(ErrorTrap& trap, void (IDialogCallBack::*notify)(bool));
 
-  IPageFactory& mFactory;
   std::int32_t mFlags = 0;
   HostObject* mClient = nullptr;
   ILayers* mLayers = nullptr;
@@ -93,11 +89,8 @@ class frmMapSettings final : public PropertyDialog {
   /// How often a row was selected.
   int mSelections = 0;
   bool mListChanged = false;
-  bool mLastChange = false;
   /// True while the form itself moves the selection.
   bool mIsSelecting = false;
-  // Below the controls: the pages' own controls stand on the tabs and go first.
-  std::optional<LayerPages> mPages;
 };
 
 }  // namespace orx

@@ -18,6 +18,18 @@
 #include "text/Trimmed.h"
 
 namespace orx {
+namespace {
+
+/// Makes a dialog; null when that fails.
+template <class Dialog>
+std::shared_ptr<PropertyDialog> Make(Desktop& desktop, IPageFactory& pages) {
+  std::shared_ptr<PropertyDialog> form;
+  ErrorTrap trap;
+  trap.Step([&] { form = std::make_shared<Dialog>(desktop, pages); });
+  return form;
+}
+
+}  // namespace
 
 struct CCommonMapDialogs::Request {
   HostObject* Client;
@@ -33,20 +45,11 @@ void CCommonMapDialogs::Language(ILanguage* value) {
   if (IsActive(mLanguage)) modMain::HelpFile(mLanguage->TranslateText("_HelpFileMapDialogs"));
 }
 
-template <class HostForm>
-std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
-  constexpr bool isLegend = std::is_same_v<HostForm, frmLegend>;
-  ErrorTrap trap;
-  std::shared_ptr<HostForm> form;
-  trap.Step([&] { form = std::make_shared<HostForm>(mDesktop, mPages); });
+std::int32_t CCommonMapDialogs::ShowPages(const std::shared_ptr<PropertyDialog>& form, const Request& request) {
   if (!form) return 0;
+  ErrorTrap trap;
   trap.Step([&] { form->Language(mLanguage); });
-  const auto giveCallBack = [&] { form->RegisterCallBack(mCallBack); };
-  if constexpr (isLegend) trap.Step(giveCallBack);
-  trap.Step([&] { form->RegisterClient(request.Client, mRegistryKey); });
-  if constexpr (!isLegend) trap.Step(giveCallBack);
-  if constexpr (isLegend) trap.Step([&] { form->StartUpIndex(request.Number); });
-  if constexpr (std::is_same_v<HostForm, frmMapSettings>) trap.Step([&] { form->RegisterFlags(request.Number); });
+  form->Take({request.Client, mRegistryKey, mCallBack, request.Number}, trap);
   trap.Step([&] { form->RefreshContents(); });
   // Loading translates the designed caption, so that it has to come before another one.
   trap.Step([&] { form->Load(); });
@@ -66,32 +69,32 @@ std::int32_t CCommonMapDialogs::Show(HostObject* mObj, std::int32_t mFlags, cons
   bool isMap = false;
   ErrorTrap trap;
   trap.Step([&] { isMap = QueryKind<IMap>(mObj) || QueryKind<ILayers>(mObj); });
-  return isMap ? ShowPage<frmMapSettings>(request) : ShowPage<frmSettings>(request);
+  return ShowPages(isMap ? Make<frmMapSettings>(mDesktop, mPages) : Make<frmSettings>(mDesktop, mPages), request);
 }
 
 std::int32_t CCommonMapDialogs::ShowDataProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                    OwnerWindow OwnerForm) {
-  return ShowPage<frmDataDialog>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmDataDialog>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLegends(HostObject* mObj, std::int32_t Index, const std::string& mCaption,
                                             ShowMode mModal, OwnerWindow OwnerForm) {
-  return ShowPage<frmLegend>({mObj, Index, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmLegend>(mDesktop, mPages), {mObj, Index, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                OwnerWindow OwnerForm) {
-  return ShowPage<frmProperties>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmProperties>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                            OwnerWindow OwnerForm) {
-  return ShowPage<frmLabels>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmLabels>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                 OwnerWindow OwnerForm) {
-  return ShowPage<frmCoordinates>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmCoordinates>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue,
@@ -144,9 +147,9 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
   form->Language(mLanguage);
   form->Init(mSelection, mMultiselect, mListIndex, mAskConfirmation, mConfirmationQuestion, mCaption);
   form->Show();
-  bool isCancelled = false;
+  bool isCanceled = false;
   std::int32_t count = 0;
-  form->GetSelectedItems(mSelected, isCancelled, count);
+  form->GetSelectedItems(mSelected, isCanceled, count);
   return count;
 }
 

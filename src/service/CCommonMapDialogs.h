@@ -17,6 +17,8 @@
 
 namespace orx {
 
+class PropertyDialog;
+
 /// Shows the dialogs. All calls come on the user-interface thread of the desktop. The objects given to it are used, not
 /// owned: the host keeps the desktop, the page factory, the language and the call-back alive for as long as it uses the
 /// service or a modeless dialog is open.
@@ -125,8 +127,7 @@ class CCommonMapDialogs {
   bool AskForFile(const MissingFile& missing, std::string& newFileName, bool& cancelAll);
 
   struct Request;
-  template <class HostForm>
-  std::int32_t ShowPage(const Request& request);
+  std::int32_t ShowPages(const std::shared_ptr<PropertyDialog>& form, const Request& request);
 
   Desktop& mDesktop;
   IPageFactory& mPages;

@@ -152,7 +152,8 @@ TEST_F(DataDialog, EachHeightIsLaidOutAnew) {
     for (const int height : {5910, 6510, 4500}) {
       form.ClientSize({6465, height});
       const int top = height - 120 - 375;
-      for (const Button* button : {&form.cmdHelp, &form.cmdOK, &form.cmdCancel, &form.cmdApply})
+      for (const Button* button :
+           std::initializer_list<const Button*>{&form.cmdHelp, &form.cmdOK, &form.cmdCancel, &form.cmdApply})
         EXPECT_EQ(top, button->Top());
       EXPECT_EQ(top - 120 - 120, form.ssTab.Place().Height);
       EXPECT_EQ(form.ssTab.Place().Height - 120 - TabControl::kStrip - 120, PagePanel(form).Place().Height);

@@ -65,7 +65,8 @@ TEST_F(PageHostDesigns, CaptionsTabsPagesAndPlacesAreAsDrawn) {
 
 TEST_F(PageHostDesigns, ButtonsShareOneRow) {
   for (const HostCase& host : Hosts())
-    for (Button* button : {&host.Form->cmdHelp, &host.Form->cmdOK, &host.Form->cmdCancel, &host.Form->cmdApply}) {
+    for (Button* button : std::initializer_list<Button*>{&host.Form->cmdHelp, &host.Form->cmdOK, &host.Form->cmdCancel,
+                                                         &host.Form->cmdApply}) {
       EXPECT_EQ((Rect{button->Left(), host.ButtonTop, 1275, 375}), button->Place()) << host.Name;
       EXPECT_TRUE(button->Pinned());
     }
