@@ -2,7 +2,6 @@
 
 #include "dialogframe/SelectAllText.h"
 #include "forms/Desktop.h"
-#include "numbers/Numbers.h"
 
 namespace orx {
 namespace {
