@@ -2,6 +2,7 @@
 #include "examples/maphost/HostWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/TreeList.h"
 #include "maplibrary/model/SampleMap.h"
@@ -51,11 +52,13 @@ TEST_F(ExamplesHost, OKUntouchedInEveryDialogLeavesEveryBitOfTheMap) {
   const std::string before = Serialise(*map);
   for (int entry = 0; entry < window->cboLayer.ListCount(); ++entry) {
     user.Choose(window->cboLayer, entry);
-    for (Button* button : {&window->cmdProperties, &window->cmdLabels, &window->cmdCoordinates, &window->cmdLegends}) {
-      if (!button->Enabled()) continue;
-      const std::string form = button == &window->cmdLegends ? "frmLegend" : "frm" + button->Name().substr(3);
+    for (const auto& [button, form] : {std::pair{"cmdProperties", "frmProperties"},
+                                       {"cmdLabels", "frmLabels"},
+                                       {"cmdCoordinates", "frmCoordinates"},
+                                       {"cmdLegends", "frmLegend"}}) {
+      if (!Get<Button>(*window, button).Enabled()) continue;
       script.ExpectForm(form, [&](Form& shown) { Press(user, shown, "cmdOK"); });
-      user.Click(*button);
+      Press(user, *window, button);
       EXPECT_TRUE(LastLine().ends_with("not changed (0)")) << LastLine();
       EXPECT_EQ(before, Serialise(*map)) << form << " of " << window->cboLayer.Text();
     }
@@ -77,7 +80,7 @@ TEST_F(ExamplesHost, TheLayerManagerMovesAndRemovesLayersWhileTheMapIsRedrawn) {
     EXPECT_EQ(6, window->cboLayer.ListCount());
     Press(user, shown, "cmdOK");
   });
-  user.Click(window->cmdManager);
+  Press(user, *window, "cmdManager");
   EXPECT_EQ("Layer manager: changed (-1)", LastLine());
 }
 
@@ -86,14 +89,14 @@ TEST_F(ExamplesHost, TheSettingsAndTheDataOfTheChosenLayerAreEdited) {
     user.Type(Get<TextBox>(shown, "txtName"), "Hills");
     Press(user, shown, "cmdOK");
   });
-  user.Click(window->cmdSettings);
+  Press(user, *window, "cmdSettings");
   EXPECT_EQ("Settings of Terrain: changed (-1)", LastLine());
   EXPECT_EQ("Hills", user.See(window->cboLayer).Text);
   script.ExpectForm("frmDataDialog", [&](Form& shown) { Press(user, shown, "cmdOK"); });
-  user.Click(window->cmdData);
+  Press(user, *window, "cmdData");
   EXPECT_EQ("Data of Hills: not changed (0)", LastLine());
   user.Choose(window->cboLayer, 2);
-  EXPECT_FALSE(user.See(window->cmdData).Enabled);
+  EXPECT_FALSE(user.See(Get<Button>(*window, "cmdData")).Enabled);
 }
 
 TEST_F(ExamplesHost, ApplyRedrawsTheMapBehindTheOpenDialog) {
@@ -107,7 +110,7 @@ TEST_F(ExamplesHost, ApplyRedrawsTheMapBehindTheOpenDialog) {
     EXPECT_TRUE(shown.Visible());
     Press(user, shown, "cmdOK");
   });
-  user.Click(window->cmdProperties);
+  Press(user, *window, "cmdProperties");
   EXPECT_EQ("Properties of Terrain: changed (-1)", LastLine());
 }
 
@@ -116,7 +119,7 @@ TEST_F(ExamplesHost, ARenamedLayerIsListedUnderItsNewName) {
     user.Type(Get<TextBox>(shown, "txtName"), "Hills");
     Press(user, shown, "cmdOK");
   });
-  user.Click(window->cmdProperties);
+  Press(user, *window, "cmdProperties");
   EXPECT_EQ("Hills", user.See(window->cboLayer).Text);
 }
 
@@ -172,11 +175,11 @@ TEST_F(ExamplesHost, OKUntouchedInTheDialogsOfTheDataLeavesEveryBitOfTheMap) {
 TEST_F(ExamplesHost, LayersWithoutDataHaveNoClasses) {
   for (const int entry : {0, 2}) {
     user.Choose(window->cboLayer, entry);
-    EXPECT_FALSE(user.See(window->cmdClassify).Enabled) << entry;
-    EXPECT_FALSE(user.See(window->cmdOptions).Enabled) << entry;
+    EXPECT_FALSE(user.See(Get<Button>(*window, "cmdClassify")).Enabled) << entry;
+    EXPECT_FALSE(user.See(Get<Button>(*window, "cmdOptions")).Enabled) << entry;
   }
   user.Choose(window->cboLayer, 3);
-  EXPECT_TRUE(user.See(window->cmdClassify).Enabled);
+  EXPECT_TRUE(user.See(Get<Button>(*window, "cmdClassify")).Enabled);
 }
 
 TEST_F(ExamplesHost, TheTerrainIsShadedAndContouredAsSet) {
@@ -248,30 +251,30 @@ TEST_F(ExamplesHost, TheSymbolOfTheChosenLayerIsPickedAndDrawn) {
 
 TEST_F(ExamplesHost, TheWholeMapHasCoordinatesAndLegendsOnly) {
   user.Choose(window->cboLayer, 0);
-  EXPECT_FALSE(user.See(window->cmdProperties).Enabled);
-  EXPECT_FALSE(user.See(window->cmdSymbol).Enabled);
-  EXPECT_FALSE(user.See(window->cmdLabels).Enabled);
-  EXPECT_TRUE(user.See(window->cmdCoordinates).Enabled);
-  EXPECT_TRUE(user.See(window->cmdLegends).Enabled);
+  EXPECT_FALSE(user.See(Get<Button>(*window, "cmdProperties")).Enabled);
+  EXPECT_FALSE(user.See(Get<Button>(*window, "cmdSymbol")).Enabled);
+  EXPECT_FALSE(user.See(Get<Button>(*window, "cmdLabels")).Enabled);
+  EXPECT_TRUE(user.See(Get<Button>(*window, "cmdCoordinates")).Enabled);
+  EXPECT_TRUE(user.See(Get<Button>(*window, "cmdLegends")).Enabled);
 }
 
 TEST_F(ExamplesHost, DialogsKeptOpenReportToTheLogUntilTheyAreClosed) {
   user.Toggle(window->chkModeless);
-  user.Click(window->cmdLabels);
+  Press(user, *window, "cmdLabels");
   EXPECT_EQ("Labels of Terrain: open", LastLine());
   EXPECT_TRUE(window->Visible());
 }
 
 TEST_F(ExamplesHost, TheLanguageChangesTheWindowAndItsDialogsAndBack) {
   user.Choose(window->cboLanguage, 1);
-  EXPECT_EQ("Eigenschaften...", user.See(window->cmdProperties).Text);
+  EXPECT_EQ("Eigenschaften...", user.See(Get<Button>(*window, "cmdProperties")).Text);
   script.ExpectForm("frmProperties", [&](Form& shown) {
     EXPECT_EQ("Ebeneneigenschaften", user.SeeCaption(shown));
     user.CloseBox(shown);
   });
-  user.Click(window->cmdProperties);
+  Press(user, *window, "cmdProperties");
   user.Choose(window->cboLanguage, 0);
-  EXPECT_EQ("Properties...", user.See(window->cmdProperties).Text);
+  EXPECT_EQ("Properties...", user.See(Get<Button>(*window, "cmdProperties")).Text);
 }
 
 TEST_F(ExamplesHost, EveryTextOfTheWindowIsTranslated) {
@@ -352,6 +355,17 @@ TEST_F(ExamplesHost, ShowsAndHidesTheChosenLayersAfterAQuestion) {
   EXPECT_EQ(before, Drawn().size());
 }
 
+TEST_F(ExamplesHost, TheTabKeyWalksTheButtonsAsTheyStandRowByRow) {
+  user.Choose(window->cboLayer, 1);
+  std::pair above{0, 0};
+  for (const maphost::DialogButton& button : window->Buttons) {
+    user.Press(*window, kTab);
+    EXPECT_EQ(&button.Face, window->ActiveControl()) << button.Face.Name();
+    const std::pair place{button.Face.Top(), button.Face.Left()};
+    EXPECT_LT(std::exchange(above, place), place) << button.Face.Name();
+  }
+}
+
 TEST_F(ExamplesHost, NothingOverlapsInTheLowestWindow) {
   window->ClientSize({9000, 6000});
   EXPECT_GE(window->txtLog.Top(), window->cboLanguage.Place().Bottom());
@@ -366,7 +380,7 @@ TEST_F(ExamplesHost, AsksForALayerWhoseFileIsGone) {
 
 TEST_F(ExamplesHost, TheContoursOfALargeAreaAreCounted) {
   window->TilesAcross(1);
-  user.Click(window->cmdContours);
+  Press(user, *window, "cmdContours");
   EXPECT_EQ(1U, desktop().OpenForms().size());
   const auto numberAfter = [line = LastLine()](const std::string& mark) {
     return std::stoul(line.substr(line.find(mark) + mark.size()));
@@ -384,11 +398,11 @@ TEST_F(ExamplesHost, CancelStopsTheContoursAndTheWindowWaitsMeanwhile) {
     if (desktop().OpenForms().size() < 2 || window->Enabled()) return;
     Form& progress = *desktop().OpenForms().back();
     if (Get<ProgressBar>(progress, "prgBar").Value() < 1 || acts++ > 0) return;
-    user.Click(window->cmdSettings);
+    Press(user, *window, "cmdSettings");
     user.CloseBox(*window);
     Press(user, progress, "cmdCancel");
   };
-  user.Click(window->cmdContours);
+  Press(user, *window, "cmdContours");
   EXPECT_GE(acts, 1);
   EXPECT_TRUE(LastLine().starts_with("Contours of Terrain: ")) << LastLine();
   EXPECT_TRUE(LastLine().ends_with(", cancelled")) << LastLine();
