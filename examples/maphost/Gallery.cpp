@@ -51,11 +51,12 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     window->cboLanguage.UserPick(language);
     desktop.ProcessPendingEvents();
     photographer.Take(*window);
-    for (orx::Button* button : {&window->cmdManager, &window->cmdSettings, &window->cmdData, &window->cmdProperties,
-                                &window->cmdLabels, &window->cmdSymbol, &window->cmdCoordinates, &window->cmdLegends,
-                                &window->cmdClassify, &window->cmdOptions, &window->cmdShade, &window->cmdIsolines,
-                                &window->cmdColors, &window->cmdGeoreference, &window->cmdJump, &window->cmdLost})
-      button->UserPress();
+    for (const Dialog& dialog : HostWindow::Dialogs()) {
+      if (!dialog.PictureSuffix) continue;
+      photographer.Suffix(*dialog.PictureSuffix + suffix);
+      dynamic_cast<orx::Button&>(*window->Find(dialog.Button)).UserPress();
+    }
+    photographer.Suffix(suffix);
     // The host keeps the progress window open as it works.
     const auto progress = std::make_shared<orx::frmProgress>(desktop);
     progress->Language(languages.Language(language));
@@ -64,8 +65,6 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     desktop.ProcessPendingEvents();
     photographer.Take(*progress);
     progress->Unload();
-    photographer.Suffix("-several" + suffix);
-    window->cmdShowHide.UserPress();
   }
   window->UserClose();
   desktop.Hook(nullptr);
