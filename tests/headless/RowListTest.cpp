@@ -40,7 +40,10 @@ class RowPresses : public testing::Test {
     lstTree.AddRow({.Text = "Tile", .Level = 2});
     lstTree.AddRow({.Text = "Rivers", .Level = 1});
     lstTree.AddRow({.Text = "Grids"});
-    for (const char* text : {"one", "two", "three"}) lstSeveral.AddItem(text);
+    for (const char* text : {"one", "two", "three"}) {
+      lstSingle.AddItem(text);
+      lstSeveral.AddItem(text);
+    }
     lstSeveral.DblClick = [this] { ++doubleClicks; };
     form->Show(ShowMode::Modeless);
   }
@@ -49,7 +52,8 @@ class RowPresses : public testing::Test {
   headless::HeadlessDesktop desktop;
   std::shared_ptr<Form> form = std::make_shared<Form>(desktop, "frmAny", FormDesign{.Client = {3000, 3000}});
   TreeList lstTree{*form, "lstTree", {.Place = {0, 0, 3000, 1500}}};
-  ListBox lstSeveral{*form, "lstSeveral", {.Place = {0, 1500, 3000, 1500}}, ListSelection::Several};
+  ListBox lstSingle{*form, "lstSingle", {.Place = {0, 1500, 1500, 1500}}};
+  ListBox lstSeveral{*form, "lstSeveral", {.Place = {1500, 1500, 1500, 1500}}, ListSelection::Several};
   int doubleClicks = 0;
 };
 
@@ -127,10 +131,17 @@ TEST_F(RowPresses, RowsAreSeenByTheirPosition) {
   EXPECT_EQ(0, list.FocusPosition());
 }
 
-TEST_F(RowPresses, AssistiveSoftwareCannotEmptyTheSelectionOfATree) {
+TEST_F(RowPresses, AssistiveSoftwareEmptiesASelectionOnlyWhereSeveralCanBeSelected) {
   lstTree.UserSelect(0, true);
   lstTree.UserSelect(0, false);
   EXPECT_EQ(0, lstTree.ListIndex());
+  lstSingle.UserSelect(1, true);
+  lstSingle.UserSelect(1, false);
+  EXPECT_EQ(1, lstSingle.ListIndex());
+  lstSeveral.UserSelect(1, true);
+  EXPECT_EQ(std::set<int>{1}, lstSeveral.SelectedRows());
+  lstSeveral.UserSelect(1, false);
+  EXPECT_EQ(std::set<int>{}, lstSeveral.SelectedRows());
 }
 
 TEST(ShownSelection, TellsOfChangesAlone) {
