@@ -71,24 +71,20 @@ class CheckedEntry {
 /// A checked field for values of one type. A value that the program shows is taken as it is, without an event, and
 /// stays exactly that until the user enters another one.
 template <class Held>
-class CheckedField : public CheckedEntry {
+class CheckedField : public CheckedEntry, public FieldTypes<Held, TextBox&> {
  public:
-  /// As FlagField.
-  using Type = Held;
-  using Shown = TextBox&;
-  using Rule = NoRule;
   /// As CheckedEntry; the field has no value yet.
   explicit CheckedField(TextBox& box, NoRule = {}) : CheckedEntry(box) {}
 
   /// The value last shown or accepted; a text that is pending does not count yet.
-  const Type& Value() const { return mValue; }
+  const Held& Value() const { return mValue; }
   /// Shows a value, which counts as not edited.
-  void Show(const Type& value) {
+  void Show(const Held& value) {
     Become(value);
     ShowValue(false);
   }
   /// Takes a value over that the user has chosen elsewhere.
-  void Enter(const Type& value) {
+  void Enter(const Held& value) {
     Become(value);
     ShowValue(true);
   }
@@ -101,16 +97,16 @@ class CheckedField : public CheckedEntry {
 
  protected:
   /// For Take: makes an accepted value the field's.
-  void Become(const Type& value) {
+  void Become(const Held& value) {
     mValue = value;
     mHasValue = true;
   }
   /// The text that stands for a value.
-  virtual std::string TextOf(const Type& value) const = 0;
+  virtual std::string TextOf(const Held& value) const = 0;
   std::string ValueText() const final { return mHasValue ? TextOf(mValue) : std::string(); }
 
  private:
-  Type mValue = {};
+  Held mValue = {};
   bool mHasValue = false;
 };
 

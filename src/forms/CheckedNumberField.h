@@ -9,7 +9,7 @@ namespace orx {
 /// Reads numbers in the locale of the form's desktop. Only finite numbers are accepted.
 class CheckedNumberField : public CheckedField<double> {
  public:
-  /// As FlagField.
+  /// In place of the rule of other checked fields.
   using Rule = NumberRule;
   /// Watches the box; the field has no value yet. The rule's Initially is not for checked fields.
   explicit CheckedNumberField(TextBox& box, NumberRule rule = {}) : CheckedField(box), mRule(std::move(rule)) {}

@@ -30,13 +30,20 @@ class PictureBox;
 /// For fields that need nothing but their control.
 struct NoRule {};
 
+/// What a setting has to know of a field.
+template <class Value, class ItsControl, class ItsRule = NoRule>
+struct FieldTypes {
+  /// The type of its value.
+  using Type = Value;
+  /// How it is given its control, as the first argument when it is made.
+  using Shown = ItsControl;
+  /// Its rule, the second one.
+  using Rule = ItsRule;
+};
+
 /// A check box that is ticked or not.
-class FlagField {
+class FlagField : public FieldTypes<bool, CheckBox&> {
  public:
-  /// What a setting has to know of each field: its value, how it is given its control, and its rule.
-  using Type = bool;
-  using Shown = CheckBox&;
-  using Rule = NoRule;
   /// The box must live as long.
   explicit FlagField(CheckBox& box, NoRule = {}) : mBox(box) {}
 
@@ -64,12 +71,8 @@ struct ChoiceRule {
 
 /// A list whose entries carry codes. It stands for the code that it was given until the user picks another entry, also
 /// for a code that the list does not have.
-class ChoiceField {
+class ChoiceField : public FieldTypes<std::int32_t, ListControl&, ChoiceRule> {
  public:
-  /// As FlagField.
-  using Type = std::int32_t;
-  using Shown = ListControl&;
-  using Rule = ChoiceRule;
   /// The list must live as long.
   explicit ChoiceField(ListControl& list, ChoiceRule rule = {}) : mList(list), mRule(rule) {}
 
@@ -92,12 +95,8 @@ class ChoiceField {
 };
 
 /// A box that shows a colour as its ground.
-class ColorField {
+class ColorField : public FieldTypes<Color, PictureBox&> {
  public:
-  /// As FlagField.
-  using Type = Color;
-  using Shown = PictureBox&;
-  using Rule = NoRule;
   /// The box must live as long.
   explicit ColorField(PictureBox& box, NoRule = {}) : mBox(box) {}
 
@@ -118,12 +117,8 @@ class ColorField {
 };
 
 /// A text of which nothing is refused.
-class TextField {
+class TextField : public FieldTypes<std::string, TextEntry> {
  public:
-  /// As FlagField.
-  using Type = std::string;
-  using Shown = TextEntry;
-  using Rule = NoRule;
   /// The control must live as long.
   explicit TextField(TextEntry entry, NoRule = {}) : mEntry(entry) {}
 
@@ -145,28 +140,24 @@ class TextField {
 
 /// A value that no control shows: a variable of the dialog or of its model.
 template <class Held>
-class HeldValue {
+class HeldValue : public FieldTypes<Held, Held&> {
  public:
-  /// As FlagField.
-  using Type = Held;
-  using Shown = Type&;
-  using Rule = NoRule;
   /// The variable must live as long. What it holds now is what Clear brings back.
-  explicit HeldValue(Type& variable, NoRule = {}) : mVariable(variable), mInitial(variable), mShown(variable) {}
+  explicit HeldValue(Held& variable, NoRule = {}) : mVariable(variable), mInitial(variable), mShown(variable) {}
 
   /// Sets the variable.
-  void Show(const Type& value) { mVariable = mShown = value; }
+  void Show(const Held& value) { mVariable = mShown = value; }
   /// Gives the variable what it held at first.
   void Clear() { Show(mInitial); }
   /// The variable.
-  const Type& Value() const { return mVariable; }
+  const Held& Value() const { return mVariable; }
   /// True when the variable holds another value than shown.
   bool IsEdited() const { return !(mVariable == mShown); }
 
  private:
-  Type& mVariable;
-  Type mInitial;
-  Type mShown;
+  Held& mVariable;
+  Held mInitial;
+  Held mShown;
 };
 
 }  // namespace orx

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "forms/TextEntry.h"
+#include "forms/Fields.h"
 
 namespace orx {
 
@@ -32,12 +32,8 @@ struct NumberRule {
 /// Stands for the exact number that it was given while its text reads as the number shown, however much the text
 /// rounds; a text that the user has changed stands for what it reads. It refuses nothing by itself. Numbers are read
 /// and shown in the locale of the form's desktop.
-class NumberField {
+class NumberField : public FieldTypes<double, TextEntry, NumberRule> {
  public:
-  /// As FlagField.
-  using Type = double;
-  using Shown = TextEntry;
-  using Rule = NumberRule;
   /// The control must live as long; it is left as it is.
   explicit NumberField(TextEntry entry, NumberRule rule = {}) : mEntry(entry), mRule(std::move(rule)) {}
 

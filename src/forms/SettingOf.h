@@ -27,6 +27,7 @@ namespace orx {
 template <class FieldKind>
 class SettingOf final : public Setting, public FieldKind {
  public:
+  /// The type of the field's value.
   using Type = typename FieldKind::Type;
   using FieldKind::Show;
 

@@ -25,12 +25,8 @@ struct FontControls {
 
 /// Stands for the font that it was given, with what the user has edited of it. The size is checked when the focus
 /// leaves, and refused outside the sizes of the pages.
-class FontField {
+class FontField : public FieldTypes<Font, FontControls> {
  public:
-  /// As FlagField.
-  using Type = Font;
-  using Shown = FontControls;
-  using Rule = NoRule;
   /// The controls must live as long.
   explicit FontField(const FontControls& controls, NoRule = {});
 

@@ -280,10 +280,9 @@ TEST_F(FormsSetting, AStepOfTheDialogRunsAmongTheWrites) {
 }
 
 TEST_F(FormsSetting, AVariableIsASettingWithoutAControl) {
-  Make(WriteRule::WhenEdited);
+  bool& isOn = Make(WriteRule::WhenEdited).Remembered;
   Settings list(WriteRule::WhenEdited);
   Lamp* object = &lamp;
-  bool isOn = false;
   std::int32_t socket = 5;
   HeldSetting<bool> held(isOn, Part<Lamp>(list, object)(&Lamp::IsOn, &Lamp::IsOn));
   HeldSetting<std::int32_t> code(socket, Part<Lamp>(list, object)(&Lamp::Socket, &Lamp::Socket));
