@@ -1,4 +1,4 @@
-// A host in C++ that knows the dialogs by their type library: shows the properties of a layer and says what came of it.
+// A host in C++ that knows the dialogs by their type library: shows the properties of a layer and prints the result.
 #include <windows.h>
 
 #include <initguid.h>

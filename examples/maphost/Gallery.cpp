@@ -15,7 +15,7 @@ class Photographer final : public orx::DesktopHook {
  public:
   Photographer(NativeDesktop& desktop, std::filesystem::path folder) : mDesktop(desktop), mFolder(std::move(folder)) {}
 
-  /// What stands behind the name of each form in the name of its picture.
+  /// Comes after the name of the form in the name of its picture.
   void Suffix(const std::string& value) { mSuffix = value; }
 
   void Take(orx::Form& form) {

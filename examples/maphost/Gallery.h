@@ -1,4 +1,4 @@
-// Writes a picture of every dialog, without a person and without a screen.
+// Writes a picture of every dialog, with neither a user nor a screen.
 #pragma once
 
 #include <filesystem>

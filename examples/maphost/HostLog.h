@@ -1,4 +1,4 @@
-// What the demo writes down: results of calls, and what the call-back hears while a dialog is open.
+// The demo's log: results of calls, and what the call-back hears while a dialog is open.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ class HostLog {
   orx::TextBox& mBox;
 };
 
-/// Writes each notification down and has the map drawn again.
+/// Logs each notification and has the map redrawn.
 class HostCallBack final : public orx::IDialogCallBack {
  public:
   HostCallBack(HostLog& log, std::function<void()> redraw) : mLog(log), mRedraw(std::move(redraw)) {}

@@ -24,8 +24,8 @@ constexpr char kLostFile[] = "/maps/Tennessee/moved last year/ROADS.SHP";
 
 }  // namespace
 
-// What a dialog of the demo needs is a row here: the button, its handler, when it can be pressed, and the pictures that
-// the gallery takes.
+// Adding a dialog to the demo takes one row here: its button, its handler, when it can be pressed, and its picture in
+// the gallery.
 const std::vector<Dialog>& HostWindow::Dialogs() {
   using orx::CCommonMapDialogs;
   using Window = HostWindow;
@@ -157,7 +157,7 @@ void HostWindow::Form_Resize() {
   stack(chkModeless, 330, 180);
   stack(lblLanguage, 240, 60);
   stack(cboLanguage, 360, kMargin);
-  // In a low window the log is what gets smaller.
+  // In a low window it is the log that gets smaller.
   const int logTop = std::max(height - kMargin - kLogHeight, top);
   pctMap.Place({kMargin, kMargin, side - 2 * kMargin, logTop - 3 * kMargin - 240});
   lblLog.Place({kMargin, logTop - 300, 6000, 240});
@@ -280,7 +280,7 @@ std::string HostWindow::Translated(const std::string& text) const {
 
 std::vector<std::int32_t> HostWindow::ChooseLayers(const std::string& caption, bool several,
                                                    const std::string& question) {
-  // The whole map is no layer, so the first layer has the index 1.
+  // The whole map is not a layer, so the first layer has the index 1.
   orx::TextArray names{{}, 1};
   for (std::size_t i = 1; i < mChoices.size(); ++i) names.Items.push_back(mChoices[i].Name);
   std::vector<std::int32_t> chosen;
@@ -316,7 +316,7 @@ void HostWindow::cmdAddLayer_Click() {
 }
 
 void HostWindow::cmdLost_Click() {
-  // As a host does it for each file of a map that is not where the map says.
+  // As a host does for each file of a map that is not where the map says it is.
   std::string found;
   bool cancelAll = false;
   mDialogs.ShowFileNotFound(kLostFile, found, cancelAll);

@@ -29,14 +29,14 @@ enum class Need { Nothing, Layer, Labels, Data };
 
 /// One of the demo's dialogs.
 struct Dialog {
-  /// Where the button stands among all, counted row by row; in this order Tab walks them.
+  /// The place of the button among all, counted row by row, which is also the tab order.
   int Cell = 0;
   std::string Button;
   std::string Caption;
   std::function<void(HostWindow&)> Open;
   Need Needs = Need::Nothing;
   std::string ToolTip = {};
-  /// What stands behind the form's name in the name of its picture; none: it has no picture.
+  /// Comes after the form's name in the name of its picture; none for a dialog without one.
   std::optional<std::string> PictureSuffix = "";
 };
 
@@ -93,7 +93,7 @@ class HostWindow final : public orx::Form {
   void EnableDialogs();
   void DrawMap();
   orx::ShowMode Mode() const;
-  /// Shows a dialog for the chosen layer and writes its result down.
+  /// Shows a dialog for the chosen layer and logs its result.
   void ShowFor(const std::string& what, Member member);
   void cmdManager_Click();
   void cmdSettings_Click();
@@ -114,10 +114,10 @@ class HostWindow final : public orx::Form {
   const Choice& Chosen() const { return mChoices.at(static_cast<std::size_t>(cboLayer.ListIndex())); }
   void cmdAddLayer_Click();
   void cmdLost_Click();
-  /// Reads the files; what cannot be read is told.
+  /// Reads the files, and tells the user which cannot be read.
   void AddLayers(const std::vector<std::string>& files);
   void cboLanguage_Click();
-  /// Writes the result of a property dialog down, which may be open still, and of one that has closed.
+  /// Log the result of a property dialog, which may still be open, and of a dialog that has closed.
   void ReportPages(const std::string& what, std::int32_t result);
   void Report(const std::string& what, std::int32_t result);
   void Redraw();

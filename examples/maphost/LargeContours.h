@@ -1,4 +1,4 @@
-// A computation that takes its time: the contour lines of a large area, level by level.
+// A computation that takes some time: the contour lines of a large area, level by level.
 #pragma once
 
 #include <cstddef>

@@ -43,7 +43,7 @@ void Run(const Options& options) {
 
 }  // namespace
 
-// On Windows file names are more than the code page of a narrow command line can tell.
+// On Windows a narrow command line cannot hold all file names.
 #ifdef _WIN32
 int wmain(int argc, wchar_t** argv) {
 #else

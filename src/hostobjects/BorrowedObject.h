@@ -10,8 +10,8 @@ namespace orx {
 class BorrowedObject {
  public:
   virtual ~BorrowedObject() = default;
-  /// What a dialog holds on to while it is open, for objects that are adapters made for one call; null: nothing, the
-  /// host sees to it.
+  /// What a dialog holds on to while it is open, for objects that are adapters made for one call. Null when the host
+  /// keeps the object alive itself.
   virtual std::shared_ptr<const void> Lifetime() const { return nullptr; }
 };
 

@@ -3,8 +3,8 @@
 
 namespace orx {
 
-/// Runs the writes of two opposite edges, left and right or bottom and top, so that a host's extent is in order at each
-/// step: the edge in front goes first. `isForward`: the lower edge moves to a greater value.
+/// Runs the writes of two opposite edges, left and right or bottom and top, so that a host's extent is in order after
+/// each step: the edge in front goes first. `isForward` is true when the lower edge moves to a greater value.
 template <class WriteLower, class WriteUpper>
 void WriteInOrder(bool isForward, WriteLower&& writeLower, WriteUpper&& writeUpper) {
   if (isForward) writeUpper();

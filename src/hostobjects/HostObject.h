@@ -15,14 +15,13 @@ class HostInterface {
 };
 
 /// The base of every object that a host hands to a dialog. A host's class derives from this and from the interfaces it
-/// has, and is done. The library uses such objects and never owns them: the host keeps them alive while a dialog that
-/// was given them is open.
+/// has, and that is all. The library uses such objects and never owns them: the host keeps them alive while a dialog
+/// that was given them is open.
 class HostObject : public BorrowedObject {
  public:
-  /// For objects that have an interface on a part of theirs, through an adapter, or at times only: who answers for the
-  /// wanted one in their place. Asked for an interface that the object does not derive from; called by QueryKind only.
-  /// Null, or something without the wanted interface: the object does not support it. The answer is used as long as
-  /// the object.
+  /// Answers for an interface that the object does not derive from itself: one that a part of it or an adapter has, or
+  /// one that it has only at times. Null, or an answer without the wanted interface, means that the object does not
+  /// support it. The answer must live as long as the object. Called by QueryKind only.
   virtual HostInterface* ViewFor(const std::type_info& /*wanted*/) { return nullptr; }
 };
 

@@ -35,7 +35,7 @@ inline constexpr std::int32_t kEqualIntervals = 0;
 inline constexpr std::int32_t kAutomatic = 1;
 /// Classes of a given width; the end of the range follows.
 inline constexpr std::int32_t kEqualSteps = 6;
-/// Made by the user, as far as the host lets him.
+/// Made by the user, as far as the host allows it.
 inline constexpr std::int32_t kUserDefined = 7;
 }  // namespace classifymethod
 

@@ -5,7 +5,7 @@
 
 namespace orx {
 
-/// A host gives one to the process by modMain::FileCheck; it is not owned.
+/// Set for the whole process with modMain::FileCheck; not owned.
 class IFileCheck {
  public:
   virtual ~IFileCheck() = default;

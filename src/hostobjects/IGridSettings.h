@@ -76,7 +76,7 @@ class ShadeSettings2 : public ShadeSettings {
   virtual double MaxIntensity() const = 0;
   virtual void MaxIntensity(double value) = 0;
   /// Intensity in mid light in percent.
-  // A letter tells it from MinIntensity, on purpose.
+  // The name differs from MinIntensity by one letter on purpose.
   // NOLINTBEGIN(bugprone-virtual-near-miss)
   virtual double MidIntensity() const = 0;
   virtual void MidIntensity(double value) = 0;
@@ -141,10 +141,10 @@ class IIsolines : public HostInterface {
   virtual void LabelUseRangeColor(bool value) = 0;
   virtual bool LabelVisible() const = 0;
   virtual void LabelVisible(bool value) = 0;
-  /// Every how many class limits there is a line, 1 or more.
+  /// A line is drawn at every n-th class limit; this is n, 1 or more.
   virtual std::int32_t RangeStep() const = 0;
   virtual void RangeStep(std::int32_t value) = 0;
-  /// Whether all lines are labelled, or the longest of each limit alone.
+  /// Whether all lines are labelled, or only the longest at each limit.
   virtual bool LabelAllIsolines() const = 0;
   virtual void LabelAllIsolines(bool value) = 0;
   /// The line and the font of the labels; the host owns them.

@@ -68,7 +68,7 @@ class PropertyPage {
   /// Whether the client was changed since it was handed over, or since the flag was set to false.
   virtual bool IsDirty() const = 0;
   virtual void IsDirty(bool value) = 0;
-  /// Which entry the page shows first; of meaning to the legends page only.
+  /// Which entry the page shows first; only the legends page uses it.
   virtual std::int32_t StartUpIndex() const { return mStartUpIndex; }
   virtual void StartUpIndex(std::int32_t value) { mStartUpIndex = value; }
   /// Loads the client's values into the fields.
@@ -79,12 +79,12 @@ class PropertyPage {
   virtual void DiscardChanges() = 0;
   /// Writes the fields to the client, for Apply.
   virtual void ApplyChanges() = 0;
-  /// Whether the page's tab is the selected one, as a dialog with several pages tells it.
+  /// Whether the page's tab is the selected one; set by dialogs with several pages.
   virtual bool Selected() const { return mSelected; }
   virtual void Selected(bool value) { mSelected = value; }
 
-  /// Requests of the page to its dialog. A request that no dialog answers has no handler; the page then offers no
-  /// button for it.
+  /// What the page asks its dialog for. A request that the dialog does not answer has no handler, and the page then
+  /// has no button for it.
   Event<CharacterRequest&> CharacterRequested;
   Event<const std::string&> NameChanged;
   Event<BrowseRequest&> BrowseRequested;
@@ -93,7 +93,7 @@ class PropertyPage {
   Event<DataRequest&> ShadeRequested;
   Event<DataRequest&> IsolineRequested;
   Event<> DataStyleRequested;
-  /// With the language that the window for colour schemes is to speak; null for none.
+  /// With the language for the window for colour schemes; null for none.
   Event<ILanguage*> ColorsRequested;
   Event<GeoreferenceRequest&> GeoreferenceRequested;
 
@@ -108,7 +108,7 @@ enum class PageKind { Properties, LabelProperties, Coordinates, Legends, DataPro
 /// The name of a kind of page: "Properties", "LabelProperties", "DataProperties", ...
 const char* PageKindName(PageKind kind);
 
-/// Where a page is to stand: its controls go below a panel of that name and place (twips) in the parent.
+/// Where a page goes: its controls stand in a panel of that name and place (twips) in the parent.
 struct PageSite {
   Container& Parent;
   std::string Name;

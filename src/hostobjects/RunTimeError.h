@@ -1,4 +1,4 @@
-// The library's run-time error, as host objects raise it and as it reaches the host.
+// The library's run-time error, which host objects may throw and which reaches the host.
 #pragma once
 
 #include <cstdint>

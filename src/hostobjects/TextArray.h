@@ -1,4 +1,4 @@
-// An array of texts as a host has it.
+// An array of texts whose first index the host chooses.
 #pragma once
 
 #include <cstdint>

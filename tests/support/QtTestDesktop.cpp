@@ -335,9 +335,9 @@ class QtTestDesktop final : public TestDesktop {
 }  // namespace
 
 std::unique_ptr<TestDesktop> MakeTestDesktop() {
-  // No window of a test is to appear on a developer's screen, unless he asks for it.
+  // No window of a test is to appear on a developer's screen unless asked for.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Nor is a test to touch what the developer keeps in his settings.
+  // Nor is a test to touch a developer's own settings.
   static const QTemporaryDir settings;
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
   return std::make_unique<QtTestDesktop>();

@@ -108,7 +108,7 @@ class TestDesktop {
   virtual ~TestDesktop() = default;
   virtual Desktop& Get() = 0;
   virtual User& Person() = 0;
-  /// How many acts in a row a test may ask of the user, as fast as he is.
+  /// How many acts in a row a test may ask of this user, depending on its speed.
   virtual int Patience() const { return 10000; }
   /// Gives the number separators of the user's locale for this test.
   virtual void Separators(const numbers::Separators& value) = 0;

@@ -1,4 +1,4 @@
-// The parts of lines that a picture shows, so that what lies far beside it costs nothing and is drawn nowhere.
+// Cuts lines to the part that a picture shows, so that what lies far outside costs nothing.
 #pragma once
 
 #include <vector>

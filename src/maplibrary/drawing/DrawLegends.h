@@ -10,7 +10,7 @@
 
 namespace orx::maplibrary {
 
-/// Draws the visible legends; those of one corner stand one after the other towards the middle. A legend that has
+/// Draws the visible legends; several in one corner are stacked towards the middle. A legend that has
 /// nothing to explain (no visible layer, no range) is left out.
 void DrawLegends(const Map& map, const std::optional<ValueRange>& range, Canvas& canvas, Size size,
                  Lettering& lettering);

@@ -7,7 +7,7 @@
 
 namespace orx::maplibrary {
 
-/// What stands outside of the view is left out. `pixelsPerPoint` is the scale of the lines.
+/// What lies outside the view is left out. `pixelsPerPoint` is the scale of the lines.
 void DrawShapes(const VectorLayer& layer, const MapView& view, Canvas& canvas, double pixelsPerPoint);
 
 }  // namespace orx::maplibrary

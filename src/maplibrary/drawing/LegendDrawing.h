@@ -11,19 +11,19 @@ inline constexpr int kLegendPadding = 8;
 inline constexpr int kLegendSpace = 6;
 inline constexpr Color kLegendEdge = {120, 120, 120};
 
-/// Whole pixels; a text of endless length is as wide as any picture.
+/// In whole pixels; however long a text is, it counts as no wider than a picture can be.
 int Ceiled(double length);
 
 /// A line around a place.
 void DrawBox(Canvas& canvas, const Rect& place, Color pen);
 
-/// Measures and draws one legend; what it is made for must live as long.
+/// Measures and draws one legend. What it was made with must outlive it.
 class LegendDrawing {
  public:
   LegendDrawing(const Legend& legend, Canvas& canvas, Lettering& lettering);
   virtual ~LegendDrawing() = default;
 
-  /// Nothing is there to explain.
+  /// True when there is nothing to explain.
   virtual bool IsEmpty() const = 0;
   /// In pixels.
   Size Measure() const;

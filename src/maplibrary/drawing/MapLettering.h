@@ -13,14 +13,15 @@ class Lettering {
  public:
   Lettering(Canvas& canvas, double pixelsPerPoint) : mCanvas(canvas), mPixelsPerPoint(pixelsPerPoint) {}
 
-  /// Width of a text in pixels after the letter widths of common sans-serif fonts: a drawing has no font to measure.
+  /// Width of a text in pixels, estimated from the letter widths of common sans-serif fonts: a drawing has no font to
+  /// measure with.
   double WidthOf(const std::string& text, const Font& font) const;
   /// Height of a line in pixels.
   double HeightOf(const Font& font) const { return font.Size * mPixelsPerPoint * 1.2; }
   double Pixels(double points) const { return points * mPixelsPerPoint; }
 
   void Draw(const PixelPoint& center, const std::string& text, const Font& font, Color pen, double rotation = 0);
-  /// With white around the letters, to be read on any ground.
+  /// With white around the letters, so that they can be read on any background.
   void DrawHaloed(const PixelPoint& center, const std::string& text, const Font& font, Color pen, double rotation = 0);
 
  private:

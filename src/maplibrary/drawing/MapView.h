@@ -1,4 +1,4 @@
-// Where ground and pixels meet while a map is shown: places of the one in the other.
+// Converts between the ground and the pixels of a shown map.
 #pragma once
 
 #include "forms/Geometry.h"
@@ -19,7 +19,7 @@ class MapView {
   /// The ground is an upright rectangle (see Normalised); `size` in pixels.
   MapView(const GroundRect& window, Size size);
 
-  /// Nothing can be shown: the window or the picture is empty.
+  /// True when nothing can be shown: the window or the picture is empty.
   bool IsEmpty() const { return mPixels.Width <= 0 || mPixels.Height <= 0; }
   const GroundRect& Window() const { return mWindow; }
   /// The pixels that the window fills.

@@ -11,7 +11,7 @@ namespace orx::maplibrary {
 /// How the value between cell centres is found: that of the cell, or blended from the four nearest centres.
 enum class Sampling { Nearest, Blended };
 
-/// A wholly transparent image; one without pixels when a side is not more than 0.
+/// A fully transparent image; without pixels when a side is 0 or less.
 Image BlankImage(Size size);
 
 /// Paints a grid over an image whose edges are the sides of `window`. Pixels outside the grid's place and on cells

@@ -11,7 +11,7 @@ namespace orx::maplibrary {
 /// The colour of a class, counted from 0, of `count` classes.
 Color ClassColor(std::int32_t classIndex, std::int32_t count);
 
-/// Made for one picture; the data must live as long.
+/// Made for one picture; the data must outlive it.
 class ValueColors {
  public:
   /// `range` is the range of colours without steps; null data have no classes and no special values.
@@ -31,7 +31,7 @@ class ValueColors {
   ValueRange mLimits;
   bool mHasSpecialRanges;
   bool mOutsideIsMissing;
-  /// The classes, or the ramp in steps that are finer than its colours differ.
+  /// The classes, or the ramp in steps too fine for its colours to show them.
   std::vector<Color> mColors;
 };
 

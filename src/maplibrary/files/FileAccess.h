@@ -11,7 +11,7 @@
 
 namespace orx::maplibrary {
 
-/// The path that a UTF-8 text names. Throws RunTimeError when it is no text that can be a path.
+/// The path that a UTF-8 text names. Throws RunTimeError when the text cannot be a path.
 std::filesystem::path PathOf(const std::string& utf8);
 
 /// Name of a file without folder and extension, UTF-8: "jacksboro" for "data/jacksboro.bil". Throws as PathOf does.
@@ -31,7 +31,7 @@ std::optional<double> NumberFrom(std::string_view text);
 /// The text in quotes for an error, cut when long, strange bytes replaced.
 std::string Quoted(std::string_view text);
 
-/// Sides and cells beyond this are no places on any ground.
+/// Sides and cells beyond this cannot be places on any ground.
 inline constexpr double kMaxCoordinate = 1e15;
 
 }  // namespace orx::maplibrary

@@ -34,7 +34,7 @@ struct GridData {
   double CellHeight = 1;
   /// The centre of the upper left cell, not its corner.
   GroundPoint UpperLeft;
-  /// The value that stood for "no value" in the file, kept for display. The cells themselves hold NaN instead of it.
+  /// The value that stands for "no value" in the file, kept for display. The cells hold NaN instead.
   std::optional<double> NoData;
   /// Rows * Columns values.
   std::vector<double> Values;

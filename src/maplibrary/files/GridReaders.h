@@ -8,7 +8,7 @@
 namespace orx::maplibrary {
 
 /// ESRI .bil with its header of the same name beside it. Sizes and places that the header leaves out have the format's
-/// own defaults; unknown fields are passed over. Throws RunTimeError.
+/// own defaults; unknown fields are ignored. Throws RunTimeError.
 GridData ReadBil(const std::filesystem::path& path);
 
 /// ESRI ASCII grid. Without NODATA_VALUE, -9999 stands for no value. Throws RunTimeError.

@@ -11,7 +11,7 @@ struct GroundPoint {
   bool operator==(const GroundPoint&) const = default;
 };
 
-/// A rectangle by its sides. Left may lie right of Right, and Bottom above Top; what lies in it then stands mirrored.
+/// A rectangle by its sides. Left may be right of Right, and Bottom above Top; what lies in it is then mirrored.
 struct GroundRect {
   double Left = 0;
   double Right = 0;

@@ -8,7 +8,7 @@
 
 namespace orx::maplibrary {
 
-/// The shapes of a file in their order, empty ones left out; heights and measures are passed over. Throws RunTimeError
+/// The shapes of a file in their order, empty ones left out; heights and measures are ignored. Throws RunTimeError
 /// with the file and the reason: no such file, not readable, no shape file, a record that does not fit.
 std::vector<Shape> ReadShapeFile(const std::filesystem::path& path);
 

@@ -6,8 +6,8 @@
 
 namespace orx::maplibrary {
 
-/// The colour at `share` of the way from the lowest (0) to the highest value (1); shares beyond are cut, NaN counts as
-/// 0.
+/// The colour at `share` of the way from the lowest (0) to the highest value (1); shares outside are clamped, NaN
+/// counts as 0.
 Color ColorAt(double share);
 
 /// Where `value` lies in the range, from 0 to 1. The middle of a range without width.

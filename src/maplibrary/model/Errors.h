@@ -8,7 +8,7 @@
 
 namespace orx::maplibrary {
 
-/// Throws "Subscript out of range: ..." unless first <= index <= last. `what` names the counted things in singular.
+/// Throws "Subscript out of range: ..." unless first <= index <= last. `what` names one of the counted things.
 void RequireIndex(const char* what, std::int32_t index, std::int32_t first, std::int32_t last);
 
 /// Throws "<name> must be a finite number." for infinity and NaN.

@@ -41,7 +41,7 @@ class LabelFont final : public ILabelFont {
   orx::Color Color() const override { return mColor; }
   void Color(orx::Color value) override { mColor = value; }
 
-  /// As drawings name it.
+  /// As drawings describe it.
   Font Face() const;
 
  private:
@@ -78,7 +78,7 @@ class GridIsolines final : public IIsolines {
   const LineStyle& Pen() const { return mLine; }
   const maplibrary::LabelFont& Lettering() const { return mFont; }
 
-  /// Nothing would be drawn.
+  /// True when nothing would be drawn.
   bool IsInvisible() const { return mLine.Style() == LineStyle::kInvisible && !mLabelVisible; }
 
  private:

@@ -21,7 +21,7 @@ class GridShade final : public ShadeSettings2 {
   void Altitude(std::int32_t value) override;
   std::int32_t FirstShadeIndex() const override { return mFirstIndex; }
   void FirstShadeIndex(std::int32_t value) override;
-  /// Follows the number of shades, which is all that the drawing needs.
+  /// Sets the number of shades: the drawing knows no other count.
   void ShadeCount(std::int32_t value) override { NrOfShades(value); }
   std::int32_t Azimuth() const override { return mAzimuth; }
   void Azimuth(std::int32_t value) override;

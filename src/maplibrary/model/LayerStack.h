@@ -15,7 +15,7 @@ class LayerStack {
  public:
   std::int32_t Count() const { return static_cast<std::int32_t>(mLayers.size()); }
   MapLayer& At(std::int32_t index) const;
-  /// Puts a layer behind the last one, where it is drawn on top.
+  /// Adds a layer after the last one, so that it is drawn on top.
   MapLayer& Add(std::unique_ptr<MapLayer> layer);
   bool Remove(std::int32_t index);
   /// Changes places with the layer before it; False for the first.

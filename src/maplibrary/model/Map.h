@@ -21,7 +21,7 @@ class Map : public HostObject, public IMap, public ILegends, private PlacedExten
   /// A map without layers, with an elevation legend (bottom right) and a layer legend (top left).
   explicit Map(std::string name = {});
 
-  /// The map is an extent too, but for dialogs only: for others its members are those of a map.
+  /// Answers for the extent, which is a private base of the map.
   HostInterface* ViewFor(const std::type_info& wanted) override;
 
   std::int32_t LayerCount() override { return mLayers.Count(); }
@@ -38,7 +38,7 @@ class Map : public HostObject, public IMap, public ILegends, private PlacedExten
   maplibrary::Legend& Legend(std::int32_t index) override;
   maplibrary::Legend& AddLegend(LegendKind kind, const std::string& title, LegendCorner corner);
 
-  /// Raised when a layer was added from a file, removed or moved, so that who shows the map can draw it anew.
+  /// Raised when a layer was added from a file, removed or moved, so that whoever shows the map can redraw it.
   Event<> Changed;
 
   std::string Name() const { return mName; }

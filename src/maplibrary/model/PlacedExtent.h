@@ -25,7 +25,7 @@ class PlacedExtent : public IExtent {
   bool IsPlaced() const { return mPlace.has_value(); }
   /// Sets all four sides.
   void Place(const GroundRect& place);
-  /// Follows again what it surrounds.
+  /// Has it follow what it surrounds again.
   void Unplace() { mPlace.reset(); }
 
  protected:
