@@ -66,6 +66,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// Form_Release follows when the outermost act ends. Acts are as cheap as a counter.
   class Act {
    public:
+    /// One more act of the form.
     explicit Act(Form& form);
     ~Act();
     Act(const Act&) = delete;

@@ -28,6 +28,7 @@ class FormGate {
   /// While one lives, what happens to the native controls is the program's doing and not reported.
   class Quiet {
    public:
+    /// Nothing is reported from here on.
     explicit Quiet(FormGate& gate) : mGate(gate) { ++mGate.mQuiet; }
     ~Quiet() { --mGate.mQuiet; }
     Quiet(const Quiet&) = delete;
@@ -40,6 +41,7 @@ class FormGate {
   /// Stands for a native event that is being dealt with, and keeps the dialog in memory.
   class Busy {
    public:
+    /// One more event is being dealt with.
     explicit Busy(FormGate& gate) : mGate(gate) { ++mGate.mDepth; }
     ~Busy() { mGate.Leave(); }
     Busy(const Busy&) = delete;
