@@ -10,7 +10,7 @@
 #include "desktops/headless/HeadlessDesktop.h"
 #include "desktops/qt/QtDesktop.h"
 #include "hostobjects/IMap.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "propertydialogs/frmMapSettings.h"
 #include "service/CCommonMapDialogs.h"
 
@@ -22,16 +22,26 @@ constexpr int kTiledLayers = 500;
 /// The row in the middle that the acts are done on.
 constexpr int kMiddle = kLayers / 2;
 
-/// A map, or a layer of one, as plain as a host can make it.
-class PlainMap final : public HostObject, public IMap {
+/// A layer as plain as a host can make it.
+class PlainLayer : public HostObject {
  public:
-  explicit PlainMap(std::string name) : mName(std::move(name)) {}
+  explicit PlainLayer(std::string name) : mName(std::move(name)) {}
 
-  void* Query(Kind kind) override { return kind == Kind::Map && !mLayers.empty() ? static_cast<IMap*>(this) : nullptr; }
+  const std::string& Name() const { return mName; }
+
+ private:
+  std::string mName;
+};
+
+/// A map, or a layer with tiles.
+class PlainMap final : public PlainLayer, public IMap {
+ public:
+  using PlainLayer::PlainLayer;
+
   std::int32_t LayerCount() override { return static_cast<std::int32_t>(mLayers.size()); }
-  std::string LayerName(std::int32_t index) override { return At(index)->mName; }
+  std::string LayerName(std::int32_t index) override { return At(index)->Name(); }
   HostObject* Layer(std::int32_t index) override { return At(index).get(); }
-  HostObject* AddLayer(const std::string& path, const std::string&) override { return &Add(path); }
+  HostObject* AddLayer(const std::string& path, const std::string&) override { return &Add<PlainLayer>(path); }
   bool RemoveLayer(std::int32_t index) override {
     // Put back at the end, so that the map stays as large as it is.
     std::rotate(mLayers.begin() + (index - 1), mLayers.begin() + index, mLayers.end());
@@ -44,25 +54,31 @@ class PlainMap final : public HostObject, public IMap {
   bool MoveLayerDown(std::int32_t index) override { return MoveLayerUp(index + 1); }
   IExtent* Extent() override { return nullptr; }
 
-  PlainMap& Add(std::string name) {
-    mLayers.push_back(std::make_unique<PlainMap>(std::move(name)));
-    return *mLayers.back();
+  template <class Layer>
+  Layer& Add(std::string name) {
+    auto layer = std::make_unique<Layer>(std::move(name));
+    Layer& added = *layer;
+    mLayers.push_back(std::move(layer));
+    return added;
   }
 
  private:
-  std::unique_ptr<PlainMap>& At(std::int32_t index) { return mLayers.at(static_cast<std::size_t>(index) - 1); }
+  std::unique_ptr<PlainLayer>& At(std::int32_t index) { return mLayers.at(static_cast<std::size_t>(index) - 1); }
 
-  std::string mName;
-  std::vector<std::unique_ptr<PlainMap>> mLayers;
+  std::vector<std::unique_ptr<PlainLayer>> mLayers;
 };
 
 std::unique_ptr<PlainMap> MakeLargeMap() {
   auto map = std::make_unique<PlainMap>("Large map");
   for (int i = 1; i <= kLayers; ++i) {
-    PlainMap& layer = map->Add("Layer of the large map " + std::to_string(i));
-    if (i % (kLayers / kTiledLayers) != 0) continue;
-    layer.Add("First tile");
-    layer.Add("Second tile");
+    const std::string name = "Layer of the large map " + std::to_string(i);
+    if (i % (kLayers / kTiledLayers) != 0) {
+      map->Add<PlainLayer>(name);
+      continue;
+    }
+    auto& tiled = map->Add<PlainMap>(name);
+    tiled.Add<PlainLayer>("First tile");
+    tiled.Add<PlainLayer>("Second tile");
   }
   return map;
 }
@@ -127,7 +143,7 @@ class Opener final : public DesktopHook {
   }
 
   Desktop& mDesktop;
-  maplibrary::PageFactory mPages;
+  pages::PageFactory mPages;
   CCommonMapDialogs mDialogs;
   std::function<void(frmMapSettings&)> mInside;
 };

@@ -8,7 +8,7 @@
 
 #include "desktops/headless/HeadlessDesktop.h"
 #include "desktops/qt/QtDesktop.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "pickers/frmListSelection.h"
 #include "service/CCommonMapDialogs.h"
 
@@ -51,7 +51,7 @@ class ListOpener final : public DesktopHook {
   }
 
   Desktop& mDesktop;
-  maplibrary::PageFactory mPages;
+  pages::PageFactory mPages;
   CCommonMapDialogs mDialogs;
   bool mTypes;
 };

@@ -5,8 +5,8 @@
 #include "desktops/headless/HeadlessDesktop.h"
 #include "desktops/qt/QtDesktop.h"
 #include "forms/Button.h"
-#include "maplibrary/SampleMap.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "maplibrary/model/SampleMap.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 
 namespace orx::bench {
@@ -22,7 +22,7 @@ struct Host final : DesktopHook {
     modal.ShownForm->ButtonFor(ButtonRole::Cancel)->UserPress();
   }
 
-  maplibrary::PageFactory Pages;
+  pages::PageFactory Pages;
   std::unique_ptr<maplibrary::Map> Map = maplibrary::MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil");
   CCommonMapDialogs Dialogs;
   std::function<void(const Form&)> Seen;

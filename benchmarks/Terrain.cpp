@@ -1,10 +1,10 @@
 // What a cell of the demo's terrain costs to shade, to contour and to paint.
 #include <benchmark/benchmark.h>
 
-#include "maplibrary/Contours.h"
-#include "maplibrary/DrawIsolines.h"
-#include "maplibrary/RenderGrid.h"
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/drawing/Contours.h"
+#include "maplibrary/drawing/DrawIsolines.h"
+#include "maplibrary/drawing/PaintGrid.h"
+#include "maplibrary/model/SampleMap.h"
 
 namespace orx::bench {
 namespace {

@@ -19,8 +19,7 @@ foreach(header IN LISTS headers)
 endforeach()
 
 add_library(headers_alone OBJECT ${sources})
-target_include_directories(headers_alone PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(headers_alone PRIVATE -O0 -g0)
-target_link_libraries(headers_alone PRIVATE orx_options $<TARGET_NAME_IF_EXISTS:orxMDlgCom>
+target_link_libraries(headers_alone PRIVATE orx_internals $<TARGET_NAME_IF_EXISTS:orxMDlgCom>
   $<TARGET_NAME_IF_EXISTS:Qt6::Widgets>)
 set_target_properties(headers_alone PROPERTIES UNITY_BUILD OFF)

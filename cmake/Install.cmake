@@ -2,20 +2,23 @@
 # also the component and its type library.
 include(CMakePackageConfigHelpers)
 
-set(ORX_INCLUDE ${CMAKE_INSTALL_INCLUDEDIR}/OrvexMapDialogs2)
 set(ORX_SHARE ${CMAKE_INSTALL_DATADIR}/OrvexMapDialogs2)
 set(ORX_PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/OrvexMapDialogs2)
 
 set(libraries orxMDlg orxMapLibrary)
-install(DIRECTORY src/ DESTINATION ${ORX_INCLUDE} FILES_MATCHING PATTERN "*.h"
-  PATTERN "com" EXCLUDE PATTERN "desktops/qt" EXCLUDE PATTERN "desktops/win32" EXCLUDE)
+set(foreign_headers)
 if(TARGET orxMDlgQt)
   list(APPEND libraries orxMDlgQt)
-  install(FILES src/desktops/qt/QtDesktop.h DESTINATION ${ORX_INCLUDE}/desktops/qt)
+else()
+  list(APPEND foreign_headers PATTERN QtDesktop.h EXCLUDE)
 endif()
+if(NOT WIN32)
+  list(APPEND foreign_headers PATTERN Win32Desktop.h EXCLUDE)
+endif()
+# The headers of desktops that this build does not have stay away.
+install(DIRECTORY ${ORX_PUBLIC_INCLUDE}/orx DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${foreign_headers})
 if(TARGET orxMDlgServer)
   list(APPEND libraries orxMDlgWin32)
-  install(FILES src/desktops/win32/Win32Desktop.h DESTINATION ${ORX_INCLUDE}/desktops/win32)
   install(FILES $<TARGET_FILE:orxMDlgServer> DESTINATION ${CMAKE_INSTALL_BINDIR})
   install(FILES ${PROJECT_BINARY_DIR}/typelib/OrvexMapDialogs2.tlb ${PROJECT_BINARY_DIR}/typelib/OrvexMapDialogs2.h
     src/com/OrvexMapDialogs2.idl src/com/HostObjects.idl DESTINATION ${ORX_SHARE}/typelib)
@@ -36,7 +39,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2Config.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2ConfigVersion.cmake DESTINATION ${ORX_PACKAGE})
 
 # From the folder of the pkg-config files, so that an installation can be moved.
-file(RELATIVE_PATH ORX_PC_INCLUDE /p/${CMAKE_INSTALL_LIBDIR}/pkgconfig /p/${ORX_INCLUDE})
+file(RELATIVE_PATH ORX_PC_INCLUDE /p/${CMAKE_INSTALL_LIBDIR}/pkgconfig /p/${CMAKE_INSTALL_INCLUDEDIR})
 configure_file(cmake/OrvexMapDialogs2.pc.in OrvexMapDialogs2.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/OrvexMapDialogs2.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 if(TARGET orxMDlgQt)

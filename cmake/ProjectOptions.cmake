@@ -38,6 +38,11 @@ if(ORX_SANITIZE)
   set(ORX_FUZZED $<$<CXX_COMPILER_ID:Clang>:-fsanitize=fuzzer-no-link>)
 endif()
 
+# For the project's own sources, which include any header under src/; hosts have the public ones alone.
+add_library(orx_internals INTERFACE)
+target_include_directories(orx_internals INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_link_libraries(orx_internals INTERFACE orx_options)
+
 # orx_add_library(NAME ALIAS DIRS...): a static library of all sources in the named folders of src/.
 function(orx_add_library name)
   set(sources)
@@ -47,11 +52,12 @@ function(orx_add_library name)
   endforeach()
   add_library(${name} STATIC ${sources})
   add_library(OrvexMapDialogs2::${name} ALIAS ${name})
-  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:orx_options>)
+  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:orx_internals>)
+  add_dependencies(${name} orx_public_headers)
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_compile_options(${name} PRIVATE ${ORX_FUZZED})
   target_include_directories(${name} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/OrvexMapDialogs2>)
+    $<BUILD_INTERFACE:${ORX_PUBLIC_INCLUDE}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()

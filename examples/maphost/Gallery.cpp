@@ -3,8 +3,9 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "maplibrary/GridFields.h"
+#include "maplibrary/files/FileAccess.h"
 #include "pickers/frmProgress.h"
+#include "text/Paths.h"
 
 namespace maphost {
 namespace {
@@ -18,7 +19,7 @@ class Photographer final : public orx::DesktopHook {
   void Suffix(const std::string& value) { mSuffix = value; }
 
   void Take(orx::Form& form) {
-    const std::string file = orx::maplibrary::Utf8(mFolder / (form.Name() + mSuffix + ".png"));
+    const std::string file = orx::Utf8(mFolder / (form.Name() + mSuffix + ".png"));
     if (!mDesktop.SavePicture(form, file)) throw std::runtime_error("Cannot write " + file);
     std::cout << file << '\n';
   }
@@ -50,11 +51,12 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     window->cboLanguage.UserPick(language);
     desktop.ProcessPendingEvents();
     photographer.Take(*window);
-    for (orx::Button* button : {&window->cmdManager, &window->cmdSettings, &window->cmdData, &window->cmdProperties,
-                                &window->cmdLabels, &window->cmdSymbol, &window->cmdCoordinates, &window->cmdLegends,
-                                &window->cmdClassify, &window->cmdOptions, &window->cmdShade, &window->cmdIsolines,
-                                &window->cmdColors, &window->cmdGeoreference, &window->cmdJump, &window->cmdLost})
-      button->UserPress();
+    for (const Dialog& dialog : HostWindow::Dialogs()) {
+      if (!dialog.PictureSuffix) continue;
+      photographer.Suffix(*dialog.PictureSuffix + suffix);
+      dynamic_cast<orx::Button&>(*window->Find(dialog.Button)).UserPress();
+    }
+    photographer.Suffix(suffix);
     // The host keeps the progress window open as it works.
     const auto progress = std::make_shared<orx::frmProgress>(desktop);
     progress->Language(languages.Language(language));
@@ -63,8 +65,6 @@ void WriteGallery(NativeDesktop& desktop, orx::maplibrary::Map& map, const Langu
     desktop.ProcessPendingEvents();
     photographer.Take(*progress);
     progress->Unload();
-    photographer.Suffix("-several" + suffix);
-    window->cmdShowHide.UserPress();
   }
   window->UserClose();
   desktop.Hook(nullptr);

@@ -4,11 +4,11 @@
 
 #include "examples/maphost/LargeContours.h"
 #include "hostobjects/IData.h"
-#include "maplibrary/CharacterText.h"
-#include "maplibrary/DrawMap.h"
-#include "maplibrary/LayerData.h"
+#include "maplibrary/drawing/DrawMap.h"
+#include "maplibrary/model/LayerData.h"
 #include "service/CCommonProgressDialog.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
+#include "text/CharacterText.h"
 
 namespace maphost {
 namespace {
@@ -24,29 +24,60 @@ constexpr char kLostFile[] = "/maps/Tennessee/moved last year/ROADS.SHP";
 
 }  // namespace
 
+// What a dialog of the demo needs is a row here: the button, its handler, when it can be pressed, and the pictures that
+// the gallery takes.
+const std::vector<Dialog>& HostWindow::Dialogs() {
+  using orx::CCommonMapDialogs;
+  using Window = HostWindow;
+  static const std::vector<Dialog> dialogs = {
+      {0, "cmdManager", "Layer manage&r...", &Window::cmdManager_Click},
+      {1, "cmdSettings", "&Settings...", &Window::cmdSettings_Click},
+      {6, "cmdData", "Da&ta...", [](Window& it) { it.ShowFor("Data", &CCommonMapDialogs::ShowDataProperties); },
+       Need::Data},
+      {2, "cmdProperties", "&Properties...",
+       [](Window& it) { it.ShowFor("Properties", &CCommonMapDialogs::ShowProperties); }, Need::Layer},
+      {3, "cmdLabels", "&Labels...", [](Window& it) { it.ShowFor("Labels", &CCommonMapDialogs::ShowLabels); },
+       Need::Labels},
+      {4, "cmdSymbol", "Sym&bol...", &Window::cmdSymbol_Click, Need::Layer, "Picks the character that marks points"},
+      {5, "cmdCoordinates", "&Coordinates...",
+       [](Window& it) { it.ShowFor("Coordinates", &CCommonMapDialogs::ShowCoordinates); }},
+      {12, "cmdLegends", "Le&gends...", &Window::cmdLegends_Click},
+      {7, "cmdClassify", "Classi&fication...", &Window::cmdClassify_Click, Need::Data},
+      {8, "cmdOptions", "Data &options...", &Window::cmdOptions_Click, Need::Data},
+      {9, "cmdShade", "Relief s&hading...",
+       [](Window& it) { it.ShowGridDialog("Relief shading", orx::modMain::ShowShadeDialog); }, Need::Data},
+      {10, "cmdIsolines", "&Isolines...",
+       [](Window& it) { it.ShowGridDialog("Isolines", orx::modMain::ShowIsolineDialog); }, Need::Data},
+      {11, "cmdContours", "Contours o&ver tiles...", &Window::cmdContours_Click, Need::Data,
+       "Computes the contours of a large area, with progress and Cancel", std::nullopt},
+      {13, "cmdColors", "Color sche&mes...", &Window::cmdColors_Click},
+      {14, "cmdGeoreference", "Georefere&nce...", &Window::cmdGeoreference_Click, Need::Nothing,
+       "Moves the map on the ground"},
+      {15, "cmdJump", "&Jump to layer...", &Window::cmdJump_Click},
+      {18, "cmdLost", "Missing fil&e...", &Window::cmdLost_Click, Need::Nothing, "Opens a layer whose file is gone"},
+      {17, "cmdAddLayer", "A&dd layer...", &Window::cmdAddLayer_Click, Need::Nothing, {}, std::nullopt},
+      {16, "cmdShowHide", "Sho&w/hide...", &Window::cmdShowHide_Click, Need::Nothing, {}, "-several"}};
+  return dialogs;
+}
+
+DialogButton::DialogButton(HostWindow& window, const Dialog& dialog)
+    : Opens(dialog), Face(window, dialog.Button, {.Caption = dialog.Caption, .ToolTipText = dialog.ToolTip}) {
+  Face.Click = [&window, &dialog] { dialog.Open(window); };
+}
+
+std::deque<DialogButton> HostWindow::MakeButtons() {
+  std::vector<const Dialog*> dialogs;
+  for (const Dialog& dialog : Dialogs()) dialogs.push_back(&dialog);
+  std::ranges::sort(dialogs, {}, &Dialog::Cell);
+  std::deque<DialogButton> buttons;
+  for (const Dialog* const dialog : dialogs) buttons.emplace_back(*this, *dialog);
+  return buttons;
+}
+
 HostWindow::HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const Languages& languages)
     : Form(desktop, "frmHost", {.Caption = "Map", .Client = {15600, 10800}, .Border = orx::BorderStyle::Sizable}),
       mMap(map),
       mLanguages(languages) {
-  cmdManager.Click = [this] { cmdManager_Click(); };
-  cmdSettings.Click = [this] { cmdSettings_Click(); };
-  cmdData.Click = [this] { ShowFor("Data", &orx::CCommonMapDialogs::ShowDataProperties); };
-  cmdProperties.Click = [this] { ShowFor("Properties", &orx::CCommonMapDialogs::ShowProperties); };
-  cmdLabels.Click = [this] { ShowFor("Labels", &orx::CCommonMapDialogs::ShowLabels); };
-  cmdCoordinates.Click = [this] { ShowFor("Coordinates", &orx::CCommonMapDialogs::ShowCoordinates); };
-  cmdLegends.Click = [this] { cmdLegends_Click(); };
-  cmdGeoreference.Click = [this] { cmdGeoreference_Click(); };
-  cmdSymbol.Click = [this] { cmdSymbol_Click(); };
-  cmdClassify.Click = [this] { cmdClassify_Click(); };
-  cmdOptions.Click = [this] { cmdOptions_Click(); };
-  cmdShade.Click = [this] { ShowGridDialog("Relief shading", orx::modMain::ShowShadeDialog); };
-  cmdIsolines.Click = [this] { ShowGridDialog("Isolines", orx::modMain::ShowIsolineDialog); };
-  cmdContours.Click = [this] { cmdContours_Click(); };
-  cmdColors.Click = [this] { cmdColors_Click(); };
-  cmdAddLayer.Click = [this] { cmdAddLayer_Click(); };
-  cmdLost.Click = [this] { cmdLost_Click(); };
-  cmdJump.Click = [this] { cmdJump_Click(); };
-  cmdShowHide.Click = [this] { cmdShowHide_Click(); };
   cboLayer.Click = [this] { EnableDialogs(); };
   cboLanguage.Click = [this] { cboLanguage_Click(); };
   mMap.Changed = [this] {
@@ -85,11 +116,21 @@ void HostWindow::FillLanguages() {
 }
 
 void HostWindow::EnableDialogs() {
-  orx::HostObject* const object = Chosen().Object;
-  for (orx::Button* button : {&cmdProperties, &cmdSymbol}) button->Enabled(QueryKind<orx::ILayer>(object) != nullptr);
-  cmdLabels.Enabled(QueryKind<orx::ILabels>(object) != nullptr);
-  for (orx::Button* button : {&cmdData, &cmdClassify, &cmdOptions, &cmdShade, &cmdIsolines, &cmdContours})
-    button->Enabled(ChosenData() != nullptr);
+  for (DialogButton& button : Buttons) button.Face.Enabled(ChosenHas(button.Opens.Needs));
+}
+
+bool HostWindow::ChosenHas(Need need) const {
+  switch (need) {
+    case Need::Layer:
+      return QueryKind<orx::ILayer>(Chosen().Object) != nullptr;
+    case Need::Labels:
+      return QueryKind<orx::ILabels>(Chosen().Object) != nullptr;
+    case Need::Data:
+      return ChosenData() != nullptr;
+    case Need::Nothing:
+      break;
+  }
+  return true;
 }
 
 void HostWindow::Form_Resize() {
@@ -105,15 +146,11 @@ void HostWindow::Form_Resize() {
   stack(cboLayer, 360, 240);
   constexpr int kGap = 60;
   constexpr int kButtonHeight = 375;
-  orx::Button* const buttons[] = {&cmdManager,     &cmdSettings, &cmdProperties, &cmdLabels,  &cmdSymbol,
-                                  &cmdCoordinates, &cmdData,     &cmdClassify,   &cmdOptions, &cmdShade,
-                                  &cmdIsolines,    &cmdContours, &cmdLegends,    &cmdColors,  &cmdGeoreference,
-                                  &cmdJump,        &cmdShowHide, &cmdAddLayer,   &cmdLost};
   const int half = (kSideWidth - kGap) / 2;
   bool isLeft = true;
-  for (orx::Button* const button : buttons) {
-    button->Place({isLeft ? side : side + half + kGap, top, half, kButtonHeight});
-    if (!isLeft || button == &cmdLost) top += kButtonHeight + kGap;
+  for (DialogButton& button : Buttons) {
+    button.Face.Place({isLeft ? side : side + half + kGap, top, half, kButtonHeight});
+    if (!isLeft || &button == &Buttons.back()) top += kButtonHeight + kGap;
     isLeft = !isLeft;
   }
   top += 60;
@@ -168,13 +205,13 @@ void HostWindow::cmdSymbol_Click() {
   auto& layer = *QueryKind<orx::ILayer>(choice.Object);
   const std::int32_t before = layer.SymbolCharacter();
   std::string font = layer.SymbolFont();
-  std::int32_t code = orx::maplibrary::FontCode(before);
+  std::int32_t code = orx::FontCode(before);
   double rotation = layer.SymbolRotation();
   bool changed = false;
   mDialogs.ShowCharacterSelection(font, code, rotation, changed, {}, {this, 0});
   if (changed) {
     layer.SymbolFont(font);
-    layer.SymbolCharacter(orx::maplibrary::CharacterOf(code, before));
+    layer.SymbolCharacter(orx::CharacterOf(code, before));
     layer.SymbolRotation(rotation);
   }
   Report("Symbol of " + choice.Name, changed ? -1 : 0);

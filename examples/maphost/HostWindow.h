@@ -2,6 +2,12 @@
 // a form of the library itself, so the demo runs on every desktop.
 #pragma once
 
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "examples/maphost/HostLog.h"
 #include "examples/maphost/Languages.h"
 #include "forms/Button.h"
@@ -10,14 +16,43 @@
 #include "forms/Form.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "maplibrary/Map.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "maplibrary/model/Map.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 
 namespace maphost {
 
+class HostWindow;
+
+/// What the chosen entry of the layer list must have, so that a dialog can be opened for it.
+enum class Need { Nothing, Layer, Labels, Data };
+
+/// One of the demo's dialogs.
+struct Dialog {
+  /// Where the button stands among all, counted row by row; in this order Tab walks them.
+  int Cell = 0;
+  std::string Button;
+  std::string Caption;
+  std::function<void(HostWindow&)> Open;
+  Need Needs = Need::Nothing;
+  std::string ToolTip = {};
+  /// What stands behind the form's name in the name of its picture; none: it has no picture.
+  std::optional<std::string> PictureSuffix = "";
+};
+
+/// The button that opens a dialog. Window and dialog must outlive it.
+struct DialogButton {
+  DialogButton(HostWindow& window, const Dialog& dialog);
+
+  const Dialog& Opens;
+  orx::Button Face;
+};
+
 class HostWindow final : public orx::Form {
  public:
+  /// All dialogs of the demo, in the order in which the gallery takes their pictures.
+  static const std::vector<Dialog>& Dialogs();
+
   /// The map and the languages must outlive the window.
   HostWindow(orx::Desktop& desktop, orx::maplibrary::Map& map, const Languages& languages);
   ~HostWindow() override { mMap.Changed = nullptr; }
@@ -25,31 +60,8 @@ class HostWindow final : public orx::Form {
   orx::PictureBox pctMap{*this, "pctMap", {.ToolTipText = "The map", .AccessibleName = "Map"}};
   orx::Label lblLayer{*this, "lblLayer", {.Caption = "La&yer:"}};
   orx::ComboBox cboLayer{*this, "cboLayer", {}};
-  orx::Button cmdManager{*this, "cmdManager", {.Caption = "Layer manage&r..."}};
-  orx::Button cmdSettings{*this, "cmdSettings", {.Caption = "&Settings..."}};
-  orx::Button cmdData{*this, "cmdData", {.Caption = "Da&ta..."}};
-  orx::Button cmdProperties{*this, "cmdProperties", {.Caption = "&Properties..."}};
-  orx::Button cmdLabels{*this, "cmdLabels", {.Caption = "&Labels..."}};
-  orx::Button cmdSymbol{
-      *this, "cmdSymbol", {.Caption = "Sym&bol...", .ToolTipText = "Picks the character that marks points"}};
-  orx::Button cmdCoordinates{*this, "cmdCoordinates", {.Caption = "&Coordinates..."}};
-  orx::Button cmdLegends{*this, "cmdLegends", {.Caption = "Le&gends..."}};
-  orx::Button cmdGeoreference{
-      *this, "cmdGeoreference", {.Caption = "Georefere&nce...", .ToolTipText = "Moves the map on the ground"}};
-  orx::Button cmdClassify{*this, "cmdClassify", {.Caption = "Classi&fication..."}};
-  orx::Button cmdOptions{*this, "cmdOptions", {.Caption = "Data &options..."}};
-  orx::Button cmdShade{*this, "cmdShade", {.Caption = "Relief s&hading..."}};
-  orx::Button cmdIsolines{*this, "cmdIsolines", {.Caption = "&Isolines..."}};
-  orx::Button cmdContours{*this,
-                          "cmdContours",
-                          {.Caption = "Contours o&ver tiles...",
-                           .ToolTipText = "Computes the contours of a large area, with progress and Cancel"}};
-  orx::Button cmdColors{*this, "cmdColors", {.Caption = "Color sche&mes..."}};
-  orx::Button cmdAddLayer{*this, "cmdAddLayer", {.Caption = "A&dd layer..."}};
-  orx::Button cmdLost{
-      *this, "cmdLost", {.Caption = "Missing fil&e...", .ToolTipText = "Opens a layer whose file is gone"}};
-  orx::Button cmdJump{*this, "cmdJump", {.Caption = "&Jump to layer..."}};
-  orx::Button cmdShowHide{*this, "cmdShowHide", {.Caption = "Sho&w/hide..."}};
+  /// The buttons that open the dialogs, as they stand row by row.
+  std::deque<DialogButton> Buttons = MakeButtons();
   orx::CheckBox chkModeless{*this, "chkModeless", {.Caption = "&Keep dialogs open"}};
   orx::Label lblLanguage{*this, "lblLanguage", {.Caption = "L&anguage:"}};
   orx::ComboBox cboLanguage{*this, "cboLanguage", {}};
@@ -72,8 +84,10 @@ class HostWindow final : public orx::Form {
     orx::HostObject* Object;
   };
 
+  std::deque<DialogButton> MakeButtons();
   /// The data object of the chosen layer, null when it has none.
   orx::HostObject* ChosenData() const;
+  bool ChosenHas(Need need) const;
   void FillLayers();
   void FillLanguages();
   void EnableDialogs();
@@ -114,7 +128,7 @@ class HostWindow final : public orx::Form {
   DesignedCaptions mDesigned{*this};
   std::vector<Choice> mChoices;
   std::int32_t mTilesAcross = 4;
-  orx::maplibrary::PageFactory mPages;
+  orx::pages::PageFactory mPages;
   HostLog mLog{txtLog};
   HostCallBack mCallBack{mLog, [this] { DrawMap(); }};
   orx::CCommonMapDialogs mDialogs{OwnerDesktop(), mPages};

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "forms/Control.h"
-#include "maplibrary/PseudoLanguage.h"
-#include "maplibrary/TextLanguage.h"
+#include "languages/PseudoLanguage.h"
+#include "languages/TextLanguage.h"
 
 namespace maphost {
 
@@ -16,11 +16,11 @@ Languages::Languages(const std::filesystem::path& folder) {
     if (entry.path().extension() == ".txt") files.push_back(entry.path());
   std::sort(files.begin(), files.end());
   for (const auto& file : files) {
-    auto language = std::make_unique<orx::maplibrary::TextLanguage>(file);
+    auto language = std::make_unique<orx::languages::TextLanguage>(file);
     const std::string named = language->TranslateText("_LanguageName");
     mEntries.push_back({named.empty() ? file.stem().string() : named, std::move(language)});
   }
-  mEntries.push_back({"Pseudo (for layouts)", std::make_unique<orx::maplibrary::PseudoLanguage>()});
+  mEntries.push_back({"Pseudo (for layouts)", std::make_unique<orx::languages::PseudoLanguage>()});
 }
 
 DesignedCaptions::DesignedCaptions(const orx::Form& form) : mCaption(form.Caption()) {

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <optional>
 
-#include "maplibrary/Contours.h"
+#include "maplibrary/drawing/Contours.h"
 
 namespace maphost {
 namespace {

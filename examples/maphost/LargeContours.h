@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "maplibrary/GridData.h"
+#include "maplibrary/files/GridData.h"
 
 namespace maphost {
 

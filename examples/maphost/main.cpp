@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "examples/maphost/Gallery.h"
-#include "maplibrary/GridFields.h"
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/files/FileAccess.h"
+#include "maplibrary/model/SampleMap.h"
+#include "text/Paths.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ std::optional<Options> ReadOptions(const std::vector<Path>& arguments) {
 
 void Run(const Options& options) {
   maphost::NativeDesktop desktop;
-  const auto map = orx::maplibrary::MakeSampleMap(orx::maplibrary::Utf8(options.Grid));
+  const auto map = orx::maplibrary::MakeSampleMap(orx::Utf8(options.Grid));
   const maphost::Languages languages(options.Grid.parent_path() / "languages");
   if (options.Gallery) return maphost::WriteGallery(desktop, *map, languages, *options.Gallery);
   maphost::RunWindow(*std::make_shared<maphost::HostWindow>(desktop, *map, languages));

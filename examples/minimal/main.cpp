@@ -1,10 +1,10 @@
 // The smallest host: opens a grid file as a map and edits its first layer.
 #include <cstdio>
 
-#include "desktops/qt/QtDesktop.h"
-#include "maplibrary/SampleMap.h"
-#include "maplibrary/pages/PageFactory.h"
-#include "service/CCommonMapDialogs.h"
+#include <orx/CCommonMapDialogs.h>
+#include <orx/PageFactory.h>
+#include <orx/QtDesktop.h>
+#include <orx/SampleMap.h>
 
 int main(int argc, char** argv) {
   if (argc != 2) {
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
   }
   try {
     orx::qt::QtDesktop desktop;
-    orx::maplibrary::PageFactory pages;
+    orx::pages::PageFactory pages;
     const auto map = orx::maplibrary::MakeSampleMap(argv[1]);
 
     orx::CCommonMapDialogs dialogs(desktop, pages);

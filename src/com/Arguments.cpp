@@ -1,6 +1,7 @@
 #include "com/Arguments.h"
 
 #include "com/Conversion.h"
+#include "com/TypeDescriptions.h"
 
 namespace orx::com {
 namespace {
@@ -23,31 +24,14 @@ VARTYPE PlainType(ITypeInfo& info, const TYPEDESC& type) {
   }
 }
 
-class TypeAttributes {
- public:
-  explicit TypeAttributes(ITypeInfo& info) : mInfo(info) {
-    if (FAILED(mInfo.GetTypeAttr(&mAttributes))) mAttributes = nullptr;
-  }
-  ~TypeAttributes() {
-    if (mAttributes) mInfo.ReleaseTypeAttr(mAttributes);
-  }
-  TypeAttributes(const TypeAttributes&) = delete;
-  TypeAttributes& operator=(const TypeAttributes&) = delete;
-  const TYPEATTR* Get() const { return mAttributes; }
-
- private:
-  ITypeInfo& mInfo;
-  TYPEATTR* mAttributes = nullptr;
-};
-
 VARTYPE UserType(ITypeInfo& info, HREFTYPE reference) {
   ComPtr<ITypeInfo> described;
   if (FAILED(info.GetRefTypeInfo(reference, described.Out()))) return VT_I4;
-  const TypeAttributes attributes(*described.Get());
-  if (!attributes.Get()) return VT_I4;
-  switch (attributes.Get()->typekind) {
+  const TypeAttributes attributes = AttributesOf(*described.Get());
+  if (!attributes) return VT_I4;
+  switch (attributes->typekind) {
     case TKIND_ALIAS:
-      return PlainType(*described.Get(), attributes.Get()->tdescAlias);
+      return PlainType(*described.Get(), attributes->tdescAlias);
     case TKIND_DISPATCH:
     case TKIND_INTERFACE:
     case TKIND_COCLASS:
@@ -167,15 +151,13 @@ HRESULT Arguments::WriteBack() {
     Variant result;
     HRESULT code = S_OK;
     if (temporary->What.IsArray) {
-      // Script hosts read arrays of variants only.
+      // Script hosts can read arrays of variants only.
       code = ToScriptArray(temporary->Value, result);
     } else {
       result = std::move(temporary->Value);
     }
     if (SUCCEEDED(code) && !(origin.vt & VT_BYREF)) {
-      VariantClear(&origin);
-      static_cast<VARIANT&>(origin) = result;
-      VariantInit(&result);
+      result.SwapWith(origin);
     } else if (SUCCEEDED(code) && !(origin.vt & VT_ARRAY)) {
       Variant converted;
       code = ConvertValue(result, static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), mLocale, converted);

@@ -1,5 +1,5 @@
-// Fits the arguments that script hosts send to the parameters of a member: variants for everything, by-reference
-// results included, arguments left out, arrays of variants.
+// Converts the arguments that script hosts send to what the parameters of a member need. Script hosts send variants for
+// everything, also by reference for results, leave arguments out, and send arrays of variants.
 #pragma once
 
 #include <memory>
@@ -15,33 +15,33 @@ struct Parameter {
   VARTYPE Type = VT_EMPTY;
   bool IsArray = false;
   bool IsByReference = false;
-  /// Gives a result only; what comes in is not looked at.
+  /// Only carries a result out; the value that comes in is ignored.
   bool IsOut = false;
   bool IsOptional = false;
-  /// What stands in for an argument that is left out; null: nothing, zero, the empty text.
+  /// The value of an argument that is left out; null for nothing, zero or the empty text.
   const VARIANT* Default = nullptr;
 };
 
 /// Reads the description of a parameter. Enumerations are VT_I4, interfaces VT_DISPATCH.
 Parameter ParameterOf(ITypeInfo& info, const ELEMDESC& description);
 
-/// The arguments of one call, fit for its parameters.
+/// The arguments of one call, converted for its parameters.
 class Arguments {
  public:
   /// `given` in the order of the parameters; null for those that were left out. It must outlive the call.
   explicit Arguments(std::vector<VARIANT*> given, LCID locale) : mGiven(std::move(given)), mLocale(locale) {}
 
-  /// Fits all. S_OK, or the error, with `wrong` the index of the argument that cannot serve.
+  /// Converts all arguments. Returns S_OK or the error; `wrong` is then the index of the argument at fault.
   HRESULT Fit(const std::vector<Parameter>& parameters, UINT& wrong);
   /// What to hand over, in the order of the parameters.
   const std::vector<VARIANT>& Fitted() const { return mFitted; }
-  /// After the call: gives results back to the variables that the caller has sent.
+  /// After the call: writes results to the variables that the caller passed.
   HRESULT WriteBack();
 
  private:
   struct Temporary {
     Parameter What;
-    /// The caller's variable for the result, null when a value was sent.
+    /// The caller's variable for the result; null when a value was passed.
     VARIANT* Origin = nullptr;
     Variant Value;
   };
@@ -54,7 +54,7 @@ class Arguments {
   std::vector<VARIANT*> mGiven;
   LCID mLocale;
   std::vector<VARIANT> mFitted;
-  // Pointers into the temporaries are handed over, so they must not move.
+  // The callee gets pointers into the temporaries, so they must not move.
   std::vector<std::unique_ptr<Temporary>> mTemporaries;
 };
 

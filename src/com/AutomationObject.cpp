@@ -4,15 +4,15 @@
 
 #include <initializer_list>
 
-#include "com/Adapters.h"
 #include "com/DataAdapters.h"
 #include "com/GridAdapters.h"
+#include "com/MapAdapters.h"
 
 namespace orx::com {
 namespace {
 
-/// The object's own dispatch interface of the published kind, or the object itself when its members have the names by
-/// which that kind is known; empty when it is not of the kind.
+/// The published interface of the object if it has it, or the object itself if it has the members that identify the
+/// kind. Empty when it is not of that kind.
 template <class Published>
 ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
                          const char* unlike = nullptr) {
@@ -23,7 +23,7 @@ ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<
   return unlike && named.Has(unlike) ? ComPtr<IDispatch>() : object;
 }
 
-/// The view of a data object: the object itself, or what its member `giver` gives.
+/// A view of a data object: the object itself, or what its member `giver` returns.
 template <class Published>
 ComPtr<IDispatch> PartOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
                          const char* giver) {
@@ -41,54 +41,70 @@ ComPtr<IDispatch> DataOf(const ComPtr<IDispatch>& object) {
   return LateBound(object.Get()).Has("Classification") ? object : ComPtr<IDispatch>();
 }
 
-}  // namespace
+using Object = ComPtr<IDispatch>;
 
-AutomationObject::View AutomationObject::MakeView(Kind kind) {
-  const auto as = [this]<class Adapter>(std::type_identity<Adapter>, const ComPtr<IDispatch>& object) {
-    if (!object) return View{};
-    auto adapter = std::make_shared<Adapter>(*this, object);
-    Adapter* const exact = adapter.get();
-    return View{std::move(adapter), exact};
-  };
-  switch (kind) {
-    case Kind::Map:
-      return as(std::type_identity<MapAdapter>(), ViewOf<::IMap>(mObject, {"LayerCount", "Layer"}));
-    case Kind::Layers:
-      return as(std::type_identity<LayersAdapter>(), ViewOf<::ILayers>(mObject, {"Map"}, "LayerCount"));
-    case Kind::Layer:
-      return as(std::type_identity<LayerAdapter>(), ViewOf<::ILayer>(mObject, {"SymbolFont"}));
-    case Kind::Labels:
-      return as(std::type_identity<LabelsAdapter>(), ViewOf<::ILabels>(mObject, {"ShowLabels"}));
-    case Kind::Extent:
-      return as(std::type_identity<ExtentAdapter>(), ViewOf<::IExtent>(mObject, {"Left", "Right", "Bottom", "Top"}));
-    case Kind::Legends:
-      return as(std::type_identity<LegendsAdapter>(), ViewOf<::ILegends>(mObject, {"LegendCount", "Legend"}));
-    case Kind::Data:
-      return as(std::type_identity<DataAdapter>(), DataOf(mObject));
-    case Kind::Classification:
-      return as(std::type_identity<ClassificationAdapter>(),
-                PartOf<::IClassification>(mObject, {"ClassifyMethod"}, "Classification"));
-    case Kind::DataOptions:
-      return as(std::type_identity<DataOptionsAdapter>(), PartOf<::IDataOptions>(mObject, {"MissingValue"}, "Options"));
-    case Kind::Shade:
-      return as(std::type_identity<ShadeAdapter>(), PartOf<::ShadeSettings>(mObject, {"ScaleFactor"}, "Shade"));
-    case Kind::ExtendedShade:
-      return as(std::type_identity<ShadeAdapter>(), PartOf<::ShadeSettings2>(mObject, {"ShadeVersion"}, "Shade"));
-    case Kind::Isolines:
-      return as(std::type_identity<IsolinesAdapter>(), PartOf<::IIsolines>(mObject, {"RangeStep"}, "Isolines"));
-  }
-  return {};
+template <class Adapter>
+std::shared_ptr<HostInterface> Adapted(AutomationObject& owner, const Object& view) {
+  return std::make_shared<Adapter>(owner, view);
 }
 
-void* AutomationObject::Query(Kind kind) {
-  const auto known = mViews.find(kind);
-  if (known != mViews.end()) return known->second.Interface;
-  return mViews.emplace(kind, MakeView(kind)).first->second.Interface;
+/// How an object becomes an interface: what of it is of that kind, if anything, and the adapter of that.
+struct Adaption {
+  const std::type_info& Wanted;
+  std::shared_ptr<HostInterface> (*Adapt)(AutomationObject& owner, const Object& view);
+  Object (*Find)(const Object& object);
+};
+
+const Adaption kAdaptions[] = {
+    {typeid(IMap), Adapted<MapAdapter>,
+     [](const Object& it) {
+       return ViewOf<::IMap>(it, {"LayerCount", "Layer"});
+     }},
+    {typeid(ILayers), Adapted<LayersAdapter>,
+     [](const Object& it) { return ViewOf<::ILayers>(it, {"Map"}, "LayerCount"); }},
+    {typeid(ILayer), Adapted<LayerAdapter>, [](const Object& it) { return ViewOf<::ILayer>(it, {"SymbolFont"}); }},
+    {typeid(ILabels), Adapted<LabelsAdapter>, [](const Object& it) { return ViewOf<::ILabels>(it, {"ShowLabels"}); }},
+    {typeid(IExtent), Adapted<ExtentAdapter>,
+     [](const Object& it) {
+       return ViewOf<::IExtent>(it, {"Left", "Right", "Bottom", "Top"});
+     }},
+    {typeid(ILegends), Adapted<LegendsAdapter>,
+     [](const Object& it) {
+       return ViewOf<::ILegends>(it, {"LegendCount", "Legend"});
+     }},
+    {typeid(IData), Adapted<DataAdapter>, DataOf},
+    {typeid(IClassification), Adapted<ClassificationAdapter>,
+     [](const Object& it) { return PartOf<::IClassification>(it, {"ClassifyMethod"}, "Classification"); }},
+    {typeid(IDataOptions), Adapted<DataOptionsAdapter>,
+     [](const Object& it) { return PartOf<::IDataOptions>(it, {"MissingValue"}, "Options"); }},
+    {typeid(ShadeSettings), Adapted<ShadeAdapter>,
+     [](const Object& it) { return PartOf<::ShadeSettings>(it, {"ScaleFactor"}, "Shade"); }},
+    {typeid(ShadeSettings2), Adapted<ShadeAdapter>,
+     [](const Object& it) { return PartOf<::ShadeSettings2>(it, {"ShadeVersion"}, "Shade"); }},
+    {typeid(IIsolines), Adapted<IsolinesAdapter>,
+     [](const Object& it) { return PartOf<::IIsolines>(it, {"RangeStep"}, "Isolines"); }},
+};
+
+}  // namespace
+
+std::shared_ptr<HostInterface> AutomationObject::MakeView(const std::type_info& wanted) {
+  for (const Adaption& adaption : kAdaptions) {
+    if (adaption.Wanted != wanted) continue;
+    const Object view = adaption.Find(mObject);
+    return view ? adaption.Adapt(*this, view) : nullptr;
+  }
+  return nullptr;
+}
+
+HostInterface* AutomationObject::ViewFor(const std::type_info& wanted) {
+  const auto known = mViews.find(wanted);
+  if (known != mViews.end()) return known->second.get();
+  return mViews.emplace(wanted, MakeView(wanted)).first->second.get();
 }
 
 AutomationObject* AutomationObject::Adopt(const ComPtr<IDispatch>& object) {
   if (!object) return nullptr;
-  // The identity of an object is its IUnknown; the adapter's reference keeps it from being given to another.
+  // The identity of an object is its IUnknown; the adapter's reference keeps the address from being used again.
   const ComPtr<IUnknown> identity = object.As<IUnknown>();
   std::shared_ptr<AutomationObject>& known = mAdopted[identity.Get()];
   if (!known) known = std::make_shared<AutomationObject>(object.Get());

@@ -7,7 +7,7 @@ namespace orx::com {
 
 Color ColorOf(const VARIANT& value) {
   Variant number;
-  // Wider than a colour: languages differ in the sign that they give to a number with the highest bit.
+  // Wider than a colour, because languages differ in the sign of a number with the highest bit set.
   Check(ConvertValue(value, VT_I8, LOCALE_USER_DEFAULT, number), "Color");
   auto code = static_cast<std::uint32_t>(number.llVal);
   if (code & 0x80000000U) code = GetSysColor(static_cast<int>(code & 0xFFU));

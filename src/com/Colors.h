@@ -9,13 +9,13 @@
 
 namespace orx::com {
 
-/// The colour of a number 0x00BBGGRR, or of a colour of the system (0x80000000 with its index). Throws RunTimeError for
-/// what is no number.
+/// Converts 0x00BBGGRR, or a system colour (0x80000000 plus its index). Throws RunTimeError when the value is not a
+/// number.
 Color ColorOf(const VARIANT& value);
-/// The number of a colour.
+/// The colour as 0x00BBGGRR.
 std::int32_t OleColorOf(Color color);
 
-/// The member "Color" of an object. A colour of the system stays one as long as the same colour is put back.
+/// The property "Color" of an object. A system colour stays a system colour as long as the same colour is written back.
 Color ColorMember(const LateBound& object);
 void ColorMember(const LateBound& object, Color value);
 

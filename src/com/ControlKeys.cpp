@@ -15,8 +15,8 @@ BOOL CALLBACK CollectTabStop(HWND window, LPARAM into) {
   return TRUE;
 }
 
-/// In drawing order, whatever windows of the control stand in between. GetNextDlgTabItem would stop at those that do
-/// not declare themselves as parents of controls.
+/// In z-order, however deeply nested. GetNextDlgTabItem would stop at windows that do not declare themselves parents of
+/// controls.
 std::vector<HWND> TabStops(HWND area) {
   std::vector<HWND> stops;
   EnumChildWindows(area, CollectTabStop, reinterpret_cast<LPARAM>(&stops));

@@ -12,8 +12,8 @@ bool HasFocusInside(HWND area);
 /// first child window.
 void FocusInside(HWND area, bool backwards);
 
-/// Sees to a key message for a window below the area. False when it is the dialog's: Tab at either end, Enter and
-/// Escape where the child window has no use for them, and all other keys, which are to be dispatched.
+/// Handles a key message for a window inside the area. Returns false when the key is for the dialog: Tab at either end,
+/// Enter and Escape where the child window has no use for them, and all other keys, which are dispatched as usual.
 bool KeepsKey(HWND area, const MSG& message);
 
 }  // namespace orx::com

@@ -17,8 +17,8 @@ HRESULT GiveWindow(const ISiteOwner* owner, HWND* window) {
   return *window ? S_OK : E_FAIL;
 }
 
-/// What a control can ask of its surroundings; those that are not here it decides by itself.
-VARIANT Ambient(DISPID id) {
+/// The ambient properties that a control can ask for. It decides all others itself.
+Variant Ambient(DISPID id) {
   const auto flag = [](bool value) { return Variant(value); };
   const auto number = [](LONG value) { return Variant(static_cast<std::int32_t>(value)); };
   const struct {
@@ -108,7 +108,7 @@ HRESULT ControlSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWin
 }
 
 HRESULT ControlSite::OnPosRectChange(const RECT*) noexcept {
-  // The dialog decides on the place: the answer is the one that the control has.
+  // The dialog decides on the place, and the control is told the one that it has.
   return Guarded(kSiteSource, [this] {
     if (mOwner) mOwner->PlaceAsked();
   });
@@ -142,10 +142,10 @@ HRESULT ControlSite::GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexc
 HRESULT ControlSite::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                             UINT*) noexcept {
   if (!(flags & DISPATCH_PROPERTYGET)) return DISP_E_MEMBERNOTFOUND;
-  const VARIANT value = Ambient(id);
+  Variant value = Ambient(id);
   if (value.vt == VT_EMPTY) return DISP_E_MEMBERNOTFOUND;
   if (!result) return E_POINTER;
-  *result = value;
+  *result = value.Detach();
   return S_OK;
 }
 

@@ -1,5 +1,5 @@
-// What a page control sees of the dialog that it stands in: its place, its window, its frame, and the ambient
-// properties that controls adapt themselves to.
+// What a page control sees of its dialog: its place, its window, the frame, and the ambient properties that controls
+// adapt to.
 #pragma once
 
 #include <windows.h>
@@ -16,7 +16,7 @@ class ISiteOwner {
  public:
   /// The window that the control stands in; null while there is none.
   virtual HWND Area() const = 0;
-  /// The focus has come to the control by the user's or the control's own doing.
+  /// The user or the control itself has moved the focus into the control.
   virtual void FocusCame() = 0;
   /// The control asks for another place.
   virtual void PlaceAsked() = 0;
@@ -25,14 +25,14 @@ class ISiteOwner {
   ~ISiteOwner() = default;
 };
 
-/// The frame window of in-place activation. It has no menus and no tools to offer; it keeps what the control names as
-/// the object that is active within it.
+/// The frame window of in-place activation. It offers neither menus nor tool space, and remembers the object that the
+/// control declares active.
 class ControlFrame final : public Counted<IOleInPlaceFrame> {
  public:
-  /// The owner must call Leave before it goes.
+  /// The owner must call Leave before it is destroyed.
   explicit ControlFrame(ISiteOwner& owner) : mOwner(&owner) {}
   void Leave() noexcept;
-  /// What is active in the frame, empty for nothing.
+  /// The active object; empty when there is none.
   const ComPtr<IOleInPlaceActiveObject>& Active() const { return mActive; }
 
   HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) noexcept override;
@@ -57,7 +57,7 @@ class ControlFrame final : public Counted<IOleInPlaceFrame> {
 
 class ControlSite final : public Counted<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch> {
  public:
-  /// The owner must call Leave before it goes: a control may keep its site for longer.
+  /// The owner must call Leave before it is destroyed: a control may hold its site longer than that.
   explicit ControlSite(ISiteOwner& owner) : mOwner(&owner), mFrame(MakeCounted<ControlFrame>(owner)) {}
   void Leave() noexcept;
   const ControlFrame& Frame() const { return *mFrame.Get(); }
@@ -87,7 +87,7 @@ class ControlSite final : public Counted<IOleClientSite, IOleInPlaceSite, IOleCo
   HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) noexcept override { return S_OK; }
   HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** extended) noexcept override;
   HRESULT STDMETHODCALLTYPE TransformCoords(POINTL* himetric, POINTF* container, DWORD flags) noexcept override;
-  // A key that the control does not use is none of the site's either: the dialog sees it next.
+  // The site has no use for a key that the control does not use; the dialog sees it next.
   HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*, DWORD) noexcept override { return S_FALSE; }
   HRESULT STDMETHODCALLTYPE OnFocus(BOOL came) noexcept override;
   HRESULT STDMETHODCALLTYPE ShowPropertyFrame() noexcept override { return E_NOTIMPL; }

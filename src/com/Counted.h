@@ -1,4 +1,4 @@
-// What the component server's small objects have in common: they count their references and answer for a list of
+// The base of the component server's COM objects: it counts references and answers QueryInterface from a list of
 // interfaces.
 #pragma once
 
@@ -12,7 +12,7 @@
 
 namespace orx::com {
 
-// The interfaces of the system have no destructors of their own: their objects go by Release alone.
+// The system's interfaces have no virtual destructors: their objects are destroyed by Release alone.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
@@ -41,8 +41,8 @@ class Counted : public First, public Others... {
  protected:
   virtual ~Counted() = default;
 
-  /// The interface as a pointer to exactly that interface, null when the object has none. Those that an interface of
-  /// the list inherits are added by overriding.
+  /// A pointer to exactly that interface; null when the object does not have it. Override this to add the bases of
+  /// interfaces in the list.
   virtual void* Find(REFIID iid) noexcept {
     if (IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, __uuidof(First))) return static_cast<First*>(this);
     void* found = nullptr;

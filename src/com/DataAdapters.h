@@ -6,19 +6,18 @@
 #include <string>
 
 #include "com/AutomationObject.h"
-#include "com/LateBound.h"
 #include "hostobjects/IData.h"
 
 namespace orx::com {
 
-class DataAdapter final : public IData {
+class DataAdapter final : public AdapterOf<IData> {
  public:
-  DataAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+  using AdapterOf::AdapterOf;
 
   std::int32_t ClassCount() override { return mObject.GetLong("ClassCount"); }
-  /// What an object does not tell is not known.
+  /// Unknown when the object lacks the member.
   std::string FileName() override { return mObject.Has("FileName") ? mObject.GetText("FileName") : std::string(); }
-  void FileName(const std::string& value) override { mObject.Put("FileName", Variant(value)); }
+  void FileName(const std::string& value) override { mObject.Put("FileName", value); }
   double MinimumOfData() override { return RangeEnd("MinimumOfData"); }
   double MaximumOfData() override { return RangeEnd("MaximumOfData"); }
 
@@ -26,66 +25,58 @@ class DataAdapter final : public IData {
   double RangeEnd(const char* member) const {
     return mObject.Has(member) ? mObject.GetDouble(member) : kUnknownRangeEnd;
   }
-
-  LateBound mObject;
 };
 
-class ClassificationAdapter final : public IClassification {
+class ClassificationAdapter final : public AdapterOf<IClassification> {
  public:
-  ClassificationAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+  using AdapterOf::AdapterOf;
 
   std::string ValueFormat() const override { return mObject.GetText("ValueFormat"); }
-  void ValueFormat(const std::string& value) override { mObject.Put("ValueFormat", Variant(value)); }
+  void ValueFormat(const std::string& value) override { mObject.Put("ValueFormat", value); }
   bool ShowParameterName() const override { return mObject.GetBool("ShowParameterName"); }
-  void ShowParameterName(bool value) override { mObject.Put("ShowParameterName", Variant(value)); }
+  void ShowParameterName(bool value) override { mObject.Put("ShowParameterName", value); }
   std::int32_t ClassifyMethod() const override { return mObject.GetLong("ClassifyMethod"); }
-  void ClassifyMethod(std::int32_t value) override { mObject.Put("ClassifyMethod", Variant(value)); }
+  void ClassifyMethod(std::int32_t value) override { mObject.Put("ClassifyMethod", value); }
   std::int32_t NumberOfClasses() const override { return mObject.GetLong("NumberOfClasses"); }
-  void NumberOfClasses(std::int32_t value) override { mObject.Put("NumberOfClasses", Variant(value)); }
+  void NumberOfClasses(std::int32_t value) override { mObject.Put("NumberOfClasses", value); }
   double MinValue() const override { return mObject.GetDouble("MinValue"); }
-  void MinValue(double value) override { mObject.Put("MinValue", Variant(value)); }
+  void MinValue(double value) override { mObject.Put("MinValue", value); }
   double MaxValue() const override { return mObject.GetDouble("MaxValue"); }
-  void MaxValue(double value) override { mObject.Put("MaxValue", Variant(value)); }
+  void MaxValue(double value) override { mObject.Put("MaxValue", value); }
   double StepSize() const override { return mObject.GetDouble("StepSize"); }
   bool OutsideAsMissing() const override { return mObject.GetBool("OutsideAsMissing"); }
-  void OutsideAsMissing(bool value) override { mObject.Put("OutsideAsMissing", Variant(value)); }
+  void OutsideAsMissing(bool value) override { mObject.Put("OutsideAsMissing", value); }
   std::int32_t LegendStyle() const override { return mObject.GetLong("LegendStyle"); }
-  void LegendStyle(std::int32_t value) override { mObject.Put("LegendStyle", Variant(value)); }
+  void LegendStyle(std::int32_t value) override { mObject.Put("LegendStyle", value); }
   double FirstClassSize() const override { return mObject.GetDouble("FirstClassSize"); }
-  void FirstClassSize(double value) override { mObject.Put("FirstClassSize", Variant(value)); }
+  void FirstClassSize(double value) override { mObject.Put("FirstClassSize", value); }
   double LastClassSize() const override { return mObject.GetDouble("LastClassSize"); }
-  void LastClassSize(double value) override { mObject.Put("LastClassSize", Variant(value)); }
-
- private:
-  LateBound mObject;
+  void LastClassSize(double value) override { mObject.Put("LastClassSize", value); }
 };
 
-class SpecialValueAdapter final : public ISpecialValue {
+class SpecialValueAdapter final : public AdapterOf<ISpecialValue> {
  public:
-  explicit SpecialValueAdapter(const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+  using AdapterOf::AdapterOf;
 
   orx::Color Color() const override;
   void Color(orx::Color value) override;
   bool Enabled() const override { return mObject.GetBool("Enabled"); }
-  void Enabled(bool value) override { mObject.Put("Enabled", Variant(value)); }
+  void Enabled(bool value) override { mObject.Put("Enabled", value); }
   bool InLegend() const override { return mObject.GetBool("InLegend"); }
-  void InLegend(bool value) override { mObject.Put("InLegend", Variant(value)); }
+  void InLegend(bool value) override { mObject.Put("InLegend", value); }
   double UpperBound() const override { return mObject.GetDouble("UpperBound"); }
-  void UpperBound(double value) override { mObject.Put("UpperBound", Variant(value)); }
+  void UpperBound(double value) override { mObject.Put("UpperBound", value); }
   double LowerBound() const override { return mObject.GetDouble("LowerBound"); }
-  void LowerBound(double value) override { mObject.Put("LowerBound", Variant(value)); }
+  void LowerBound(double value) override { mObject.Put("LowerBound", value); }
   std::string TextValue() const override { return mObject.GetText("TextValue"); }
-  void TextValue(const std::string& value) override { mObject.Put("TextValue", Variant(value)); }
+  void TextValue(const std::string& value) override { mObject.Put("TextValue", value); }
   bool Transparent() const override { return mObject.GetBool("Transparent"); }
-  void Transparent(bool value) override { mObject.Put("Transparent", Variant(value)); }
-
- private:
-  LateBound mObject;
+  void Transparent(bool value) override { mObject.Put("Transparent", value); }
 };
 
-class DataOptionsAdapter final : public IDataOptions {
+class DataOptionsAdapter final : public AdapterOf<IDataOptions> {
  public:
-  DataOptionsAdapter(AutomationObject&, const ComPtr<IDispatch>& object) : mObject(object.Get()) {}
+  using AdapterOf::AdapterOf;
 
   ISpecialValue& MissingValue() override { return Special("MissingValue"); }
   ISpecialValue& ZeroValue() override { return Special("ZeroValue"); }
@@ -94,8 +85,7 @@ class DataOptionsAdapter final : public IDataOptions {
  private:
   ISpecialValue& Special(const char* member);
 
-  LateBound mObject;
-  /// One for each member, for the object that the host gave last.
+  /// One for each member, over the object that the host returned last.
   std::map<std::string, std::unique_ptr<SpecialValueAdapter>> mSpecial;
 };
 

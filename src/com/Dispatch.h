@@ -9,7 +9,7 @@
 #include "com/Counted.h"
 #include "com/Errors.h"
 #include "com/Invoke.h"
-#include "com/Module.h"
+#include "com/ModuleUse.h"
 #include "com/TypeLibrary.h"
 
 namespace orx::com {
@@ -28,7 +28,7 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
     if (!info) return E_POINTER;
     *info = nullptr;
     if (index != 0) return DISP_E_BADINDEX;
-    return Guarded("Object", [&] { *info = ComPtr<ITypeInfo>(Description()).Detach(); });
+    return Give("Object", info, [&] { return ComPtr<ITypeInfo>(Description()); });
   }
 
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
@@ -61,7 +61,7 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   }
 
  private:
-  /// What the type library says of the interface; loaded when it is first asked for.
+  /// The type library's description of the interface, loaded on first use.
   ITypeInfo* Description() {
     if (!mDescription) mDescription = TypeInfoOf(__uuidof(Interface));
     return mDescription.Get();
@@ -76,9 +76,15 @@ template <class Class, class Interface>
 class ClassObject : public DispatchObject<Interface, IProvideClassInfo> {
  public:
   HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override {
-    if (!info) return E_POINTER;
-    *info = nullptr;
-    return Guarded("Object", [&] { *info = TypeInfoOf(__uuidof(Class)).Detach(); });
+    return Give("Object", info, [] { return TypeInfoOf(__uuidof(Class)); });
+  }
+
+ protected:
+  /// Runs the body of a method that handles events: the host may release the object from within one.
+  template <class Body>
+  HRESULT Kept(const char* source, Body&& body) noexcept {
+    const ComPtr<Interface> keep(this);
+    return Guarded(source, body);
   }
 };
 

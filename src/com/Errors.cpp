@@ -2,13 +2,12 @@
 
 #include <new>
 
-#include "com/Handles.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
 namespace {
 
-/// Error numbers of the older Basic's kind have this in front, as error codes.
+/// The error code of a run-time error is this plus its number.
 constexpr HRESULT kAutomationErrors = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 0);
 constexpr std::int32_t kGreatestNumber = 0xFFFF;
 
@@ -30,12 +29,12 @@ void LeaveErrorInfo(const char* source, const std::string& description) {
 }
 
 std::string SystemText(HRESULT code) {
-  wchar_t* text = nullptr;
+  wchar_t* made = nullptr;
   const DWORD length =
       FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                     nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-  std::string narrow = Narrowed({text, length});
-  LocalFree(text);
+                     nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<wchar_t*>(&made), 0, nullptr);
+  const LocalText text(made);
+  std::string narrow = Narrowed({text.get(), length});
   while (!narrow.empty() && (narrow.back() == '\n' || narrow.back() == '\r')) narrow.pop_back();
   return narrow;
 }
@@ -75,7 +74,7 @@ HRESULT ReturnError(const char* source) noexcept {
     }
     LeaveErrorInfo(source, description);
   } catch (...) {
-    // Without memory for the description the code alone has to tell.
+    // There was no memory for the description, so only the code is returned.
     SetErrorInfo(0, nullptr);
   }
   return code;

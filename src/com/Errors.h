@@ -5,6 +5,9 @@
 #include <windows.h>
 
 #include <string>
+#include <type_traits>
+
+#include "com/Handles.h"
 
 namespace orx::com {
 
@@ -21,7 +24,22 @@ void Check(HRESULT result, const std::string& what);
 /// Throws RunTimeError with a description that was collected elsewhere (EXCEPINFO of a late-bound call).
 [[noreturn]] void ThrowError(HRESULT result, const std::string& description);
 
-/// Runs a boundary method's body: S_OK, or the error that its exception stands for.
+/// Converts results of the library to what [out] arguments carry. The caller owns strings and references.
+inline BSTR Given(const std::string& text) {
+  return Bstr(text).Detach();
+}
+inline VARIANT_BOOL Given(bool value) {
+  return value ? VARIANT_TRUE : VARIANT_FALSE;
+}
+inline std::int32_t Given(std::int32_t value) {
+  return value;
+}
+template <class Interface>
+Interface* Given(ComPtr<Interface> object) {
+  return object.Detach();
+}
+
+/// Runs the body of a boundary method. Returns S_OK, or the error code of the exception.
 template <class Body>
 HRESULT Guarded(const char* source, Body&& body) noexcept {
   try {
@@ -30,6 +48,15 @@ HRESULT Guarded(const char* source, Body&& body) noexcept {
   } catch (...) {
     return ReturnError(source);
   }
+}
+
+/// Stores the result of `read` in an [out] argument. E_POINTER when it is null. After an error a pointer is null, and
+/// any other value is unchanged.
+template <class Place, class Read>
+HRESULT Give(const char* source, Place* place, Read&& read) noexcept {
+  if (!place) return E_POINTER;
+  if constexpr (std::is_pointer_v<Place>) *place = nullptr;
+  return Guarded(source, [&] { *place = Given(read()); });
 }
 
 }  // namespace orx::com

@@ -1,7 +1,5 @@
 #include "com/EventArguments.h"
 
-#include <utility>
-
 #include "com/Conversion.h"
 #include "com/Errors.h"
 
@@ -67,7 +65,7 @@ void EventArguments::Answer(UINT position, Variant value) const {
     Variant converted = Converted(value, static_cast<VARTYPE>(target->vt & ~VT_BYREF));
     return Check(StoreBehind(*target, converted), "The argument of an event has the wrong type");
   }
-  if (isVariant) std::swap(*target, static_cast<VARIANT&>(value));
+  if (isVariant) value.SwapWith(*target);
 }
 
 }  // namespace orx::com

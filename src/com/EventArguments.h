@@ -12,8 +12,8 @@
 
 namespace orx::com {
 
-/// A view of what the raising object passes; valid during the event. An argument may be a value, a reference to a value
-/// or a reference to a variant; values of other types are converted. Members throw RunTimeError when that fails.
+/// A view of the arguments that a control passes, valid during the event. An argument may be a value, a reference to a
+/// value or a reference to a variant. Values of other types are converted; members throw RunTimeError when that fails.
 class EventArguments {
  public:
   /// Throws when there are fewer arguments than the event has.
@@ -27,8 +27,8 @@ class EventArguments {
   /// Null for Nothing.
   ComPtr<IDispatch> Object(UINT position) const;
 
-  /// Writes through an argument that is a reference, in the reference's own type. An argument that was passed as a
-  /// value has nobody who reads the answer.
+  /// Writes to an argument that is a reference, in the reference's own type. Does nothing for an argument that was
+  /// passed by value.
   void Answer(UINT position, Variant value) const;
 
  private:

@@ -15,19 +15,6 @@ namespace orx::com {
 namespace {
 
 constexpr char kFormSource[] = "DialogForm";
-/// "Subscript out of range" and "Object unavailable", in the numbers of the older Basic.
-constexpr std::int32_t kOutOfRange = 9;
-constexpr std::int32_t kUnavailable = 398;
-
-HRESULT GiveText(BSTR* value, const std::function<std::string()>& text) noexcept {
-  if (!value) return E_POINTER;
-  return Guarded(kFormSource, [&] { *value = Bstr(text()).Detach(); });
-}
-
-HRESULT GiveNumber(long* value, const std::function<int()>& number) noexcept {
-  if (!value) return E_POINTER;
-  return Guarded(kFormSource, [&] { *value = number(); });
-}
 
 }  // namespace
 
@@ -35,7 +22,7 @@ struct LentForm::Loan {
   Form* Lent;
 
   Form& Get() const {
-    if (!Lent) throw RunTimeError(kUnavailable, "The dialog is only there while it is being translated.");
+    if (!Lent) throw RunTimeError(kErrorNotAvailable, "The dialog is only there while it is being translated.");
     return *Lent;
   }
 };
@@ -45,28 +32,28 @@ class ControlObject final : public DispatchObject<::IDialogControl> {
   ControlObject(std::shared_ptr<LentForm::Loan> loan, Control& control) : mLoan(std::move(loan)), mControl(control) {}
 
   HRESULT STDMETHODCALLTYPE get_Name(BSTR* value) noexcept override {
-    return GiveText(value, [this] { return Get().Name(); });
+    return Give(kFormSource, value, [this] { return Get().Name(); });
   }
   HRESULT STDMETHODCALLTYPE get_Caption(BSTR* value) noexcept override {
-    return GiveText(value, [this] { return Get().Caption(); });
+    return Give(kFormSource, value, [this] { return Get().Caption(); });
   }
   HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override {
     return Guarded(kFormSource, [&] { Get().Caption(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_ToolTipText(BSTR* value) noexcept override {
-    return GiveText(value, [this] { return Get().ToolTipText(); });
+    return Give(kFormSource, value, [this] { return Get().ToolTipText(); });
   }
   HRESULT STDMETHODCALLTYPE put_ToolTipText(BSTR value) noexcept override {
     return Guarded(kFormSource, [&] { Get().ToolTipText(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_TabCount(long* value) noexcept override {
-    return GiveNumber(value, [this] {
+    return Give(kFormSource, value, [this] {
       const auto* const tabs = dynamic_cast<TabControl*>(&Get());
       return tabs ? tabs->TabCount() : 0;
     });
   }
   HRESULT STDMETHODCALLTYPE get_TabCaption(long index, BSTR* value) noexcept override {
-    return GiveText(value, [&] { return Tabs(index).TabCaption(index); });
+    return Give(kFormSource, value, [&] { return Tabs(index).TabCaption(index); });
   }
   HRESULT STDMETHODCALLTYPE put_TabCaption(long index, BSTR value) noexcept override {
     return Guarded(kFormSource, [&] { Tabs(index).TabCaption(index, TextOf(value)); });
@@ -80,7 +67,7 @@ class ControlObject final : public DispatchObject<::IDialogControl> {
   TabControl& Tabs(long index) const {
     auto* const tabs = dynamic_cast<TabControl*>(&Get());
     if (!tabs || index < 0 || index >= tabs->TabCount())
-      throw RunTimeError(kOutOfRange, "\"" + mControl.Name() + "\" has no tab " + std::to_string(index) + ".");
+      throw RunTimeError(kErrorSubscript, "\"" + mControl.Name() + "\" has no tab " + std::to_string(index) + ".");
     return *tabs;
   }
 
@@ -93,13 +80,11 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
   explicit ControlsObject(std::shared_ptr<LentForm::Loan> loan) : mLoan(std::move(loan)) {}
 
   HRESULT STDMETHODCALLTYPE get_Count(long* value) noexcept override {
-    return GiveNumber(value, [this] { return static_cast<int>(mLoan->Get().All().size()); });
+    return Give(kFormSource, value, [this] { return static_cast<int>(mLoan->Get().All().size()); });
   }
 
   HRESULT STDMETHODCALLTYPE get_Item(VARIANT index, IDispatch** value) noexcept override {
-    if (!value) return E_POINTER;
-    *value = nullptr;
-    return Guarded(kFormSource, [&] { *value = Item(index).Detach(); });
+    return Give(kFormSource, value, [&] { return Item(index); });
   }
 
   HRESULT STDMETHODCALLTYPE get__NewEnum(IUnknown** value) noexcept override;
@@ -116,14 +101,14 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
   ComPtr<IDispatch> ByNumber(long number) const {
     const std::vector<Control*> all = mLoan->Get().All();
     if (number < 0 || number >= static_cast<long>(all.size()))
-      throw RunTimeError(kOutOfRange, "There is no control " + std::to_string(number) + ".");
+      throw RunTimeError(kErrorSubscript, "There is no control " + std::to_string(number) + ".");
     return Made(*all[static_cast<std::size_t>(number)]);
   }
 
  private:
   ComPtr<IDispatch> ByName(const std::string& name) const {
     Control* const control = mLoan->Get().Find(name);
-    if (!control) throw RunTimeError(kOutOfRange, "There is no control \"" + name + "\".");
+    if (!control) throw RunTimeError(kErrorSubscript, "There is no control \"" + name + "\".");
     return Made(*control);
   }
   ComPtr<IDispatch> Made(Control& control) const {
@@ -133,7 +118,7 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
   std::shared_ptr<LentForm::Loan> mLoan;
 };
 
-/// For Each over the controls.
+/// Serves For Each over the controls.
 class ControlsEnumerator final : public Counted<IEnumVARIANT> {
  public:
   ControlsEnumerator(const ControlsObject& controls, ULONG count, ULONG next)
@@ -141,16 +126,18 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
 
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
     if (!values) return E_POINTER;
-    ULONG done = 0;
+    if (fetched) *fetched = 0;
+    std::vector<ComPtr<IDispatch>> found;
     const HRESULT result = Guarded(kFormSource, [&] {
-      for (; done < count && mNext < mCount; ++done, ++mNext) {
-        values[done].vt = VT_DISPATCH;
-        values[done].pdispVal = mControls->ByNumber(static_cast<long>(mNext)).Detach();
-      }
+      while (found.size() < count && mNext + found.size() < mCount)
+        found.push_back(mControls->ByNumber(static_cast<long>(mNext + found.size())));
     });
-    if (fetched) *fetched = done;
+    // A caller does not release values that come with an error.
     if (FAILED(result)) return result;
-    return done == count ? S_OK : S_FALSE;
+    for (const ComPtr<IDispatch>& control : found) *values++ = Variant(control.Get()).Detach();
+    mNext += static_cast<ULONG>(found.size());
+    if (fetched) *fetched = static_cast<ULONG>(found.size());
+    return found.size() == count ? S_OK : S_FALSE;
   }
   HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override {
     const ULONG left = mCount - mNext;
@@ -162,9 +149,7 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) noexcept override {
-    if (!copy) return E_POINTER;
-    return Guarded(kFormSource,
-                   [&] { *copy = MakeCounted<ControlsEnumerator>(*mControls.Get(), mCount, mNext).Detach(); });
+    return Give(kFormSource, copy, [&] { return MakeCounted<ControlsEnumerator>(*mControls.Get(), mCount, mNext); });
   }
 
  private:
@@ -174,11 +159,9 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
 };
 
 HRESULT ControlsObject::get__NewEnum(IUnknown** value) noexcept {
-  if (!value) return E_POINTER;
-  *value = nullptr;
-  return Guarded(kFormSource, [&] {
+  return Give(kFormSource, value, [&] {
     const auto count = static_cast<ULONG>(mLoan->Get().All().size());
-    *value = MakeCounted<ControlsEnumerator>(*this, count, 0U).Detach();
+    return MakeCounted<ControlsEnumerator>(*this, count, 0U);
   });
 }
 
@@ -187,20 +170,18 @@ class FormObject final : public DispatchObject<::IDialogForm> {
   explicit FormObject(std::shared_ptr<LentForm::Loan> loan) : mLoan(std::move(loan)) {}
 
   HRESULT STDMETHODCALLTYPE get_Name(BSTR* value) noexcept override {
-    return GiveText(value, [this] { return mLoan->Get().Name(); });
+    return Give(kFormSource, value, [this] { return mLoan->Get().Name(); });
   }
   HRESULT STDMETHODCALLTYPE get_Caption(BSTR* value) noexcept override {
-    return GiveText(value, [this] { return mLoan->Get().Caption(); });
+    return Give(kFormSource, value, [this] { return mLoan->Get().Caption(); });
   }
   HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override {
     return Guarded(kFormSource, [&] { mLoan->Get().Caption(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_Controls(IDispatch** value) noexcept override {
-    if (!value) return E_POINTER;
-    *value = nullptr;
-    return Guarded(kFormSource, [&] {
+    return Give(kFormSource, value, [&] {
       mLoan->Get();
-      *value = MakeCounted<ControlsObject>(mLoan).Detach();
+      return MakeCounted<ControlsObject>(mLoan);
     });
   }
 

@@ -11,7 +11,7 @@ class Form;
 
 namespace orx::com {
 
-/// Lends a form to a host's object for the time of a call. What the host keeps of it afterwards answers with an error.
+/// Lends a form to a host's object for the time of a call. Objects that the host keeps afterwards answer with an error.
 class LentForm {
  public:
   explicit LentForm(Form& form);

@@ -5,19 +5,9 @@
 #include "com/Colors.h"
 #include "com/Conversion.h"
 #include "com/Errors.h"
-#include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
 namespace {
-
-/// "Object variable not set", in the numbers of the older Basic.
-constexpr std::int32_t kNoGridObject = 91;
-
-ComPtr<IDispatch> ObjectOf(const LateBound& owner, const char* member) {
-  ComPtr<IDispatch> object = owner.GetObject(member);
-  if (!object) throw RunTimeError(kNoGridObject, std::string(member) + " is Nothing.");
-  return object;
-}
 
 VARIANT ReferenceTo(VARIANT& variable) {
   VARIANT reference = {};
@@ -36,7 +26,7 @@ bool ShadeAdapter::SuggestScaleFactor(double& value) {
     if (success != VARIANT_FALSE) value = suggested;
     return success != VARIANT_FALSE;
   }
-  // The variables of scripts have no types.
+  // Variables of scripts are untyped.
   Variant suggested(0.0);
   Variant success(false);
   VARIANT arguments[] = {ReferenceTo(suggested), ReferenceTo(success)};
@@ -66,12 +56,12 @@ void LabelFontAdapter::Color(orx::Color value) {
 }
 
 orx::ILineStyle& IsolinesAdapter::Line() {
-  mLine = std::make_unique<LineStyleAdapter>(ObjectOf(mObject, "Line"));
+  mLine = std::make_unique<LineStyleAdapter>(mOwner, mObject.RequireObject("Line"));
   return *mLine;
 }
 
 orx::ILabelFont& IsolinesAdapter::LabelFont() {
-  mFont = std::make_unique<LabelFontAdapter>(ObjectOf(mObject, "LabelFont"));
+  mFont = std::make_unique<LabelFontAdapter>(mOwner, mObject.RequireObject("LabelFont"));
   return *mFont;
 }
 

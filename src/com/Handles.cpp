@@ -1,7 +1,5 @@
 #include "com/Handles.h"
 
-#include <new>
-
 namespace orx::com {
 
 Bstr::Bstr(std::string_view text) {
@@ -16,6 +14,16 @@ std::string Bstr::Text() const {
 
 std::string TextOf(BSTR text) {
   return text ? Narrowed({text, SysStringLen(text)}) : std::string();
+}
+
+ExceptionInfo::~ExceptionInfo() {
+  for (const BSTR text : {bstrSource, bstrDescription, bstrHelpFile}) SysFreeString(text);
+}
+
+HRESULT ExceptionInfo::Code() {
+  if (pfnDeferredFillIn) pfnDeferredFillIn(this);
+  if (scode != 0) return scode;
+  return wCode != 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, wCode) : DISP_E_EXCEPTION;
 }
 
 }  // namespace orx::com

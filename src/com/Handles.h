@@ -1,11 +1,13 @@
-// What owns the system's automation handles: interface pointers, strings and variants. Nothing else in the component
-// server releases or frees them.
+// The owners of COM resources: interface pointers, strings, variants, error information and system-allocated text. The
+// owners of arrays and type descriptions are in SafeArray.h and TypeDescriptions.h. Nothing but an owner frees its
+// resource.
 #pragma once
 
 #include <windows.h>
 
 #include <oleauto.h>
 
+#include <memory>
 #include <new>
 #include <string>
 #include <string_view>
@@ -32,13 +34,13 @@ class ComPtr {
     return *this;
   }
 
-  /// Takes over a reference that somebody else has added.
+  /// Takes over a reference that the caller holds.
   static ComPtr Attach(Interface* pointer) {
     ComPtr taken;
     taken.mPointer = pointer;
     return taken;
   }
-  /// Gives the reference away to the caller.
+  /// Hands the reference over to the caller.
   Interface* Detach() { return std::exchange(mPointer, nullptr); }
   void Reset() {
     if (Interface* const gone = std::exchange(mPointer, nullptr)) gone->Release();
@@ -48,19 +50,19 @@ class ComPtr {
   Interface* operator->() const { return mPointer; }
   explicit operator bool() const { return mPointer != nullptr; }
 
-  /// For functions that give an interface back through an argument.
+  /// For functions that return an interface through an argument.
   Interface** Out() {
     Reset();
     return &mPointer;
   }
   void** OutVoid() { return reinterpret_cast<void**>(Out()); }
 
-  /// Another interface of the object, empty when it has none.
+  /// Another interface of the object; empty when the object does not have it.
   template <class Other>
   ComPtr<Other> As(const IID& iid = __uuidof(Other)) const {
     return mPointer ? ComPtr<Other>::From(mPointer, iid) : ComPtr<Other>();
   }
-  /// The interface of any object, empty when there is no object or it has none.
+  /// An interface of any object; empty when there is no object or the object does not have it.
   static ComPtr From(IUnknown* object, const IID& iid = __uuidof(Interface)) {
     ComPtr found;
     if (object && FAILED(object->QueryInterface(iid, found.OutVoid()))) found.mPointer = nullptr;
@@ -89,9 +91,13 @@ class Bstr {
   BSTR Get() const { return mText; }
   BSTR Detach() { return std::exchange(mText, nullptr); }
   BSTR* Out() {
-    SysFreeString(std::exchange(mText, nullptr));
+    *this = Bstr();
     return &mText;
   }
+  /// For functions that replace the string through an argument.
+  BSTR* InOut() { return &mText; }
+  /// Swaps the string with a caller's variable, which then owns what was here.
+  void SwapWith(BSTR& other) noexcept { std::swap(mText, other); }
   std::string Text() const;
 
  private:
@@ -135,12 +141,36 @@ class Variant : public VARIANT {
     std::swap(static_cast<VARIANT&>(*this), static_cast<VARIANT&>(other));
     return *this;
   }
-  ~Variant() { VariantClear(this); }
+  ~Variant() { Clear(); }
 
+  void Clear() { VariantClear(this); }
+  /// For functions that return a value through an argument.
   VARIANT* Out() {
-    VariantClear(this);
+    Clear();
     return this;
   }
+  /// Hands the value over to the caller.
+  VARIANT Detach() { return std::exchange(static_cast<VARIANT&>(*this), VARIANT{}); }
+  /// Swaps the value with a caller's variable, which then owns what was here.
+  void SwapWith(VARIANT& other) noexcept { std::swap(static_cast<VARIANT&>(*this), other); }
 };
+
+/// The error information of a late-bound call.
+class ExceptionInfo : public EXCEPINFO {
+ public:
+  ExceptionInfo() : EXCEPINFO{} {}
+  ~ExceptionInfo();
+  ExceptionInfo(const ExceptionInfo&) = delete;
+  ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+
+  /// The error code. This also completes information that the callee has deferred, so call it before reading the texts.
+  HRESULT Code();
+};
+
+struct LocalDeleter {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+/// A text that the system has allocated for its caller on the local heap.
+using LocalText = std::unique_ptr<wchar_t, LocalDeleter>;
 
 }  // namespace orx::com

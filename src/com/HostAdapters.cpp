@@ -11,7 +11,7 @@
 namespace orx::com {
 namespace {
 
-/// Speaks to an object of which no reference is held between calls: each call holds one for its own time.
+/// An object to which no reference is held between calls; each call holds one while it runs.
 template <class Published>
 class RawObject {
  public:
@@ -62,7 +62,7 @@ class CallBackAdapter final : public orx::IDialogCallBack, public std::enable_sh
   void OKNotify(bool changed) override { mCallBack.Members().Call("OKNotify", Variant(changed)); }
 
   std::int32_t RegisterNotify() override {
-    // What comes back means nothing to the dialogs, so that it may be nothing.
+    // The dialogs ignore the result, so it need not be a number.
     mCallBack.Members().Call("RegisterNotify");
     return 0;
   }

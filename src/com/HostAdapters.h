@@ -10,17 +10,17 @@
 
 namespace orx::com {
 
-/// The object of a map or a part of it; null for null. It keeps a counted reference and everything that it was asked
-/// for, and is itself kept by the dialogs that show it (Lent::Lifetime). What it supports is decided by the published
+/// Adapts a map or a part of one; null for null. The result holds a reference and everything that was asked of it, and
+/// the dialogs that show it keep it alive (BorrowedObject::Lifetime). What the object supports is decided by the published
 /// interfaces, or by the names of its members.
 std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object);
 
-/// The language and the call-back: plain pointers to the host's objects, of which no reference is kept between calls.
-/// Null for null.
+/// Adapt the language and the call-back. These are plain pointers to the host's objects: no reference is held between
+/// calls. Null for null.
 std::shared_ptr<ILanguage> AdaptLanguage(IDispatch* language);
 std::shared_ptr<IDialogCallBack> AdaptCallBack(IDispatch* callBack);
 
-/// The host's own object behind an adapter, not counted; null for objects that are none.
+/// The host's own object behind an adapter, without a reference; null when the object is not an adapter.
 IDispatch* AutomationOf(HostObject* object);
 IDispatch* AutomationOf(ILanguage* language);
 

@@ -1,36 +1,36 @@
 #include "com/HostArrays.h"
 
-#include <new>
-#include <utility>
-
 #include "com/Errors.h"
-#include "com/Handles.h"
+#include "com/SafeArray.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
 namespace {
 
-void RequireElements(SAFEARRAY* array, VARTYPE type, const std::string& description) {
+bool HasElements(SAFEARRAY* array, VARTYPE type) {
   VARTYPE found = VT_EMPTY;
-  if (SafeArrayGetDim(array) == 1 && SUCCEEDED(SafeArrayGetVartype(array, &found)) && found == type) return;
-  throw RunTimeError(kErrorTypeMismatch, description);
+  return SafeArrayGetDim(array) == 1 && SUCCEEDED(SafeArrayGetVartype(array, &found)) && found == type;
 }
 
-/// Throws for arrays that belong to their place, and for those that somebody works in.
+void RequireElements(SAFEARRAY* array, VARTYPE type, const std::string& description) {
+  if (!HasElements(array, type)) throw RunTimeError(kErrorTypeMismatch, description);
+}
+
+/// Throws for arrays that cannot be reallocated, and for those that are in use.
 void RequireReplaceable(const SAFEARRAY* array, const std::string& name) {
   if (!array || (!(array->fFeatures & (FADF_STATIC | FADF_EMBEDDED | FADF_FIXEDSIZE)) && array->cLocks == 0)) return;
   throw RunTimeError(kErrorFixedArray,
                      name + " is an array of a fixed size or locked. Hand over one that can be resized.");
 }
 
-/// Makes an array counted from 1 and has `put` store each element by its index.
-template <class Put>
-void Replace(VARTYPE type, std::size_t count, SAFEARRAY*& array, const char* name, Put&& put) {
+/// Replaces an array by one with these elements that counts from 1.
+template <class Element>
+void Replace(VARTYPE type, const std::vector<Element>& elements, SAFEARRAY*& array, const char* name) {
   RequireReplaceable(array, name);
-  SAFEARRAY* const made = SafeArrayCreateVector(type, 1, static_cast<ULONG>(count));
-  if (!made) throw std::bad_alloc();
-  for (LONG index = 1; index <= static_cast<LONG>(count); ++index) put(made, index);
-  SafeArrayDestroy(std::exchange(array, made));
+  SafeArray made(type, {1, static_cast<ULONG>(elements.size())});
+  LONG index = 0;
+  for (const Element& element : elements) made.Put(++index, Variant(element));
+  made.SwapWith(array);
 }
 
 }  // namespace
@@ -39,28 +39,21 @@ TextArray TextsIn(SAFEARRAY* array, const char* name) {
   TextArray texts;
   if (!array) return texts;
   RequireElements(array, VT_BSTR, std::string(name) + " is no array of texts with one dimension.");
-  LONG first = 0;
-  Check(SafeArrayGetLBound(array, 1, &first), name);
-  BSTR* elements = nullptr;
-  Check(SafeArrayAccessData(array, reinterpret_cast<void**>(&elements)), name);
-  const struct Unaccess {
-    ~Unaccess() { SafeArrayUnaccessData(Array); }
-    SAFEARRAY* Array;
-  } unaccess{array};
-  texts.LowerBound = first;
-  const std::size_t count = array->rgsabound[0].cElements;
-  texts.Items.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) texts.Items.push_back(TextOf(elements[i]));
+  ArrayBounds bounds;
+  Check(BoundsOf(array, bounds), name);
+  texts.LowerBound = bounds.First;
+  texts.Items.reserve(bounds.Count);
+  const ArrayElements elements(array);
+  for (ULONG place = 0; place < bounds.Count; ++place)
+    texts.Items.push_back(TextOf(*static_cast<const BSTR*>(elements.At(place))));
   return texts;
 }
 
-std::vector<std::string> FirstOf(SAFEARRAY* files) {
-  VARTYPE type = VT_EMPTY;
+std::vector<std::string> InitialNameIn(SAFEARRAY* files) {
   LONG index = 1;
-  Bstr first;
-  if (!files || FAILED(SafeArrayGetVartype(files, &type)) || type != VT_BSTR || SafeArrayGetDim(files) != 1) return {};
-  if (FAILED(SafeArrayGetElement(files, &index, first.Out()))) return {};
-  return {first.Text()};
+  Bstr name;
+  if (!files || !HasElements(files, VT_BSTR) || FAILED(SafeArrayGetElement(files, &index, name.Out()))) return {};
+  return {name.Text()};
 }
 
 void RequireNumbers(SAFEARRAY* array, const char* name) {
@@ -70,16 +63,11 @@ void RequireNumbers(SAFEARRAY* array, const char* name) {
 }
 
 void PutTexts(const std::vector<std::string>& texts, SAFEARRAY*& array, const char* name) {
-  Replace(VT_BSTR, texts.size(), array, name, [&](SAFEARRAY* made, LONG index) {
-    SafeArrayPutElement(made, &index, Bstr(texts[static_cast<std::size_t>(index) - 1]).Get());
-  });
+  Replace(VT_BSTR, texts, array, name);
 }
 
 void PutNumbers(const std::vector<std::int32_t>& numbers, SAFEARRAY*& array, const char* name) {
-  Replace(VT_I4, numbers.size(), array, name, [&](SAFEARRAY* made, LONG index) {
-    LONG number = numbers[static_cast<std::size_t>(index) - 1];
-    SafeArrayPutElement(made, &index, &number);
-  });
+  Replace(VT_I4, numbers, array, name);
 }
 
 }  // namespace orx::com

@@ -1,4 +1,4 @@
-// The arrays that hosts hand over and get back.
+// The arrays that hosts pass in and get back.
 #pragma once
 
 #include <windows.h>
@@ -13,19 +13,19 @@
 
 namespace orx::com {
 
-/// The elements of an array of texts with the lower bound that it has; no array has none. An array of anything else or
-/// of several dimensions is a RunTimeError that names the argument `name`.
+/// The elements of an array of texts and its lower bound; a null array has no elements. Throws RunTimeError, naming the
+/// argument `name`, for arrays of anything else or of several dimensions.
 TextArray TextsIn(SAFEARRAY* array, const char* name);
 
-/// The element with the index 1 of an array of texts, when there is one: the name that a dialog opens on.
-std::vector<std::string> FirstOf(SAFEARRAY* files);
+/// The file name that a file dialog opens with: the element at index 1 of an array of texts. Empty when there is none.
+std::vector<std::string> InitialNameIn(SAFEARRAY* files);
 
-/// Throws RunTimeError, naming the argument `name`, for what PutNumbers could not replace: an array of anything but
-/// 32-bit integers, of several dimensions, of a fixed size or locked. No array is fine.
+/// Throws RunTimeError, naming the argument `name`, for an array that PutNumbers could not replace: one of anything but
+/// 32-bit integers, of several dimensions, of a fixed size, or locked. A null array is fine.
 void RequireNumbers(SAFEARRAY* array, const char* name);
 
-/// Put a new array, counted from 1, in the place of the old one; that of the argument `name`. RunTimeError, and the old
-/// one stays, when it is fixed or locked.
+/// Replace the array of the argument `name` by a new one that counts from 1. Throw RunTimeError, and leave the old
+/// array, when that has a fixed size or is locked.
 void PutTexts(const std::vector<std::string>& texts, SAFEARRAY*& array, const char* name);
 void PutNumbers(const std::vector<std::int32_t>& numbers, SAFEARRAY*& array, const char* name);
 

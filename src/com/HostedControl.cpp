@@ -4,6 +4,7 @@
 
 #include "com/ControlKeys.h"
 #include "com/Errors.h"
+#include "desktops/win32/Handles.h"
 
 namespace orx::com {
 namespace {
@@ -11,14 +12,12 @@ namespace {
 constexpr int kHimetricPerInch = 2540;
 
 SIZEL Himetric(const RECT& pixels) {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-  ReleaseDC(nullptr, screen);
+  const int dpi = GetDeviceCaps(win32::WindowContext(nullptr).Get(), LOGPIXELSX);
   return {MulDiv(pixels.right, kHimetricPerInch, dpi), MulDiv(pixels.bottom, kHimetricPerInch, dpi)};
 }
 
 void Begin(IOleObject& control, IOleClientSite* site) {
-  // Some controls ask for their surroundings in InitNew already, and none minds having the site before.
+  // Some controls use their site in InitNew already, and none minds having it earlier.
   Check(control.SetClientSite(site), "SetClientSite");
   if (const auto stream = ComPtr<IPersistStreamInit>::From(&control)) {
     const HRESULT result = stream->InitNew();

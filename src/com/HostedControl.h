@@ -1,4 +1,4 @@
-// A control of somebody else's in a window of a dialog: made at once, shown while there is a window, closed at the end.
+// Hosts an ActiveX control in a window of a dialog: created at once, shown while there is a window, closed at the end.
 #pragma once
 
 #include <windows.h>
@@ -11,11 +11,11 @@
 
 namespace orx::com {
 
-/// The system's own container windows tell nobody when a click brings the focus into the control, know no ambient
-/// properties, and register window classes for the whole process. Hence this one.
+/// The system's own container windows do not report a click that brings the focus into the control, have no ambient
+/// properties, and register window classes for the whole process.
 class HostedControl final : private ISiteOwner {
  public:
-  /// Makes an in-process control and puts it on a site. Throws RunTimeError with the step that failed.
+  /// Creates an in-process control and gives it a site. Throws RunTimeError, naming the step that failed.
   explicit HostedControl(const CLSID& control);
   ~HostedControl();
   HostedControl(const HostedControl&) = delete;
@@ -23,23 +23,23 @@ class HostedControl final : private ISiteOwner {
 
   IUnknown& Object() const { return *mControl.Get(); }
 
-  /// Shows the control all over the client area of the window. Throws RunTimeError when the control does not come up;
-  /// the window is the control's all the same, until Close.
+  /// Shows the control over the whole client area of the window. Throws RunTimeError when the control does not come up;
+  /// it keeps the window all the same, until Close.
   void Open(HWND area);
-  /// Takes the control out of its window, which is about to go. The control lives on and may be opened again.
+  /// Takes the control out of its window, which is about to be destroyed. The control lives on and may be opened again.
   void Close() noexcept;
-  /// The window was sized: fits the control to it.
+  /// Fits the control to its window after a change of size.
   void Fit() noexcept;
 
-  /// Brings the focus into the control: to where it was when only the dialog was left since; from behind when Shift+Tab
-  /// has led here.
+  /// Moves the focus into the control: back to where it was when only another window had it meanwhile, and to the last
+  /// field when Shift+Tab led here.
   void EnterFocus() noexcept;
-  /// The focus has left the control for another of the dialog.
+  /// The focus has moved to another control of the dialog.
   void LeaveFocus() noexcept;
   /// As NativeArea::FilterKey.
   bool FilterKey(MSG& message) noexcept;
 
-  /// Told when a click or the control itself has brought the focus there.
+  /// Called when a click, or the control itself, has moved the focus into the control.
   std::function<void()> FocusCameByItself;
 
  private:

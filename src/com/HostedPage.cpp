@@ -14,7 +14,7 @@ ComPtr<IDispatch> MembersOf(const HostedControl& control) {
   return members;
 }
 
-/// Says in the page's place why it is not there.
+/// Shows the reason where the page would be.
 void ShowReason(HWND area, const std::string& reason) {
   RECT place;
   GetClientRect(area, &place);
@@ -30,8 +30,9 @@ HostedPage::HostedPage(const PageSite& site, const std::string& progId, const CL
       mControl(control),
       mMembers(MembersOf(mControl).Get()),
       mArea(site.Parent, site.Name, {.Place = site.Place}) {
-  mEvents = PageEvents::Connect(mControl.Object(), *this);
   HandleArea();
+  // Last, because nobody would disconnect the events of a page whose constructor throws.
+  mEvents = PageEvents::Connect(mControl.Object(), *this);
 }
 
 HostedPage::~HostedPage() {
@@ -52,7 +53,7 @@ void HostedPage::Open(HWND area) {
   try {
     mControl.Open(area);
   } catch (const RunTimeError& error) {
-    // The dialog is on its way to the screen with its buttons, and the page's members answer.
+    // The dialog is about to be shown with its buttons, and the page's members still work.
     ShowReason(area, "The page control " + mProgId + " does not show itself. " + error.what());
   }
 }
@@ -61,17 +62,17 @@ void HostedPage::Client(HostObject* value) {
   IDispatch* const object = AutomationOf(value);
   if (value && !object)
     ThrowError(E_NOINTERFACE, "The page control " + mProgId + " cannot edit this object: it is no automation object.");
-  mMembers.Put("Client", Variant(object));
+  mMembers.Put("Client", object);
   mClient = value;
 }
 
 void HostedPage::Language(ILanguage* value) {
-  mMembers.Put("Language", Variant(AutomationOf(value)));
+  mMembers.Put("Language", AutomationOf(value));
   mLanguage = value;
 }
 
 void HostedPage::Selected(bool value) {
-  if (mMembers.Has("Selected")) mMembers.Put("Selected", Variant(value));
+  if (mMembers.Has("Selected")) mMembers.Put("Selected", value);
   PropertyPage::Selected(value);
 }
 

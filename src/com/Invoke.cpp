@@ -4,32 +4,13 @@
 #include <vector>
 
 #include "com/Arguments.h"
+#include "com/TypeDescriptions.h"
 
 namespace orx::com {
 namespace {
 
-class FunctionDescription {
- public:
-  FunctionDescription(ITypeInfo& info, UINT index) : mInfo(info) {
-    if (FAILED(mInfo.GetFuncDesc(index, &mDescription))) mDescription = nullptr;
-  }
-  FunctionDescription(FunctionDescription&& other) noexcept
-      : mInfo(other.mInfo), mDescription(std::exchange(other.mDescription, nullptr)) {}
-  ~FunctionDescription() {
-    if (mDescription) mInfo.ReleaseFuncDesc(mDescription);
-  }
-  FunctionDescription& operator=(FunctionDescription&&) = delete;
-
-  explicit operator bool() const { return mDescription != nullptr; }
-  const FUNCDESC* operator->() const { return mDescription; }
-
- private:
-  ITypeInfo& mInfo;
-  FUNCDESC* mDescription = nullptr;
-};
-
-/// The kinds of members that flags may stand for, in the order in which they are looked for. Script hosts do not tell
-/// methods from properties that are read, nor values from objects that are set.
+/// The kinds of members that the flags may mean, in the order in which they are tried. Script hosts do not distinguish
+/// methods from reading a property, nor setting a value from setting an object.
 std::vector<INVOKEKIND> KindsFor(WORD flags) {
   if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
     if (flags & DISPATCH_PROPERTYPUTREF) return {INVOKE_PROPERTYPUTREF, INVOKE_PROPERTYPUT};
@@ -39,10 +20,10 @@ std::vector<INVOKEKIND> KindsFor(WORD flags) {
   return {INVOKE_FUNC, INVOKE_PROPERTYGET};
 }
 
-/// Members are looked for one by one: not all systems count those that the interface inherits when asked by number.
+/// Looks through all members: systems differ in whether a look-up by identifier counts inherited ones.
 FunctionDescription FindMember(ITypeInfo& info, DISPID member, INVOKEKIND kind) {
   for (UINT index = 0;; ++index) {
-    FunctionDescription found(info, index);
+    FunctionDescription found = FunctionOf(info, index);
     if (!found || (found->memid == member && found->invkind == kind)) return found;
   }
 }
@@ -56,15 +37,15 @@ HRESULT InOrder(const DISPPARAMS& given, std::size_t parameters, bool isPut, std
     if (name != DISPID_PROPERTYPUT && (name < 0 || at >= parameters)) return DISP_E_PARAMNOTFOUND;
     ordered[at] = &given.rgvarg[i];
   }
-  // What has no name stands behind, the last argument first.
+  // Arguments without names follow, the last one first.
   for (UINT i = given.cNamedArgs; i < given.cArgs; ++i) ordered[given.cArgs - 1 - i] = &given.rgvarg[i];
   return S_OK;
 }
 
-HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, const FunctionDescription& member) {
-  const bool isPut = (member->invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF)) != 0;
+HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, const FUNCDESC& member) {
+  const bool isPut = (member.invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF)) != 0;
   std::vector<Parameter> parameters;
-  for (SHORT i = 0; i < member->cParams; ++i) parameters.push_back(ParameterOf(info, member->lprgelemdescParam[i]));
+  for (SHORT i = 0; i < member.cParams; ++i) parameters.push_back(ParameterOf(info, member.lprgelemdescParam[i]));
   std::vector<VARIANT*> ordered;
   HRESULT result = InOrder(*call.Parameters, parameters.size(), isPut, ordered);
   if (FAILED(result)) return result;
@@ -80,13 +61,13 @@ HRESULT CallMember(ITypeInfo& info, void* instance, const MemberCall& call, cons
   std::reverse(reversed.begin(), reversed.end());
   DISPID put = DISPID_PROPERTYPUT;
   DISPPARAMS handed = {reversed.data(), isPut ? &put : nullptr, static_cast<UINT>(reversed.size()), isPut ? 1U : 0U};
-  result = info.Invoke(instance, member->memid, static_cast<WORD>(member->invkind), &handed, call.Result, call.Error,
+  result = info.Invoke(instance, member.memid, static_cast<WORD>(member.invkind), &handed, call.Result, call.Error,
                        call.WrongArgument);
   return FAILED(result) ? result : arguments.WriteBack();
 }
 
-/// An index behind a property that takes none is meant for the collection that it gives.
-HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const FunctionDescription& member) {
+/// An index after a property that takes none is meant for the collection that the property returns.
+HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const FUNCDESC& member) {
   Variant collection;
   DISPPARAMS none = {};
   HRESULT result = CallMember(info, instance,
@@ -97,8 +78,8 @@ HRESULT CallItem(ITypeInfo& info, void* instance, const MemberCall& call, const 
                                      call.Error, call.WrongArgument);
 }
 
-bool AsksForItem(const MemberCall& call, const FunctionDescription& member) {
-  return member->invkind == INVOKE_PROPERTYGET && member->cParams == 0 && call.Parameters->cArgs > 0;
+bool AsksForItem(const MemberCall& call, const FUNCDESC& member) {
+  return member.invkind == INVOKE_PROPERTYGET && member.cParams == 0 && call.Parameters->cArgs > 0;
 }
 
 }  // namespace
@@ -106,8 +87,8 @@ bool AsksForItem(const MemberCall& call, const FunctionDescription& member) {
 HRESULT InvokeMember(ITypeInfo& info, void* instance, const MemberCall& call) {
   for (const INVOKEKIND kind : KindsFor(call.Flags))
     if (const FunctionDescription member = FindMember(info, call.Member, kind))
-      return AsksForItem(call, member) ? CallItem(info, instance, call, member)
-                                       : CallMember(info, instance, call, member);
+      return AsksForItem(call, *member) ? CallItem(info, instance, call, *member)
+                                        : CallMember(info, instance, call, *member);
   return DISP_E_MEMBERNOTFOUND;
 }
 

@@ -16,9 +16,9 @@ struct MemberCall {
   UINT* WrongArgument;
 };
 
-/// Fits the arguments, calls the member of `instance` (a pointer to the described interface) and gives results back.
-/// More generous than the system's own: variables may be sent for typed by-reference parameters, arguments may be left
-/// out where the type library says so, arrays may consist of variants.
+/// Converts the arguments, calls the member of `instance` (a pointer to the described interface) and returns its
+/// results. Unlike the system's own Invoke it takes variables for typed by-reference parameters, lets arguments be left
+/// out where the type library allows it, and takes arrays of variants.
 HRESULT InvokeMember(ITypeInfo& info, void* instance, const MemberCall& call);
 
 }  // namespace orx::com

@@ -12,35 +12,13 @@
 namespace orx::com {
 namespace {
 
-/// "Object doesn't support this property or method", in the numbers of the older Basic.
-constexpr std::int32_t kNoSuchMember = 438;
-
-/// The texts of an error that a late-bound call gives.
-class ExceptionInfo : public EXCEPINFO {
- public:
-  ExceptionInfo() : EXCEPINFO{} {}
-  ~ExceptionInfo() {
-    SysFreeString(bstrSource);
-    SysFreeString(bstrDescription);
-    SysFreeString(bstrHelpFile);
-  }
-  ExceptionInfo(const ExceptionInfo&) = delete;
-  ExceptionInfo& operator=(const ExceptionInfo&) = delete;
-
-  HRESULT Code() {
-    if (pfnDeferredFillIn) pfnDeferredFillIn(this);
-    if (scode != 0) return scode;
-    return wCode != 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, wCode) : DISP_E_EXCEPTION;
-  }
-};
-
 std::vector<VARIANT> Numbers(std::initializer_list<std::int32_t> arguments) {
   std::vector<VARIANT> numbers;
   for (const std::int32_t argument : arguments) {
     Variant number(argument);
     numbers.push_back(number);
   }
-  // The platform takes the last argument first.
+  // The platform expects the last argument first.
   std::reverse(numbers.begin(), numbers.end());
   return numbers;
 }
@@ -55,7 +33,7 @@ DISPID LateBound::Find(const std::string& name) const {
   LPOLESTR text = wide.data();
   DISPID member = kNone;
   const HRESULT result = mObject->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &member);
-  // Not all script objects answer there.
+  // Some script objects implement only IDispatchEx.
   const auto extended = result == E_NOTIMPL ? mObject.As<IDispatchEx>() : ComPtr<IDispatchEx>();
   if (extended) {
     if (FAILED(extended->GetDispID(Bstr(name).Get(), fdexNameCaseInsensitive, &member))) member = kNone;
@@ -72,7 +50,7 @@ bool LateBound::Has(const std::string& name) const {
 
 DISPID LateBound::Require(const std::string& name) const {
   const DISPID member = Find(name);
-  if (member == kNone) throw RunTimeError(kNoSuchMember, "The object has no member \"" + name + "\".");
+  if (member == kNone) throw RunTimeError(kErrorNoSuchMember, "The object has no member \"" + name + "\".");
   return member;
 }
 
@@ -94,7 +72,7 @@ Variant LateBound::Get(const std::string& name, std::initializer_list<std::int32
   DISPPARAMS parameters = {given.data(), nullptr, static_cast<UINT>(given.size()), 0};
   Variant result;
   std::string description;
-  // Functions answer to both flags together, the fields of some script objects only to the one for properties.
+  // Functions take both flags together; the fields of some script objects take only the one for properties.
   HRESULT code = TryInvoke(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, parameters, &result, description);
   if (FAILED(code) && description.empty()) {
     std::string second;
@@ -135,6 +113,12 @@ ComPtr<IDispatch> LateBound::GetObject(const std::string& name, std::initializer
   return ComPtr<IDispatch>(Converted(Get(name, arguments), VT_DISPATCH, name).pdispVal);
 }
 
+ComPtr<IDispatch> LateBound::RequireObject(const std::string& name) const {
+  ComPtr<IDispatch> object = GetObject(name);
+  if (!object) throw RunTimeError(kErrorNotLoaded, name + " is Nothing.");
+  return object;
+}
+
 void LateBound::Put(const std::string& name, Variant value) const {
   const DISPID member = Require(name);
   DISPID put = DISPID_PROPERTYPUT;
@@ -143,7 +127,7 @@ void LateBound::Put(const std::string& name, Variant value) const {
   const bool isObject = value.vt == VT_DISPATCH;
   HRESULT code =
       TryInvoke(member, isObject ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, parameters, nullptr, description);
-  // Fields of script objects know one way to be set only, whatever they are set to.
+  // Fields of script objects can be set in one way only, whatever the value.
   if (FAILED(code) && isObject && description.empty())
     code = TryInvoke(member, DISPATCH_PROPERTYPUT, parameters, nullptr, description);
   if (FAILED(code) && !description.empty()) ThrowError(code, description);
@@ -152,14 +136,14 @@ void LateBound::Put(const std::string& name, Variant value) const {
 
 Variant LateBound::Call(const std::string& name, VARIANT* arguments, UINT count) const {
   const DISPID member = Require(name);
-  // The arguments are only lent: whoever made them clears them.
+  // The caller keeps ownership of the arguments.
   std::vector<VARIANT> reversed(arguments, arguments + count);
   std::reverse(reversed.begin(), reversed.end());
   DISPPARAMS parameters = {reversed.data(), nullptr, count, 0};
   Variant result;
   std::string description;
   HRESULT code = TryInvoke(member, DISPATCH_METHOD, parameters, &result, description);
-  // Some languages know functions only as what can be read as well. Nothing was run when they say so.
+  // Some languages expect functions to be called with both flags. Nothing has run when they report this.
   if (code == DISP_E_MEMBERNOTFOUND)
     code = TryInvoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, &result, description);
   if (FAILED(code) && !description.empty()) ThrowError(code, description);

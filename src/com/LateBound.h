@@ -1,5 +1,5 @@
-// Members of a host's object, reached by name. Objects of script languages have no other way, and the published
-// interfaces are dual, so that this one way serves all.
+// Calls members of a host's object by name. Objects of script languages have no other way, and since the published
+// interfaces are dual this way serves all hosts.
 #pragma once
 
 #include <initializer_list>
@@ -10,19 +10,18 @@
 
 namespace orx::com {
 
-/// Keeps a counted reference. Names are looked up once each; letters of either case are the same where the object has
-/// it so. What a member raises is thrown as RunTimeError with its number and description; a member that the object does
-/// not have is one that names it.
+/// Holds a reference. Each name is looked up once; whether case matters is up to the object. An error that a member
+/// raises is thrown as RunTimeError with its number and description, and so is a missing member (kErrorNoSuchMember).
 class LateBound {
  public:
-  /// `object` may be null: then it has no members.
+  /// A null `object` has no members.
   explicit LateBound(IDispatch* object) : mObject(object) {}
 
   IDispatch* Object() const { return mObject.Get(); }
   /// True when the object has a member of that name.
   bool Has(const std::string& name) const;
 
-  /// Values of properties, converted. A member that gives something of another kind throws.
+  /// The values of properties, converted. Throw RunTimeError when a value has no conversion.
   Variant Get(const std::string& name, std::initializer_list<std::int32_t> arguments = {}) const;
   std::int32_t GetLong(const std::string& name, std::initializer_list<std::int32_t> arguments = {}) const;
   double GetDouble(const std::string& name) const;
@@ -30,11 +29,17 @@ class LateBound {
   std::string GetText(const std::string& name, std::initializer_list<std::int32_t> arguments = {}) const;
   /// Null for Nothing.
   ComPtr<IDispatch> GetObject(const std::string& name, std::initializer_list<std::int32_t> arguments = {}) const;
+  /// Throws RunTimeError (kErrorNotLoaded) for Nothing.
+  ComPtr<IDispatch> RequireObject(const std::string& name) const;
 
   /// Sets a property; objects by reference.
   void Put(const std::string& name, Variant value) const;
+  template <class Value>
+  void Put(const std::string& name, const Value& value) const {
+    Put(name, Variant(value));
+  }
 
-  /// Calls a method. Arguments stand in their order; one that travels by reference is a variant of VT_BYREF.
+  /// Calls a method with arguments in their order. To pass one by reference, make it a variant of VT_BYREF.
   Variant Call(const std::string& name, VARIANT* arguments = nullptr, UINT count = 0) const;
   Variant Call(const std::string& name, Variant argument) const { return Call(name, &argument, 1); }
 

@@ -10,12 +10,6 @@ namespace {
 
 constexpr char kDialogsSource[] = "CCommonMapDialogs";
 
-HRESULT GiveReference(IDispatch* object, IDispatch** value) {
-  if (!value) return E_POINTER;
-  *value = ComPtr<IDispatch>(object).Detach();
-  return S_OK;
-}
-
 }  // namespace
 
 struct MapDialogs::DialogCall {
@@ -25,13 +19,11 @@ struct MapDialogs::DialogCall {
   OwnerWindow Owner;
 };
 
-MapDialogs::MapDialogs()
-    : mSurroundings(Surroundings::OfThread()), mService(mSurroundings->Screen(), mSurroundings->Pages()) {
+MapDialogs::MapDialogs() : mContext(ThreadContext::OfThread()), mService(mContext->Screen(), mContext->Pages()) {
 }
 
 HRESULT MapDialogs::get_RegistryKey(BSTR* value) noexcept {
-  if (!value) return E_POINTER;
-  return Guarded(kDialogsSource, [&] { *value = Bstr(mService.RegistryKey()).Detach(); });
+  return Give(kDialogsSource, value, [&] { return mService.RegistryKey(); });
 }
 
 HRESULT MapDialogs::put_RegistryKey(BSTR* value) noexcept {
@@ -40,7 +32,7 @@ HRESULT MapDialogs::put_RegistryKey(BSTR* value) noexcept {
 }
 
 HRESULT MapDialogs::get_CallBack(IDispatch** value) noexcept {
-  return GiveReference(mCallBack, value);
+  return Give(kDialogsSource, value, [&] { return ComPtr<IDispatch>(mCallBack); });
 }
 
 HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
@@ -54,13 +46,13 @@ HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
 }
 
 HRESULT MapDialogs::get_Language(IDispatch** value) noexcept {
-  return GiveReference(mLanguage, value);
+  return Give(kDialogsSource, value, [&] { return ComPtr<IDispatch>(mLanguage); });
 }
 
 HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
   return Guarded(kDialogsSource, [&] {
     IDispatch* const language = value ? *value : nullptr;
-    // The old adapter lives until the service has the new one, whatever the new language throws when it is asked.
+    // The old adapter lives until the service has the new one, even if the new language throws when it is set.
     const auto before = std::exchange(mLanguageAdapter, AdaptLanguage(language));
     mLanguage = language;
     mService.Language(mLanguageAdapter.get());
@@ -72,14 +64,18 @@ HRESULT MapDialogs::ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::F
                                const VARIANT* OwnerForm, long* result, Dialog&& dialog) noexcept {
   if (!mObj || !result) return E_POINTER;
   *result = 0;
-  // A host may let go of the service from within a call.
-  const ComPtr<IUnknown> keep(static_cast<::_CCommonMapDialogs*>(this));
-  return Guarded(kDialogsSource, [&] {
+  return Kept(kDialogsSource, [&] {
     const std::shared_ptr<HostObject> client = AdaptHostObject(*mObj);
     const bool isModeless = mModal && *mModal == ::ShowModeless;
     *result = dialog(DialogCall{client.get(), mCaption ? TextOf(*mCaption) : std::string(),
                                 isModeless ? ShowMode::Modeless : ShowMode::Modal, OwnerOf(OwnerForm)});
   });
+}
+
+auto MapDialogs::Plain(DialogMember member) {
+  return [this, member](const DialogCall& call) {
+    return (mService.*member)(call.Client, call.Caption, call.Mode, call.Owner);
+  };
 }
 
 HRESULT MapDialogs::Show(IDispatch** mObj, long* mFlags, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
@@ -92,9 +88,7 @@ HRESULT MapDialogs::Show(IDispatch** mObj, long* mFlags, BSTR* mCaption, ::FormS
 
 HRESULT MapDialogs::ShowDataProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                        long* result) noexcept {
-  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.ShowDataProperties(call.Client, call.Caption, call.Mode, call.Owner);
-  });
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, Plain(&orx::CCommonMapDialogs::ShowDataProperties));
 }
 
 HRESULT MapDialogs::ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, ::FormShowMode* mModal,
@@ -106,23 +100,17 @@ HRESULT MapDialogs::ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, :
 
 HRESULT MapDialogs::ShowProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                    long* result) noexcept {
-  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.ShowProperties(call.Client, call.Caption, call.Mode, call.Owner);
-  });
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, Plain(&orx::CCommonMapDialogs::ShowProperties));
 }
 
 HRESULT MapDialogs::ShowLabels(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                long* result) noexcept {
-  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.ShowLabels(call.Client, call.Caption, call.Mode, call.Owner);
-  });
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, Plain(&orx::CCommonMapDialogs::ShowLabels));
 }
 
 HRESULT MapDialogs::ShowCoordinates(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                     long* result) noexcept {
-  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.ShowCoordinates(call.Client, call.Caption, call.Mode, call.Owner);
-  });
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, Plain(&orx::CCommonMapDialogs::ShowCoordinates));
 }
 
 HRESULT MapDialogs::ShowDataClassify(IDispatch** mObj, double* mMinValue, double* mMaxValue, ::ClassifyFlags flags,
@@ -133,16 +121,14 @@ HRESULT MapDialogs::ShowDataClassify(IDispatch** mObj, double* mMinValue, double
     bool changed = *isDirty != VARIANT_FALSE;
     const std::int32_t answer = mService.ShowDataClassify(call.Client, *mMinValue, *mMaxValue, flags, changed,
                                                           call.Caption, call.Mode, call.Owner);
-    *isDirty = changed ? VARIANT_TRUE : VARIANT_FALSE;
+    *isDirty = Given(changed);
     return answer;
   });
 }
 
 HRESULT MapDialogs::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                     long* result) noexcept {
-  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.ShowDataOptions(call.Client, call.Caption, call.Mode, call.Owner);
-  });
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, Plain(&orx::CCommonMapDialogs::ShowDataOptions));
 }
 
 HRESULT MapDialogs::ShowGeoReference(IDispatch** mObj, ::CheckState* mKeepRatio, BSTR* mFormat, BSTR* mCaption,
@@ -166,14 +152,13 @@ HRESULT MapDialogs::ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY**
 HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                 VARIANT_BOOL* result) noexcept {
   if (!files || !result) return E_POINTER;
-  return Guarded(kDialogsSource, [&] {
-    std::vector<std::string> chosen = FirstOf(*files);
-    // Handles of 64-bit programs fit 32 bits, with their sign.
+  return Kept(kDialogsSource, [&] {
+    std::vector<std::string> chosen = InitialNameIn(*files);
+    // Window handles of 64-bit programs fit 32 bits and are sign-extended.
     const auto owner = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(hWnd));
-    const ComPtr<IDispatch> self(this);
     const bool isChosen = (mService.*member)(owner, multiselect != VARIANT_FALSE, chosen);
     if (isChosen) PutTexts(chosen, *files, "Files");
-    *result = isChosen ? VARIANT_TRUE : VARIANT_FALSE;
+    *result = Given(isChosen);
   });
 }
 
@@ -190,15 +175,13 @@ HRESULT MapDialogs::ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIA
 HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                VARIANT_BOOL* result) noexcept {
   if (!newFileName || !cancelAll || !result) return E_POINTER;
-  return Guarded(kDialogsSource, [&] {
+  return Kept(kDialogsSource, [&] {
     std::string chosen = TextOf(*newFileName);
-    bool isCancelled = *cancelAll != VARIANT_FALSE;
-    const ComPtr<IDispatch> self(this);
-    const bool answer = (mService.*member)(TextOf(fileName), chosen, isCancelled);
-    Bstr given(chosen);
-    SysFreeString(std::exchange(*newFileName, given.Detach()));
-    *cancelAll = isCancelled ? VARIANT_TRUE : VARIANT_FALSE;
-    *result = answer ? VARIANT_TRUE : VARIANT_FALSE;
+    bool isCanceled = *cancelAll != VARIANT_FALSE;
+    const bool answer = (mService.*member)(TextOf(fileName), chosen, isCanceled);
+    Bstr(chosen).SwapWith(*newFileName);
+    *cancelAll = Given(isCanceled);
+    *result = Given(answer);
   });
 }
 
@@ -206,19 +189,18 @@ HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, do
                                            BSTR* mCaption, VARIANT* OwnerForm, long* result) noexcept {
   if (!mFontName || !mCharacter || !mRotation || !mChanged || !result) return E_POINTER;
   *result = 0;
-  return Guarded(kDialogsSource, [&] {
+  return Kept(kDialogsSource, [&] {
     std::string font = TextOf(*mFontName);
     std::int32_t character = *mCharacter;
     double rotation = *mRotation;
     bool isChanged = *mChanged != VARIANT_FALSE;
     const std::string before = font;
-    const ComPtr<IDispatch> self(this);
     *result = mService.ShowCharacterSelection(font, character, rotation, isChanged,
                                               mCaption ? TextOf(*mCaption) : std::string(), OwnerOf(OwnerForm));
-    if (font != before) SysFreeString(std::exchange(*mFontName, Bstr(font).Detach()));
+    if (font != before) Bstr(font).SwapWith(*mFontName);
     *mCharacter = character;
     *mRotation = rotation;
-    *mChanged = isChanged ? VARIANT_TRUE : VARIANT_FALSE;
+    *mChanged = Given(isChanged);
   });
 }
 
@@ -229,12 +211,11 @@ HRESULT MapDialogs::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMul
       !mSelected || !result)
     return E_POINTER;
   *result = 0;
-  return Guarded(kDialogsSource, [&] {
+  return Kept(kDialogsSource, [&] {
     const TextArray entries = TextsIn(*mSelection, "mSelection");
-    // What would be chosen in vain need not be chosen at all.
+    // Fail before the user has chosen, not afterwards.
     RequireNumbers(*mSelected, "mSelected");
     std::vector<std::int32_t> chosen;
-    const ComPtr<IDispatch> self(this);
     const std::int32_t count =
         mService.ShowListSelection(entries, *mMultiselect != VARIANT_FALSE, *mListIndex, TextOf(*mCaption),
                                    *mAskConfirmation != VARIANT_FALSE, TextOf(*mConfirmationQuestion), chosen);

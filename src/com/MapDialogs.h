@@ -1,14 +1,14 @@
 // The creatable class CCommonMapDialogs: the service class behind its dual interface.
 #pragma once
 
-// The interfaces come first: their names are global there and the library's own ones are not.
+// This header comes first: its interfaces are global, and the library has others of the same names.
 #include <OrvexMapDialogs2.h>
 
 #include <memory>
 
 #include "com/Dispatch.h"
 #include "com/HostAdapters.h"
-#include "com/Surroundings.h"
+#include "com/ThreadContext.h"
 #include "service/CCommonMapDialogs.h"
 
 namespace orx::com {
@@ -68,15 +68,19 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
                      VARIANT_BOOL* result) noexcept;
 
   struct DialogCall;
-  /// Shows a property dialog: takes the arguments apart and gives the result back.
+  /// Shows a property dialog: reads the arguments and returns the result.
   template <class Dialog>
   HRESULT ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::FormShowMode* mModal, const VARIANT* OwnerForm,
                      long* result, Dialog&& dialog) noexcept;
 
-  // The surroundings outlive the service, which uses them.
-  std::shared_ptr<Surroundings> mSurroundings;
+  using DialogMember = std::int32_t (orx::CCommonMapDialogs::*)(HostObject*, const std::string&, ShowMode, OwnerWindow);
+  /// A dialog that takes only the arguments that all dialogs have.
+  auto Plain(DialogMember member);
+
+  // Outlives the service, which uses it.
+  std::shared_ptr<ThreadContext> mContext;
   orx::CCommonMapDialogs mService;
-  // Plain pointers to the host's objects, and what speaks to them. No reference is held.
+  // Plain pointers to the host's objects, and their adapters. No reference is held.
   IDispatch* mLanguage = nullptr;
   IDispatch* mCallBack = nullptr;
   std::shared_ptr<orx::ILanguage> mLanguageAdapter;

@@ -19,7 +19,7 @@ std::uintptr_t HandleOf(const VARIANT& number) {
   if (number.vt == VT_BOOL || FAILED(ConvertValue(number, VT_R8, LOCALE_INVARIANT, exact)) ||
       exact.dblVal != std::trunc(exact.dblVal))
     throw RunTimeError(kErrorTypeMismatch, kExplanation);
-  // Handles of 64-bit programs fit 32 bits, but their sign is extended by some and not by others.
+  // Window handles of 64-bit programs fit 32 bits, but only some hosts sign-extend them.
   if (FAILED(ConvertValue(number, VT_I8, LOCALE_INVARIANT, handle)))
     throw RunTimeError(kErrorTypeMismatch, kExplanation);
   return static_cast<std::uintptr_t>(static_cast<std::intptr_t>(static_cast<std::int32_t>(handle.llVal)));

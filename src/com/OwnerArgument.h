@@ -6,8 +6,8 @@
 
 namespace orx::com {
 
-/// A missing argument, Empty, Null, Nothing and 0 stand for none; a number is a window handle, an object tells it in
-/// its property hWnd. Throws RunTimeError for anything else. `owner` may be null.
+/// A number is a window handle, an object has it in its property hWnd. A missing argument, Empty, Null, Nothing and 0
+/// mean no owner. Throws RunTimeError for anything else. `owner` may be null.
 OwnerWindow OwnerOf(const VARIANT* owner);
 
 }  // namespace orx::com

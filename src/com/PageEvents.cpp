@@ -90,7 +90,7 @@ ComPtr<IConnectionPoint> PointOf(IUnknown& control, REFIID source) {
   return point;
 }
 
-/// Puts the error that ReturnError has left into the form in which Invoke reports it.
+/// Converts the error information that ReturnError has set into the EXCEPINFO that Invoke returns.
 HRESULT AsException(HRESULT code, EXCEPINFO* exception) {
   ComPtr<IErrorInfo> info;
   if (!exception || GetErrorInfo(0, info.Out()) != S_OK) return code;
@@ -98,7 +98,7 @@ HRESULT AsException(HRESULT code, EXCEPINFO* exception) {
   exception->scode = code;
   info->GetDescription(&exception->bstrDescription);
   info->GetSource(&exception->bstrSource);
-  // The raiser may look at either.
+  // The control may read either.
   SetErrorInfo(0, info.Get());
   return DISP_E_EXCEPTION;
 }
@@ -154,7 +154,7 @@ HRESULT PageEvents::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VAR
   const PageEvent* const event = EventOf(id);
   if (!event) return DISP_E_MEMBERNOTFOUND;
   if (!given) return E_POINTER;
-  // A handler may close the dialog, and this with it.
+  // A handler may close the dialog, which releases this object.
   const ComPtr<PageEvents> keep(this);
   if (!mPage) return S_OK;
   const HRESULT result =

@@ -1,4 +1,4 @@
-// Hears the events of a page control and raises them as the page's own.
+// Receives the events of a page control and raises them as the page's own.
 #pragma once
 
 #include <windows.h>
@@ -16,13 +16,13 @@ namespace orx::com {
 
 struct PageEvent;
 
-/// The receiving end of _IMapPropertyPageEvents, or of a control's own event interface with events of the same names.
-/// What a handler throws goes back to the control as an error code with description.
+/// The event sink for _IMapPropertyPageEvents, or for a control's own event interface with events of the same names. An
+/// exception of a handler goes back to the control as an error code with a description.
 class PageEvents final : public Counted<IDispatch> {
  public:
-  /// Connects the control's events with those of the page. Empty when the control raises none that the page knows.
+  /// Connects the control's events to those of the page. Empty when the control raises none that the page knows.
   static ComPtr<PageEvents> Connect(IUnknown& control, PropertyPage& page);
-  /// Ends the connection; to be called before the page goes.
+  /// Ends the connection. Must be called before the page is destroyed.
   void Disconnect() noexcept;
 
   PageEvents(PropertyPage& page, SourceInterface source) : mPage(&page), mSource(std::move(source)) {}

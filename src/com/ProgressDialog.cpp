@@ -7,16 +7,9 @@ namespace {
 
 constexpr char kProgressSource[] = "CCommonProgressDialog";
 
-/// Gives a value of the service to the caller.
-template <class Value, class Read>
-HRESULT Give(Value* value, Read&& read) noexcept {
-  if (!value) return E_POINTER;
-  return Guarded(kProgressSource, [&] { *value = read(); });
-}
-
 }  // namespace
 
-ProgressDialog::ProgressDialog() : mSurroundings(Surroundings::OfThread()), mService(mSurroundings->Screen()) {
+ProgressDialog::ProgressDialog() : mContext(ThreadContext::OfThread()), mService(mContext->Screen()) {
 }
 
 HRESULT ProgressDialog::Init(long* min, long* max, long* value) noexcept {
@@ -25,11 +18,11 @@ HRESULT ProgressDialog::Init(long* min, long* max, long* value) noexcept {
 }
 
 HRESULT ProgressDialog::get_CancelAction(VARIANT_BOOL* value) noexcept {
-  return Give(value, [&] { return mService.CancelAction() ? VARIANT_TRUE : VARIANT_FALSE; });
+  return Give(kProgressSource, value, [&] { return mService.CancelAction(); });
 }
 
 HRESULT ProgressDialog::get_Value(long* value) noexcept {
-  return Give(value, [&] { return mService.Value(); });
+  return Give(kProgressSource, value, [&] { return mService.Value(); });
 }
 
 HRESULT ProgressDialog::put_Value(long value) noexcept {
@@ -37,7 +30,7 @@ HRESULT ProgressDialog::put_Value(long value) noexcept {
 }
 
 HRESULT ProgressDialog::get_Caption(BSTR* value) noexcept {
-  return Give(value, [&] { return Bstr(mService.Caption()).Detach(); });
+  return Give(kProgressSource, value, [&] { return mService.Caption(); });
 }
 
 HRESULT ProgressDialog::put_Caption(BSTR value) noexcept {
@@ -45,7 +38,7 @@ HRESULT ProgressDialog::put_Caption(BSTR value) noexcept {
 }
 
 HRESULT ProgressDialog::get_Message(BSTR* value) noexcept {
-  return Give(value, [&] { return Bstr(mService.Message()).Detach(); });
+  return Give(kProgressSource, value, [&] { return mService.Message(); });
 }
 
 HRESULT ProgressDialog::put_Message(BSTR value) noexcept {
@@ -53,14 +46,11 @@ HRESULT ProgressDialog::put_Message(BSTR value) noexcept {
 }
 
 HRESULT ProgressDialog::Show(VARIANT* ownerForm) noexcept {
-  // A host may let go of the object while events are handled.
-  const ComPtr<IUnknown> keep(static_cast<::_CCommonProgressDialog*>(this));
-  return Guarded(kProgressSource, [&] { mService.Show(OwnerOf(ownerForm)); });
+  return Kept(kProgressSource, [&] { mService.Show(OwnerOf(ownerForm)); });
 }
 
 HRESULT ProgressDialog::Hide() noexcept {
-  const ComPtr<IUnknown> keep(static_cast<::_CCommonProgressDialog*>(this));
-  return Guarded(kProgressSource, [&] { mService.Hide(); });
+  return Kept(kProgressSource, [&] { mService.Hide(); });
 }
 
 HRESULT ProgressDialog::Refresh() noexcept {

@@ -1,13 +1,13 @@
 // The creatable class CCommonProgressDialog: the service class behind its dual interface.
 #pragma once
 
-// The interfaces come first: their names are global there and the library's own ones are not.
+// This header comes first: its interfaces are global, and the library has others of the same names.
 #include <OrvexMapDialogs2.h>
 
 #include <memory>
 
 #include "com/Dispatch.h"
-#include "com/Surroundings.h"
+#include "com/ThreadContext.h"
 #include "service/CCommonProgressDialog.h"
 
 namespace orx::com {
@@ -29,8 +29,8 @@ class ProgressDialog final : public ClassObject<::CCommonProgressDialog, ::_CCom
   HRESULT STDMETHODCALLTYPE Refresh() noexcept override;
 
  private:
-  // The surroundings outlive the service, which uses them.
-  std::shared_ptr<Surroundings> mSurroundings;
+  // Outlives the service, which uses it.
+  std::shared_ptr<ThreadContext> mContext;
   orx::CCommonProgressDialog mService;
 };
 

@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "com/Errors.h"
+#include "com/TypeDescriptions.h"
 #include "com/TypeLibrary.h"
+#include "desktops/win32/Handles.h"
 
 namespace orx::com {
 namespace {
@@ -25,7 +27,7 @@ const CreatableClass kClasses[] = {
      L"Progress dialog for long operations"},
 };
 
-/// One text in the registry; an empty name is the key's own value.
+/// One text in the registry; an empty name means the default value of the key.
 struct Entry {
   std::wstring Key;
   std::wstring Name;
@@ -58,54 +60,51 @@ std::vector<Entry> EntriesOf(const CreatableClass& made) {
   };
 }
 
-/// The classes of all users or of the present one.
+/// The registry's classes, of all users or of the current one.
 class ClassesKey {
  public:
   explicit ClassesKey(RegisteredFor whom) {
     const HKEY root = whom == RegisteredFor::AllUsers ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-    Check(HRESULT_FROM_WIN32(RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                                             &mKey, nullptr)),
-          "The registry's classes cannot be opened");
+    // HRESULT_FROM_WIN32 evaluates its argument twice.
+    const LSTATUS status =
+        RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, mKey.Out(), nullptr);
+    Check(HRESULT_FROM_WIN32(status), "The registry's classes cannot be opened");
   }
-  ~ClassesKey() { RegCloseKey(mKey); }
-  ClassesKey(const ClassesKey&) = delete;
-  ClassesKey& operator=(const ClassesKey&) = delete;
 
   void Write(const Entry& entry) const {
-    HKEY key = nullptr;
-    LSTATUS status = RegCreateKeyExW(mKey, entry.Key.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &key, nullptr);
-    if (status == ERROR_SUCCESS) {
-      const auto bytes = static_cast<DWORD>((entry.Text.size() + 1) * sizeof(wchar_t));
-      status = RegSetValueExW(key, entry.Name.empty() ? nullptr : entry.Name.c_str(), 0, REG_SZ,
-                              reinterpret_cast<const BYTE*>(entry.Text.c_str()), bytes);
-      RegCloseKey(key);
-    }
+    const auto bytes = static_cast<DWORD>((entry.Text.size() + 1) * sizeof(wchar_t));
+    const LSTATUS status =
+        RegSetKeyValueW(mKey.Get(), entry.Key.c_str(), entry.Name.empty() ? nullptr : entry.Name.c_str(), REG_SZ,
+                        entry.Text.c_str(), bytes);
     Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(entry.Key) + "\" cannot be written");
   }
 
   void Remove(const std::wstring& key) const {
-    const LSTATUS status = RegDeleteTreeW(mKey, key.c_str());
+    const LSTATUS status = RegDeleteTreeW(mKey.Get(), key.c_str());
     if (status != ERROR_FILE_NOT_FOUND)
       Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(key) + "\" cannot be removed");
   }
 
-  /// Removes a key that nothing stands in any more: a user who has registered nothing else had none.
+  /// Removes a key that is empty now: it was not there before, unless the user had registered something else.
   void RemoveEmpty(const wchar_t* key) const {
-    HKEY opened = nullptr;
-    DWORD keys = 0;
-    DWORD values = 0;
-    if (RegOpenKeyExW(mKey, key, 0, KEY_READ, &opened) != ERROR_SUCCESS) return;
-    const LSTATUS status = RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
-                                            nullptr, nullptr, nullptr, nullptr);
-    RegCloseKey(opened);
-    if (status == ERROR_SUCCESS && keys == 0 && values == 0) RegDeleteKeyW(mKey, key);
+    if (IsEmpty(key)) RegDeleteKeyW(mKey.Get(), key);
   }
 
  private:
-  HKEY mKey = nullptr;
+  bool IsEmpty(const wchar_t* key) const {
+    win32::RegistryKey opened;
+    DWORD keys = 0;
+    DWORD values = 0;
+    return RegOpenKeyExW(mKey.Get(), key, 0, KEY_READ, opened.Out()) == ERROR_SUCCESS &&
+           RegQueryInfoKeyW(opened.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
+                            nullptr, nullptr) == ERROR_SUCCESS &&
+           keys == 0 && values == 0;
+  }
+
+  win32::RegistryKey mKey;
 };
 
-/// What carries calls of an interface to another thread: the automation library, which knows it from the type library.
+/// The automation library's own proxies, which marshal an interface by its type library.
 constexpr wchar_t kDualProxy[] = L"{00020424-0000-0000-C000-000000000046}";
 constexpr wchar_t kDispatchProxy[] = L"{00020420-0000-0000-C000-000000000046}";
 
@@ -136,17 +135,15 @@ std::vector<PublishedInterface> PublishedInterfaces() {
   std::vector<PublishedInterface> found;
   for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
     ComPtr<ITypeInfo> info;
-    TYPEATTR* attributes = nullptr;
     Bstr name;
     Check(library->GetTypeInfo(index, info.Out()), "The type library");
-    Check(info->GetTypeAttr(&attributes), "The type library");
+    const TypeAttributes attributes = AttributesOf(*info.Get());
+    Check(attributes ? S_OK : E_OUTOFMEMORY, "The type library");
     const bool isInterface = attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE;
-    const bool isDual = (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0;
-    const std::wstring key = L"Interface\\" + TextOfGuid(attributes->guid);
-    info->ReleaseTypeAttr(attributes);
     if (!isInterface) continue;
     Check(info->GetDocumentation(MEMBERID_NIL, name.Out(), nullptr, nullptr, nullptr), "The type library");
-    found.push_back({key, Widened(name.Text()), isDual});
+    found.push_back({L"Interface\\" + TextOfGuid(attributes->guid), Widened(name.Text()),
+                     (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0});
   }
   return found;
 }
@@ -184,7 +181,7 @@ void Register(RegisteredFor whom) {
     for (const PublishedInterface& published : interfaces) WriteAll(classes, EntriesOf(published));
     for (const CreatableClass& made : kClasses) WriteAll(classes, EntriesOf(made));
   } catch (...) {
-    // Half a registration is worse than none. What it failed at is the error to tell.
+    // Half a registration is worse than none. The first failure is the one to report.
     static_cast<void>(Guarded(kRegistrationSource, [&] { Unregister(whom); }));
     throw;
   }
@@ -197,7 +194,7 @@ void Unregister(RegisteredFor whom) {
     classes.Remove(made.ProgId);
     classes.Remove(ClassKey(made));
   }
-  // Last, as it needs the type library, which may be damaged.
+  // Last, because it needs the type library, which may be damaged.
   for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
   for (const wchar_t* const folder : {L"CLSID", L"Interface", L"TypeLib"}) classes.RemoveEmpty(folder);
 }

@@ -1,4 +1,4 @@
-// The interface by which a control raises its events: the published one of page controls, or the control's own.
+// The interface through which a control raises its events: the published one of page controls, or the control's own.
 #pragma once
 
 #include <windows.h>
@@ -10,14 +10,14 @@
 
 namespace orx::com {
 
-/// What is to be known of an event interface in order to be called through it.
+/// An event interface, as far as its events have to be recognised.
 struct SourceInterface {
   IID Id = {};
-  /// The names of the events by their numbers. Empty for the published interface, whose numbers are known.
+  /// The names of the events by dispatch identifier. Empty for the published interface, whose identifiers are known.
   std::map<DISPID, std::string> Names;
 };
 
-/// The default source interface as the control's type information tells it; with an empty Id when it tells none.
+/// The default source interface according to the control's type information; the Id is empty when there is none.
 SourceInterface DefaultSource(IUnknown& control);
 
 }  // namespace orx::com

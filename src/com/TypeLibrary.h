@@ -17,7 +17,7 @@ ComPtr<ITypeInfo> TypeInfoOf(const GUID& guid);
 /// The path of the module that this code is in.
 std::wstring ModulePath();
 
-/// For tests: the file that takes the place of the module's type library; empty: the module's own again.
+/// For tests: a file that replaces the module's type library; an empty path restores the module's own.
 void TypeLibraryPath(const std::wstring& path);
 
 }  // namespace orx::com

@@ -1,10 +1,12 @@
 #include "datadialogs/Classification.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
-#include "hostobjects/ErrorTrap.h"
+#include "forms/SettingOf.h"
+#include "hostobjects/PassOver.h"
+#include "text/AsciiCase.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
@@ -17,12 +19,33 @@ bool DifferByRounding(double one, double two) {
   return std::abs(one - two) <= kLastDigits * std::max(std::abs(one), std::abs(two));
 }
 
-std::string Plain(std::string text) {
-  text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
-  text.erase(text.find_last_not_of(' ') + 1);
-  std::ranges::transform(text, text.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return text;
+std::string Plain(std::string_view text) {
+  return AsciiLowerCase(Trimmed(text, kSpaces));
 }
+
+/// The properties of a data object's classification, in the order in which they are read and written, and the settings
+/// that take them.
+struct ClassificationProperties {
+  /// Both must live as long.
+  ClassificationProperties(Classification& model, IClassification& data) : Model(model), Data(&data) {}
+
+  using C = IClassification;
+  Classification& Model;
+  IClassification* Data;
+  Settings All{WriteRule::Always, PassOver};
+  Part<C> Of{All, Data};
+  HeldSetting<std::string> Format{Model.ValueFormat, Of(&C::ValueFormat, &C::ValueFormat)};
+  HeldSetting<bool> ShowName{Model.ShowParameterName, Of(&C::ShowParameterName, &C::ShowParameterName)};
+  HeldSetting<std::int32_t> Method{Model.Method, Of(&C::ClassifyMethod, &C::ClassifyMethod)};
+  HeldSetting<std::int32_t> Count{Model.ClassCount, Of(&C::NumberOfClasses, &C::NumberOfClasses)};
+  HeldSetting<double> Minimum{Model.Minimum, Of(&C::MinValue, &C::MinValue)};
+  HeldSetting<double> Maximum{Model.Maximum, Of(&C::MaxValue, &C::MaxValue)};
+  HeldSetting<double> Step{Model.Step, Of(&C::StepSize)};
+  HeldSetting<bool> Outside{Model.OutsideAsMissing, Of(&C::OutsideAsMissing, &C::OutsideAsMissing)};
+  HeldSetting<std::int32_t> Style{Model.LegendStyle, Of(&C::LegendStyle, &C::LegendStyle)};
+  HeldSetting<double> FirstSize{Model.FirstClassSize, Of(&C::FirstClassSize, &C::FirstClassSize)};
+  HeldSetting<double> LastSize{Model.LastClassSize, Of(&C::LastClassSize, &C::LastClassSize)};
+};
 
 }  // namespace
 
@@ -32,36 +55,11 @@ int IndexOfFormat(const std::string& format) {
   return found == kValueFormats.end() ? 0 : static_cast<int>(found - kValueFormats.begin());
 }
 
-void Classification::ReadFrom(const IClassification& data) noexcept {
-  ErrorTrap trap;
-  trap.Step([&] { ValueFormat = data.ValueFormat(); });
-  trap.Step([&] { ShowParameterName = data.ShowParameterName(); });
-  trap.Step([&] { Method = data.ClassifyMethod(); });
-  trap.Step([&] { ClassCount = data.NumberOfClasses(); });
-  trap.Step([&] { Minimum = data.MinValue(); });
-  trap.Step([&] { Maximum = data.MaxValue(); });
-  trap.Step([&] { Step = data.StepSize(); });
-  trap.Step([&] { OutsideAsMissing = data.OutsideAsMissing(); });
-  trap.Step([&] { LegendStyle = data.LegendStyle(); });
-  trap.Step([&] { FirstClassSize = data.FirstClassSize(); });
-  trap.Step([&] { LastClassSize = data.LastClassSize(); });
+void Classification::ReadFrom(IClassification& data) {
+  ClassificationProperties(*this, data).All.Read();
 }
 
-void Classification::WriteTo(IClassification& data) const noexcept {
-  ErrorTrap trap;
-  trap.Step([&] { data.ValueFormat(ValueFormat); });
-  trap.Step([&] { data.ShowParameterName(ShowParameterName); });
-  trap.Step([&] { data.ClassifyMethod(Method); });
-  trap.Step([&] { data.NumberOfClasses(ClassCount); });
-  trap.Step([&] { data.MinValue(Minimum); });
-  trap.Step([&] { data.MaxValue(Maximum); });
-  trap.Step([&] { data.OutsideAsMissing(OutsideAsMissing); });
-  trap.Step([&] { data.LegendStyle(LegendStyle); });
-  trap.Step([&] { data.FirstClassSize(FirstClassSize); });
-  trap.Step([&] { data.LastClassSize(LastClassSize); });
-}
-
-bool Classification::SaveTo(IClassification& data) const noexcept {
+bool Classification::SaveTo(IClassification& data) const {
   Classification held;
   held.ReadFrom(data);
   // What follows from the rest may be rounded otherwise by the host; that is no change of the user's.
@@ -70,7 +68,7 @@ bool Classification::SaveTo(IClassification& data) const noexcept {
   if (*this == fitted) return false;
   Classification written = *this;
   if (Maximum == fitted.Maximum && DifferByRounding(Maximum, held.Maximum)) written.Maximum = held.Maximum;
-  written.WriteTo(data);
+  ClassificationProperties(written, data).All.Write();
   return true;
 }
 

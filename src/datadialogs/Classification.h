@@ -37,10 +37,10 @@ struct Classification {
   bool IsAutomatic() const { return Method == classifymethod::kAutomatic; }
 
   /// Reads all properties. One that cannot be read leaves its field as it was.
-  void ReadFrom(const IClassification& data) noexcept;
+  void ReadFrom(IClassification& data);
   /// Writes all properties but the step when one of them differs from what the data hold now. One that cannot be
   /// written is passed over. True when something differed.
-  bool SaveTo(IClassification& data) const noexcept;
+  bool SaveTo(IClassification& data) const;
 
   /// Brings step and range in line: with equal steps the maximum follows from the step, with equal intervals and user
   /// defined classes the step from the range. Other methods leave both alone.
@@ -52,9 +52,6 @@ struct Classification {
   void ChangeStep(double value);
   /// Takes over a range with equal intervals and two decimals; number of classes and step stay.
   void TakeDefault(double minimum, double maximum);
-
- private:
-  void WriteTo(IClassification& data) const noexcept;
 };
 
 /// What the dialog goes back to when "Auto classify" is unticked.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "forms/SettingOf.h"
 #include "hostobjects/ErrorTrap.h"
 
 namespace orx {
@@ -20,26 +21,34 @@ ISpecialValue& ValueOf(IDataOptions& options, std::size_t kind) {
   }
 }
 
+/// The properties of one kind, in the order in which they are read and written, and the settings that take them.
+struct SpecialValueProperties {
+  /// Both must live as long.
+  SpecialValueProperties(SpecialValueRecord& record, ISpecialValue& value) : Record(record), Value(&value) {}
+
+  using V = ISpecialValue;
+  SpecialValueRecord& Record;
+  ISpecialValue* Value;
+  Settings All{WriteRule::Always};
+  Part<V> Of{All, Value};
+  HeldSetting<orx::Color> Color{Record.Color, Of(&V::Color, &V::Color)};
+  HeldSetting<bool> Enabled{Record.Enabled, Of(&V::Enabled, &V::Enabled)};
+  HeldSetting<bool> InLegend{Record.InLegend, Of(&V::InLegend, &V::InLegend)};
+  HeldSetting<double> UpperBound{Record.UpperBound, Of(&V::UpperBound, &V::UpperBound)};
+  HeldSetting<double> LowerBound{Record.LowerBound, Of(&V::LowerBound, &V::LowerBound)};
+  HeldSetting<std::string> Text{Record.Text, Of(&V::TextValue, &V::TextValue)};
+  HeldSetting<bool> Transparent{Record.Transparent, Of(&V::Transparent, &V::Transparent)};
+};
+
 }  // namespace
 
-void SpecialValueRecord::ReadFrom(const ISpecialValue& value) {
-  Color = value.Color();
-  Enabled = value.Enabled();
-  InLegend = value.InLegend();
-  UpperBound = value.UpperBound();
-  LowerBound = value.LowerBound();
-  Text = value.TextValue();
-  Transparent = value.Transparent();
+void SpecialValueRecord::ReadFrom(ISpecialValue& value) {
+  SpecialValueProperties(*this, value).All.Read();
 }
 
 void SpecialValueRecord::WriteTo(ISpecialValue& value) const {
-  value.Color(Color);
-  value.Enabled(Enabled);
-  value.InLegend(InLegend);
-  value.UpperBound(UpperBound);
-  value.LowerBound(LowerBound);
-  value.TextValue(Text);
-  value.Transparent(Transparent);
+  SpecialValueRecord written = *this;
+  SpecialValueProperties(written, value).All.Write();
 }
 
 void SpecialValues::ReadFrom(IDataOptions& options) {

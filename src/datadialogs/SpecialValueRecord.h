@@ -24,7 +24,7 @@ struct SpecialValueRecord {
   bool operator==(const SpecialValueRecord&) const = default;
 
   /// Reads or writes all properties; what the host throws travels.
-  void ReadFrom(const ISpecialValue& value);
+  void ReadFrom(ISpecialValue& value);
   void WriteTo(ISpecialValue& value) const;
 };
 

@@ -1,12 +1,12 @@
 #include "datadialogs/frmDataClassify.h"
 
 #include <stdexcept>
-#include <utility>
 
+#include "dialogframe/SelectAllText.h"
+#include "forms/BusyScope.h"
 #include "forms/Desktop.h"
 #include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
 
 namespace orx {
 namespace {
@@ -23,66 +23,56 @@ constexpr char kInvalidClassCount[] = "Number of classes invalid!";
 }  // namespace
 
 frmDataClassify::frmDataClassify(Desktop& desktop)
-    : DialogForm(desktop, "frmDataClassify", {.Caption = "Data Classify", .Client = {7200, 6675}}) {
-  cboMethod.Click = [this] {
-    if (mIsBusy) return;
-    mModel.Method = cboMethod.SelectedData();
-    RefreshControls();
-  };
+    : EditForm(desktop, {.Name = "frmDataClassify",
+                         .Caption = "Data Classify",
+                         .HelpKey = "_HelpLayerDataClassify",
+                         .Client = {7200, 6675}}) {
+  cboMethod.Click = [this] { Take(mMethod); };
   cboFormat.Click = [this] {
     if (mIsBusy) return;
     mModel.ValueFormat = cboFormat.Text();
     RefreshControls();
   };
   cboRangeFormat.Click = [this] {
-    if (!mIsBusy) mModel.LegendStyle = cboRangeFormat.SelectedData();
+    if (mIsBusy) return;
+    mFields.Write(mStyle);
+    mFields.Read(mStyle);
   };
   chkAutoClassify.Click = [this] { chkAutoClassify_Click(); };
-  chkClassiffyAsMissing.Click = [this] { mModel.OutsideAsMissing = chkClassiffyAsMissing.IsChecked(); };
-  chkSeriesInLegend.Click = [this] {
-    if (mIsBusy) return;
-    mModel.ShowParameterName = chkSeriesInLegend.IsChecked();
-    RefreshControls();
-  };
+  chkClassiffyAsMissing.Click = [this] { mFields.Write(mOutside); };
+  chkSeriesInLegend.Click = [this] { Take(mShowName); };
   cboClasses.Change = [this] { cboClasses_Change(); };
   cboClasses.Click = [this] { cboClasses_Click(); };
-  HandleRange(mMinimum, &Classification::MoveMinimum);
-  HandleRange(mMaximum, &Classification::MoveMaximum);
-  HandleRange(mStep, &Classification::ChangeStep);
+  HandleRange(mMinimum, txtMin, &Classification::MoveMinimum);
+  HandleRange(mMaximum, txtMax, &Classification::MoveMaximum);
+  HandleRange(mStep, txtStep, &Classification::ChangeStep);
   for (TextBox* const field : {&txtSizeFirst, &txtSizeLast})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
   cmdDefault.Click = [this] { cmdDefault_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmDataClassify::SetData(HostObject* data, double dMin, double dMax, std::int32_t flags, const std::string&) {
-  mData = data;
-  Hold(data);
+  Subject(data);
   mDefaultMin = dMin;
   mDefaultMax = dMax;
   mFlags = flags;
 }
 
-void frmDataClassify::Form_Load() {
-  Center();
-  TakeHelpNumber("_HelpLayerDataClassify");
-  const auto* const data = QueryKind<IClassification>(mData);
+void frmDataClassify::Fill() {
+  auto* const data = QueryKind<IClassification>(Subject());
   if (!data) return Unload();
   mModel.ReadFrom(*data);
   mSaved = {mModel.Method, mModel.ClassCount};
-  mIsDirty = false;
   cmdDefault.Visible(mDefaultMin != kUnknownRangeEnd || mDefaultMax != kUnknownRangeEnd);
   FillLists();
   chkClassiffyAsMissing.Enabled(true);
-  chkClassiffyAsMissing.Value(CheckedIf(mModel.OutsideAsMissing));
+  mFields.Read(mOutside);
   FillClasses();
   RefreshControls();
-  Translate();
 }
 
 void frmDataClassify::FillLists() {
-  mIsBusy = true;
+  const BusyScope busy(mIsBusy);
   cboFormat.Clear();
   for (const char* const format : kValueFormats) cboFormat.AddItem(format);
   FillList(cboMethod, {{"Equal intervals", classifymethod::kEqualIntervals},
@@ -91,7 +81,6 @@ void frmDataClassify::FillLists() {
   FillList(cboRangeFormat, {{"By Color", legendstyle::kByColor},
                             {"By Color and pixel Size", legendstyle::kByColorAndSize},
                             {"By pixel Size", legendstyle::kBySize}});
-  mIsBusy = false;
 }
 
 void frmDataClassify::FillList(ComboBox& box, std::initializer_list<std::pair<const char*, std::int32_t>> entries) {
@@ -100,26 +89,23 @@ void frmDataClassify::FillList(ComboBox& box, std::initializer_list<std::pair<co
 }
 
 void frmDataClassify::FillClasses() {
-  mIsBusy = true;
+  const BusyScope busy(mIsBusy);
   cboClasses.Enabled(false);
   cboClasses.Clear();
   for (int entry = 1; entry <= kListedClasses; ++entry) cboClasses.AddItem(std::to_string(entry), entry);
   std::int32_t count = mModel.ClassCount;
   ErrorTrap trap;
   trap.Step([&] {
-    if (auto* const data = QueryKind<IData>(mData)) count = data->ClassCount();
+    if (auto* const data = QueryKind<IData>(Subject())) count = data->ClassCount();
   });
   ShowClassCount(count);
   cboClasses.Enabled((mFlags & kMayChangeClassCount) != 0);
-  mIsBusy = false;
 }
 
 void frmDataClassify::RefreshControls() {
   if (mModel.IsAutomatic() && !chkAutoClassify.IsChecked()) chkAutoClassify.Value(CheckState::Checked);
   EnableRange();
-  mIsBusy = true;
   ShowLists();
-  mIsBusy = false;
   mModel.FitStep();
   ShowRange();
 }
@@ -140,19 +126,22 @@ void frmDataClassify::EnableRange() {
 }
 
 void frmDataClassify::ShowLists() {
-  if (!cboMethod.SelectData(mModel.Method)) cboMethod.ListIndex(0);
+  const BusyScope busy(mIsBusy);
+  for (Setting* const setting : std::initializer_list<Setting*>{&mMethod, &mShowName, &mStyle}) mFields.Read(*setting);
   cboFormat.ListIndex(IndexOfFormat(mModel.ValueFormat));
-  chkSeriesInLegend.Value(CheckedIf(mModel.ShowParameterName));
-  if (!cboRangeFormat.SelectData(mModel.LegendStyle)) cboRangeFormat.ListIndex(0);
   // What is being typed there stays.
-  if (!mSizeFirst.IsEdited()) mSizeFirst.Show(mModel.FirstClassSize);
-  if (!mSizeLast.IsEdited()) mSizeLast.Show(mModel.LastClassSize);
+  for (NumberSetting* const size : {&mSizeFirst, &mSizeLast})
+    if (!size->IsEdited()) mFields.Read(*size);
 }
 
 void frmDataClassify::ShowRange() {
-  mMinimum.Show(mModel.Minimum, FormattedRange(mModel.Minimum));
-  mMaximum.Show(mModel.Maximum, FormattedRange(mModel.Maximum));
-  mStep.Show(mModel.Step, FormattedRange(mModel.Step));
+  for (NumberSetting* const setting : {&mMinimum, &mMaximum, &mStep}) mFields.Read(*setting);
+}
+
+void frmDataClassify::Take(Setting& setting) {
+  if (mIsBusy) return;
+  mFields.Write(setting);
+  RefreshControls();
 }
 
 std::string frmDataClassify::FormattedRange(double value) const {
@@ -160,10 +149,9 @@ std::string frmDataClassify::FormattedRange(double value) const {
 }
 
 void frmDataClassify::ShowClassCount(std::int32_t count) {
-  const bool before = std::exchange(mIsBusy, true);
+  const BusyScope busy(mIsBusy);
   cboClasses.Text(std::to_string(count));
   mShownClasses = cboClasses.Text();
-  mIsBusy = before;
 }
 
 std::optional<double> frmDataClassify::TypedClassCount() const {
@@ -190,12 +178,12 @@ void frmDataClassify::TakeClassCount() {
   RefreshControls();
 }
 
-void frmDataClassify::HandleRange(ShownNumber& field, RangeRule rule) {
-  field.Box().GotFocus = [&field] { modMain::SelectAllText(field.Box()); };
-  field.Box().LostFocus = [this, &field, rule] { Range_LostFocus(field, rule); };
+void frmDataClassify::HandleRange(NumberSetting& field, TextBox& box, RangeRule rule) {
+  box.GotFocus = [&box] { modMain::SelectAllText(box); };
+  box.LostFocus = [this, &field, rule] { Range_LostFocus(field, rule); };
 }
 
-void frmDataClassify::Range_LostFocus(ShownNumber& field, RangeRule rule) {
+void frmDataClassify::Range_LostFocus(NumberSetting& field, RangeRule rule) {
   if (!field.IsEdited()) return;
   const std::optional<double> value = field.Value();
   if (value) {
@@ -211,9 +199,8 @@ void frmDataClassify::chkAutoClassify_Click() {
   if (mIsBusy) return;
   if (chkAutoClassify.IsChecked()) {
     mSaved.GoAutomatic(mModel, mDefaultMin, mDefaultMax);
-    mIsBusy = true;
+    const BusyScope busy(mIsBusy);
     cboMethod.ListIndex(0);
-    mIsBusy = false;
   } else {
     mSaved.GoBack(mModel);
   }
@@ -226,26 +213,24 @@ void frmDataClassify::cmdDefault_Click() {
   RefreshControls();
 }
 
-bool frmDataClassify::Refuse(const char* text, Control& field) {
-  OwnerDesktop().ShowMessage({text, kWrongValue, MessageIcon::Exclamation});
-  field.SetFocus();
-  return false;
+bool frmDataClassify::RefuseValue(const char* text, Control& field) {
+  return Refuse({text, kWrongValue, MessageIcon::Exclamation}, field);
 }
 
-bool frmDataClassify::TakeFields() {
-  for (const ShownNumber* const field : {&mMinimum, &mMaximum, &mStep})
-    if (!field->Value()) return Refuse(kInvalidNumber, field->Box());
-  if (!TypedClassCount()) return Refuse(kInvalidNumber, cboClasses);
-  for (const ShownNumber* const field : {&mSizeFirst, &mSizeLast})
-    if (!field->Value()) return Refuse(kInvalidNumber, field->Box());
-  mModel.Minimum = *mMinimum.Value();
-  mModel.Maximum = *mMaximum.Value();
+bool frmDataClassify::Check() {
+  for (const NumberSetting* const field : {&mMinimum, &mMaximum, &mStep})
+    if (!field->Value()) return RefuseValue(kInvalidNumber, field->Box());
+  if (!TypedClassCount()) return RefuseValue(kInvalidNumber, cboClasses);
+  for (const NumberSetting* const field : {&mSizeFirst, &mSizeLast})
+    if (!field->Value()) return RefuseValue(kInvalidNumber, field->Box());
+  mFields.Write(mMinimum);
+  mFields.Write(mMaximum);
   // Written so that values which compare with nothing are refused too.
-  if (!(mModel.Minimum < mModel.Maximum)) return Refuse(kWrongOrder, txtMin);
-  mModel.Step = *mStep.Value();
+  if (!(mModel.Minimum < mModel.Maximum)) return RefuseValue(kWrongOrder, txtMin);
+  mFields.Write(mStep);
   if (!TakeClassCountOnOK()) return false;
-  mModel.FirstClassSize = *mSizeFirst.Value();
-  mModel.LastClassSize = *mSizeLast.Value();
+  mFields.Write(mSizeFirst);
+  mFields.Write(mSizeLast);
   return true;
 }
 
@@ -254,29 +239,15 @@ bool frmDataClassify::TakeClassCountOnOK() {
     // A box that nobody has touched stands for the number of the settings, which the data may count otherwise.
     if (cboClasses.Text() != mShownClasses) mModel.ClassCount = numbers::RoundToLong(*TypedClassCount());
   } catch (const std::overflow_error&) {
-    return Refuse(kInvalidClassCount, cboClasses);
+    return RefuseValue(kInvalidClassCount, cboClasses);
   }
-  return mModel.ClassCount >= 1 || Refuse(kInvalidClassCount, cboClasses);
+  return mModel.ClassCount >= 1 || RefuseValue(kInvalidClassCount, cboClasses);
 }
 
-void frmDataClassify::cmdOK_Click() {
-  if (!TakeFields()) return;
-  OwnerDesktop().Pointer(Pointer::Hourglass);
+bool frmDataClassify::Save() {
   mModel.FitStep();
-  mIsDirty = mModel.SaveTo(*QueryKind<IClassification>(mData));
-  Hide();
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmDataClassify::cmdCancel_Click() {
-  mIsDirty = false;
-  Hide();
-}
-
-void frmDataClassify::Form_Unload() {
-  mData = nullptr;
-  mIsDirty = false;
-  DialogForm::Form_Unload();
+  IsDirty(mModel.SaveTo(*QueryKind<IClassification>(Subject())));
+  return true;
 }
 
 }  // namespace orx

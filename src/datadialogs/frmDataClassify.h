@@ -9,19 +9,19 @@
 #include <utility>
 
 #include "datadialogs/Classification.h"
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/ShownNumber.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 
 /// Works on a copy of the settings, which OK writes when one differs from what the data object holds.
-class frmDataClassify final : public DialogForm {
+class frmDataClassify final : public EditForm {
  public:
   explicit frmDataClassify(Desktop& desktop);
 
@@ -29,8 +29,6 @@ class frmDataClassify final : public DialogForm {
   /// range that "Default" and "Auto classify" take (kUnknownRangeEnd when not known) and the flags
   /// (kMayChangeClassCount). The text is not used. Before the form is loaded.
   void SetData(HostObject* data, double dMin, double dMax, std::int32_t flags, const std::string& text);
-  /// True when OK has written changed settings.
-  bool IsDirty() const { return mIsDirty; }
 
   Frame fraData[5]{{*this, "fraData(0)", {.Caption = "Classification method", .Place = {120, 120, 6960, 840}}},
                    {*this, "fraData(1)", {.Caption = "Value format", .Place = {120, 1080, 6960, 840}}},
@@ -67,14 +65,13 @@ class frmDataClassify final : public DialogForm {
   TextBox txtSizeLast{fraData[4], "txtSizeLast", {.Place = {5970, 330, 840, 330}}};
 
   Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 6180, 1500, 375}, .Pinned = true}};
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3975, 6180, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5580, 6180, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
-  void Form_Unload() override;
+  void Fill() override;
+  bool Check() override;
+  bool Save() override;
 
  private:
   using RangeRule = void (Classification::*)(double);
@@ -89,35 +86,41 @@ class frmDataClassify final : public DialogForm {
   std::string FormattedRange(double value) const;
   void ShowClassCount(std::int32_t count);
 
-  void HandleRange(ShownNumber& field, RangeRule rule);
-  void Range_LostFocus(ShownNumber& field, RangeRule rule);
+  /// Takes what a field shows into the model, and refreshes all.
+  void Take(Setting& setting);
+  void HandleRange(NumberSetting& field, TextBox& box, RangeRule rule);
+  void Range_LostFocus(NumberSetting& field, RangeRule rule);
   void cboClasses_Change();
   void cboClasses_Click();
   void TakeClassCount();
   std::optional<double> TypedClassCount() const;
   void chkAutoClassify_Click();
   void cmdDefault_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
-  bool TakeFields();
   bool TakeClassCountOnOK();
-  /// Tells what is wrong and gives the focus to the field.
-  bool Refuse(const char* text, Control& field);
+  bool RefuseValue(const char* text, Control& field);
 
-  HostObject* mData = nullptr;
   double mDefaultMin = kUnknownRangeEnd;
   double mDefaultMax = kUnknownRangeEnd;
   std::int32_t mFlags = 0;
   Classification mModel;
   SavedClassification mSaved;
   std::string mShownClasses;
-  bool mIsDirty = false;
   bool mIsBusy = false;
-  ShownNumber mMinimum{txtMin};
-  ShownNumber mMaximum{txtMax};
-  ShownNumber mStep{txtStep};
-  ShownNumber mSizeFirst{txtSizeFirst};
-  ShownNumber mSizeLast{txtSizeLast};
+
+  // The fields and the model; what the data object holds is the model's.
+  Settings mFields{WriteRule::Always};
+  Part<Classification> mOf{mFields, [this] { return &mModel; }};
+  using M = Classification;
+  const NumberRule mRange{.Format = [this](double value) { return FormattedRange(value); }};
+  ChoiceSetting mMethod{cboMethod, mOf(&M::Method), {.Otherwise = 0}};
+  FlagSetting mShowName{chkSeriesInLegend, mOf(&M::ShowParameterName)};
+  NumberSetting mMinimum{txtMin, mOf(&M::Minimum), mRange};
+  NumberSetting mMaximum{txtMax, mOf(&M::Maximum), mRange};
+  NumberSetting mStep{txtStep, mOf(&M::Step), mRange};
+  FlagSetting mOutside{chkClassiffyAsMissing, mOf(&M::OutsideAsMissing)};
+  ChoiceSetting mStyle{cboRangeFormat, mOf(&M::LegendStyle), {.Otherwise = 0}};
+  NumberSetting mSizeFirst{txtSizeFirst, mOf(&M::FirstClassSize)};
+  NumberSetting mSizeLast{txtSizeLast, mOf(&M::LastClassSize)};
 };
 
 }  // namespace orx

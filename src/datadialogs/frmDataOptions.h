@@ -2,29 +2,28 @@
 #pragma once
 
 #include "datadialogs/SpecialValueRecord.h"
+#include "dialogframe/ColorBox.h"
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "forms/ShownNumber.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 
 /// The controls of the three kinds stand in arrays, in the order of SpecialKind. Works on copies of the three records,
 /// which OK writes, changed or not.
-class frmDataOptions final : public DialogForm {
+class frmDataOptions final : public EditForm {
  public:
   explicit frmDataOptions(Desktop& desktop);
 
   /// The object whose special values are edited; used, not owned. Before the form is loaded; without one, or with one
   /// that has no special values, the form unloads itself as it loads.
-  HostObject* Data() const { return mData; }
-  void Data(HostObject* value);
-  /// True when the user has edited something and OK has written it.
-  bool IsDirty() const { return mIsDirty; }
+  HostObject* Data() const { return Subject(); }
+  void Data(HostObject* value) { Subject(value); }
 
   Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 90, 6450, 1650}}};
   Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1830, 6450, 1650}}};
@@ -77,17 +76,16 @@ class frmDataOptions final : public DialogForm {
       {fraNoData, "chkTransparent(2)", {.Caption = "Transparent", .Place = kTransparent}},
   };
   Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 5370, 1500, 375}, .Pinned = true}};
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3465, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5070, 5370, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
   /// Shows one record, by index from 0, or all three with -1. Another index throws std::out_of_range.
   void ShowRecord(int index);
 
  protected:
-  void Form_Load() override;
-  void Form_Unload() override;
+  void Fill() override;
+  bool Check() override;
+  bool Save() override;
 
  private:
   // Places in each of the three frames.
@@ -101,26 +99,35 @@ class frmDataOptions final : public DialogForm {
   static constexpr Rect kInLegend{3720, 450, 2580, 300};
   static constexpr Rect kTransparent{3720, 780, 2580, 300};
 
+  /// The fields of one kind and its record.
+  struct Fields {
+    Fields(frmDataOptions& form, int index)
+        : Form(form), Index(index), Of(All, [this] { return &Form.Record(Index); }) {}
+
+    using R = SpecialValueRecord;
+    frmDataOptions& Form;
+    int Index;
+    Settings All{WriteRule::Always};
+    Part<R> Of;
+    FlagSetting Enabled{Form.chkEnabled[Index], Of(&R::Enabled)};
+    FlagSetting InLegend{Form.chkInLegend[Index], Of(&R::InLegend)};
+    FlagSetting Transparent{Form.chkTransparent[Index], Of(&R::Transparent)};
+    ColorSetting Ground{Form.pctColor[Index], Of(&R::Color)};
+    NumberSetting Minimum{Form.txtMinValue[Index], Of(&R::LowerBound)};
+    NumberSetting Maximum{Form.txtMaxValue[Index], Of(&R::UpperBound)};
+  };
+
   void HandleEvents(int index);
   SpecialValueRecord& Record(int index) { return mValues.Records.at(static_cast<std::size_t>(index)); }
   void ShowOne(int index);
-  void Switch(int index, bool SpecialValueRecord::*field, const CheckBox& box);
-  void TakeBound(int index, double SpecialValueRecord::*field, const ShownNumber& text);
-  void pctColor_Click(int index);
+  void Switch(int index, FlagSetting& setting);
+  void TakeBound(int index, NumberSetting& setting);
   void cmdDefault_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
-  bool Validate();
-  bool Refuse(const char* title, const char* text, TextBox& field);
 
-  HostObject* mData = nullptr;
   SpecialValues mValues;
-  bool mIsDirty = false;
   bool mIsBusy = false;
-  ShownNumber mMinimum[kSpecialKinds]{ShownNumber(txtMinValue[0]), ShownNumber(txtMinValue[1]),
-                                      ShownNumber(txtMinValue[2])};
-  ShownNumber mMaximum[kSpecialKinds]{ShownNumber(txtMaxValue[0]), ShownNumber(txtMaxValue[1]),
-                                      ShownNumber(txtMaxValue[2])};
+  ColorBox mColors[kSpecialKinds]{ColorBox(pctColor[0]), ColorBox(pctColor[1]), ColorBox(pctColor[2])};
+  Fields mFields[kSpecialKinds]{{*this, 0}, {*this, 1}, {*this, 2}};
 };
 
 }  // namespace orx

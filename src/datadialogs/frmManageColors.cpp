@@ -2,21 +2,9 @@
 
 namespace orx {
 frmManageColors::frmManageColors(Desktop& desktop)
-    : DialogForm(desktop, "frmManageColors", {.Caption = "Color Scheme", .Client = {6240, 3645}}) {
-  cmdOK.Click = [this] {
-    mCanceled = false;
-    Hide();
-  };
-  cmdCancel.Click = [this] {
-    mCanceled = true;
-    Hide();
-  };
-}
-
-void frmManageColors::Form_Load() {
-  Center();
-  TakeHelpNumber("_HelpMapColors");
-  Translate();
+    : OkCancelForm(
+          desktop,
+          {.Name = "frmManageColors", .Caption = "Color Scheme", .HelpKey = "_HelpMapColors", .Client = {6240, 3645}}) {
 }
 
 }  // namespace orx

@@ -2,23 +2,20 @@
 // nothing but OK and Cancel acts.
 #pragma once
 
+#include "dialogframe/Glyphs.h"
+#include "dialogframe/OkCancelForm.h"
 #include "forms/Button.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/ListBox.h"
 #include "forms/PictureBox.h"
-#include "service/DialogForm.h"
-#include "service/Glyphs.h"
 
 namespace orx {
 
 /// Reads and writes no host object.
-class frmManageColors final : public DialogForm {
+class frmManageColors final : public OkCancelForm {
  public:
   explicit frmManageColors(Desktop& desktop);
-
-  /// True after Cancel, false after OK and before either.
-  bool Canceled() const { return mCanceled; }
 
   ListBox lstScheme{*this, "lstScheme", {.Place = {120, 120, 2940, 2880}, .AccessibleName = "Color schemes"}};
   Button cmdNew{*this, "cmdNew", {.Place = {3180, 120, 480, 450}, .ToolTipText = "New scheme"}, glyphs::kPage};
@@ -44,21 +41,14 @@ class frmManageColors final : public DialogForm {
       {fraBasicColor, "BasicColor(4)", {.Place = ColorPlace(3)}, {0, 160, 80}},
       {fraBasicColor, "BasicColor(5)", {.Place = ColorPlace(4)}, {0, 96, 192}},
   };
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3015, 3150, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4620, 3150, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
-
- protected:
-  void Form_Load() override;
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  private:
   /// A bullet.
   static constexpr const char* kMarker = "\xE2\x80\xA2";
   static constexpr Rect MarkPlace(int row) { return {180, 420 + 495 * row, 390, 240}; }
   static constexpr Rect ColorPlace(int row) { return {600, 360 + 495 * row, 1560, 360}; }
-
-  bool mCanceled = false;
 };
 
 }  // namespace orx

@@ -1,4 +1,4 @@
-// Colours and fonts as forms and drawings name them.
+// Colours, fonts and mouse pointers of forms and drawings.
 #pragma once
 
 #include <cstdint>
@@ -25,13 +25,13 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
-/// The longest face name that the platforms' fonts have. A longer one names no font.
+/// The longest face name that a font can have on the platforms. A longer one names no font.
 inline constexpr int kLongestFaceName = 31;
 
-/// The colours of the user's scheme that drawings take, with the platform's code numbers.
+/// The colours of the user's scheme that drawings use, with the platform's code numbers.
 enum class SystemColor { Window = 5, WindowText = 8, Highlight = 13, HighlightText = 14 };
 
-/// The mouse pointers that dialogs ask for, with the platform's code numbers.
+/// The mouse pointers that dialogs show, with the platform's code numbers.
 enum class Pointer { Default = 0, SizeNS = 7, Hourglass = 11 };
 
 }  // namespace orx

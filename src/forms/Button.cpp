@@ -1,6 +1,5 @@
 #include "forms/Button.h"
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -9,10 +8,6 @@ void Button::UserPress() {
   OwnerForm().UserAct([this] {
     if (OwnerForm().MoveFocus(*this)) Click.Raise();
   });
-}
-
-void Button::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

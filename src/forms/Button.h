@@ -6,11 +6,11 @@
 
 namespace orx {
 
-/// What a button stands for in its form: Enter presses the default button, Escape the cancel button.
+/// What a button means in its form: Enter presses the default button, Escape the cancel button.
 enum class ButtonRole { Plain, Default, Cancel };
 
-/// A button that a user presses by mouse, Enter, Space or its mnemonic.
-class Button final : public Control {
+/// A button that the user presses by mouse, Enter, Space or its mnemonic.
+class Button : public Control {
  public:
   /// As Control; the role is fixed.
   Button(Container& parent, std::string name, Design design, ButtonRole role = ButtonRole::Plain)
@@ -21,7 +21,7 @@ class Button final : public Control {
 
   /// What Enter and Escape do with it.
   ButtonRole Role() const { return mRole; }
-  /// The picture that stands on it, null for none.
+  /// The picture on it, null for none.
   const Glyph* Picture() const { return mPicture; }
 
   /// Raised when the button is pressed by mouse, key or program.

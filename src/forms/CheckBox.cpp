@@ -1,6 +1,5 @@
 #include "forms/CheckBox.h"
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -14,14 +13,10 @@ void CheckBox::Value(CheckState value) {
 
 void CheckBox::UserToggle() {
   OwnerForm().UserAct([this] {
-    // The native box has ticked itself already; it waits for what becomes of the click.
+    // The native box has already changed its mark; it must show the state that the control ends up with.
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Value(CheckedIf(mValue == CheckState::Unchecked));
   });
-}
-
-void CheckBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -5,13 +5,13 @@
 
 namespace orx {
 
-/// What a box shows. A user never chooses grayed, which stands for a mixture.
+/// The state of a box. Grayed stands for a mixture; the user cannot choose it.
 enum class CheckState { Unchecked = 0, Checked = 1, Grayed = 2 };
 
-/// A box that a user ticks and unticks.
+/// A box that the user ticks and unticks.
 class CheckBox final : public Control {
  public:
-  /// As Control; `value` is the state at first, set without an event.
+  /// As Control; `value` is the initial state, set without an event.
   CheckBox(Container& parent, std::string name, Design design, CheckState value = CheckState::Unchecked)
       : Control(parent, std::move(name), std::move(design)), mValue(value) {}
 
@@ -19,7 +19,7 @@ class CheckBox final : public Control {
   CheckState Value() const { return mValue; }
   /// Sets the state and raises Click when it differs.
   void Value(CheckState value);
-  /// False for grayed, too.
+  /// False for grayed as well.
   bool IsChecked() const { return mValue == CheckState::Checked; }
 
   /// Raised when the state changes, by the user or by the program.

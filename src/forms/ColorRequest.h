@@ -1,4 +1,4 @@
-// The platform's dialog for choosing a colour: what it is asked for, and its answer.
+// A request to the platform's dialog for choosing a colour, and its answer.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ struct ColorRequest {
   std::uint32_t Flags = 0;
   /// In: the colour to start from. Out: the one chosen; unchanged when none was.
   orx::Color Color;
-  /// Where the platform has no such dialog, the hook's answer; none: nothing is chosen.
+  /// The hook's answer where the platform has no such dialog; without one, nothing is chosen.
   std::optional<orx::Color> Answer = {};
 };
 

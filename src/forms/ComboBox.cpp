@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -22,7 +21,7 @@ void ComboBox::Text(const std::string& value) {
 
 void ComboBox::UserPick(int index) {
   OwnerForm().UserAct([&] {
-    // The native list shows the entry already; it waits for what becomes of the choice.
+    // The native list already shows the entry; it must show the one that the control ends up with.
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) ListIndex(index);
   });
@@ -35,10 +34,6 @@ void ComboBox::UserText(const std::string& text) {
     Select(IndexOf(text));
     Change.Raise();
   });
-}
-
-void ComboBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -5,10 +5,10 @@
 
 namespace orx {
 
-/// Whether a user picks one of the entries, or may type any text as well.
+/// Whether the user can only pick one of the entries, or type any text as well.
 enum class ComboStyle { DropDownList, Editable };
 
-/// A list that drops down.
+/// A field with a list that drops down.
 class ComboBox final : public ListControl {
  public:
   /// As Control; the list is empty at first and the style is fixed.

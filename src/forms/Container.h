@@ -1,4 +1,4 @@
-// What controls stand in: a form, a frame, a panel, a page of a tab control.
+// What holds controls: a form, a frame, a panel, a page of a tab control.
 #pragma once
 
 #include <string_view>
@@ -9,7 +9,7 @@ namespace orx {
 class Control;
 class Form;
 
-/// The list of controls that stand directly in a container, in the order of their declaration. It does not own them.
+/// The controls directly in a container, in the order of their declaration. It does not own them.
 class Container {
  public:
   Container() = default;
@@ -17,7 +17,7 @@ class Container {
   Container(const Container&) = delete;
   Container& operator=(const Container&) = delete;
 
-  /// The controls that stand directly in here, never null, owned by their form or page.
+  /// The controls directly in here, never null, owned by their form or page.
   const std::vector<Control*>& Children() const { return mChildren; }
   /// The first control of that name here or below, null when there is none.
   Control* Find(std::string_view name) const;

@@ -4,9 +4,17 @@
 
 #include "forms/Form.h"
 #include "forms/Label.h"
-#include "forms/Letters.h"
+#include "text/Utf8Text.h"
 
 namespace orx {
+
+void ControlPeer::UpdateAll() {
+  // A list needs its entries before it can show which of them is selected.
+  for (const Aspect aspect :
+       {Aspect::Items, Aspect::Text, Aspect::Value, Aspect::Selection, Aspect::Colors, Aspect::Place, Aspect::Enabled,
+        Aspect::Visible, Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible})
+    Update(aspect);
+}
 
 std::string WithoutMnemonic(std::string_view caption) {
   std::string text;
@@ -47,7 +55,7 @@ void Control::Caption(const std::string& value) {
   if (mDesign.Caption == value) return;
   mDesign.Caption = value;
   Changed(Aspect::Text);
-  // The control behind a label has its name from it.
+  // A label gives the control behind it its name.
   const std::vector<Control*>& siblings = mParent.Children();
   const auto self = std::find(siblings.begin(), siblings.end(), this);
   if (self != siblings.end() && self + 1 != siblings.end()) (*(self + 1))->Changed(Aspect::Accessible);

@@ -27,18 +27,20 @@ class ControlPeer {
   virtual ~ControlPeer() = default;
   /// Brings one aspect of the native control up to the state of the control.
   virtual void Update(Aspect aspect) = 0;
+  /// Brings all aspects up to the state of the control.
+  void UpdateAll();
   /// Gives the native control the keyboard focus, without reporting back.
   virtual void TakeFocus() = 0;
 };
 
-/// How a control is drawn up in its form. Places are in twips, from the upper left corner of the parent's client area.
+/// How a control is designed. Places are in twips, from the upper left corner of the parent's client area.
 struct Design {
   std::string Caption = {};
   Rect Place = {};
   bool Enabled = true;
   bool Visible = true;
   bool TabStop = true;
-  /// Keeps the control in reach at the bottom of the window when the form is too high for the screen and scrolls.
+  /// Keeps the control visible at the bottom of the window when the form is too high for the screen and scrolls.
   bool Pinned = false;
   std::string ToolTipText = {};
   /// What assistive software reads; empty: derived, see Control::AccessibleName.
@@ -49,7 +51,7 @@ struct Design {
 /// outlives them; the order of their declaration is the tab order and the drawing order.
 class Control {
  public:
-  /// Draws the control up in `parent`. `name` is the name by which tests, translation and automation find it.
+  /// Makes the control in `parent`. `name` is the name by which tests, translation and automation find it.
   Control(Container& parent, std::string name, Design design);
   virtual ~Control();
   Control(const Control&) = delete;

@@ -1,5 +1,5 @@
-// Tells the kinds of controls apart. A desktop implements it to make the native mirror of each kind, so that the
-// compiler names the kind which a desktop has forgotten.
+// Tells the kinds of controls apart. A desktop uses it to make the native mirror of each kind, so that the compiler
+// reports a kind that a desktop has forgotten.
 #pragma once
 
 namespace orx {

@@ -1,11 +1,11 @@
 #include "forms/Desktop.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "forms/ColorRequest.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
+#include "forms/Pixels.h"
 
 namespace orx {
 namespace {
@@ -20,61 +20,72 @@ std::string DescribeError(const std::exception_ptr& error) {
   }
 }
 
+/// The topmost of all that is modal, for as long as it lives.
+class Topmost {
+ public:
+  Topmost(std::vector<const Form*>& modals, const Form* form) : mModals(modals) { mModals.push_back(form); }
+  ~Topmost() { mModals.pop_back(); }
+  Topmost(const Topmost&) = delete;
+  Topmost& operator=(const Topmost&) = delete;
+
+ private:
+  std::vector<const Form*>& mModals;
+};
+
 }  // namespace
 
 Desktop::~Desktop() = default;
 
 int Desktop::ToPixels(int twips) const {
-  return static_cast<int>(std::lround(twips * Scale() / kTwipsPerPixel));
+  return TwipsToPixels(twips, Scale());
 }
 
 int Desktop::ToTwips(int pixels) const {
-  return static_cast<int>(std::lround(pixels * kTwipsPerPixel / Scale()));
+  return PixelsToTwips(pixels, Scale());
 }
 
-MessageAnswer Desktop::ShowMessage(const Message& message) {
-  const Modal modal{.ShownMessage = &message};
+template <class Run>
+auto Desktop::RunBox(const Modal& modal, Run&& run) {
+  const Topmost box(mModals, nullptr);
   if (mHook) mHook->ModalOpening(modal);
-  FormWindow* owner = nullptr;
-  if (!mSessions.empty()) {
-    owner = mSessions.back()->Shown->Window();
-  } else if (!mOpenForms.empty()) {
-    owner = mOpenForms.back()->Window();
-  }
-  const MessageAnswer answer = DoShowMessage(message, owner);
+  const auto answer = run();
   if (mHook) mHook->ModalClosed(modal);
   return answer;
 }
 
+MessageAnswer Desktop::ShowMessage(const Message& message) {
+  return RunBox({.ShownMessage = &message}, [&] {
+    FormWindow* owner = nullptr;
+    if (!mSessions.empty()) {
+      owner = mSessions.back()->Shown->Window();
+    } else if (!mOpenForms.empty()) {
+      owner = mOpenForms.back()->Window();
+    }
+    return DoShowMessage(message, owner);
+  });
+}
+
 bool Desktop::OpenFiles(OpenFileRequest& request) {
   if (request.Buffer.empty()) return false;
-  const Modal modal{.ShownFiles = &request};
-  if (mHook) mHook->ModalOpening(modal);
-  bool chosen = false;
   std::string refusal;
-  try {
-    chosen = DoOpenFiles(request);
-  } catch (const AnswerRefused& refused) {
-    refusal = refused.what();
-  }
-  if (mHook) mHook->ModalClosed(modal);
+  const bool chosen = RunBox({.ShownFiles = &request}, [&] {
+    try {
+      return DoOpenFiles(request);
+    } catch (const AnswerRefused& refused) {
+      refusal = refused.what();
+      return false;
+    }
+  });
   if (!refusal.empty()) ShowMessage({refusal, request.Title, MessageIcon::Exclamation});
   return chosen;
 }
 
 bool Desktop::ChooseColor(ColorRequest& request) {
-  return Choose({.ShownColor = &request}, [&] { return DoChooseColor(request); });
+  return RunBox({.ShownColor = &request}, [&] { return DoChooseColor(request); });
 }
 
 bool Desktop::ChooseFont(FontRequest& request) {
-  return Choose({.ShownFont = &request}, [&] { return DoChooseFont(request); });
-}
-
-bool Desktop::Choose(const Modal& modal, const std::function<bool()>& show) {
-  if (mHook) mHook->ModalOpening(modal);
-  const bool chosen = show();
-  if (mHook) mHook->ModalClosed(modal);
-  return chosen;
+  return RunBox({.ShownFont = &request}, [&] { return DoChooseFont(request); });
 }
 
 void Desktop::ModalIsRunning(const Modal& modal) {
@@ -106,16 +117,24 @@ bool Desktop::HasModalForm() const {
   return std::ranges::any_of(mSessions, [](const Session* session) { return session->Shown->Visible(); });
 }
 
+bool Desktop::IsBehindModal(const Form& form) const {
+  // A form that has gone from the screen only waits for its loop to end.
+  const auto top =
+      std::find_if(mModals.rbegin(), mModals.rend(), [](const Form* modal) { return !modal || modal->Visible(); });
+  return top != mModals.rend() && *top != &form;
+}
+
 void Desktop::RunModal(Form& form) {
   Session session{&form, nullptr, nullptr};
   const Modal modal{.ShownForm = &form};
   mSessions.push_back(&session);
-  if (mHook) mHook->ModalOpening(modal);
+  const Topmost topmost(mModals, &form);
   try {
+    if (mHook) mHook->ModalOpening(modal);
     form.Window()->RunModal();
   } catch (...) {
     session.Error = std::current_exception();
-    // Its owner would stay out of reach.
+    // A form that stayed up would keep the user from its owner.
     form.Hide();
   }
   std::erase(mSessions, &session);
@@ -143,9 +162,10 @@ void Desktop::LeaveAct() {
 }
 
 void Desktop::LetGoOfClosedForms() {
-  // Whatever acts are running may still use them.
+  // Acts that are still running may use them.
   if (mActs > 0) return;
-  // A form that closes may be the last to hold another one, so the list is settled before anything is let go.
+  // A form that closes may hold the last reference to another one, so the list is complete before any of them is
+  // released.
   const auto closed = std::stable_partition(mOpenForms.begin(), mOpenForms.end(),
                                             [](const std::shared_ptr<Form>& form) { return form->Visible(); });
   const std::vector<std::shared_ptr<Form>> gone(closed, mOpenForms.end());
@@ -155,7 +175,7 @@ void Desktop::LetGoOfClosedForms() {
 void Desktop::CloseOpenForms() {
   const std::vector<std::shared_ptr<Form>> forms = std::move(mOpenForms);
   mOpenForms.clear();
-  for (const std::shared_ptr<Form>& form : forms) form->Unload();
+  for (const std::shared_ptr<Form>& form : forms) form->UnloadQuietly();
 }
 
 void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {

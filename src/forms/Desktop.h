@@ -1,5 +1,5 @@
 // The one interface between forms and a platform. The public members keep the rules that all desktops share (the hook,
-// modal sessions, modeless forms staying alive); the protected virtual ones are the bare moves that a platform makes.
+// modal sessions, modeless forms staying alive); the protected virtual ones are what a platform has to do.
 #pragma once
 
 #include <exception>
@@ -17,7 +17,7 @@
 
 namespace orx {
 
-/// Whether a user may size the window; SizableHeight: by its lower edge only.
+/// Whether the user may size the window; SizableHeight: by its lower edge only.
 enum class BorderStyle { Fixed, Sizable, SizableHeight };
 
 /// The screen in twips: its size, the part not covered by task bars, and what a window's frame adds to the client area.
@@ -77,11 +77,13 @@ class Desktop {
   virtual numbers::Separators Separators() const = 0;
   /// Where settings are kept between runs; lives as long as the desktop.
   virtual SettingsStore& Settings() = 0;
-  /// Lets paint and input events that wait be handled.
+  /// Has pending paint and input events handled.
   void ProcessPendingEvents();
 
   /// True while a modal form is open.
   bool HasModalForm() const;
+  /// True while a message box, a dialog of the platform or another modal form keeps the user from the form.
+  bool IsBehindModal(const Form& form) const;
   /// The modeless forms that are open, in the order in which they were shown.
   const std::vector<std::shared_ptr<Form>>& OpenForms() const { return mOpenForms; }
   /// Unloads the modeless forms that are still open. The destructor of a desktop calls it while windows can be closed.
@@ -117,19 +119,20 @@ class Desktop {
     std::exception_ptr Error;
   };
 
+  /// Runs what is modal between the hook's calls; while it runs, all forms are behind it.
+  template <class Run>
+  auto RunBox(const Modal& modal, Run&& run);
   void RunModal(Form& form);
-  /// Shows a dialog of the platform between the hook's calls.
-  bool Choose(const Modal& modal, const std::function<bool()>& show);
   void EndModal(const Form& form);
-  /// Takes over the window of a form that unloads, so that a modal loop still running in it can come to its end.
+  /// Takes over the window of a form that unloads, so that a modal loop still running in it can end.
   void Retire(const Form& form, std::unique_ptr<FormWindow> window);
   /// Keeps a modeless form alive until it is hidden or unloaded.
   void KeepOpen(std::shared_ptr<Form> form);
   void EnterAct() { ++mActs; }
   void LeaveAct();
   void LetGoOfClosedForms();
-  /// Takes an error that a handler let go, so that it can travel to the caller of the modal Show; without a modal form
-  /// the user is told.
+  /// Takes an exception that a handler did not catch, so that the caller of the modal Show gets it; without a modal
+  /// form the user is told.
   void HandlerFailed(const Form& form, std::exception_ptr error);
 
   DesktopHook* mHook = nullptr;
@@ -137,6 +140,8 @@ class Desktop {
   std::vector<Session*> mSessions;
   std::vector<std::shared_ptr<Form>> mOpenForms;
   int mActs = 0;
+  /// All that is modal, from the bottom up: forms, and null for boxes and dialogs of the platform.
+  std::vector<const Form*> mModals;
 };
 
 }  // namespace orx

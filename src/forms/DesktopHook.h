@@ -1,5 +1,5 @@
-// The one place where everything passes that a desktop shows or sounds: tests answer and record here, a gallery takes
-// its pictures here, a server decides here without a screen.
+// Everything that a desktop shows or sounds passes here: tests answer and record it, a gallery takes its pictures, and
+// a server without a screen decides.
 #pragma once
 
 #include "forms/Appearance.h"
@@ -18,11 +18,11 @@ struct OpenFileRequest;
 struct Modal {
   Form* ShownForm = nullptr;
   const Message* ShownMessage = nullptr;
-  /// Where nobody else answers, the answer to the message: the harmless one unless set here.
+  /// The answer to the message where no user answers it: the harmless one unless set here.
   MessageAnswer* Answer = nullptr;
-  /// Where nobody else answers, PutAnswer answers here.
+  /// Where no user answers, PutAnswer does.
   OpenFileRequest* ShownFiles = nullptr;
-  /// Where nobody else answers, set its Answer here.
+  /// Where no user answers, set its Answer.
   ColorRequest* ShownColor = nullptr;
   FontRequest* ShownFont = nullptr;
 };
@@ -33,12 +33,12 @@ class DesktopHook {
   virtual ~DesktopHook() = default;
   /// A modal form or box is about to open.
   virtual void ModalOpening(const Modal&) {}
-  /// It is up and waits for the user; what is done here happens inside its modal loop. What is thrown while a form is
-  /// up ends the loop and comes out of Form::Show.
+  /// It is up and waits for the user. What is done here happens inside its modal loop; an exception ends the loop of a
+  /// form and comes out of Form::Show.
   virtual void ModalRunning(const Modal&) {}
   /// It has closed.
   virtual void ModalClosed(const Modal&) {}
-  /// The program is about to let waiting events be handled; where no events come from a screen, the user acts here.
+  /// The program is about to have pending events handled; without a screen, the user acts here.
   virtual void EventsPending() {}
   /// The desktop was told to show another mouse pointer, or to sound its signal.
   virtual void PointerChanged(Pointer) {}

@@ -1,4 +1,4 @@
-// An event of a control or page: one handler, set by the form that owns the control.
+// An event of a control or page. It has one handler, set by the form that owns the control.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@ namespace orx {
 template <class... Args>
 class Event {
  public:
-  /// What an event runs.
+  /// The type of the handler.
   using Handler = std::function<void(Args...)>;
 
   Event() = default;

@@ -1,4 +1,4 @@
-// The texts with which fields refuse an entry, and how values are put into them.
+// The messages with which fields refuse an entry, and how values are put into them.
 #pragma once
 
 #include <initializer_list>
@@ -22,7 +22,7 @@ inline constexpr const char* kOutOfRange = "{1}: {2} is not allowed. Type a numb
 /// {1} and {3} are the names of the two fields, {2} and {4} their values.
 inline constexpr const char* kWrongOrder = "{1} ({2}) must be less than {3} ({4}).";
 
-/// All of them, for the test of a translation.
+/// All of them, to test translations with.
 inline constexpr const char* kAll[] = {kInvalidNumber,   kWrongValue, kInvalidRange, kNoNumber,
                                        kNoNumberInRange, kOutOfRange, kWrongOrder};
 

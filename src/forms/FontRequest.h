@@ -1,4 +1,4 @@
-// The platform's dialog for choosing a font: what it is asked for, and its answer.
+// A request to the platform's dialog for choosing a font, and its answer.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ struct FontRequest {
   std::uint32_t Flags = kScreenAndPrinterFonts;
   /// In: the font to start from. Out: the one chosen; unchanged when none was.
   ColoredFont Chosen;
-  /// Where the platform has no such dialog, the hook's answer; none: nothing is chosen.
+  /// The hook's answer where the platform has no such dialog; without one, nothing is chosen.
   std::optional<ColoredFont> Answer = {};
 };
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 
-#include "forms/Control.h"
+#include "forms/ScreenUpdates.h"
 
 namespace orx {
 
@@ -14,6 +15,10 @@ Form::Form(Desktop& desktop, std::string name, FormDesign design)
 
 Form::~Form() {
   DropWindow();
+}
+
+void Form::PaceUpdates() {
+  mUpdates = std::make_unique<ScreenUpdates>();
 }
 
 void Form::Caption(const std::string& value) {
@@ -56,7 +61,7 @@ void Form::Center() {
 Rect Form::NearestWorkArea() const {
   const std::int64_t right = std::int64_t{mLeft} + Width();
   const std::int64_t bottom = std::int64_t{mTop} + Height();
-  // What two spans have in common; negative: the gap between them.
+  // The length that two spans share; negative: the gap between them.
   const auto overlap = [](std::int64_t low, std::int64_t high, std::int64_t otherLow, std::int64_t otherHigh) {
     return std::min(high, otherHigh) - std::max(low, otherLow);
   };
@@ -77,8 +82,26 @@ void Form::KeepOnScreen() {
   if (left != mLeft || top != mTop) Move(left, top);
 }
 
+Form::Act::Act(Form& form) : mKeep(form.weak_from_this().lock()), mForm(form) {
+  ++mForm.mActs;
+  mForm.mDesktop.EnterAct();
+}
+
+Form::Act::~Act() {
+  Desktop& desktop = mForm.mDesktop;
+  if (mForm.mActs == 1 && mForm.mUnloadsWhenHidden && !mForm.mVisible) mForm.UnloadQuietly();
+  if (--mForm.mActs == 0) mForm.Release();
+  desktop.LeaveAct();
+}
+
+void Form::Release() {
+  if (!std::exchange(mRetired, false)) return;
+  Form_Release();
+}
+
 void Form::Load() {
-  if (mLoaded) return;
+  if (mLoaded || mRetired) return;
+  const Act act(*this);
   mLoaded = true;
   Form_Load();
 }
@@ -87,17 +110,20 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
   if (mVisible) throw std::logic_error(mName + " is shown already");
   if (mode == ShowMode::Modeless && mDesktop.HasModalForm())
     throw std::logic_error(mName + " cannot be modeless while a modal form is open");
+  const Act act(*this);
   Load();
   // A form that has nothing to show unloads itself as it loads.
   if (!mLoaded) return;
   if (!mWindow) mWindow = mDesktop.OpenWindow(*this);
   Form_Resize();
+  if (!mLoaded) return;
   KeepOnScreen();
   ShowUpdates();
   mVisible = true;
   mMode = mode;
   mWindow->Show(mode, owner);
   UserAct([this] { FocusFirst(); });
+  if (!mVisible) return;
   if (mode == ShowMode::Modal) {
     mDesktop.RunModal(*this);
   } else {
@@ -116,18 +142,33 @@ void Form::Hide() {
 
 void Form::Unload() {
   if (!mLoaded) return;
-  const std::shared_ptr<Form> keep = weak_from_this().lock();
+  const Act act(*this);
   Hide();
-  Form_Unload();
   mLoaded = false;
+  mRetired = true;
+  std::exception_ptr error;
+  try {
+    Form_Unload();
+  } catch (...) {
+    error = std::current_exception();
+  }
   mActive = nullptr;
   DropWindow();
+  if (error) std::rethrow_exception(error);
+}
+
+void Form::UnloadQuietly() noexcept {
+  try {
+    Unload();
+  } catch (...) {
+    // Nobody is left to be told.
+  }
 }
 
 void Form::DropWindow() {
   if (!mWindow) return;
   mVisible = false;
-  if (mUpdates) mUpdates.emplace();
+  if (mUpdates) PaceUpdates();
   for (Control* control : All()) control->Peer(nullptr);
   mWindow->Abandon();
   mDesktop.Retire(*this, std::move(mWindow));
@@ -164,19 +205,16 @@ void Form::ShowUpdates() {
 }
 
 void Form::UserAct(const std::function<void()>& act) {
-  const std::shared_ptr<Form> keep = weak_from_this().lock();
-  Desktop& desktop = mDesktop;
-  desktop.EnterAct();
+  const Act running(*this);
   try {
     act();
   } catch (...) {
-    desktop.HandlerFailed(*this, std::current_exception());
+    mDesktop.HandlerFailed(*this, std::current_exception());
   }
-  desktop.LeaveAct();
 }
 
 void Form::UserClose() {
-  if (!mEnabled) return;
+  if (!mEnabled || mDesktop.IsBehindModal(*this)) return;
   UserAct([this] {
     if (Form_QueryUnload()) Unload();
   });

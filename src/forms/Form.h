@@ -8,16 +8,17 @@
 #include <string>
 
 #include "forms/Container.h"
+#include "forms/Control.h"
 #include "forms/Desktop.h"
 #include "forms/Keys.h"
-#include "forms/ScreenUpdates.h"
 
 namespace orx {
 
 class Button;
+class ScreenUpdates;
 enum class ButtonRole;
 
-/// How a form is drawn up. The client area is in twips.
+/// How a form is designed. The client area is in twips.
 struct FormDesign {
   std::string Caption = {};
   Size Client = {};
@@ -29,8 +30,8 @@ struct FormDesign {
 /// All members are for the user-interface thread of the desktop.
 class Form : public Container, public std::enable_shared_from_this<Form> {
  public:
-  /// Draws an empty form up, neither loaded nor shown; the desktop must outlive it. `name` is the name by which tests
-  /// and automation find it.
+  /// Makes an empty form, neither loaded nor shown; the desktop must outlive it. `name` is the name by which tests and
+  /// automation find it.
   Form(Desktop& desktop, std::string name, FormDesign design);
   ~Form() override;
 
@@ -60,18 +61,43 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// Puts the window into the middle of the screen.
   void Center();
 
-  /// Runs Form_Load, once until the next Unload. What it throws travels; the form counts as loaded all the same.
+  /// Something of the form runs: a handler, a page, a call into the host, a modal loop. While an act lives the form
+  /// lives, and with it all that its code may be in the middle of: an unload inside takes the window away at once, and
+  /// Form_Release follows when the outermost act ends. Acts are as cheap as a counter.
+  class Act {
+   public:
+    explicit Act(Form& form);
+    ~Act();
+    Act(const Act&) = delete;
+    Act& operator=(const Act&) = delete;
+
+   private:
+    // In this order, so that the form is let go last.
+    std::shared_ptr<Form> mKeep;
+    Form& mForm;
+  };
+
+  /// Runs Form_Load, once until the next Unload. What it throws travels; the form counts as loaded all the same. Does
+  /// nothing for a retired form.
   void Load();
   /// True from Load to Unload.
   bool IsLoaded() const { return mLoaded; }
+  /// True for a form that was unloaded inside an act that still runs: what the act still does is for nothing. Such a
+  /// form neither loads nor shows.
+  bool IsRetired() const { return mRetired; }
   /// Loads and shows the form; one that unloads itself as it loads is not shown. Modal: returns when it was hidden or
-  /// unloaded, and throws what a handler let go. Modeless: returns at once. Throws std::logic_error when the form is
-  /// shown already, and when it is to be modeless while a modal one is open, which would keep the user from it.
+  /// unloaded, and rethrows what a handler did not catch. Modeless: returns at once. Throws std::logic_error when the
+  /// form is shown already, and when it is to be modeless while a modal one is open, which would keep the user from it.
   void Show(ShowMode mode = ShowMode::Modal, OwnerWindow owner = {});
-  /// Takes the form from the screen and keeps it as it is.
+  /// Hides the form and keeps its state.
   void Hide();
-  /// Takes the form from the screen, runs Form_Unload and gives up what it holds. Does nothing when not loaded.
+  /// Takes the form from the screen, runs Form_Unload and gives up the window; Form_Release follows at the end of the
+  /// outermost act. Does nothing when not loaded. What Form_Unload throws travels when all else is done.
   void Unload();
+  /// The same for a form that nobody waits for: what it cannot keep, on a full disk for example, is lost with it.
+  void UnloadQuietly() noexcept;
+  /// For a modeless form that nobody shows again or asks for its outcome: it unloads by itself once it is hidden.
+  void UnloadWhenHidden() { mUnloadsWhenHidden = true; }
   /// Repaints the form with all that has changed, without waiting for events.
   void Refresh();
   /// While false, nothing that the user does reaches the form; it looks as before. True at first.
@@ -79,7 +105,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Enabled(bool value);
   /// True while the form is on the screen.
   bool Visible() const { return mVisible; }
-  /// True while the form is on the screen and whoever shows it waits for it to go.
+  /// True while the form is on the screen and the caller of Show waits for it to close.
   bool IsModal() const { return mVisible && mMode == ShowMode::Modal; }
 
   /// The control with the focus, null when none has it.
@@ -93,14 +119,15 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// taken it back or the control is not reachable.
   bool MoveFocus(Control& to);
 
-  /// For desktops and test users: runs what a user's act sets off. Errors that handlers let go end the modal loop and
-  /// travel to the caller of Show; nothing is thrown here.
+  /// For desktops and test users: runs what an act of the user sets off. Exceptions that handlers do not catch end the
+  /// modal loop and reach the caller of Show; nothing is thrown here.
   void UserAct(const std::function<void()>& act);
   /// The native focus has come to a control by mouse or by the platform.
   void UserFocus(Control& control);
-  /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and is dealt with.
+  /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and has been handled.
   bool UserKey(const KeyStroke& stroke);
-  /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs.
+  /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs. A form
+  /// that the user cannot reach, because a box or another form is modal above it, stays.
   void UserClose();
   /// The platform has taken the window away, or the program is about to end: the form unloads.
   void WindowLost();
@@ -111,20 +138,27 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void UserMouseMove(Point at);
   void UserMouseDown(Point at);
 
-  /// For desktops: changes that were kept back (see PaceUpdates) are to reach the screen now.
+  /// For desktops: brings the changes that were held back (see PaceUpdates) to the screen now.
   void ShowUpdates();
 
   /// The native window, null while there is none.
   FormWindow* Window() const { return mWindow.get(); }
+  /// The handle of that window, as common dialogs and help take it for their owner: HWND on Windows, WId on Qt; 0 while
+  /// there is none.
+  std::uintptr_t NativeHandle() const { return mWindow ? mWindow->NativeHandle() : 0; }
 
   Form& ContainingForm() override { return *this; }
   Control* ContainerControl() override { return nullptr; }
 
  protected:
-  /// Runs when the form is loaded, sized (and first shown), and unloaded.
+  /// Runs when the form is loaded, sized (and first shown), and unloaded. Form_Unload saves what is to be kept and
+  /// forgets the host's objects; code that is still running must find all else as it was.
   virtual void Form_Load() {}
   virtual void Form_Resize() {}
   virtual void Form_Unload() {}
+  /// Runs after Form_Unload when no act of the form runs any more: lets go of pages and of all else that handlers may
+  /// have been using.
+  virtual void Form_Release() {}
   /// Runs when the close box was pressed; false keeps the form.
   virtual bool Form_QueryUnload() { return true; }
   /// Run as the mouse moves over the window, also to a place outside its client area, and when its button is pressed
@@ -132,9 +166,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   virtual void Form_MouseMove(Point) {}
   virtual void Form_MouseDown(Point) {}
   /// For forms of a program that is too busy to handle events: from now on texts and values that change reach the
-  /// screen without any, at most 60 times a second. What is kept back by that follows as soon as events are handled.
+  /// screen without any, at most 60 times a second. Changes that are held back follow as soon as events are handled.
   /// Controls of such a form live as long as it does.
-  void PaceUpdates() { mUpdates.emplace(); }
+  void PaceUpdates();
   /// Called from Form_MouseDown: the user goes on to drag the lower edge of the window.
   void DragBottomEdge();
 
@@ -144,9 +178,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
   /// For Control: true when the change reaches the screen by ShowUpdates.
   bool TakesOver(Control& control, Aspect aspect, Urgency urgency);
+  void Release();
   /// Closes the window; the peers go with it.
   void DropWindow();
-  /// The work area that the window lies in for the greater part, or that is nearest to it.
+  /// The work area that holds most of the window, or is nearest to it.
   Rect NearestWorkArea() const;
   void KeepOnScreen();
   /// Runs the focus events until the focus rests.
@@ -164,11 +199,14 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   int mLeft = 0;
   int mTop = 0;
   bool mLoaded = false;
+  bool mRetired = false;
+  bool mUnloadsWhenHidden = false;
+  int mActs = 0;
   bool mVisible = false;
   bool mEnabled = true;
   ShowMode mMode = ShowMode::Modal;
   std::unique_ptr<FormWindow> mWindow;
-  std::optional<ScreenUpdates> mUpdates;
+  std::unique_ptr<ScreenUpdates> mUpdates;
   Control* mActive = nullptr;
   Control* mFocusTarget = nullptr;
   bool mSettlingFocus = false;

@@ -7,7 +7,7 @@
 namespace orx {
 namespace {
 
-/// The element `step` places behind `from` in a ring; from the outside the first or the last one.
+/// The neighbour of `from` in a ring; for a control outside the ring, its first or last element.
 Control* Neighbour(const std::vector<Control*>& ring, const Control* from, bool backwards) {
   if (ring.empty()) return nullptr;
   const auto found = std::find(ring.begin(), ring.end(), from);
@@ -49,7 +49,7 @@ void Form::SettleFocus(Control* to) {
   mSettlingFocus = true;
   Control* left = mActive;
   try {
-    // A handler may move the focus again; then the loop goes on from where it was sent.
+    // A handler may move the focus again; the loop then continues from there.
     while (left || mActive != mFocusTarget) {
       mActive = mFocusTarget;
       if (Control* const leaving = std::exchange(left, nullptr)) {

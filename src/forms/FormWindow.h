@@ -26,7 +26,7 @@ class FormWindow {
   virtual ~FormWindow() = default;
   /// Shows the window at the form's place, its client area `Form::ShownClientSize` large.
   virtual void Show(ShowMode mode, OwnerWindow owner) = 0;
-  /// Takes the window from the screen; Show may follow.
+  /// Hides the window; Show may follow.
   virtual void Hide() = 0;
   /// Runs the modal loop until EndModal; calls Desktop::ModalIsRunning once the user can act.
   virtual void RunModal() = 0;
@@ -35,20 +35,20 @@ class FormWindow {
   /// Takes over the form's caption and place.
   virtual void UpdateCaption() = 0;
   virtual void UpdatePlace() = 0;
-  /// Drops what the user does while the form is not enabled, without another look.
+  /// Ignores the user while the form is not enabled, without a change in look.
   virtual void UpdateEnabled() = 0;
   /// Paints the window and its controls anew.
   virtual void Repaint() = 0;
-  /// Paints what has changed since it was painted last, without waiting for events.
+  /// Paints what has changed since the last painting, without waiting for events.
   virtual void PaintChanges() = 0;
-  /// Calls Form::ShowUpdates once, when events are handled after that time. One call at a time is asked for.
+  /// Calls Form::ShowUpdates once, when events are handled after that time. At most one call is pending at a time.
   virtual void CallShowUpdates(std::chrono::milliseconds after) = 0;
   /// Lets the user drag the lower edge, as if the mouse button that is down had been pressed there.
   virtual void DragBottomEdge() = 0;
   /// The handle that the platform's help engine and owned windows need; 0 when there is none.
   virtual std::uintptr_t NativeHandle() const = 0;
-  /// The form lets the window go: neither the form nor its controls may be touched from now on, whatever native events
-  /// still come. A modal loop that runs in the window lives to its end; the destructor follows later.
+  /// The form gives up the window: neither the form nor its controls may be used from now on, whatever native events
+  /// still come. A modal loop that runs in the window still comes to its end; the destructor follows later.
   virtual void Abandon() = 0;
 };
 

@@ -1,4 +1,5 @@
-// Lengths and places. Forms measure in twips, drawings and native windows in pixels; the desktop knows the factor.
+// Lengths and places. Forms measure in twips, drawings and native windows in pixels; the desktop knows the scale
+// between them.
 #pragma once
 
 namespace orx {

@@ -5,7 +5,7 @@
 namespace orx {
 namespace {
 
-/// Points that are tried in each direction of a pixel.
+/// The number of sample points along each side of a pixel.
 constexpr int kSamples = 4;
 
 bool Holds(const std::vector<GlyphPoint>& outline, GlyphPoint at) {
@@ -27,7 +27,7 @@ double CoverOf(const GlyphShape& shape, int x, int y, double unit) {
   return static_cast<double>(hits) / (kSamples * kSamples);
 }
 
-/// A colour that is not opaque, parts from 0 to 1 and not multiplied by the alpha.
+/// A colour with alpha; parts are from 0 to 1 and not premultiplied.
 struct Tint {
   double Red = 0;
   double Green = 0;

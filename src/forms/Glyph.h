@@ -1,4 +1,4 @@
-// Small pictures for buttons, kept as shapes so that they are sharp at every resolution.
+// Small pictures for buttons, made of shapes so that they are sharp at every resolution.
 #pragma once
 
 #include <vector>
@@ -14,10 +14,10 @@ struct GlyphPoint {
   double Y = 0;
 };
 
-/// The sides of the square: one unit is a pixel at 96 dpi.
+/// The length of the square's sides: one unit is a pixel at 96 dpi.
 inline constexpr int kGlyphGrid = 16;
 
-/// A filled outline; where it crosses itself, the inside alternates.
+/// A filled outline; where it crosses itself, inside and outside alternate.
 struct GlyphShape {
   Color Fill;
   std::vector<GlyphPoint> Outline;
@@ -28,8 +28,7 @@ struct Glyph {
   std::vector<GlyphShape> Shapes;
 };
 
-/// The glyph as an image of `pixels` x `pixels`, transparent around the shapes. A faded one stands on a disabled
-/// button.
+/// The glyph as an image of `pixels` x `pixels`, transparent around the shapes. Disabled buttons show a faded one.
 Image DrawGlyph(const Glyph& glyph, int pixels, bool faded);
 
 }  // namespace orx

@@ -1,4 +1,4 @@
-// A call of the platform's help engine.
+// A request to the platform's help engine.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// The keys that mean something to a dialog as a whole, whatever control has the focus.
+// The keys that mean something to a dialog as a whole, whichever control has the focus.
 #pragma once
 
 namespace orx {

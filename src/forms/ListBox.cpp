@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
+#include "forms/RowNavigation.h"
 
 namespace orx {
 
@@ -49,36 +49,39 @@ void ListBox::UserClick(int row) {
 
 void ListBox::UserDoubleClick(int row) {
   UserActOn(row, [&] {
-    // Among several, the first of the two clicks may have taken it out of the selection.
+    // Where several can be selected, the first click may have taken it out of the selection.
     Selected(row, true);
     DblClick.Raise();
   });
 }
 
+void ListBox::UserPress(const RowPress& press) {
+  press.IsSecond ? UserDoubleClick(press.Position) : UserClick(press.Position);
+}
+
 void ListBox::UserSelect(int row, bool value) {
+  // Where only one entry can be selected, selecting another one ends its selection.
+  if (!value && !MultiSelect()) return;
   UserActOn(row, [&] { Selected(row, value); });
 }
 
 void ListBox::UserKeyDown(int keyCode) {
   OwnerForm().UserAct([&] {
-    if (const std::optional<int> row = PositionAfterKey(keyCode, {ListCount(), FocusRow()}, mPageRows)) ListIndex(*row);
+    if (const std::optional<int> row = PositionAfterKey(keyCode, {ListCount(), FocusPosition()}, PageRows()))
+      ListIndex(*row);
   });
 }
 
 void ListBox::UserCharacter(char32_t character) {
   OwnerForm().UserAct([&] {
-    const int at = FocusRow();
-    if (character == U' ' && (MultiSelect() || !mTypeAhead.IsTyping())) {
+    const int at = FocusPosition();
+    if (character == U' ' && (MultiSelect() || !Typed().IsTyping())) {
       if (IsRow(at)) Selected(at, !MultiSelect() || !Selected(at));
       return;
     }
     const auto textAt = [this](int row) -> const std::string& { return List(row); };
-    if (const std::optional<int> row = mTypeAhead.Type(character, {ListCount(), at}, textAt)) ListIndex(*row);
+    if (const std::optional<int> row = Typed().Type(character, {ListCount(), at}, textAt)) ListIndex(*row);
   });
-}
-
-void ListBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "forms/ListControl.h"
-#include "forms/RowWalk.h"
+#include "forms/RowList.h"
 
 namespace orx {
 
@@ -14,7 +14,7 @@ enum class ListSelection { Single, Several };
 
 /// Entries live here alone: a native list asks for those that it paints, so that a list of any length costs what its
 /// entries cost. It scrolls when its entries need more room, also sideways. Fill a long one before its form is shown:
-/// each entry that comes later is brought to the screen by itself.
+/// an entry that is added later is brought to the screen at once.
 ///
 /// Single: a click, the arrow keys, Home, End, Page Up, Page Down and typed letters select an entry, and the one before
 /// is no longer selected. ListIndex is the selected entry.
@@ -22,7 +22,7 @@ enum class ListSelection { Single, Several };
 /// Several: a click and the space bar select an entry or take it out of the selection; no other key is held for it. The
 /// keys and typed letters move the focus row alone, which is ListIndex; until the user or the program has gone to one,
 /// it is the first.
-class ListBox final : public ListControl {
+class ListBox final : public ListControl, public RowList {
  public:
   /// As Control; the list is empty at first and the kind of selection is fixed.
   ListBox(Container& parent, std::string name, Design design, ListSelection selection = ListSelection::Single)
@@ -40,8 +40,12 @@ class ListBox final : public ListControl {
   std::set<int> SelectedRows() const;
   void Clear() override;
 
+  int ShownCount() const override { return ListCount(); }
+  const std::string& ShownText(int position) const override { return List(position); }
+  bool IsSelectedAt(int position) const override { return Selected(position); }
   /// The entry that keys start from, -1 when there is none.
-  int FocusRow() const { return MultiSelect() && ListIndex() < 0 && ListCount() > 0 ? 0 : ListIndex(); }
+  int FocusPosition() const override { return MultiSelect() && ListIndex() < 0 && ListCount() > 0 ? 0 : ListIndex(); }
+  bool ScrollsAcross() const override { return true; }
 
   /// Raised when the user clicks twice on an entry, which is selected then.
   Event<> DblClick;
@@ -49,13 +53,10 @@ class ListBox final : public ListControl {
   /// For desktops and test users: the user clicks on an entry, or a second time right after that.
   void UserClick(int row);
   void UserDoubleClick(int row);
-  /// The user presses a key while the focus is here, or types a character.
-  void UserKeyDown(int keyCode);
-  void UserCharacter(char32_t character);
-  /// Assistive software selects an entry or takes it out of the selection.
-  void UserSelect(int row, bool value);
-  /// For desktops: how many rows the native list has room for; 10 unless told.
-  void PageRows(int value) { mPageRows = value > 1 ? value : 1; }
+  void UserPress(const RowPress& press) override;
+  void UserKeyDown(int keyCode) override;
+  void UserCharacter(char32_t character) override;
+  void UserSelect(int row, bool value) override;
 
   void Accept(ControlVisitor& visitor) override;
 
@@ -68,8 +69,6 @@ class ListBox final : public ListControl {
   ListSelection mSelection;
   /// Where several can be selected.
   std::set<int> mSelected;
-  int mPageRows = 10;
-  TypeAhead mTypeAhead;
 };
 
 }  // namespace orx

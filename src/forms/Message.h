@@ -1,4 +1,4 @@
-// The message box, as forms ask for it.
+// A request for a message box, and its answer.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ enum class MessageIcon { None, Critical, Question, Exclamation, Information };
 /// The buttons to answer with. Enter presses the first one.
 enum class MessageButtons { OK, YesNo };
 
-/// The button that was pressed. A question has no close box; where Escape closes one, it is a No.
+/// The button that was pressed. A question has no close box; where Escape closes it, the answer is No.
 enum class MessageAnswer { OK, Yes, No };
 
 /// A message with its buttons, one OK unless told.

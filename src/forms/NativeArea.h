@@ -1,5 +1,5 @@
-// A piece of a form that somebody else fills with native windows of the platform: a page control that a host has
-// registered, a map view of its own.
+// A piece of a form that others fill with native windows: a page control that a host has registered, or its own map
+// view.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace orx {
 
-/// Shows nothing of its own. The desktop makes an empty native window for it; what stands in that window is the
-/// business of whoever handles the events. Desktops without native windows raise none of them.
+/// Shows nothing of its own. The desktop makes an empty native window for it, and whoever handles the events puts
+/// something into it. Desktops without native windows raise none of them.
 class NativeArea final : public Control {
  public:
   /// As Control.
@@ -19,15 +19,15 @@ class NativeArea final : public Control {
 
   /// The native window is there and has its place: HWND on Windows, WId on Qt. It may come and go several times.
   Event<std::uintptr_t> Opened;
-  /// The native window is about to go, what stands in it goes with it.
+  /// The native window is about to be destroyed, with everything in it.
   Event<> Closing;
   /// The native window was sized; the new size in pixels is given.
   Event<Size> Sized;
-  /// The focus comes to the area by decision of the form. Without a handler the window itself takes it.
+  /// The form moves the focus to the area. Without a handler the window itself takes it.
   Event<> FocusEnters;
 
   /// Sees each native key message (on Windows a `MSG*`) for a window inside the area before the form does. True when it
-  /// is dealt with, so that the form leaves it alone.
+  /// has been handled, so that the form does not see it.
   std::function<bool(void* message)> FilterKey;
 
   void Accept(ControlVisitor& visitor) override;

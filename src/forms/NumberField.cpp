@@ -1,74 +1,41 @@
 #include "forms/NumberField.h"
 
-#include "forms/FieldTexts.h"
 #include "forms/Form.h"
-#include "forms/TextBox.h"
+#include "numbers/Numbers.h"
 
 namespace orx {
 
-std::optional<Message> NumberField::Take(const std::string& text) {
-  const bool hasRange =
-      mRule.Minimum > std::numeric_limits<double>::lowest() || mRule.Maximum < std::numeric_limits<double>::max();
-  const std::optional<double> value = numbers::ToDouble(text, Box().OwnerForm().OwnerDesktop().Separators());
-  if (!value) {
-    const char* const message = hasRange ? fieldtexts::kNoNumberInRange : fieldtexts::kNoNumber;
-    return MakeMessage(fieldtexts::kInvalidNumber, message,
-                       {Name(), text, PlainText(mRule.Minimum), PlainText(mRule.Maximum)});
-  }
-  // Written so that a value which compares with nothing is refused too.
-  if (!(*value >= mRule.Minimum && *value <= mRule.Maximum))
-    return MakeMessage(fieldtexts::kWrongValue, fieldtexts::kOutOfRange,
-                       {Name(), PlainText(*value), PlainText(mRule.Minimum), PlainText(mRule.Maximum)});
-  Become(*value);
-  return std::nullopt;
+std::string PlainNumber(const Control& control, double value) {
+  return numbers::ShortestText(value, control.OwnerForm().OwnerDesktop().Separators());
 }
 
-std::string NumberField::TextOf(const double& value) const {
-  return mRule.Format ? mRule.Format(value) : PlainText(value);
+void NumberField::Show(double value) {
+  Show(value, mRule.Format ? mRule.Format(value) : PlainNumber(Box(), value));
 }
 
-std::string NumberField::PlainText(double value) const {
-  return numbers::ShortestText(value, Box().OwnerForm().OwnerDesktop().Separators());
+void NumberField::Show(double value, const std::string& text) {
+  mValue = value;
+  mEntry.Text(mText = text);
 }
 
-NumberSpan::NumberSpan(NumberField& lower, NumberField& upper) : mLower(lower), mUpper(upper) {
-  for (NumberField* field : {&mLower, &mUpper})
-    field->Accepted = [this] {
-      mIsEdited = true;
-      Changed.Raise();
-    };
-  mLower.Left = [this] { FieldLeft(mLower); };
-  mUpper.Left = [this] { FieldLeft(mUpper); };
+void NumberField::Clear() {
+  if (mRule.Initially) return Show(*mRule.Initially);
+  mValue.reset();
+  mEntry.Text(mText = {});
 }
 
-void NumberSpan::Values(double lower, double upper) {
-  mLower.Value(mGoodLower = lower);
-  mUpper.Value(mGoodUpper = upper);
-  mIsEdited = false;
+std::optional<double> NumberField::Read(const std::string& text) const {
+  return numbers::ToDouble(text, Box().OwnerForm().OwnerDesktop().Separators());
 }
 
-void NumberSpan::FieldLeft(NumberField& field) {
-  const NumberField& partner = &field == &mLower ? mUpper : mLower;
-  if (!partner.Box().HasFocus()) CheckOrder(field);
+std::optional<double> NumberField::Value() const {
+  return IsEdited() ? Read(mEntry.Text()) : mValue;
 }
 
-bool NumberSpan::Check() {
-  return mLower.Check() && mUpper.Check() && CheckOrder(mLower);
-}
-
-bool NumberSpan::CheckOrder(NumberField& focused) {
-  if (mIsEdited && !IsInOrder()) {
-    const Message refusal =
-        mLower.MakeMessage(fieldtexts::kInvalidRange, fieldtexts::kWrongOrder,
-                           {mLower.Name(), mLower.Box().Text(), mUpper.Name(), mUpper.Box().Text()});
-    Values(mGoodLower, mGoodUpper);
-    Changed.Raise();
-    focused.Refuse(refusal);
-    return false;
-  }
-  mGoodLower = mLower.Value();
-  mGoodUpper = mUpper.Value();
-  return true;
+bool NumberField::IsEdited() const {
+  if (mEntry.Text() == mText) return false;
+  const std::optional<double> read = Read(mEntry.Text());
+  return !read || read != Read(mText);
 }
 
 }  // namespace orx

@@ -1,4 +1,5 @@
-// A text field for a number, and two such fields that hold the ends of a span.
+// A typed number that the dialog looks at when it wants to know; see CheckedNumberField for one that is checked as soon
+// as the focus leaves.
 #pragma once
 
 #include <functional>
@@ -6,66 +7,59 @@
 #include <optional>
 #include <string>
 
-#include "forms/CheckedField.h"
+#include "forms/Fields.h"
 
 namespace orx {
 
-/// What a number field accepts, both ends included, and how it shows its number.
+/// What a number may be, both ends included, and how it is shown.
 struct NumberRule {
   double Minimum = std::numeric_limits<double>::lowest();
   double Maximum = std::numeric_limits<double>::max();
+  /// What the field holds while there is no value; none: an empty text.
+  std::optional<double> Initially = std::nullopt;
   /// How the number is shown; none: the shortest text that reads back as the same number. A format that rounds costs
   /// nothing of the value: a field that is not edited stands for the exact number that it was given.
   std::function<std::string(double)> Format = nullptr;
+
+  /// Whether a number lies between the ends; one that compares with nothing does not.
+  bool Allows(double value) const { return value >= Minimum && value <= Maximum; }
+  /// True when not every number is allowed.
+  bool HasRange() const {
+    return Minimum > std::numeric_limits<double>::lowest() || Maximum < std::numeric_limits<double>::max();
+  }
 };
 
-/// Reads numbers in the locale of the form's desktop. Only finite numbers are accepted.
-class NumberField final : public ValueField<double> {
+/// Stands for the exact number that it was given while its text reads as the number shown, however much the text
+/// rounds; a text that the user has changed stands for what it reads. It refuses nothing by itself. Numbers are read
+/// and shown in the locale of the form's desktop.
+class NumberField : public FieldTypes<double, TextEntry, NumberRule> {
  public:
-  /// Watches the box; the field has no value yet.
-  explicit NumberField(TextBox& box, NumberRule rule = {}) : ValueField(box), mRule(std::move(rule)) {}
+  /// The control must live as long; it is left as it is.
+  explicit NumberField(TextEntry entry, NumberRule rule = {}) : mEntry(entry), mRule(std::move(rule)) {}
 
- protected:
-  std::optional<Message> Take(const std::string& text) override;
-  std::string TextOf(const double& value) const override;
+  /// The control, and what the number may be.
+  Control& Box() const { return mEntry.Box(); }
+  const NumberRule& Bounds() const { return mRule; }
+  /// Gives the number, and shows it as the rule says or by a text of the caller's.
+  void Show(double value);
+  void Show(double value, const std::string& text);
+  /// Shows what the rule has for no value.
+  void Clear();
+  /// The number that the field stands for; none when its text is no number.
+  std::optional<double> Value() const;
+  /// True when the field does not stand for the number shown any more.
+  bool IsEdited() const;
 
  private:
-  std::string PlainText(double value) const;
+  std::optional<double> Read(const std::string& text) const;
 
+  TextEntry mEntry;
   NumberRule mRule;
+  std::optional<double> mValue;
+  std::string mText;
 };
 
-/// Two number fields of which the first must be less than the second. The order is checked when the focus leaves the
-/// pair, not on the way from one field to the other: so both ends can be typed one after the other, in any order, when
-/// a span moves past its old ends. A span in wrong order is refused like a wrong entry: a message names both values,
-/// both fields get back the numbers from before, and the focus returns to the field that it has left.
-/// It takes the Left event of both fields.
-class NumberSpan {
- public:
-  /// Takes over the Left events of both fields, which must live as long as the span.
-  NumberSpan(NumberField& lower, NumberField& upper);
-  NumberSpan(const NumberSpan&) = delete;
-  NumberSpan& operator=(const NumberSpan&) = delete;
-
-  /// Shows both numbers, without an event. Numbers in wrong order stay as they are until the user enters another one.
-  void Values(double lower, double upper);
-  /// Checks pending texts and the order at once, for a save. False when something was refused.
-  bool Check();
-  /// True when the lower value is less than the upper one; equal values are not in order.
-  bool IsInOrder() const { return mLower.Value() < mUpper.Value(); }
-
-  /// Raised when an entry was accepted in one of the fields and when a span was put back.
-  Event<> Changed;
-
- private:
-  void FieldLeft(NumberField& field);
-  bool CheckOrder(NumberField& focused);
-
-  NumberField& mLower;
-  NumberField& mUpper;
-  double mGoodLower = 0;
-  double mGoodUpper = 0;
-  bool mIsEdited = false;
-};
+/// The shortest text that reads back as that number in the locale of the control's desktop.
+std::string PlainNumber(const Control& control, double value);
 
 }  // namespace orx

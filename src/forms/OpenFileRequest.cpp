@@ -3,22 +3,19 @@
 #include <algorithm>
 
 #include "forms/TextBox.h"
+#include "text/CharacterCount.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
 
 constexpr char kNul = '\0';
 
-std::string WithoutBlanks(const std::string& text) {
-  const auto first = text.find_first_not_of(' ');
-  return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::vector<std::string> PatternsOf(const std::string& text) {
   std::vector<std::string> patterns;
   for (std::size_t start = 0; start < text.size();) {
     const std::size_t end = std::min(text.find(';', start), text.size());
-    const std::string pattern = WithoutBlanks(text.substr(start, end - start));
+    const std::string pattern(Trimmed(text.substr(start, end - start), kSpaces));
     if (!pattern.empty()) patterns.push_back(pattern);
     start = end + 1;
   }

@@ -1,4 +1,4 @@
-// The platform's dialog for choosing files: what it is asked for, and its answer.
+// A request to the platform's dialog for choosing files, and its answer.
 #pragma once
 
 #include <cstdint>
@@ -30,7 +30,7 @@ struct OpenFileRequest {
   std::string LastFolder;
 };
 
-/// Thrown by a desktop when what the user chose cannot be handed over; Desktop::OpenFiles tells the user.
+/// Thrown by a desktop when the user's choice cannot be returned; Desktop::OpenFiles tells the user.
 class AnswerRefused final : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -52,7 +52,7 @@ std::vector<FileFilter> FiltersOf(const OpenFileRequest& request);
 /// The name that the dialog opens on: the buffer without the blanks that fill it.
 std::string InitialName(const OpenFileRequest& request);
 
-/// What stands between the names of a path in that folder.
+/// The separator between the names of a path in that folder.
 char SeparatorOf(const std::string& folder);
 
 /// Puts an answer into the buffer: a path when there is one name, else the folder and the names. Throws AnswerRefused,

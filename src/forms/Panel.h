@@ -1,4 +1,4 @@
-// A plain surface that holds controls: the body of a property page, a page of a tab control.
+// A plain area that holds controls: the body of a property page, a page of a tab control.
 #pragma once
 
 #include "forms/Container.h"

@@ -1,35 +1,11 @@
 #include "forms/PictureBox.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
 
 namespace orx {
-
-void Canvas::Draw(Mark mark) {
-  mMarks.push_back(std::move(mark));
-}
-
-void Canvas::ToggleFocus(const Rect& place) {
-  const Mark mark = FocusMark{place};
-  const auto found = std::find(mMarks.begin(), mMarks.end(), mark);
-  if (found == mMarks.end()) {
-    mMarks.push_back(mark);
-  } else {
-    mMarks.erase(found);
-  }
-}
-
-void Canvas::Redraw(const CharacterMark& character) {
-  std::erase_if(mMarks, [&](const Mark& mark) {
-    const auto* const drawn = std::get_if<CharacterMark>(&mark);
-    return drawn && drawn->Place == character.Place;
-  });
-  mMarks.push_back(character);
-}
 
 void PictureBox::BackColor(Color value) {
   if (mBackColor == value) return;
@@ -86,10 +62,6 @@ Size PictureBox::PixelSize() const {
 
 void PictureBox::Refresh() {
   Changed(Aspect::Drawing);
-}
-
-void PictureBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -7,10 +7,10 @@
 
 namespace orx {
 
-/// Whether a user only looks at a box or works with it by mouse and keys.
+/// Whether the user only looks at a box, or works with it by mouse and keys.
 enum class PictureUse { Display, Input };
 
-/// Shows a drawing on a ground of one colour.
+/// Shows a drawing on a background of one colour.
 class PictureBox final : public Control {
  public:
   /// As Control; automatic redraw is on at first, the use is fixed.
@@ -18,17 +18,18 @@ class PictureBox final : public Control {
              PictureUse use = PictureUse::Display)
       : Control(parent, std::move(name), std::move(design)), mBackColor(backColor), mUse(use) {}
 
-  /// The ground that the drawing stands on; a new one repaints the box.
+  /// The background of the drawing; setting another one repaints the box.
   Color BackColor() const { return mBackColor; }
   void BackColor(Color value);
-  /// The ground as the screen shows it: pale while the box is disabled.
+  /// The background as the screen shows it: pale while the box is disabled.
   Color ShownBackColor() const;
 
-  /// While on, what is drawn stays and is painted again by itself. While off, a desktop paints the background only.
+  /// While on, the drawing is kept and repainted whenever the screen needs it. While off, only the background is
+  /// painted.
   bool AutoRedraw() const { return mAutoRedraw; }
   void AutoRedraw(bool value);
 
-  /// The size in pixels that drawings fill, on the desktop where the form stands.
+  /// The size in pixels that drawings fill on the form's desktop.
   Size PixelSize() const;
 
   /// What is drawn. Call Refresh when the drawing is complete.
@@ -38,11 +39,11 @@ class PictureBox final : public Control {
   void Refresh();
 
   /// Raised when the user presses the mouse on a box that is used, with the place in pixels from the upper left corner
-  /// of the drawing, and when he releases it there.
+  /// of the drawing, and when the mouse is released there.
   Event<Point> MouseDown;
   Event<> Click;
-  /// Raised when a press follows a click so soon that it makes a double click of it, in place of MouseDown and Click.
-  /// Without a handler the second press is one as any other.
+  /// Raised in place of MouseDown and Click when a press follows a click so soon that it is a double click. Without a
+  /// handler the second press is like any other.
   Event<> DblClick;
   /// Raised when the user presses a key there, with the key's code. Keys that belong to the dialog (Tab, Enter, Escape,
   /// all with Alt) do not come here.

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 #include "numbers/Numbers.h"
 
@@ -48,7 +47,7 @@ int ProgressBar::Pixels() const {
 
 int ProgressBar::FilledPixels() const {
   if (mValue <= mMin) return 0;
-  // Doubles hold the differences of any two singles.
+  // A double holds the difference of any two singles.
   const double part = (static_cast<double>(mValue) - mMin) / (static_cast<double>(mMax) - mMin);
   const int pixels = Pixels();
   return mValue >= mMax ? pixels : std::min(pixels - 1, static_cast<int>(part * pixels));
@@ -57,17 +56,13 @@ int ProgressBar::FilledPixels() const {
 void ProgressBar::Show() {
   const int filled = FilledPixels();
   if (std::exchange(mShown, filled) == filled) return;
-  // A full bar may be the last that is heard of an operation.
+  // A full bar may be the last that the user sees of an operation.
   Changed(Aspect::Value, mValue < mMax ? Urgency::CanWait : Urgency::AtOnce);
 }
 
 void ProgressBar::Placed() {
   mShown = FilledPixels();
   Changed(Aspect::Value);
-}
-
-void ProgressBar::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -5,25 +5,25 @@
 
 namespace orx {
 
-/// Fills from its minimum to its maximum and takes no focus. The numbers are finite ones of single precision.
+/// Fills from its minimum to its maximum and takes no focus. The numbers are finite and of single precision.
 class ProgressBar final : public Control {
  public:
-  /// From 0 to 100, empty at first.
+  /// The range is 0 to 100 and the bar empty at first.
   using Control::Control;
 
-  /// The ends. A maximum or a value that a new minimum leaves behind goes with it, a value above a new maximum comes
-  /// down to it; a bar whose ends meet stays empty. Throw std::out_of_range for a maximum below the minimum and for
-  /// what is no finite number, with the bar as it was.
+  /// The ends. A new minimum raises a maximum and a value that are below it, and a new maximum lowers a value that is
+  /// above it; a bar whose ends are equal stays empty. Throw std::out_of_range for a maximum below the minimum and for
+  /// a number that is not finite; the bar stays as it was.
   float Min() const { return mMin; }
   void Min(float value);
   float Max() const { return mMax; }
   void Max(float value);
-  /// Where the bar ends now. Throws std::out_of_range beyond the two ends, with the bar as it was.
+  /// How far the bar is filled. Throws std::out_of_range beyond the two ends; the bar stays as it was.
   float Value() const { return mValue; }
   void Value(float value);
 
-  /// For desktops: the pixels that there are along the bar, at least one, and how many of them are filled: none at the
-  /// minimum, all at the maximum alone.
+  /// For desktops: the length of the bar in pixels, at least one, and how many of them are filled: none at the minimum,
+  /// all only at the maximum.
   int Pixels() const;
   int FilledPixels() const;
 
@@ -34,7 +34,7 @@ class ProgressBar final : public Control {
   void Placed() override;
 
  private:
-  /// Tells the native mirror when the user can see the difference.
+  /// Updates the native mirror if the user can see the difference.
   void Show();
 
   float mMin = 0;

@@ -1,4 +1,4 @@
-// Changes on their way to the screen, when they come faster than a person can see.
+// Changes on their way to the screen that come faster than a person can see.
 #pragma once
 
 #include <chrono>
@@ -9,10 +9,10 @@
 namespace orx {
 
 /// Collects what has changed and tells when it is time to show it: at most 60 times in any second. Of these, 50 are for
-/// whatever comes, and 10 for what should not wait for its turn.
+/// any change, and 10 are kept for changes that should not wait for their turn.
 class ScreenUpdates {
  public:
-  /// What the pace is measured by.
+  /// The clock that the pace is measured by.
   using Clock = std::chrono::steady_clock;
 
   /// A change of one control.
@@ -26,9 +26,9 @@ class ScreenUpdates {
   static constexpr std::chrono::milliseconds kPace{20};
   static constexpr std::chrono::milliseconds kUrgentPace{100};
 
-  /// Keeps the change, one of the same kind once. True when it is time to show what is kept.
+  /// Keeps the change; the same change is kept once. True when it is time to show what is kept.
   bool Add(const Update& update, Urgency urgency, Clock::time_point now);
-  /// Hands out what is kept, as shown from `now` on.
+  /// Hands out what is kept, which counts as shown from `now` on.
   std::vector<Update> Take(Clock::time_point now);
   /// Nothing is kept.
   bool IsEmpty() const { return mKept.empty(); }

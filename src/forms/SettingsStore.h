@@ -1,4 +1,4 @@
-// Where a host's settings are kept between runs: the registry, a settings file, memory.
+// Where a host's settings are kept: the registry, a settings file, memory.
 #pragma once
 
 #include <optional>

@@ -1,6 +1,5 @@
 #include "forms/TabControl.h"
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
 
 namespace orx {
@@ -55,14 +54,10 @@ void TabControl::Tab(int tab) {
 
 void TabControl::UserSelect(int tab) {
   OwnerForm().UserAct([&] {
-    // The native strip has switched already; it waits for what becomes of the choice.
+    // The native strip has already switched; it must show the tab that the control ends up with.
     Changed(Aspect::Value);
     if (OwnerForm().MoveFocus(*this)) Tab(tab);
   });
-}
-
-void TabControl::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

@@ -31,7 +31,7 @@ class TabControl final : public Control, public Container {
   static constexpr int kStrip = 390;
   static constexpr int kBorder = 60;
 
-  /// With one tab there is nothing to switch, so Tab does not stop at its strip.
+  /// With a single tab there is nothing to switch, so the Tab key does not stop at the strip.
   TabControl(Container& parent, std::string name, Design design, std::vector<std::string> tabCaptions);
 
   /// The number of tabs, as given when the control was made.

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
+#include "text/CharacterCount.h"
 
 namespace orx {
-
-int CharacterCount(std::string_view text) {
-  const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
-  return static_cast<int>(std::count_if(text.begin(), text.end(), startsCharacter));
-}
 
 void TextBox::Text(const std::string& value) {
   if (mText == value) return;
@@ -44,10 +39,6 @@ void TextBox::UserText(const std::string& text, int selStart, int selLength) {
 void TextBox::UserSelect(int selStart, int selLength) {
   mSelStart = selStart;
   mSelLength = selLength;
-}
-
-void TextBox::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
 }
 
 }  // namespace orx

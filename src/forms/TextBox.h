@@ -8,7 +8,7 @@ namespace orx {
 /// One line, or several with line breaks between them.
 enum class TextLines { Single, Multiple };
 
-/// A field that a user types into.
+/// A field that the user types into.
 class TextBox final : public Control {
  public:
   /// As Control; the text is empty at first, lines and lock are fixed.
@@ -47,8 +47,5 @@ class TextBox final : public Control {
   int mSelStart = 0;
   int mSelLength = 0;
 };
-
-/// The number of characters (code points) in a UTF-8 text.
-int CharacterCount(std::string_view text);
 
 }  // namespace orx

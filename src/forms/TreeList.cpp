@@ -3,8 +3,9 @@
 #include <stdexcept>
 #include <utility>
 
-#include "forms/ControlVisitor.h"
 #include "forms/Form.h"
+#include "forms/RowMeasures.h"
+#include "forms/RowNavigation.h"
 
 namespace orx {
 
@@ -78,7 +79,7 @@ void TreeList::FindShown() const {
   if (std::exchange(mShownIsKnown, true)) return;
   mShown.clear();
   mPositions.assign(mRows.size(), -1);
-  // Rows below a folded one are passed over until one comes that is not deeper.
+  // Rows below a folded one are skipped until one comes that is not deeper.
   int foldedLevel = -1;
   for (int row = 0; row < ListCount(); ++row) {
     const TreeRow& each = mRows[static_cast<std::size_t>(row)];
@@ -104,6 +105,12 @@ int TreeList::PositionOf(int row) const {
   return mPositions.at(static_cast<std::size_t>(row));
 }
 
+FoldMark TreeList::MarkAt(int position) const {
+  const int row = ShownRow(position);
+  if (!HasChildren(row)) return FoldMark::None;
+  return Row(row).Expanded ? FoldMark::Unfolded : FoldMark::Folded;
+}
+
 void TreeList::UserClick(int row) {
   OwnerForm().UserAct([&] {
     // A native list may still show rows that are gone by now.
@@ -117,6 +124,20 @@ void TreeList::UserFold(int row) {
   OwnerForm().UserAct([&] {
     if (OwnerForm().MoveFocus(*this) && IsRow(row) && HasChildren(row)) Expand(row, !Row(row).Expanded);
   });
+}
+
+void TreeList::UserPress(const RowPress& press) {
+  // A native list may still show rows that are gone by now.
+  if (!IsPosition(press.Position)) return;
+  const RowMeasures measures(OwnerForm().OwnerDesktop().Scale());
+  const bool isOnMark = measures.MarkAt(LevelsAt(press.Position)).Holds(press.X);
+  const bool folds = MarkAt(press.Position) != FoldMark::None && (isOnMark || press.IsSecond);
+  const int row = ShownRow(press.Position);
+  folds ? UserFold(row) : UserClick(row);
+}
+
+void TreeList::UserSelect(int position, bool value) {
+  if (value && IsPosition(position)) UserClick(ShownRow(position));
 }
 
 void TreeList::UserKeyDown(int keyCode) {
@@ -144,7 +165,7 @@ void TreeList::GoRight() {
 }
 
 void TreeList::Navigate(int keyCode) {
-  if (const std::optional<int> position = PositionAfterKey(keyCode, Shown(), mPageRows))
+  if (const std::optional<int> position = PositionAfterKey(keyCode, Shown(), PageRows()))
     return SelectPosition(*position);
   switch (keyCode) {
     case kKeyCodeLeft:
@@ -162,16 +183,16 @@ void TreeList::Navigate(int keyCode) {
 
 void TreeList::UserCharacter(char32_t character) {
   OwnerForm().UserAct([&] {
-    const auto textAt = [this](int position) -> const std::string& { return Row(ShownRow(position)).Text; };
-    const std::optional<int> found = mTypeAhead.Type(character, Shown(), textAt);
+    const auto textAt = [this](int position) -> const std::string& { return ShownText(position); };
+    const std::optional<int> found = Typed().Type(character, Shown(), textAt);
     if (!found || ShownRow(*found) == mListIndex) return;
     SelectPosition(*found);
     KeyDown.Raise(0);
   });
 }
 
-void TreeList::Accept(ControlVisitor& visitor) {
-  visitor.Visit(*this);
+RowSpan TreeList::Shown() const {
+  return {ShownCount(), FocusPosition()};
 }
 
 }  // namespace orx

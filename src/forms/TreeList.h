@@ -1,4 +1,4 @@
-// A list of rows in levels, of which the deeper ones can be folded away: layers with their tiles.
+// A list of rows in levels, where a row can hide those below it: layers with their tiles.
 #pragma once
 
 #include <cstdint>
@@ -6,15 +6,17 @@
 #include <vector>
 
 #include "forms/Control.h"
-#include "forms/RowWalk.h"
+#include "forms/RowList.h"
 
 namespace orx {
 
-/// One row. What follows with a greater level is what it holds.
+struct RowSpan;
+
+/// One row. It holds the rows of a greater level that follow it.
 struct TreeRow {
   std::string Text;
   int Level = 0;
-  /// A number and a mark of the form's own.
+  /// A number and a text for the form's own use.
   std::int32_t Data = 0;
   std::string Tag = {};
   /// Whether the rows below it can be seen.
@@ -26,7 +28,7 @@ struct TreeRow {
 /// Mouse and keys: a click selects, a click on the mark before a row or a double click folds it; Up, Down, Home, End,
 /// Page Up and Page Down go through what can be seen; Left and Right fold, or go to the row above or below in level;
 /// letters that are typed in a row go to the next row which begins with them.
-class TreeList final : public Control {
+class TreeList final : public Control, public RowList {
  public:
   /// As Control; the list is empty at first.
   using Control::Control;
@@ -59,10 +61,17 @@ class TreeList final : public Control {
   /// selected.
   void ListIndex(int row);
 
-  /// The rows that can be seen, from 0; the row at a position, and the position of a row, -1 while it is folded away.
-  int ShownCount() const;
+  /// The row at a position, and the position of a row, -1 while it is folded away.
   int ShownRow(int position) const;
   int PositionOf(int row) const;
+
+  int ShownCount() const override;
+  const std::string& ShownText(int position) const override { return Row(ShownRow(position)).Text; }
+  bool IsSelectedAt(int position) const override { return ShownRow(position) == mListIndex; }
+  int FocusPosition() const override { return mListIndex < 0 ? -1 : PositionOf(mListIndex); }
+  /// One for each level above the row, and one for the mark.
+  int LevelsAt(int position) const override { return Row(ShownRow(position)).Level + 1; }
+  FoldMark MarkAt(int position) const override;
 
   /// The topic that F1 opens, when the form does that; 0 for none of its own.
   std::int32_t HelpContextId() const { return mHelpContextId; }
@@ -78,16 +87,16 @@ class TreeList final : public Control {
   /// For desktops and test users: the user clicks on a row, or folds one by mouse.
   void UserClick(int row);
   void UserFold(int row);
-  /// The user presses a key while the focus is here, or types a character.
-  void UserKeyDown(int keyCode);
-  void UserCharacter(char32_t character);
-  /// For desktops: how many rows the native list has room for; 10 unless told.
-  void PageRows(int value) { mPageRows = value > 1 ? value : 1; }
+  void UserPress(const RowPress& press) override;
+  void UserKeyDown(int keyCode) override;
+  void UserCharacter(char32_t character) override;
+  void UserSelect(int position, bool value) override;
 
   void Accept(ControlVisitor& visitor) override;
 
  private:
   bool IsRow(int row) const { return row >= 0 && row < ListCount(); }
+  bool IsPosition(int position) const { return position >= 0 && position < ShownCount(); }
   void RowsChanged();
   void Tell(Aspect aspect);
   void FindShown() const;
@@ -95,7 +104,7 @@ class TreeList final : public Control {
   void Select(int row);
   void SelectPosition(int position);
   /// The rows that can be seen, and the selected one among them.
-  RowSpan Shown() const { return {ShownCount(), mListIndex < 0 ? -1 : PositionOf(mListIndex)}; }
+  RowSpan Shown() const;
   void GoLeft();
   void GoRight();
   void Navigate(int keyCode);
@@ -105,13 +114,11 @@ class TreeList final : public Control {
   std::vector<int> mParents;
   int mListIndex = -1;
   bool mRedraw = true;
-  int mPageRows = 10;
   std::int32_t mHelpContextId = 0;
   /// Worked out when somebody asks.
   mutable std::vector<int> mShown;
   mutable std::vector<int> mPositions;
   mutable bool mShownIsKnown = false;
-  TypeAhead mTypeAhead;
 };
 
 }  // namespace orx

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
+#include "dialogframe/ColorBox.h"
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
@@ -11,25 +12,25 @@
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "forms/ShownChoice.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IGridSettings.h"
-#include "service/DialogForm.h"
+#include "hostobjects/PassOver.h"
 
 namespace orx {
 
 /// Reads each setting into its control when it is loaded, and writes those that differ on OK. It checks nothing before:
 /// at a text that is no number OK ends where it is, with a beep, and the dialog stays open.
-class frmDataIsoline final : public DialogForm {
+class frmDataIsoline final : public EditForm {
  public:
   explicit frmDataIsoline(Desktop& desktop);
 
   /// Set by the caller; the dialog does not read it.
   void Flags(std::int32_t value) { mFlags = value; }
   /// True when OK has written a setting; false after Cancel.
-  bool Changed() const { return mChanged; }
+  bool Changed() const { return IsDirty(); }
   /// The object to edit, used, not owned. Before the form is loaded; without contour lines nothing is read or written.
-  void IsolineObject(HostObject* value);
+  void IsolineObject(HostObject* value) { Subject(value); }
 
   Frame fraLine{*this, "fraLine", {.Caption = "Line", .Place = {120, 120, 6900, 2190}}};
   Label lblRangeStep{fraLine, "lblHelp(0)", {.Caption = "Range step:", .Place = {150, 390, 2070, 240}}};
@@ -58,42 +59,49 @@ class frmDataIsoline final : public DialogForm {
   ComboBox cmbLabelDistance{fraLabel, "cmbLabelDistance", {.Place = {5160, 330, 1530, 330}}, ComboStyle::Editable};
   Button cmdFont{fraLabel, "cmdFont", {.Caption = "&Font...", .Place = {5160, 1125, 1530, 375}}};
 
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 4320, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 4320, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
-  void Form_Unload() override;
+  void Fill() override;
+  bool Save() override;
+  void Form_Release() override;
 
  private:
   void FillLists();
-  void ReadObject();
-  void ReadFont();
-  void pctColor_Click();
   void cmdFont_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
-  void Apply();
-  void ApplyLine();
-  void ApplyLabels();
-  void ApplyFont();
-  std::string NumberText(double value) const;
-  /// The number of a field; throws NoNumber where there is none.
-  template <class Field>
-  double NumberOf(Field& field) const;
-  std::int32_t LongOf(double value, Control& field) const;
-  template <class Object, class Value, class Given>
-  void Write(Object& object, const Given& now, Value (Object::*read)() const, void (Object::*write)(Given));
-
-  HostObject* mObject = nullptr;
   IIsolines* mIsolines = nullptr;
   std::int32_t mFlags = 0;
-  bool mChanged = false;
-  std::optional<ColoredFont> mFont;
-  ShownChoice mStyle{cmbLineStyle};
+  ColoredFont mFont;
+  ColorBox mColorBox{pctColor};
+
+  // In the order in which they are read and written.
+  Settings mSettings{WriteRule::WhenTheHostDiffers, PassOver};
+  Part<IIsolines> mLines{mSettings, mIsolines};
+  Part<ILineStyle> mLine{mLines, &IIsolines::Line};
+  Part<ILabelFont> mLabelFont{mLines, &IIsolines::LabelFont};
+  using Lines = IIsolines;
+  using Line = ILineStyle;
+  using Face = ILabelFont;
+  NumberSetting mStep{cmbRangeStep, mLines(&Lines::RangeStep, &Lines::RangeStep), {.Initially = 1}};
+  ColorSetting mColor{pctColor, mLine(&Line::Color, &Line::Color)};
+  NumberSetting mWidth{txtLineWidth, mLine(&Line::Width, &Line::Width), {.Initially = 1}};
+  ChoiceSetting mStyle{cmbLineStyle, mLine(&Line::Style, &Line::Style), {.Otherwise = 0}};
+  FlagSetting mRangeColor{chkLineUseRangeColor, mLines(&Lines::UseRangeColor, &Lines::UseRangeColor)};
+  FlagSetting mRangeWidth{chkLineUseRangeWidth, mLines(&Lines::UseRangeWidth, &Lines::UseRangeWidth)};
+  NumberSetting mMaxWidth{txtLineMaxWidth, mLines(&Lines::MaxWidth, &Lines::MaxWidth), {.Initially = 1}};
+  FlagSetting mVisible{chkLabelVisible, mLines(&Lines::LabelVisible, &Lines::LabelVisible)};
+  FlagSetting mAllIsolines{chkLabelAllIsolines, mLines(&Lines::LabelAllIsolines, &Lines::LabelAllIsolines)};
+  FlagSetting mLabelColor{chkLabelUseRangeColor, mLines(&Lines::LabelUseRangeColor, &Lines::LabelUseRangeColor)};
+  NumberSetting mDistance{cmbLabelDistance, mLines(&Lines::LabelDistance, &Lines::LabelDistance), {.Initially = 0.25}};
+  HeldSetting<std::string> mFontName{mFont.Face.Name, mLabelFont(&Face::Name, &Face::Name)};
+  HeldSetting<double> mFontSize{mFont.Face.Size, mLabelFont(&Face::Size, &Face::Size)};
+  HeldSetting<bool> mBold{mFont.Face.Bold, mLabelFont(&Face::Bold, &Face::Bold)};
+  HeldSetting<bool> mItalic{mFont.Face.Italic, mLabelFont(&Face::Italic, &Face::Italic)};
+  HeldSetting<bool> mUnderline{mFont.Face.Underline, mLabelFont(&Face::Underline, &Face::Underline)};
+  HeldSetting<bool> mStrikethrough{mFont.Face.Strikethrough, mLabelFont(&Face::Strikethrough, &Face::Strikethrough)};
+  HeldSetting<Color> mFontColor{mFont.Color, mLabelFont(&Face::Color, &Face::Color)};
 };
 
 }  // namespace orx

@@ -2,32 +2,33 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
+#include "dialogframe/EditForm.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/ShownChoice.h"
-#include "forms/ShownNumber.h"
+#include "forms/SettingOf.h"
 #include "forms/TextBox.h"
 #include "hostobjects/IGridSettings.h"
-#include "service/DialogForm.h"
+#include "hostobjects/PassOver.h"
 
 namespace orx {
 
 /// Reads each setting into its control when it is loaded, and writes those that differ on OK. An object without the
 /// extended settings has the method "Darkening" alone.
-class frmDataShade final : public DialogForm {
+class frmDataShade final : public EditForm {
  public:
   explicit frmDataShade(Desktop& desktop);
 
   /// Set by the caller; the dialog does not read it.
   void Flags(std::int32_t value) { mFlags = value; }
   /// True when OK has written a setting; false after Cancel.
-  bool Changed() const { return mChanged; }
+  bool Changed() const { return IsDirty(); }
   /// The object to edit, used, not owned. Before the form is loaded; without shading the form unloads itself then.
-  void ShadeObject(HostObject* value);
+  void ShadeObject(HostObject* value) { Subject(value); }
 
   Frame fraColors{*this, "Frame1(0)", {.Caption = "Colors", .Place = {120, 120, 6900, 3120}}};
   Label lblMethod{fraColors, "Label1(0)", {.Caption = "Shading method:", .Place = {150, 360, 2370, 240}}};
@@ -73,65 +74,71 @@ class frmDataShade final : public DialogForm {
   Label lblAltitude{fraIllumination, "Label1(5)", {.Caption = "Altitude (0' - 90'):", .Place = {3570, 390, 2430, 240}}};
   TextBox txtAltitude{fraIllumination, "txtAltitude", {.Place = {6060, 330, 660, 330}}};
 
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {3915, 6030, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {5520, 6030, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  bool Check() override;
+  bool Save() override;
   void Form_Resize() override { fraIntensity2.Place(fraIntensity1.Place()); }
-  void Form_Unload() override;
+  void Form_Release() override;
 
  private:
-  void ShowDesignTexts();
+  static constexpr double kUnlimited = std::numeric_limits<double>::max();
+  static constexpr double kRightAngle = 90;
+  static constexpr double kFullCircle = 360;
+  static constexpr double kMostShades = 255;
+
   void FillLists();
-  void ReadBasic();
-  void ReadExtended();
   /// Keeps the texts of two fields for one setting alike.
   void Couple(TextBox& one, TextBox& other);
+  void ShowDesignOfTwin();
   void cmbShadeVersion_Click();
   void cmbCombine_Click();
   void cmdScaleFactor_Click();
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
-  bool Validate();
   bool IsDarkening() const { return cmbShadeVersion.ListIndex() < 1; }
-  bool IsNumber(const ShownNumber& field);
-  bool IsWhole(const ShownNumber& field, double low, double high);
-  bool IsWithin(const ShownNumber& field, double low, double high);
-  bool Refuse(const char* title, const char* text, const ShownNumber& field);
+  bool IsNumber(const NumberSetting& setting);
+  bool IsWithinBounds(const NumberSetting& setting);
+  bool IsAtMost(const NumberSetting& setting, double most);
+  bool RefuseNumber(const char* title, const char* text, const NumberSetting& setting);
+  /// The field of a setting that the selected method shows.
+  Control& FieldOf(const NumberSetting& setting);
 
-  void Apply();
-  void ApplyShades();
-  void ApplyScaling();
-  template <class Value>
-  void Write(Value now, Value (ShadeSettings::*read)() const, void (ShadeSettings::*write)(Value));
-  template <class Value>
-  void Write2(Value now, Value (ShadeSettings2::*read)() const, void (ShadeSettings2::*write)(Value));
+  /// Steps among the writes; true when a setting was changed.
+  bool SetCount();
+  bool UseAllShades();
 
-  HostObject* mObject = nullptr;
   ShadeSettings* mShade = nullptr;
   /// Null for an object with the basic settings only.
   ShadeSettings2* mShade2 = nullptr;
   std::int32_t mFlags = 0;
-  bool mChanged = false;
   bool mIsCopying = false;
-  ShownChoice mVersion{cmbShadeVersion};
-  ShownChoice mCombine{cmbCombine};
-  ShownNumber mShades2{txtNrOfShades2};
-  ShownNumber mReference{txtAltitudeDefault};
-  ShownNumber mFullShade{txtIntensityMin};
-  ShownNumber mMidLight{txtIntensityMid};
-  ShownNumber mFullSun{txtIntensityMax};
-  ShownNumber mFirstIndex{txtFirstShadeIndex};
-  ShownNumber mShades{txtNrOfShades};
-  ShownNumber mMinimum{txtMinIntensity};
-  ShownNumber mFactor{txtScaleFactor};
-  ShownNumber mMultiplier{txtScaleMultiplier};
-  ShownNumber mAzimuth{txtAzimuth};
-  ShownNumber mAltitude{txtAltitude};
+
+  // In the order in which they are written. txtIntensityMin and txtNrOfShades2 are twins of the fields named here.
+  Settings mSettings{WriteRule::WhenTheHostDiffers, PassOver};
+  Part<ShadeSettings> mBasic{mSettings, mShade};
+  Part<ShadeSettings2> mExtended{mSettings, mShade2};
+  using S = ShadeSettings;
+  using S2 = ShadeSettings2;
+  ChoiceSetting mVersion{cmbShadeVersion, mExtended(&S2::ShadeVersion, &S2::ShadeVersion), {.Otherwise = 1}};
+  NumberSetting mAltitude{txtAltitude, mBasic(&S::Altitude, &S::Altitude), {0, kRightAngle, 30}};
+  NumberSetting mAzimuth{txtAzimuth, mBasic(&S::Azimuth, &S::Azimuth), {0, kFullCircle, 0}};
+  ChoiceSetting mCombine{cmbCombine, mBasic(&S::CombineColors, &S::CombineColors), {.Otherwise = 0}};
+  NumberSetting mMinimum{txtMinIntensity, mBasic(&S::MinIntensity, &S::MinIntensity), {0, kUnlimited, 50}};
+  NumberSetting mMidLight{txtIntensityMid, mExtended(&S2::MidIntensity, &S2::MidIntensity), {.Initially = 100}};
+  NumberSetting mFullSun{txtIntensityMax, mExtended(&S2::MaxIntensity, &S2::MaxIntensity), {.Initially = 150}};
+  NumberSetting mReference{
+      txtAltitudeDefault, mExtended(&S2::AltitudeDefault, &S2::AltitudeDefault), {0, kRightAngle, 30}};
+  FlagSetting mUsesReference{chkMidIndexAutomatic, mExtended(&S2::MidIndexAutomatic, &S2::MidIndexAutomatic)};
+  NumberSetting mShades{txtNrOfShades, mBasic(&S::NrOfShades, &S::NrOfShades), {1, kMostShades, kMostShades}};
+  WriteStep mCount{mSettings, [this] { return SetCount(); }};
+  NumberSetting mFirstIndex{txtFirstShadeIndex, mBasic(&S::FirstShadeIndex, &S::FirstShadeIndex), {1, kMostShades, 1}};
+  WriteStep mAllShades{mSettings, [this] { return UseAllShades(); }};
+  FlagSetting mAutomatic{chkScaleAutomatic, mBasic(&S::ScaleAutomatic, &S::ScaleAutomatic)};
+  NumberSetting mFactor{txtScaleFactor, mBasic(&S::ScaleFactor, &S::ScaleFactor), {0, kUnlimited, 0.001}};
+  NumberSetting mMultiplier{txtScaleMultiplier, mBasic(&S::ScaleMultiplier, &S::ScaleMultiplier), {0, kUnlimited, 1}};
 };
 
 }  // namespace orx

@@ -14,10 +14,8 @@ namespace orx {
 inline constexpr double kUnknownRangeEnd = -999;
 
 /// The data of a layer. An object that supports this answers for the views below as well, as far as it has them.
-class IData {
+class IData : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Data;
-  virtual ~IData() = default;
   /// The number of classes in use.
   virtual std::int32_t ClassCount() = 0;
   /// The file that the data were read from, UTF-8; empty when there is none. Setting it reads another file; throws
@@ -55,10 +53,8 @@ inline constexpr std::int32_t kBySize = 2;
 inline constexpr std::int32_t kMayChangeClassCount = 0x20;
 
 /// How values are divided into classes for display and legend. Any member may throw; the dialog goes on without it.
-class IClassification {
+class IClassification : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Classification;
-  virtual ~IClassification() = default;
   /// Number format of the class limits: "General" or a pattern such as "0.00".
   virtual std::string ValueFormat() const = 0;
   virtual void ValueFormat(const std::string& value) = 0;
@@ -118,10 +114,8 @@ class ISpecialValue {
 };
 
 /// The special values of a data object, which owns them.
-class IDataOptions {
+class IDataOptions : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::DataOptions;
-  virtual ~IDataOptions() = default;
   /// Values that were not measured, values that count as zero, and places without data.
   virtual ISpecialValue& MissingValue() = 0;
   virtual ISpecialValue& ZeroValue() = 0;

@@ -3,13 +3,13 @@
 
 #include <cstdint>
 
-#include "hostobjects/Lent.h"
+#include "hostobjects/BorrowedObject.h"
 
 namespace orx {
 
 /// The members in their order of the interface. The library keeps a plain pointer to the call-back and never releases
 /// it. What a member throws ends the button press and reaches the service.
-class IDialogCallBack : public Lent {
+class IDialogCallBack : public BorrowedObject {
  public:
   /// Apply was pressed and the page has written its values; `changed`: the object differs from how it was handed over.
   virtual void ApplyNotify(bool changed) = 0;

@@ -28,10 +28,8 @@ inline constexpr std::int32_t kSunAndShadow = 20;
 }  // namespace shadeversion
 
 /// Relief shading by darkening. Any member may throw; the dialog goes on without it.
-class ShadeSettings {
+class ShadeSettings : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Shade;
-  virtual ~ShadeSettings() = default;
   /// Whether heights are scaled by what SuggestScaleFactor finds.
   virtual bool ScaleAutomatic() const = 0;
   virtual void ScaleAutomatic(bool value) = 0;
@@ -68,7 +66,6 @@ class ShadeSettings {
 /// Relief shading by darkening, or by sun and shadow.
 class ShadeSettings2 : public ShadeSettings {
  public:
-  static constexpr Kind kKind = Kind::ExtendedShade;
   /// Reference altitude in degrees, 0 to 90: light that falls on level ground from there is mid light.
   virtual std::int32_t AltitudeDefault() const = 0;
   virtual void AltitudeDefault(std::int32_t value) = 0;
@@ -126,10 +123,8 @@ class ILabelFont {
 };
 
 /// The contour lines of a grid. Any member may throw; the dialog goes on without it.
-class IIsolines {
+class IIsolines : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Isolines;
-  virtual ~IIsolines() = default;
   /// Whether lines take the colour of their class, and whether their widths grow with the classes.
   virtual bool UseRangeColor() const = 0;
   virtual void UseRangeColor(bool value) = 0;

@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <string>
 
-#include "hostobjects/Lent.h"
+#include "hostobjects/BorrowedObject.h"
 
 namespace orx {
 
 class Form;
 
 /// A language is active when it has entries. The library keeps plain pointers to languages and releases none.
-class ILanguage : public Lent {
+class ILanguage : public BorrowedObject {
  public:
   /// The number of texts; 0 means that nothing is translated.
   virtual std::int32_t EntryCount() = 0;

@@ -10,10 +10,8 @@
 namespace orx {
 
 /// A rectangle on the ground, in the map's own unit (degrees or metres), y upwards.
-class IExtent {
+class IExtent : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Extent;
-  virtual ~IExtent() = default;
   /// The edges. The library's page sets those that were changed, in an order in which left never passes right, nor
   /// bottom top. A setter may throw to refuse a value.
   virtual double Left() const = 0;
@@ -27,10 +25,8 @@ class IExtent {
 };
 
 /// A map: layers in drawing order, numbered from 1, the first drawn first. An index outside the layers throws.
-class IMap {
+class IMap : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Map;
-  virtual ~IMap() = default;
   /// The layers: how many there are, and the name of one as the user sees it, UTF-8.
   virtual std::int32_t LayerCount() = 0;
   virtual std::string LayerName(std::int32_t index) = 0;
@@ -48,10 +44,8 @@ class IMap {
 };
 
 /// The layers of a map under a name of their own.
-class ILayers {
+class ILayers : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Layers;
-  virtual ~ILayers() = default;
   /// The name of the collection, UTF-8.
   virtual std::string Name() = 0;
   /// The map that the collection belongs to.
@@ -59,10 +53,8 @@ class ILayers {
 };
 
 /// General properties of a layer.
-class ILayer {
+class ILayer : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Layer;
-  virtual ~ILayer() = default;
   /// The name as the user sees it, UTF-8; the library's page refuses a blank one.
   virtual std::string Name() const = 0;
   virtual void Name(const std::string& value) = 0;
@@ -92,10 +84,8 @@ enum class LabelPosition { Center = 0, Above = 1, Below = 2, Left = 3, Right = 4
 enum class LabelContent { Name = 0, Value = 1, NameAndValue = 2 };
 
 /// The labels of a layer.
-class ILabels {
+class ILabels : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Labels;
-  virtual ~ILabels() = default;
   /// Whether the labels are drawn, what they say, and where they stand.
   virtual bool ShowLabels() const = 0;
   virtual void ShowLabels(bool value) = 0;
@@ -136,10 +126,8 @@ class ILegend {
 };
 
 /// The legends of a map, numbered from 0. An index outside the legends throws.
-class ILegends {
+class ILegends : public HostInterface {
  public:
-  static constexpr Kind kKind = Kind::Legends;
-  virtual ~ILegends() = default;
   /// The number of legends, and one of them; the map owns it.
   virtual std::int32_t LegendCount() = 0;
   virtual ILegend& Legend(std::int32_t index) = 0;

@@ -1,4 +1,4 @@
-// Where the characters of a font stand in the picker's grid, and how keys go through it. Places are in pixels.
+// The layout of the character picker's grid, and how keys move through it. Places are in pixels.
 #pragma once
 
 #include <optional>
@@ -7,25 +7,25 @@
 
 namespace orx {
 
-/// The codes 0 to 255 in rows of 20, drawn up for 96 dots to the inch and grown with the screen's.
+/// The codes 0 to 255 in rows of 20, designed for 96 dpi and scaled to the screen.
 class CharacterGrid {
  public:
   static constexpr int kCodes = 256;
   static constexpr int kColumns = 20;
 
-  /// `scale` as Desktop::Scale gives it.
+  /// `scale` is what Desktop::Scale returns.
   explicit CharacterGrid(double scale = 1);
 
   /// The upper left corner of a character.
   Point PlaceOf(int code) const;
-  /// The rectangle to fill behind a character that takes that much room.
+  /// The background rectangle of a character of that size.
   Rect CellOf(int code, const Size& character) const;
-  /// The code at a pixel; none in the margins above and to the left, and behind the last code. The margin to the right
-  /// counts for the row below, where the next code stands.
+  /// The code at a pixel; none in the top and left margins and past the last code. The right margin counts as the start
+  /// of the row below, where the next code is.
   std::optional<int> CodeAt(const Point& at) const;
 
-  /// The code that an arrow key (forms/Keys.h) leads to: the one before or behind, around the ends, or that above or
-  /// below, none beyond the first or the last row. Other keys lead nowhere else.
+  /// The code that an arrow key (forms/Keys.h) leads to. Left and Right wrap around at the ends; Up and Down give none
+  /// past the first and the last row. Other keys stay at the code.
   static std::optional<int> Neighbour(int code, int keyCode);
 
  private:

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
+#include "dialogframe/SelectAllText.h"
 #include "forms/Desktop.h"
-#include "forms/Letters.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
@@ -18,39 +18,37 @@ enum Edge { EdgeLeft, EdgeRight, EdgeBottom, EdgeTop };
 }  // namespace
 
 frmGeoreference::frmGeoreference(Desktop& desktop)
-    : DialogForm(desktop, "frmGeoreference", {.Caption = "Georeference", .Client = {4830, 3165}}) {
+    : OkCancelForm(desktop, {.Name = "frmGeoreference",
+                             .Caption = "Georeference",
+                             .HelpKey = "_HelpMapGeoreference",
+                             .Client = {4830, 3165}}) {
   for (int i = 0; i < kEdges; ++i) {
     txtInput[i].GotFocus = [this, i] { txtInput_GotFocus(i); };
     txtInput[i].LostFocus = [this, i] { txtInput_LostFocus(i); };
   }
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
-void frmGeoreference::Form_Load() {
-  mCanceled = false;
-  Center();
-  TakeHelpNumber("_HelpMapGeoreference");
+void frmGeoreference::Fill() {
   const double edges[] = {mLeft, mRight, mBottom, mTop};
   for (int i = 0; i < kEdges; ++i) txtInput[i].Text(numbers::ShortestText(edges[i], OwnerDesktop().Separators()));
   mFirstWidth = mRight - mLeft;
   mFirstBottom = mBottom;
   mFirstTop = mTop;
   mRatio = mFirstWidth / (mTop - mBottom);
-  Translate();
 }
 
 void frmGeoreference::txtInput_GotFocus(int index) {
-  mTextOnEntry = WithoutBlanksAround(txtInput[index].Text());
+  mTextOnEntry = Trimmed(txtInput[index].Text(), kSpaces);
   modMain::SelectAllText(txtInput[index]);
 }
 
 void frmGeoreference::txtInput_LostFocus(int index) {
   TextBox& field = txtInput[index];
-  if (WithoutBlanksAround(field.Text()) == mTextOnEntry) return;
+  if (Trimmed(field.Text(), kSpaces) == mTextOnEntry) return;
   const numbers::Separators separators = OwnerDesktop().Separators();
   const std::optional<double> value = numbers::ToDouble(field.Text(), separators);
-  if (!value || !Take(index, *value)) return Refuse(field);
+  if (!value || !Take(index, *value))
+    return PutBack({"Input not valid.", kWrongValueTitle, MessageIcon::Exclamation}, field, mTextOnEntry);
   txtInput[EdgeTop].Text(numbers::FormatNumber(mTop, kTopFormat, separators));
   mTextOnEntry = field.Text();
 }
@@ -60,7 +58,7 @@ bool frmGeoreference::Take(int index, double value) {
   const double right = index == EdgeRight ? value : mRight;
   const double bottom = index == EdgeBottom ? value : mBottom;
   const double width = right - left;
-  // What is typed back to where it was brings back the very same top edge, free of rounding.
+  // Typing the original values again restores the original top edge exactly, without rounding.
   const double top = width == mFirstWidth && bottom == mFirstBottom ? mFirstTop : width / mRatio + bottom;
   if (!std::isfinite(top)) return false;
   mLeft = left;
@@ -70,29 +68,18 @@ bool frmGeoreference::Take(int index, double value) {
   return true;
 }
 
-void frmGeoreference::Refuse(TextBox& field) {
-  const std::string before = mTextOnEntry;
-  OwnerDesktop().ShowMessage({"Input not valid.", kWrongValueTitle, MessageIcon::Exclamation});
-  field.Text(before);
-  field.SetFocus();
-}
-
-void frmGeoreference::cmdOK_Click() {
-  mCanceled = !(mLeft < mRight);
-  if (!mCanceled) return Hide();
+bool frmGeoreference::Check() {
+  if (mLeft < mRight) return true;
+  Conclude(Outcome::Canceled);
   OwnerDesktop().ShowMessage(
       {"Right value must be greater than right value.", kWrongValueTitle, MessageIcon::Exclamation});
-}
-
-void frmGeoreference::cmdCancel_Click() {
-  mCanceled = true;
-  Hide();
+  return false;
 }
 
 void frmGeoreference::Form_Unload() {
-  // Who closes the window has confirmed nothing.
-  mCanceled = true;
-  DialogForm::Form_Unload();
+  // Closing the window confirms nothing.
+  Conclude(Outcome::Canceled);
+  OkCancelForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -1,28 +1,27 @@
-// The dialog that gives a map its place on the ground: the left, right and bottom edges are typed, the top one follows.
+// The dialog for the extent of a map: the user types the left, right and bottom edges, and the top one follows.
 #pragma once
 
 #include <optional>
 #include <string>
 
-#include "forms/Button.h"
+#include "dialogframe/OkCancelForm.h"
 #include "forms/CheckBox.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/Panel.h"
 #include "forms/TextBox.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 
-/// Keeps the ratio of width to height that the edges have when the form is loaded: whichever edge is typed, the top one
-/// moves. An edge that the user leaves alone stays exactly the number that was given, and the top one does until
-/// another edge is typed.
-class frmGeoreference final : public DialogForm {
+/// Keeps the ratio of width to height that the edges had when the form was loaded: whichever edge is typed, the top one
+/// moves. An edge that the user leaves alone keeps exactly the number it was given, and so does the top edge until
+/// another one is typed. A refused OK counts as cancelled, and so does unloading the form, as the close box does.
+class frmGeoreference final : public OkCancelForm {
  public:
   explicit frmGeoreference(Desktop& desktop);
 
-  /// The edges in the map's own unit: given before the form is loaded, in such a way that they enclose a width and a
-  /// height, and taken back after OK. Left and Top are the place of the window.
+  /// The edges, in the map's own unit: set them before the form is loaded, to an extent with a width and a height, and
+  /// read them after OK. (Left and Top are the place of the window.)
   double LeftEdge() const { return mLeft; }
   void LeftEdge(double value) { mLeft = value; }
   double RightEdge() const { return mRight; }
@@ -31,12 +30,10 @@ class frmGeoreference final : public DialogForm {
   void BottomEdge(double value) { mBottom = value; }
   double TopEdge() const { return mTop; }
   void TopEdge(double value) { mTop = value; }
-  /// True after Cancel, after an OK that was refused, and once the form is unloaded, as by its close box.
-  bool Canceled() const { return mCanceled; }
 
   static constexpr int kEdges = 4;
   Frame fraGeoreference{*this, "fraGeoreference", {.Place = {120, 90, 4590, 2955}}};
-  /// Each edge in a row of its own, so that its label stands right in front of its field and gives it its name.
+  /// One row per edge, so that each label comes right before its field and names it for assistive software.
   Panel Row[kEdges]{{fraGeoreference, "Row(0)", {.Place = {150, 210, 4290, 330}}},
                     {fraGeoreference, "Row(1)", {.Place = {150, 630, 4290, 330}}},
                     {fraGeoreference, "Row(2)", {.Place = {150, 1050, 4290, 330}}},
@@ -49,32 +46,29 @@ class frmGeoreference final : public DialogForm {
                            {Row[1], "txtInput(1)", {.Place = kField}},
                            {Row[2], "txtInput(2)", {.Place = kField}},
                            {Row[3], "txtInput(3)", {.Place = kField}}};
-  /// Tells that the ratio is kept; the user has no say in it.
+  /// Shows that the ratio is kept. The user cannot change it.
   CheckBox chkAspectRatio{fraGeoreference,
                           "chkAspectRatio",
                           {.Caption = "Keep aspect ratio", .Place = {1350, 1905, 3090, 300}, .Enabled = false},
                           CheckState::Grayed};
-  Button cmdOK{fraGeoreference, "cmdOK", {.Caption = "&OK", .Place = {1335, 2430, 1500, 375}}, ButtonRole::Default};
-  Button cmdCancel{
-      fraGeoreference, "cmdCancel", {.Caption = "&Cancel", .Place = {2940, 2430, 1500, 375}}, ButtonRole::Cancel};
+  OKButton cmdOK{*this, fraGeoreference, {.Place = {1335, 2430, 1500, 375}}};
+  CancelButton cmdCancel{*this, fraGeoreference, {.Place = {2940, 2430, 1500, 375}}};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  bool Check() override;
   void Form_Unload() override;
 
  private:
-  // Places in each row.
+  // Places within each row.
   static constexpr Rect kLabel{0, 60, 1110, 240};
   static constexpr Rect kField{1200, 0, 3090, 330};
 
   void txtInput_GotFocus(int index);
   void txtInput_LostFocus(int index);
-  /// Makes a typed number the edge of that index; a top edge is not kept. Then the top edge follows. False, and nothing
-  /// is changed, when there is no such top edge.
+  /// Takes a typed number as the edge of that index, unless it is the top one, and recalculates the top edge. Returns
+  /// false and changes nothing if that is not finite.
   bool Take(int index, double value);
-  void Refuse(TextBox& field);
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
   double mLeft = 0;
   double mRight = 0;
@@ -86,8 +80,7 @@ class frmGeoreference final : public DialogForm {
   double mFirstWidth = 0;
   double mFirstBottom = 0;
   double mFirstTop = 0;
-  bool mCanceled = false;
-  /// The text, without blanks around it, that the field with the focus had when the focus came.
+  /// The trimmed text that the focused field had when it got the focus.
   std::string mTextOnEntry;
 };
 

@@ -4,16 +4,17 @@
 #include <utility>
 
 #include "forms/Desktop.h"
-#include "forms/Letters.h"
 #include "hostobjects/ErrorTrap.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 
 frmListSelection::frmListSelection(Desktop& desktop)
-    : DialogForm(desktop, "frmListSelection", {.Caption = "Select Layer", .Client = {5400, 4755}}) {
+    : OkCancelForm(desktop, {.Name = "frmListSelection",
+                             .Caption = "Select Layer",
+                             .HelpKey = "_HelpMapListSelection",
+                             .Client = {5400, 4755}}) {
   for (ListBox* const list : {&lstMultiSelect, &lstSingleSelect}) list->DblClick = [this] { cmdOK_Click(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmListSelection::Init(TextArray selection, bool multiselect, std::int32_t listIndex, bool askConfirmation,
@@ -26,22 +27,25 @@ void frmListSelection::Init(TextArray selection, bool multiselect, std::int32_t 
   mCaption = std::move(caption);
 }
 
-void frmListSelection::Form_Load() {
+void frmListSelection::LoadStep(const std::function<void()>& step) {
   ErrorTrap trap;
-  trap.Step([this] { Center(); });
-  trap.Step([this] { TakeHelpNumber("_HelpMapListSelection"); });
+  trap.Step(step);
+}
+
+void frmListSelection::Fill() {
   Caption(mCaption);
   lstMultiSelect.Visible(mMultiselect);
   lstSingleSelect.Visible(!mMultiselect);
-  trap.Step([this] { FillList(); });
+  LoadStep([this] { FillList(); });
   if (ShownList().ListCount() == 0) {
     for (Control* const control : std::initializer_list<Control*>{&lstMultiSelect, &lstSingleSelect, &cmdOK})
       control->Enabled(false);
   } else {
     SelectFirst();
   }
-  trap.Step([this] { TranslateControls(); });
-  trap.Step([this] { TranslateCaption(); });
+}
+
+void frmListSelection::Ready() {
   if (!Caption().empty()) ShownList().GivenName(Caption());
 }
 
@@ -50,7 +54,7 @@ void frmListSelection::FillList() {
   list.Clear();
   std::int64_t index = mItems.LowerBound;
   for (const std::string& item : mItems.Items) {
-    const std::string text = WithoutBlanksAround(item);
+    const std::string text(Trimmed(item, kSpaces));
     list.AddItem(text.empty() ? std::to_string(index) : text, static_cast<std::int32_t>(index));
     ++index;
   }
@@ -62,34 +66,26 @@ void frmListSelection::SelectFirst() {
   list.Selected(mListIndex <= list.ListCount() ? mListIndex - 1 : 0, true);
 }
 
-void frmListSelection::cmdOK_Click() {
-  // What was gathered before a No is gathered anew.
+bool frmListSelection::Check() {
+  // Starts over, since an earlier OK may have been answered with No.
   mSelected.clear();
   for (const int row : ShownList().SelectedRows()) mSelected.push_back(ShownList().ItemData(row));
   const bool asks = mAskConfirmation && !mSelected.empty();
   const Message question{mConfirmationQuestion, Caption(), MessageIcon::Exclamation, MessageButtons::YesNo};
-  if (asks && OwnerDesktop().ShowMessage(question) == MessageAnswer::No) return;
-  mCancelled = false;
-  Hide();
-}
-
-void frmListSelection::cmdCancel_Click() {
-  mSelected.clear();
-  mCancelled = true;
-  Hide();
+  return !asks || OwnerDesktop().ShowMessage(question) != MessageAnswer::No;
 }
 
 void frmListSelection::Form_Unload() {
-  // Who closes the window has chosen nothing, whatever was gathered before a No.
+  // Closing the window chooses nothing, even after an OK that was answered with No.
   mSelected.clear();
-  DialogForm::Form_Unload();
+  OkCancelForm::Form_Unload();
 }
 
-void frmListSelection::GetSelectedItems(std::vector<std::int32_t>& selected, bool& cancelled,
+void frmListSelection::GetSelectedItems(std::vector<std::int32_t>& selected, bool& canceled,
                                         std::int32_t& count) const noexcept {
-  cancelled = mCancelled;
+  canceled = Canceled();
   count = 0;
-  if (mCancelled || (mMultiselect && mSelected.empty())) return;
+  if (canceled || (mMultiselect && mSelected.empty())) return;
   count = mMultiselect ? static_cast<std::int32_t>(mSelected.size()) : 1;
   ErrorTrap trap;
   trap.Step([&] { selected = mSelected; });

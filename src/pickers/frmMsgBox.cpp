@@ -1,20 +1,21 @@
 #include "pickers/frmMsgBox.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "forms/Desktop.h"
 #include "forms/TextBox.h"
+#include "text/AsciiCase.h"
+#include "text/CharacterCount.h"
 
 namespace orx {
 namespace {
 
 constexpr char kApplicationTitle[] = "OrvexMapDialogs2";
 constexpr char kEllipsis[] = "\xE2\x80\xA6";
-/// The characters of a path that the label has room for beside the longest prefix.
+/// How many characters of a path fit in the label beside the longest prefix.
 constexpr int kShownPath = 48;
 
-/// A yellow sign with an exclamation mark, in the pixels that the box has.
+/// Draws a yellow warning sign that fills the box.
 void DrawSign(PictureBox& box) {
   const Size size = box.PixelSize();
   const Color yellow{255, 200, 40};
@@ -36,7 +37,7 @@ void DrawSign(PictureBox& box) {
   box.Refresh();
 }
 
-/// The start of the n-th character of a UTF-8 text.
+/// Where the n-th character of a UTF-8 text starts.
 std::size_t OffsetOf(const std::string& text, int character) {
   std::size_t at = 0;
   for (; character > 0 && at < text.size(); --character) do
@@ -45,7 +46,7 @@ std::size_t OffsetOf(const std::string& text, int character) {
   return at;
 }
 
-/// A path that is too long loses its middle: its ends tell the most.
+/// A path that is too long loses its middle, since its ends say the most.
 std::string Shortened(const std::string& path) {
   const int length = CharacterCount(path);
   if (length <= kShownPath) return path;
@@ -54,17 +55,11 @@ std::string Shortened(const std::string& path) {
   return path.substr(0, OffsetOf(path, head)) + kEllipsis + path.substr(OffsetOf(path, length - tail));
 }
 
-std::string LowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(), [](unsigned char letter) {
-    return letter < 0x80 ? static_cast<char>(std::tolower(letter)) : static_cast<char>(letter);
-  });
-  return text;
-}
-
 }  // namespace
 
 frmMsgBox::frmMsgBox(Desktop& desktop)
-    : DialogForm(desktop, "frmMsgBox", {.Caption = "MsgBox", .Client = {6600, 1800}}) {
+    : DialogForm(desktop,
+                 {.Name = "frmMsgBox", .Caption = "MsgBox", .HelpKey = "_HelpMapMsgBox", .Client = {6600, 1800}}) {
   cmdBrowse.Click = [this] { cmdBrowse_Click(); };
   cmdCancel.Click = [this] {
     mCancelAll = false;
@@ -77,15 +72,15 @@ frmMsgBox::frmMsgBox(Desktop& desktop)
   cmdHelp.Click = [this] { ShowHelp(); };
 }
 
-void frmMsgBox::Form_Load() {
-  Center();
-  TakeHelpNumber("_HelpMapMsgBox");
+void frmMsgBox::Fill() {
   if (mCaption.empty()) mCaption = kApplicationTitle;
   Form::Caption(mCaption);
   if (mMessage.empty()) mMessage = "File not found...";
   mCancelAll = false;
-  Translate();
-  // After the translation, to which a path means nothing.
+}
+
+void frmMsgBox::Ready() {
+  // Only now, since a path is not to be translated.
   ShowMessageText();
   DrawSign(imgIcon);
 }
@@ -102,9 +97,8 @@ void frmMsgBox::ShowMessageText() {
 }
 
 void frmMsgBox::cmdBrowse_Click() {
-  std::vector<std::string> files{LowerCase(mFileName)};
-  const std::uintptr_t handle = Window() ? Window()->NativeHandle() : 0;
-  const bool chosen = modDialog::ChooseFiles({OwnerDesktop(), handle, mKind, Language()}, false, files);
+  std::vector<std::string> files{AsciiLowerCase(mFileName)};
+  const bool chosen = modDialog::ChooseFiles({OwnerDesktop(), NativeHandle(), mKind, Language()}, false, files);
   mNewFileName = chosen ? files.front() : std::string();
   if (chosen) Unload();
 }

@@ -1,35 +1,35 @@
-// The prompt for a missing file: browse for another one, skip it, or skip all that follow.
+// The prompt for a missing file: browse for another one, skip this one, or skip all the rest.
 #pragma once
 
 #include <string>
 
+#include "dialogframe/DialogForm.h"
+#include "dialogframe/FileChoice.h"
 #include "forms/Button.h"
 #include "forms/Label.h"
 #include "forms/PictureBox.h"
-#include "service/DialogForm.h"
-#include "service/modDialog.h"
 
 namespace orx {
 
 class frmMsgBox final : public DialogForm {
  public:
-  /// Without a file, a message or a caption; a layer is missing.
+  /// For a layer; without a file, a message or a caption.
   explicit frmMsgBox(Desktop& desktop);
 
-  /// The path at which the file was not found, UTF-8.
+  /// The path of the missing file, UTF-8.
   const std::string& FileName() const { return mFileName; }
   void FileName(const std::string& value) { mFileName = value; }
-  /// True when the user wants to hear of no other missing file.
+  /// True if the user wants to skip all other missing files as well.
   bool CancelAll() const { return mCancelAll; }
-  /// The path that the user has chosen instead, empty when none.
+  /// The path that the user chose instead; empty for none.
   const std::string& NewFileName() const { return mNewFileName; }
-  /// What the user is told, before the form is loaded; empty: that a file was not found.
+  /// The message, set before the form is loaded. An empty one becomes "File not found...".
   const std::string& Message() const { return mMessage; }
   void Message(const std::string& value) { mMessage = value; }
-  /// The title, before the form is loaded; empty: the library's name.
+  /// The title, set before the form is loaded. An empty one becomes the library's name.
   const std::string& Caption() const { return mCaption; }
   void Caption(const std::string& value) { mCaption = value; }
-  /// What kind of file is missing: the filters that Browse offers.
+  /// What kind of file is missing, which decides the filters that Browse offers.
   modDialog::FileKind Kind() const { return mKind; }
   void Kind(modDialog::FileKind value) { mKind = value; }
 
@@ -42,7 +42,8 @@ class frmMsgBox final : public DialogForm {
   Button cmdHelp{*this, "cmdHelp", {.Caption = "&Help", .Place = {120, 1320, 1500, 375}}};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  void Ready() override;
 
  private:
   static constexpr Color kGround{240, 240, 240};

@@ -3,28 +3,31 @@
 namespace orx {
 
 frmProgress::frmProgress(Desktop& desktop)
-    : DialogForm(desktop, "frmProgress", {.Caption = "Progress", .Client = {5700, 1785}}) {
+    : DialogForm(
+          desktop,
+          {.Name = "frmProgress", .Caption = "Progress", .HelpKey = "_HelpMapProgress", .Client = {5700, 1785}}) {
   cmdCancel.Click = [this] { cmdCancel_Click(); };
   PaceUpdates();
 }
 
-void frmProgress::Form_Load() {
-  Center();
+void frmProgress::TakeLanguage() {
+  AskLanguage();
+  DialogForm::TakeLanguage();
+}
+
+void frmProgress::Fill() {
   mCancelAction = false;
   cmdCancel.Enabled(true);
-  AskLanguage();
-  TakeHelpNumber("_HelpMapProgress");
-  Translate();
 }
 
 void frmProgress::Form_Unload() {
-  // Whoever takes the window away wants no more of the operation; the host asks for this later.
+  // Taking the window away cancels the operation. The host asks for it later.
   mCancelAction = true;
   DialogForm::Form_Unload();
 }
 
 bool frmProgress::Form_QueryUnload() {
-  // A host that works on must not lose its window. One that waits for the modal form to go would wait for ever.
+  // A host that is still working must not lose its window, but one that waits for a modal form would wait forever.
   if (!mCancelAction) {
     cmdCancel_Click();
   } else if (IsModal()) {

@@ -1,23 +1,23 @@
-// How far a long operation of the host has come, with a button to cancel it. The host shows it and takes it away.
+// The progress of a long operation of the host, with a button to cancel it. The host shows and hides it.
 #pragma once
 
 #include <string>
 
+#include "dialogframe/DialogForm.h"
 #include "forms/Button.h"
 #include "forms/Label.h"
 #include "forms/ProgressBar.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 
-/// What the host sets while it is busy reaches the screen without events being handled, at most 60 times a second.
+/// What a busy host sets reaches the screen without any events being handled, at most 60 times a second.
 class frmProgress final : public DialogForm {
  public:
   explicit frmProgress(Desktop& desktop);
 
-  /// True once the user has asked to cancel, until the form is loaded anew.
+  /// True once the user has asked to cancel, until the form is loaded again.
   bool CancelAction() const { return mCancelAction; }
-  /// The text of lblMsg as the user reads it, without mnemonic; UTF-8.
+  /// The text of lblMsg as the user reads it, without a mnemonic; UTF-8.
   std::string Message() const { return WithoutMnemonic(lblMsg.Caption()); }
   void Message(const std::string& value) { lblMsg.Caption(AsCaption(value)); }
 
@@ -27,7 +27,8 @@ class frmProgress final : public DialogForm {
   Label lblMsg{*this, "lblMsg", {.Caption = "Message ...", .Place = {180, 180, 5340, 510}}, Alignment::Left, true};
 
  protected:
-  void Form_Load() override;
+  void TakeLanguage() override;
+  void Fill() override;
   void Form_Unload() override;
   bool Form_QueryUnload() override;
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "dialogframe/SelectAllText.h"
 #include "forms/Desktop.h"
-#include "forms/Letters.h"
 #include "numbers/Numbers.h"
-#include "service/modMain.h"
+#include "text/Utf8Text.h"
 
 namespace orx {
 namespace {
@@ -25,7 +25,9 @@ bool IsRotation(double degrees) {
 }  // namespace
 
 frmTrueType::frmTrueType(Desktop& desktop)
-    : DialogForm(desktop, "frmTrueType", {.Caption = "Pick True Type", .Client = {6210, 5640}}) {
+    : OkCancelForm(
+          desktop,
+          {.Name = "frmTrueType", .Caption = "Pick True Type", .HelpKey = "_HelpMapTrueType", .Client = {6210, 5640}}) {
   txtRot.GotFocus = [this] { txtRot_GotFocus(); };
   txtRot.LostFocus = [this] { txtRot_LostFocus(); };
   picFont.GotFocus = [this] { picFont_GotFocus(); };
@@ -34,8 +36,6 @@ frmTrueType::frmTrueType(Desktop& desktop)
   picFont.MouseDown = [this](Point at) { picFont_MouseDown(at); };
   picFont.DblClick = [this] { cmdOK_Click(); };
   cboFont.Click = [this] { ShowFont(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
 void frmTrueType::SelCharacter(std::int32_t value) {
@@ -46,23 +46,19 @@ void frmTrueType::SelRotation(std::int32_t value) {
   mPicked.Rotation = mGiven.Rotation = IsRotation(value) ? value : 0;
 }
 
-void frmTrueType::Form_Load() {
-  mConfirmed = false;
-  Center();
-  TakeHelpNumber("_HelpMapTrueType");
+void frmTrueType::Fill() {
   picFont.BackColor(OwnerDesktop().SystemColor(SystemColor::Window));
   txtRot.Text(std::to_string(mPicked.Rotation));
   FillFonts();
-  Translate();
 }
 
 void frmTrueType::FillFonts() {
   cboFont.Clear();
   const std::vector<std::string> fonts = OwnerDesktop().ScreenFonts();
-  // The system's own font, which comes first, is no choice for a symbol.
+  // The first one is the system's own font, which is not offered for symbols.
   for (std::size_t i = 1; i < fonts.size(); ++i)
     if (!fonts[i].empty()) cboFont.AddItem(fonts[i]);
-  // The first entry is not looked at.
+  // The first entry is not compared.
   for (int i = 1; i < cboFont.ListCount(); ++i)
     if (EqualInAnyCase(cboFont.List(i), mPicked.Font)) return cboFont.ListIndex(i);
   ShowFont();
@@ -141,28 +137,15 @@ void frmTrueType::txtRot_LostFocus() {
     mPicked.Rotation = numbers::RoundToLong(degrees);
     return;
   }
-  const std::string before = mRotationOnEntry;
-  OwnerDesktop().ShowMessage(
-      {"Value for rotation must be between -360 and 360 degrees.", "Wrong value", MessageIcon::Exclamation});
-  txtRot.Text(before);
-  txtRot.SetFocus();
-}
-
-void frmTrueType::cmdOK_Click() {
-  mConfirmed = true;
-  Hide();
-}
-
-void frmTrueType::cmdCancel_Click() {
-  mPicked = mGiven;
-  Hide();
+  PutBack({"Value for rotation must be between -360 and 360 degrees.", "Wrong value", MessageIcon::Exclamation}, txtRot,
+          mRotationOnEntry);
 }
 
 void frmTrueType::Form_Unload() {
-  // Who closes the window has confirmed nothing.
-  if (!mConfirmed) mPicked = mGiven;
+  // Closing the window confirms nothing.
+  if (!IsConfirmed()) Discard();
   mGridHasFocus = false;
-  DialogForm::Form_Unload();
+  OkCancelForm::Form_Unload();
 }
 
 }  // namespace orx

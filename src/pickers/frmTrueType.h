@@ -1,41 +1,40 @@
-// The dialog that has the user pick a character of a font, and an angle to turn it by, for a symbol on a map.
+// The dialog in which the user picks a character of a font and an angle to turn it by, for a symbol on a map.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
-#include "forms/Button.h"
+#include "dialogframe/OkCancelForm.h"
 #include "forms/ComboBox.h"
 #include "forms/Label.h"
 #include "forms/Panel.h"
 #include "forms/PictureBox.h"
 #include "forms/TextBox.h"
 #include "pickers/CharacterGrid.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 
-/// Shows the single-byte codes of a font as a grid. OK and a double click on the grid keep what is picked; Cancel and
-/// the close box bring back what was given.
-class frmTrueType final : public DialogForm {
+/// Shows the single-byte codes of a font as a grid. OK or a double click on the grid keeps what was picked; Cancel and
+/// the close box restore what was given.
+class frmTrueType final : public OkCancelForm {
  public:
   explicit frmTrueType(Desktop& desktop);
 
-  /// The face name: given before the form is loaded, and taken back after it was hidden. An empty one becomes "arial",
-  /// and one of the list has the letter case of the list.
+  /// The face name: set it before the form is loaded, and read it once the form is hidden. An empty one becomes
+  /// "arial"; one that is in the list takes the list's letter case.
   const std::string& SelFont() const { return mPicked.Font; }
   void SelFont(const std::string& value) { mPicked.Font = mGiven.Font = value; }
-  /// The code, from 0 to 255; given and taken in the same way. Others become the nearest of these.
+  /// The code, from 0 to 255, set and read in the same way. Other values are clamped.
   std::int32_t SelCharacter() const { return mPicked.Character; }
   void SelCharacter(std::int32_t value);
-  /// The angle in whole degrees, from -360 to 360; given and taken in the same way. Others become 0.
+  /// The angle in whole degrees, from -360 to 360, set and read in the same way. Other values become 0.
   std::int32_t SelRotation() const { return mPicked.Rotation; }
   void SelRotation(std::int32_t value);
 
   Panel RowRotation{*this, "RowRotation", {.Place = {120, 120, 5970, 330}}};
   Panel RowGrid{*this, "RowGrid", {.Place = {120, 570, 5970, 3975}}};
   Panel RowFont{*this, "RowFont", {.Place = {120, 4665, 5970, 330}}};
-  /// The one in the middle is never shown: it gives the grid its name for assistive software.
+  /// The one in the middle is never shown. It names the grid for assistive software.
   Label lblHlp[3]{
       {RowFont, "lblHlp(0)", {.Caption = "&Font", .Place = {0, 60, 1380, 240}}},
       {RowGrid, "lblHlp(1)", {.Caption = "Selected character: -", .Place = {0, 0, 2400, 240}, .Visible = false}},
@@ -43,13 +42,12 @@ class frmTrueType final : public DialogForm {
   TextBox txtRot{RowRotation, "txtRot", {.Place = {1440, 0, 1200, 330}}};
   PictureBox picFont{RowGrid, "picFont", {.Place = {0, 0, 5970, 3975}}, Color{255, 255, 255}, PictureUse::Input};
   ComboBox cboFont{RowFont, "cboFont", {.Place = {1440, 0, 4530, 330}}};
-  Button cmdOK{
-      *this, "cmdOK", {.Caption = "&OK", .Place = {2985, 5145, 1500, 375}, .Pinned = true}, ButtonRole::Default};
-  Button cmdCancel{
-      *this, "cmdCancel", {.Caption = "&Cancel", .Place = {4590, 5145, 1500, 375}, .Pinned = true}, ButtonRole::Cancel};
+  OKButton cmdOK{*this};
+  CancelButton cmdCancel{*this};
 
  protected:
-  void Form_Load() override;
+  void Fill() override;
+  void Discard() override { mPicked = mGiven; }
   void Form_Unload() override;
 
  private:
@@ -62,11 +60,11 @@ class frmTrueType final : public DialogForm {
   enum class CellState { Normal, Selected };
 
   void FillFonts();
-  /// Draws the grid in the font of the list; while none is selected there, in the font that was given.
+  /// Draws the grid in the font selected in the list or, if none is, in the font that was given.
   void ShowFont();
   void DrawCell(int code, CellState state);
   void Select(int code);
-  /// Goes on from the selected character to another one, or to the same again.
+  /// Moves the selection to another character, or draws the same one again.
   void GoTo(int code);
   void txtRot_GotFocus();
   void txtRot_LostFocus();
@@ -74,17 +72,14 @@ class frmTrueType final : public DialogForm {
   void picFont_LostFocus();
   void picFont_KeyDown(int keyCode);
   void picFont_MouseDown(const Point& at);
-  void cmdOK_Click();
-  void cmdCancel_Click();
 
   Choice mPicked;
   Choice mGiven;
-  bool mConfirmed = false;
   CharacterGrid mGrid;
-  /// The cell that was drawn last, on which the focus mark stands while the grid has the focus.
+  /// The cell drawn last, which carries the focus mark while the grid has the focus.
   Rect mCell;
   bool mGridHasFocus = false;
-  /// The text that the field had when the focus came.
+  /// The text that the field had when it got the focus.
   std::string mRotationOnEntry;
 };
 

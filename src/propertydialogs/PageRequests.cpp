@@ -5,20 +5,20 @@
 
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
-#include "service/modMainDialogs.h"
+#include "openers/DataFile.h"
+#include "openers/SecondaryDialogs.h"
 
 namespace orx {
 namespace {
 
 void AnswerBrowse(DialogForm& form, BrowseRequest& request) {
   modMain::BrowsedFile file{request.FileName};
-  const std::uintptr_t handle = form.Window() ? form.Window()->NativeHandle() : 0;
-  modMain::BrowseDataFile(form.OwnerDesktop(), handle, form.Language(), file);
+  modMain::BrowseDataFile(form.OwnerDesktop(), form.NativeHandle(), form.Language(), file);
   request.FileName = file.FileName;
   request.Cancel = file.Cancel;
 }
 
-/// The edges of a map; none when they cannot be read.
+/// The edges of a map; none if they cannot be read.
 std::optional<std::array<double, 4>> EdgesOf(HostObject* object) {
   std::optional<std::array<double, 4>> edges;
   ErrorTrap trap;
@@ -63,7 +63,7 @@ void AnswerCharacterRequest(PropertyPage& page, DialogForm& form) {
 
 void AnswerGeoreferenceRequest(PropertyPage& page, DialogForm& form) {
   page.GeoreferenceRequested = [&form](GeoreferenceRequest& request) {
-    // The routine tells whether it went well, also when the user has cancelled.
+    // The routine returns true for a cancelled dialog as well, so the edges have to be compared.
     const auto before = EdgesOf(request.Map);
     modMain::ShowGeoreferenceDialog(form.OwnerDesktop(), request.Map, form.Language(), {&form, 0});
     request.Changed = EdgesOf(request.Map) != before;

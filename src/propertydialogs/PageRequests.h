@@ -1,20 +1,19 @@
-// What property pages ask their dialogs for, answered the same way in every dialog: each request opens the dialog that
-// it is about.
+// Answers the requests of property pages, in the same way for every dialog: each one opens another dialog.
 #pragma once
 
+#include "dialogframe/DialogForm.h"
 #include "hostobjects/PropertyPage.h"
-#include "service/DialogForm.h"
 
 namespace orx {
 
-/// Answers the requests of a page for the data of a layer: a data file, classification, special values, shading,
-/// isolines, data style, colour schemes. The form, whose language they speak, must outlive the page.
+/// Answers the requests of a data page: a data file, classification, special values, shading, isolines, data style,
+/// colour schemes. The dialogs use the language of the form, which must outlive the page.
 void AnswerDataRequests(PropertyPage& page, DialogForm& form);
 
-/// Answers the request of a page for the symbol of a layer.
+/// Answers the request for the symbol of a layer.
 void AnswerCharacterRequest(PropertyPage& page, DialogForm& form);
 
-/// Answers the request of a page for the place of a map on the ground.
+/// Answers the request for the extent of a map.
 void AnswerGeoreferenceRequest(PropertyPage& page, DialogForm& form);
 
 }  // namespace orx

@@ -8,10 +8,10 @@
 namespace orx {
 namespace {
 
-/// Beyond this there is no screen, and with it sums of lengths stay whole numbers.
+/// No screen reaches this far, and sums of such lengths still fit an int.
 constexpr double kFarthest = 1e6;
 
-/// Numbers are kept without separators, whatever the user's locale.
+/// Numbers are stored without separators, whatever the user's locale.
 const numbers::Separators kPlain{".", "", ""};
 
 }  // namespace

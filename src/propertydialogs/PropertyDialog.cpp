@@ -1,5 +1,7 @@
 #include "propertydialogs/PropertyDialog.h"
 
+#include "hostobjects/RunTimeError.h"
+
 namespace orx {
 namespace {
 
@@ -7,22 +9,30 @@ Design ButtonDesign(const char* caption, int left, int top) {
   return {.Caption = caption, .Place = {left, top, 1275, 375}, .Pinned = true};
 }
 
+std::vector<std::string> TabCaptions(const std::vector<PageDesign>& pages) {
+  std::vector<std::string> captions;
+  for (const PageDesign& page : pages) captions.emplace_back(page.TabCaption);
+  return captions;
+}
+
 }  // namespace
 
-PropertyDialog::PropertyDialog(Desktop& desktop, const PropertyDesign& design)
-    : DialogForm(desktop, design.FormName,
-                 {.Caption = design.Caption, .Client = design.Layout.Client, .Border = design.Border}),
-      mHelpKey(design.HelpKey),
-      ssTab(*this, "ssTab", {.Place = design.Layout.Tab, .AccessibleName = "Pages"}, design.TabCaptions),
+PropertyDialog::PropertyDialog(Desktop& desktop, IPageFactory& factory, const PropertyDesign& design)
+    : OkCancelForm(desktop, {design.Name, design.Caption, design.HelpKey, design.Layout.Client, design.Border}),
+      mFactory(factory),
+      mPageDesigns(design.Pages),
+      ssTab(*this, "ssTab", {.Place = design.Layout.Tab, .AccessibleName = "Pages"}, TabCaptions(design.Pages)),
       cmdHelp(*this, "cmdHelp", ButtonDesign("&Help", design.Layout.HelpLeft, design.Layout.ButtonTop)),
-      cmdOK(*this, "cmdOK", ButtonDesign("&OK", design.Layout.OKLeft, design.Layout.ButtonTop), ButtonRole::Default),
-      cmdCancel(*this, "cmdCancel", ButtonDesign("&Cancel", design.Layout.CancelLeft, design.Layout.ButtonTop),
-                ButtonRole::Cancel),
+      cmdOK(*this, *this, ButtonDesign("&OK", design.Layout.OKLeft, design.Layout.ButtonTop)),
+      cmdCancel(*this, *this, ButtonDesign("&Cancel", design.Layout.CancelLeft, design.Layout.ButtonTop)),
       cmdApply(*this, "cmdApply", ButtonDesign("&Apply", design.Layout.ApplyLeft, design.Layout.ButtonTop)) {
   cmdHelp.Click = [this] { ShowHelp(); };
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdCancel.Click = [this] { cmdCancel_Click(); };
   cmdApply.Click = [this] { cmdApply_Click(); };
+}
+
+void PropertyDialog::Take(const PropertyTask& task, ErrorTrap& trap) {
+  trap.Step([&] { RegisterClient(task.Client, task.RegistryKey); });
+  trap.Step([&] { RegisterCallBack(task.CallBack); });
 }
 
 void PropertyDialog::RegisterCallBack(IDialogCallBack* callBack) {
@@ -31,14 +41,66 @@ void PropertyDialog::RegisterCallBack(IDialogCallBack* callBack) {
   if (mCallBack) mCallBack->RegisterNotify();
 }
 
-void PropertyDialog::TakeLanguage() {
-  AskLanguage();
-  TakeHelpNumber(mHelpKey);
+PropertyPages& PropertyDialog::Pages() {
+  Load();
+  if (mPages) return *mPages;
+  const char* const missing =
+      mPageDesigns.size() == 1 ? ": the property page is missing." : ": a property page is missing.";
+  throw RunTimeError(kErrorNotLoaded, Caption() + missing);
 }
 
-void PropertyDialog::Close(bool canceled) {
-  mCanceled = canceled;
-  Hide();
+void PropertyDialog::Form_Load() {
+  mPages.emplace(mFactory, mPageDesigns, ssTab, *this);
+  OkCancelForm::Form_Load();
+}
+
+void PropertyDialog::TakeLanguage() {
+  AskLanguage();
+  OkCancelForm::TakeLanguage();
+}
+
+void PropertyDialog::Fill() {
+  // Even a language without entries.
+  mPages->Language(Language());
+}
+
+void PropertyDialog::Do(Act act) {
+  Pages().ForEach([&](PropertyPage& page) {
+    if (!IsRetired()) ButtonStep([&] { (page.*act)(); });
+  });
+}
+
+void PropertyDialog::Tell(Notification notify) {
+  if (!mCallBack) return;
+  ButtonStep([this] { mLastChange = IsAnyDirty(); });
+  // Asking the pages may have cost the form its window, and with it the call-back.
+  ButtonStep([&] {
+    if (mCallBack) (mCallBack->*notify)(mLastChange);
+  });
+}
+
+void PropertyDialog::Relay(Act act, Notification notify) {
+  Do(act);
+  Tell(notify);
+}
+
+void PropertyDialog::Apply() {
+  Relay(&PropertyPage::ApplyChanges, &IDialogCallBack::ApplyNotify);
+}
+
+void PropertyDialog::cmdApply_Click() {
+  WithHourglass([this] { Apply(); });
+}
+
+void PropertyDialog::Accept() {
+  WithHourglass([this] {
+    Relay(&PropertyPage::SaveChanges, &IDialogCallBack::OKNotify);
+    Close(Outcome::Confirmed);
+  });
+}
+
+void PropertyDialog::Discard() {
+  Relay(&PropertyPage::DiscardChanges, &IDialogCallBack::CancelNotify);
 }
 
 void PropertyDialog::CloseUpButtons() {
@@ -50,7 +112,12 @@ void PropertyDialog::CloseUpButtons() {
 
 void PropertyDialog::Form_Unload() {
   mCallBack = nullptr;
-  DialogForm::Form_Unload();
+  OkCancelForm::Form_Unload();
+}
+
+void PropertyDialog::Form_Release() {
+  mPages.reset();
+  OkCancelForm::Form_Release();
 }
 
 }  // namespace orx

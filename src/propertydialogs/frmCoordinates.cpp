@@ -4,13 +4,10 @@ namespace orx {
 
 frmCoordinates::frmCoordinates(Desktop& desktop, IPageFactory& pages)
     : PageHostForm(desktop, pages,
-                   {
-                       .FormName = "frmCoordinates",
-                       .Caption = "Properties",
-                       .HelpKey = "_HelpLayerCoordinates",
-                       .TabCaptions = {"Coordinates"},
-                   },
-                   {.Kind = PageKind::Coordinates, .Name = "Coordinates1"}) {
+                   {.Name = "frmCoordinates",
+                    .Caption = "Properties",
+                    .HelpKey = "_HelpLayerCoordinates",
+                    .Pages = {{PageKind::Coordinates, "Coordinates1", "Coordinates"}}}) {
 }
 
 }  // namespace orx

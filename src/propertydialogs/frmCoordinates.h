@@ -8,9 +8,6 @@ namespace orx {
 class frmCoordinates final : public PageHostForm {
  public:
   frmCoordinates(Desktop& desktop, IPageFactory& pages);
-
- protected:
-  void Form_Resize() override { CloseUpButtons(); }
 };
 
 }  // namespace orx

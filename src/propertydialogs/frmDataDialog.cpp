@@ -9,13 +9,13 @@
 namespace orx {
 namespace {
 
-/// The room around the controls, in twips, and the height of the strip, in pixels.
+/// The margin around the controls, in twips, and the height of the strip, in pixels.
 constexpr int kMargin = 8 * kTwipsPerPixel;
 constexpr int kStripHeight = 3;
 
 constexpr char kPageName[] = "DataProperties1";
 
-/// Mouse positions count in 16 bits.
+/// Mouse positions are tested in 16 bits.
 std::int16_t Narrow(int value) {
   using Limits = std::numeric_limits<std::int16_t>;
   return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
@@ -25,48 +25,38 @@ std::int16_t Narrow(int value) {
 
 frmDataDialog::frmDataDialog(Desktop& desktop, IPageFactory& pages)
     : PageHostForm(desktop, pages,
-                   {
-                       .FormName = "frmDataDialog",
-                       .Caption = "Data Classify",
-                       .HelpKey = "_HelpLayerDataProperties",
-                       .TabCaptions = {"Data"},
-                       .Layout =
-                           {
-                               .Client = {6465, 5910},
+                   {.Name = "frmDataDialog",
+                    .Caption = "Data Classify",
+                    .HelpKey = "_HelpLayerDataProperties",
+                    .Pages = {{PageKind::DataProperties, kPageName, "Data", AnswerDataRequests}},
+                    .Layout = {.Client = {6465, 5910},
                                .Tab = {120, 120, 6255, 5175},
                                .ButtonTop = 5415,
                                .HelpLeft = 120,
                                .OKLeft = 2340,
                                .CancelLeft = 3720,
-                               .ApplyLeft = 5100,
-                           },
-                       .Border = BorderStyle::SizableHeight,
-                   },
-                   {.Kind = PageKind::DataProperties, .Name = kPageName}) {
+                               .ApplyLeft = 5100},
+                    .Border = BorderStyle::SizableHeight}) {
 }
 
 Placement frmDataDialog::Kept() const {
   return {OwnerDesktop(), RegistryKey(), "DataDialog"};
 }
 
-void frmDataDialog::Position() {
+void frmDataDialog::Arrange() {
   Kept().Restore(*this);
   const int frame = OwnerDesktop().Metrics(Border()).Frame.Height;
-  // However low the window was kept, its buttons can be reached.
+  // However small the stored height, the buttons stay in reach.
   const int smallest = 2 * kMargin + cmdHelp.Place().Height;
   if (const std::optional<int> height = Kept().Read("Height"))
     ClientSize({ClientSize().Width, std::max(smallest, *height - frame)});
-}
-
-void frmDataDialog::AnswerRequests(PropertyPage& page) {
-  AnswerDataRequests(page, *this);
 }
 
 void frmDataDialog::Form_Resize() {
   ErrorTrap trap;
   trap.Step([&] { CloseUpButtons(); });
   trap.Step([&] { LayOut(); });
-  trap.Step([&] { RefreshContents(); });
+  if (!IsRetired()) trap.Step([&] { RefreshContents(); });
 }
 
 void frmDataDialog::LayOut() {
@@ -75,8 +65,8 @@ void frmDataDialog::LayOut() {
   mStrip = {.Left = 0, .Right = desktop.ToPixels(client.Width), .Bottom = desktop.ToPixels(client.Height)};
   mStrip.Top = mStrip.Bottom - kStripHeight;
   const int top = ClientSize().Height - kMargin - cmdHelp.Place().Height;
-  for (Button* const button : {&cmdHelp, &cmdOK, &cmdCancel, &cmdApply}) button->Top(top);
-  // In a window lower than its buttons nothing is left for the page.
+  for (Button* const button : std::initializer_list<Button*>{&cmdHelp, &cmdOK, &cmdCancel, &cmdApply}) button->Top(top);
+  // A window with room for little but the buttons leaves nothing for the page.
   const Rect tab = ssTab.Place();
   ssTab.Place({tab.Left, tab.Top, tab.Width, std::max(0, top - kMargin - tab.Top)});
   Control* const page = ssTab.Page(0).Find(kPageName);
@@ -100,16 +90,18 @@ void frmDataDialog::Form_MouseMove(Point at) {
 void frmDataDialog::Form_MouseDown(Point at) {
   if (!IsOnStrip(at)) return;
   DragBottomEdge();
-  // The user may have closed the window meanwhile.
+  // The user may have closed the window in the meantime.
   if (!Visible()) return;
   Refresh();
   Form_Resize();
 }
 
 void frmDataDialog::Form_Unload() {
+  PageHostForm::Form_Unload();
+  // A form whose page could not be made has never been put anywhere.
+  if (!HasPages()) return;
   Kept().Keep(*this);
   Kept().Write("Height", Height());
-  PageHostForm::Form_Unload();
 }
 
 }  // namespace orx

@@ -1,10 +1,10 @@
-// Dialog for the data of a layer. The user can make it higher by its lower edge, and it opens where and as high as it
-// was closed.
+// Dialog for the data of a layer. The user can drag its lower edge to make it taller, and it reopens with the place and
+// height that it was closed with.
 #pragma once
 
+#include "dialogframe/PixelEdges.h"
 #include "propertydialogs/PageHostForm.h"
 #include "propertydialogs/Placement.h"
-#include "service/modMain.h"
 
 namespace orx {
 
@@ -12,12 +12,11 @@ class frmDataDialog final : public PageHostForm {
  public:
   frmDataDialog(Desktop& desktop, IPageFactory& pages);
 
-  /// The strip along the lower edge that takes hold of the mouse, in pixels of the client area.
+  /// The strip along the lower edge by which the user sizes the window, in pixels of the client area.
   const PixelEdges& SizingStrip() const { return mStrip; }
 
  protected:
-  void Position() override;
-  void AnswerRequests(PropertyPage& page) override;
+  void Arrange() override;
   void Form_Resize() override;
   void Form_Unload() override;
   void Form_MouseMove(Point at) override;

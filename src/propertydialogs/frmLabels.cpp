@@ -4,13 +4,10 @@ namespace orx {
 
 frmLabels::frmLabels(Desktop& desktop, IPageFactory& pages)
     : PageHostForm(desktop, pages,
-                   {
-                       .FormName = "frmLabels",
-                       .Caption = "Properties",
-                       .HelpKey = "_HelpLayerLabels",
-                       .TabCaptions = {"Labels"},
-                   },
-                   {.Kind = PageKind::LabelProperties, .Name = "LabelProperties1"}) {
+                   {.Name = "frmLabels",
+                    .Caption = "Properties",
+                    .HelpKey = "_HelpLayerLabels",
+                    .Pages = {{PageKind::LabelProperties, "LabelProperties1", "Labels"}}}) {
 }
 
 }  // namespace orx

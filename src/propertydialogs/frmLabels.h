@@ -8,9 +8,6 @@ namespace orx {
 class frmLabels final : public PageHostForm {
  public:
   frmLabels(Desktop& desktop, IPageFactory& pages);
-
- protected:
-  void Form_Resize() override { CloseUpButtons(); }
 };
 
 }  // namespace orx

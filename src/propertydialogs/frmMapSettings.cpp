@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
-#include "forms/Letters.h"
-#include "service/modDialog.h"
-#include "service/modMain.h"
+#include "dialogframe/FileChoice.h"
+#include "dialogframe/Help.h"
+#include "forms/BusyScope.h"
+#include "text/Trimmed.h"
 
 namespace orx {
 namespace {
@@ -19,7 +19,7 @@ constexpr PropertyLayout kMapLayout{.Client = {9420, 5670},
                                     .CancelLeft = 6675,
                                     .ApplyLeft = 8055};
 
-/// The marks of rows, which tell by a part of them what a row is.
+/// The tags that tell what a row is.
 constexpr char kMapTag[] = "Map";
 constexpr char kLayerTag[] = "Layer";
 constexpr char kTileTag[] = "Tile";
@@ -30,25 +30,13 @@ bool Marks(const std::string& tag, const char* what) {
   return lower.find(what) != std::string::npos;
 }
 
-/// The name of a layer, or what stands for it.
+/// The name of a layer, or a numbered one if it is blank.
 std::string NameOr(std::string name, const char* otherwise, std::int32_t number) {
-  if (WithoutBlanksAround(name).empty()) name = otherwise + std::to_string(number);
+  if (Trimmed(name, kSpaces).empty()) name = otherwise + std::to_string(number);
   return name;
 }
 
-class Flag {
- public:
-  explicit Flag(bool& flag) : mFlag(flag), mBefore(std::exchange(flag, true)) {}
-  ~Flag() { mFlag = mBefore; }
-  Flag(const Flag&) = delete;
-  Flag& operator=(const Flag&) = delete;
-
- private:
-  bool& mFlag;
-  bool mBefore;
-};
-
-/// Keeps the list as the screen shows it until all of it is filled, also when a name cannot be had.
+/// Suspends redrawing while the list is being filled, and resumes it even if the host throws.
 class Filling {
  public:
   explicit Filling(TreeList& list) : mList(list) { mList.Redraw(false); }
@@ -63,22 +51,19 @@ class Filling {
 }  // namespace
 
 Design frmMapSettings::PictureDesign(const char* toolTip, int position) {
-  // The caption is not to be seen; it is the key: Alt with the number of the button.
+  // The caption is not shown. It only provides the mnemonic: Alt with the number of the button.
   return {.Caption = "&" + std::to_string(position + 1),
           .Place = {2595, 120 + position * 465, 405, 405},
           .ToolTipText = toolTip};
 }
 
 frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
-    : PropertyDialog(desktop,
-                     {
-                         .FormName = "frmMapSettings",
-                         .Caption = "Map Layer Properties",
-                         .HelpKey = "_HelpMapSettings",
-                         .TabCaptions = {LayerPages::kTabCaptions.begin(), LayerPages::kTabCaptions.end()},
-                         .Layout = kMapLayout,
-                     }),
-      mFactory(pages) {
+    : PropertyDialog(desktop, pages,
+                     {.Name = "frmMapSettings",
+                      .Caption = "Map Layer Properties",
+                      .HelpKey = "_HelpMapSettings",
+                      .Pages = LayerPages(),
+                      .Layout = kMapLayout}) {
   PutFirst({&sftLayers, &cmdAdd, &cmdUp, &cmdDown, &cmdRemove});
   sftLayers.Click = [this] { sftLayers_Click(); };
   sftLayers.KeyDown = [this](int keyCode) { sftLayers_KeyDown(keyCode); };
@@ -87,7 +72,7 @@ frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
   cmdDown.Click = [this] { MoveSelected(&IMap::MoveLayerDown, 1); };
   cmdRemove.Click = [this] { cmdRemove_Click(); };
   ssTab.Click = [this](int) {
-    if (mPages) mPages->Select(ssTab.Tab());
+    if (HasPages()) Pages().Select(ssTab.Tab());
   };
 }
 
@@ -97,7 +82,7 @@ void frmMapSettings::RegisterClient(HostObject* client, const std::string& regis
     Hold(client);
     mClient = client;
     mMap = mCurrentMap = map;
-    // An empty map has no first layer.
+    // An empty map has no first layer to ask for.
     mCurrentObject = map->LayerCount() > 0 ? map->Layer(1) : nullptr;
   } else if (ILayers* const layers = QueryKind<ILayers>(client)) {
     Hold(client);
@@ -110,29 +95,33 @@ void frmMapSettings::RegisterClient(HostObject* client, const std::string& regis
   }
 }
 
+void frmMapSettings::Take(const PropertyTask& task, ErrorTrap& trap) {
+  PropertyDialog::Take(task, trap);
+  trap.Step([&] { RegisterFlags(task.Number); });
+}
+
 void frmMapSettings::IsDirty(bool value) {
   Load();
-  if (mPages) mPages->IsDirty(value);
+  if (HasPages()) Pages().IsDirty(value);
   mListChanged = value;
 }
 
 void frmMapSettings::RefreshContents() {
   if (!mMap) return;
   Load();
-  if (!mPages) return;
-  mPages->Client(mCurrentObject);
-  mPages->Do(&PropertyPage::RefreshContents);
+  if (!HasPages() || IsRetired()) return;
+  Pages().Client(mCurrentObject);
+  if (!IsRetired()) Pages().RefreshContents();
 }
 
-void frmMapSettings::Form_Load() {
-  mPages.emplace(mFactory, ssTab, *this);
-  mPages->Page(LayerPages::TabProperties).NameChanged = [this](const std::string& name) { NameChanged(name); };
+void frmMapSettings::Arrange() {
+  Pages().Of(PageKind::Properties).NameChanged = [this](const std::string& name) { NameChanged(name); };
   Kept().Restore(*this);
-  mPages->Select(ssTab.Tab());
+  Pages().Select(ssTab.Tab());
   EnableMoving();
-  TakeLanguage();
-  mPages->Language(Language());
-  Translate();
+}
+
+void frmMapSettings::Ready() {
   FillList();
   SelectRow(0);
 }
@@ -141,20 +130,20 @@ void frmMapSettings::Form_Load() {
 
 void frmMapSettings::FillList() {
   const Filling filling(sftLayers);
-  const Flag selecting(mIsSelecting);
+  const BusyScope selecting(mIsSelecting);
   sftLayers.Clear();
   if (mLayers) {
     const std::string name = mLayers->Name();
-    sftLayers.AddRow({WithoutBlanksAround(name).empty() ? "Map" : name, 0, 0, kMapTag, true});
+    sftLayers.AddRow({Trimmed(name, kSpaces).empty() ? "Map" : name, 0, 0, kMapTag, true});
   }
-  if (mMap) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
+  if (mMap && !IsRetired()) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
 }
 
 void frmMapSettings::AddRows(IMap& map, const char* defaultName, const char* tag, int level) {
   const std::int32_t count = map.LayerCount();
-  for (std::int32_t i = 1; i <= count; ++i) {
+  for (std::int32_t i = 1; i <= count && !IsRetired(); ++i) {
     sftLayers.AddRow({NameOr(map.LayerName(i), defaultName, i), level, i, tag});
-    if (&map == mMap) AddTiles(map.Layer(i), level + 1);
+    if (&map == mMap && !IsRetired()) AddTiles(map.Layer(i), level + 1);
   }
 }
 
@@ -171,12 +160,12 @@ void frmMapSettings::sftLayers_KeyDown(int keyCode) {
   if (keyCode == kKeyCodeF1) return modMain::ShowHelpFinder(*this, modMain::HelpFile(), sftLayers.HelpContextId());
   const bool isArrow = keyCode >= kKeyCodeLeft && keyCode <= kKeyCodeDown;
   if (isArrow && !sftLayers.Redraw()) sftLayers.Redraw(true);
-  // The other keys count when they have led to another row.
+  // Other keys count if they moved to another row.
   if (isArrow || sftLayers.ListIndex() != mSelectedRow) SelectRow(sftLayers.ListIndex());
 }
 
 bool frmMapSettings::ShowSelection(int row) {
-  const Flag selecting(mIsSelecting);
+  const BusyScope selecting(mIsSelecting);
   mSelectedRow = std::clamp(row, -1, sftLayers.ListCount() - 1);
   if (mSelectedRow < 0 && sftLayers.ListCount() > 0) mSelectedRow = 0;
   sftLayers.ListIndex(mSelectedRow);
@@ -184,11 +173,12 @@ bool frmMapSettings::ShowSelection(int row) {
 }
 
 void frmMapSettings::SelectRow(int row) {
-  // The list shows the row already when the events are let through.
+  if (IsRetired()) return;
+  // The list shows the row before pending events are handled.
   ShowSelection(row);
   const int turn = ++mSelections;
   OwnerDesktop().ProcessPendingEvents();
-  // What the user has done meanwhile counts: another row was selected, or the window is closed.
+  // Whatever the user did in the meantime wins: another row may be selected, or the window closed.
   if (!IsLoaded() || turn != mSelections) return;
   mSelectedLayer = 0;
   mCurrentMap = mMap;
@@ -196,7 +186,7 @@ void frmMapSettings::SelectRow(int row) {
   try {
     if (ShowSelection(row)) TakeObject();
   } catch (...) {
-    // The pages must not keep an object that the map may have let go.
+    // The pages must not keep an object that the map may have released.
     ShowObject();
     throw;
   }
@@ -242,7 +232,7 @@ void frmMapSettings::NameChanged(const std::string& name) {
   trap.Step([&] { sftLayers.Text(mSelectedRow, name); });
 }
 
-// The buttons beside the list. What a map throws counts as its refusal.
+// The buttons beside the list. An error of the map counts as a refusal.
 
 void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
   ErrorTrap trap;
@@ -250,6 +240,7 @@ void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
   const int position = FoldedPosition() + rows;
   bool isMoved = false;
   trap.Step([&] { isMoved = (mCurrentMap->*move)(mSelectedLayer); });
+  if (IsRetired()) return;
   if (!isMoved) return trap.Step([&] { OwnerDesktop().Beep(); });
   trap.Step([&] { FillList(); });
   trap.Step([&] { SelectPosition(position); });
@@ -262,11 +253,12 @@ void frmMapSettings::cmdRemove_Click() {
   int position = sftLayers.PositionOf(mSelectedRow);
   bool isRemoved = false;
   trap.Step([&] { isRemoved = mCurrentMap->RemoveLayer(mSelectedLayer); });
+  if (IsRetired()) return;
   if (isRemoved) {
     position = FoldedPosition();
-    // The layer may be gone for good.
+    // The layer may no longer exist.
     mCurrentObject = nullptr;
-    trap.Step([&] { mPages->Client(nullptr); });
+    if (HasPages()) trap.Step([&] { Pages().Client(nullptr); });
     trap.Step([&] { FillList(); });
     mListChanged = true;
   }
@@ -280,10 +272,11 @@ void frmMapSettings::cmdAdd_Click() {
   Enabled(false);
   std::vector<std::string> files;
   trap.Step([&] {
-    const std::uintptr_t handle = Window() ? Window()->NativeHandle() : 0;
-    if (!modDialog::ChooseFiles({desktop, handle, modDialog::FileKind::Layers, Language()}, true, files)) files.clear();
+    if (!modDialog::ChooseFiles({desktop, NativeHandle(), modDialog::FileKind::Layers, Language()}, true, files))
+      files.clear();
   });
   for (const std::string& path : files) {
+    if (IsRetired()) break;
     trap.Step([&] { desktop.Pointer(Pointer::Hourglass); });
     trap.Step([&] { AddFile(path); });
   }
@@ -293,58 +286,43 @@ void frmMapSettings::cmdAdd_Click() {
 }
 
 void frmMapSettings::AddFile(const std::string& path) {
-  if (!mMap->AddLayer(path, {})) return;
+  if (!mMap->AddLayer(path, {}) || IsRetired()) return;
   ErrorTrap trap;
   trap.Step([&] { FillList(); });
   trap.Step([&] { RefreshContents(); });
   mListChanged = true;
 }
 
-// The buttons along the bottom.
+// The buttons along the bottom. Errors of the pages and the call-back are skipped.
 
-bool frmMapSettings::IsAnyDirty() const {
-  return mPages->IsAnyDirty() || mListChanged;
+void frmMapSettings::ButtonStep(const std::function<void()>& step) {
+  ErrorTrap trap;
+  trap.Step(step);
 }
 
-void frmMapSettings::Notify(ErrorTrap& trap, void (IDialogCallBack::*notify)(bool)) {
-  if (!CallBack()) return;
-  trap.Step([&] { mLastChange = IsAnyDirty(); });
-  trap.Step([&] { (CallBack()->*notify)(mLastChange); });
+void frmMapSettings::Relay(Act act, Notification notify) {
+  if (HasPages()) PropertyDialog::Relay(act, notify);
 }
 
 void frmMapSettings::cmdApply_Click() {
-  ErrorTrap trap;
-  if (!mPages) return;
-  mPages->Do(&PropertyPage::ApplyChanges, trap);
-  if (CallBack()) {
-    trap.Step([&] { OwnerDesktop().Pointer(Pointer::Hourglass); });
-    Notify(trap, &IDialogCallBack::ApplyNotify);
-    trap.Step([&] { IsDirty(false); });
-  }
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
-}
-
-void frmMapSettings::cmdOK_Click() {
-  ErrorTrap trap;
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Hourglass); });
-  if (mPages) mPages->Do(&PropertyPage::SaveChanges, trap);
-  if (mPages) Notify(trap, &IDialogCallBack::OKNotify);
-  trap.Step([&] { Close(false); });
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+  if (!HasPages()) return;
+  Do(&PropertyPage::ApplyChanges);
+  if (!CallBack()) return OwnerDesktop().Pointer(Pointer::Default);
+  WithHourglass([this] {
+    Tell(&IDialogCallBack::ApplyNotify);
+    ButtonStep([this] { IsDirty(false); });
+  });
 }
 
 void frmMapSettings::cmdCancel_Click() {
-  ErrorTrap trap;
-  if (mPages) mPages->Do(&PropertyPage::DiscardChanges, trap);
-  if (mPages) Notify(trap, &IDialogCallBack::CancelNotify);
-  trap.Step([&] { Close(true); });
-  trap.Step([&] { OwnerDesktop().Pointer(Pointer::Default); });
+  PropertyDialog::cmdCancel_Click();
+  OwnerDesktop().Pointer(Pointer::Default);
 }
 
 void frmMapSettings::Form_Unload() {
-  Kept().Keep(*this);
-  mPages.reset();
   PropertyDialog::Form_Unload();
+  // A form whose pages could not be made has never been put anywhere.
+  if (HasPages()) Kept().Keep(*this);
 }
 
 }  // namespace orx

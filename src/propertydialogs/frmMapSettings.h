@@ -1,18 +1,15 @@
-// The layer manager: the layers of a map and their tiles in a list, which the user adds, moves and removes, and beside
-// it the four property pages of the selected one.
+// The layer manager: a list of the layers of a map and their tiles, which the user adds, moves and removes, beside the
+// four property pages of the selected one.
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
+#include "dialogframe/Glyphs.h"
 #include "forms/TreeList.h"
-#include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
-#include "propertydialogs/LayerPages.h"
 #include "propertydialogs/Placement.h"
 #include "propertydialogs/PropertyDialog.h"
-#include "service/Glyphs.h"
 
 namespace orx {
 
@@ -20,21 +17,21 @@ class frmMapSettings final : public PropertyDialog {
  public:
   frmMapSettings(Desktop& desktop, IPageFactory& pages);
 
-  /// What the host has to say to the dialog; kept, and without a meaning so far.
+  /// Flags of the host, which are kept but have no meaning so far.
   void RegisterFlags(std::int32_t flags) { mFlags = flags; }
   std::int32_t Flags() const { return mFlags; }
-  /// Hands over a map (IMap) or a layer collection (ILayers), used and not owned, and the host's registry key. The user
-  /// is told of other objects, and nothing is kept of them.
-  void RegisterClient(HostObject* client, const std::string& registryKey);
-  /// Whether layers were added, moved, removed or changed, their labels left out.
-  bool IsDirty() const { return mListChanged || (mPages && mPages->IsDirtyBesideLabels()); }
-  void IsDirty(bool value);
+  /// Sets the map (IMap) or layer collection (ILayers) to edit, used and not owned, and the host's registry key. Other
+  /// objects are reported to the user and not kept.
+  void RegisterClient(HostObject* client, const std::string& registryKey) override;
+  void Take(const PropertyTask& task, ErrorTrap& trap) override;
+  /// Whether layers were added, moved, removed or changed, apart from their labels.
+  bool IsDirty() const override { return mListChanged || PropertyDialog::IsDirty(); }
+  void IsDirty(bool value) override;
   /// Shows the selected object on the pages. Does nothing without a map. Loads the form.
-  void RefreshContents();
+  void RefreshContents() override;
 
-  /// What the host was last told by the call-back, and where the user is: the position of the selected layer in its
-  /// map, from 1; 0 for the row of the map, for tiles, and while nothing is selected.
-  bool LastChange() const { return mLastChange; }
+  /// The position of the selected layer in its map, from 1; 0 for the row of the map, for tiles, and while nothing is
+  /// selected.
   std::int32_t SelectedLayer() const { return mSelectedLayer; }
 
   TreeList sftLayers{*this, "sftLayers", {.Place = {120, 120, 2400, 4995}, .AccessibleName = "Layers"}};
@@ -44,7 +41,8 @@ class frmMapSettings final : public PropertyDialog {
   Button cmdRemove{*this, "cmdRemove", PictureDesign("Remove selected layer", 3), glyphs::kCross};
 
  protected:
-  void Form_Load() override;
+  void Arrange() override;
+  void Ready() override;
   void Form_Unload() override;
 
  private:
@@ -52,8 +50,10 @@ class frmMapSettings final : public PropertyDialog {
 
   static Design PictureDesign(const char* toolTip, int position);
   void cmdApply_Click() override;
-  void cmdOK_Click() override;
   void cmdCancel_Click() override;
+  void Relay(Act act, Notification notify) override;
+  void ButtonStep(const std::function<void()>& step) override;
+  bool IsAnyDirty() const override { return PropertyDialog::IsAnyDirty() || mListChanged; }
   void cmdAdd_Click();
   void cmdRemove_Click();
   void MoveSelected(MoveLayer move, int rows);
@@ -66,22 +66,18 @@ class frmMapSettings final : public PropertyDialog {
   void AddRows(IMap& map, const char* defaultName, const char* tag, int level);
   void AddTiles(HostObject* layer, int level);
   void AddFile(const std::string& path);
-  /// Selects a row and shows its object; a row outside the list stands for the nearest one.
+  /// Selects a row and shows its object. A row outside the list stands for the nearest one.
   void SelectRow(int row);
-  /// The same by the position among the rows that can be seen.
+  /// The same by the position among the visible rows.
   void SelectPosition(int position);
-  /// Where the selected layer stands among the rows while all are folded, as they are when the list was just filled.
+  /// The position of the selected layer while all rows are folded, as they are right after filling.
   int FoldedPosition() const;
   bool ShowSelection(int row);
   void TakeObject();
   void ShowObject();
-  /// Up, Down and Remove work with a layer only.
+  /// Enables Up, Down and Remove, which work on layers only.
   void EnableMoving();
-  bool IsAnyDirty() const;
-  /// Tells the call-back, if there is one, what has changed. Errors are skipped.
-  void Notify(ErrorTrap& trap, void (IDialogCallBack::*notify)(bool));
 
-  IPageFactory& mFactory;
   std::int32_t mFlags = 0;
   HostObject* mClient = nullptr;
   ILayers* mLayers = nullptr;
@@ -90,14 +86,11 @@ class frmMapSettings final : public PropertyDialog {
   IMap* mCurrentMap = nullptr;
   std::int32_t mSelectedLayer = 0;
   int mSelectedRow = 0;
-  /// How often a row was selected.
+  /// Counts selections, to tell whether another one came in between.
   int mSelections = 0;
   bool mListChanged = false;
-  bool mLastChange = false;
-  /// True while the form itself moves the selection.
+  /// Set while the form itself moves the selection.
   bool mIsSelecting = false;
-  // Below the controls: the pages' own controls stand on the tabs and go first.
-  std::optional<LayerPages> mPages;
 };
 
 }  // namespace orx

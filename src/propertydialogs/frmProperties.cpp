@@ -4,13 +4,10 @@ namespace orx {
 
 frmProperties::frmProperties(Desktop& desktop, IPageFactory& pages)
     : PageHostForm(desktop, pages,
-                   {
-                       .FormName = "frmProperties",
-                       .Caption = "Layer Properties",
-                       .HelpKey = "_HelpMapLayerProperties",
-                       .TabCaptions = {"Properties"},
-                   },
-                   {.Kind = PageKind::Properties, .Name = "Properties1"}) {
+                   {.Name = "frmProperties",
+                    .Caption = "Layer Properties",
+                    .HelpKey = "_HelpMapLayerProperties",
+                    .Pages = {{PageKind::Properties, "Properties1", "Properties"}}}) {
 }
 
 }  // namespace orx

@@ -8,9 +8,6 @@ namespace orx {
 class frmProperties final : public PageHostForm {
  public:
   frmProperties(Desktop& desktop, IPageFactory& pages);
-
- protected:
-  void Form_Resize() override { CloseUpButtons(); }
 };
 
 }  // namespace orx

@@ -1,84 +1,26 @@
 #include "propertydialogs/frmSettings.h"
 
-#include "hostobjects/RunTimeError.h"
-
 namespace orx {
 
 frmSettings::frmSettings(Desktop& desktop, IPageFactory& pages)
-    : PropertyDialog(desktop,
-                     {
-                         .FormName = "frmSettings",
-                         .Caption = "Properties",
-                         .HelpKey = "_HelpMapLayerSettings",
-                         .TabCaptions = {LayerPages::kTabCaptions.begin(), LayerPages::kTabCaptions.end()},
-                     }),
-      mFactory(pages) {
+    : PageHostForm(
+          desktop, pages,
+          {.Name = "frmSettings", .Caption = "Properties", .HelpKey = "_HelpMapLayerSettings", .Pages = LayerPages()}) {
 }
 
-LayerPages& frmSettings::Pages() {
-  Load();
-  if (!mPages) throw RunTimeError(kErrorNotLoaded, Caption() + ": a property page is missing.");
-  return *mPages;
-}
-
-void frmSettings::RegisterClient(HostObject* client, const std::string& registryKey) {
-  RegistryKey(registryKey);
-  Hold(client);
-  Pages().Client(client);
-}
-
-void frmSettings::Form_Load() {
-  mPages.emplace(mFactory, ssTab, *this);
-  Center();
-  TakeLanguage();
-  mPages->Language(Language());
-  Translate();
-  if (LanguageActive()) TranslateTabs();
-}
-
-void frmSettings::TranslateTabs() {
-  // The caption of the first tab is left to the translation of the form.
-  for (int tab = 1; tab < ssTab.TabCount(); ++tab) {
+void frmSettings::Ready() {
+  if (!LanguageActive()) return;
+  // The first tab's caption is left to the translation of the form.
+  for (int tab = 1; tab < ssTab.TabCount() && LanguageActive(); ++tab) {
     ssTab.Tab(tab);
-    ssTab.TabCaption(tab, Language()->TranslateText(LayerPages::kTabCaptions.at(static_cast<std::size_t>(tab))));
+    ssTab.TabCaption(tab, Language()->TranslateText(LayerPages().at(static_cast<std::size_t>(tab)).TabCaption));
   }
   ssTab.Tab(0);
 }
 
-void frmSettings::cmdApply_Click() {
-  OwnerDesktop().Pointer(Pointer::Hourglass);
-  Pages().Do(&PropertyPage::ApplyChanges);
-  if (CallBack()) {
-    mLastChange = Pages().IsAnyDirty();
-    CallBack()->ApplyNotify(mLastChange);
-  }
-  IsDirty(false);
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmSettings::cmdOK_Click() {
-  OwnerDesktop().Pointer(Pointer::Hourglass);
-  Pages().Do(&PropertyPage::SaveChanges);
-  if (CallBack()) {
-    mLastChange = Pages().IsAnyDirty();
-    CallBack()->OKNotify(mLastChange);
-  }
-  Close(false);
-  OwnerDesktop().Pointer(Pointer::Default);
-}
-
-void frmSettings::cmdCancel_Click() {
-  Pages().Do(&PropertyPage::DiscardChanges);
-  if (CallBack()) {
-    mLastChange = Pages().IsAnyDirty();
-    CallBack()->CancelNotify(mLastChange);
-  }
-  Close(true);
-}
-
-void frmSettings::Form_Unload() {
-  mPages.reset();
-  PropertyDialog::Form_Unload();
+void frmSettings::Apply() {
+  PageHostForm::Apply();
+  if (!IsRetired()) IsDirty(false);
 }
 
 }  // namespace orx

@@ -1,45 +1,19 @@
-// Dialog for all settings of a layer: its four property pages at once.
+// Dialog for all settings of a layer, with all four property pages. Its Apply button stays even without a call-back.
 #pragma once
 
-#include <optional>
-#include <string>
-
-#include "propertydialogs/LayerPages.h"
-#include "propertydialogs/PropertyDialog.h"
+#include "propertydialogs/PageHostForm.h"
 
 namespace orx {
 
-class frmSettings final : public PropertyDialog {
+class frmSettings final : public PageHostForm {
  public:
   frmSettings(Desktop& desktop, IPageFactory& pages);
 
-  /// Hands over the layer to edit (used, not owned) and the host's registry key. Loads the form.
-  void RegisterClient(HostObject* client, const std::string& registryKey);
-  /// Whether the layer was changed, its labels left out; false when the form is not loaded.
-  bool IsDirty() const { return mPages && mPages->IsDirtyBesideLabels(); }
-  void IsDirty(bool value) { Pages().IsDirty(value); }
-  /// Has the pages load the layer's values.
-  void RefreshContents() { Pages().Do(&PropertyPage::RefreshContents); }
-  /// Whether any page had changed something when the call-back was last told.
-  bool LastChange() const { return mLastChange; }
-
  protected:
-  void Form_Load() override;
+  void Ready() override;
   void Form_Resize() override { RefreshContents(); }
-  void Form_Unload() override;
-
- private:
-  void cmdApply_Click() override;
-  void cmdOK_Click() override;
-  void cmdCancel_Click() override;
-  void TranslateTabs();
-  /// Loads the form.
-  LayerPages& Pages();
-
-  IPageFactory& mFactory;
-  bool mLastChange = false;
-  // Below the controls: the pages' own controls stand on the tabs and go first.
-  std::optional<LayerPages> mPages;
+  /// Changes that were applied no longer count.
+  void Apply() override;
 };
 
 }  // namespace orx

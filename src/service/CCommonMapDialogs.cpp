@@ -1,9 +1,11 @@
 #include "service/CCommonMapDialogs.h"
 
-#include "forms/Letters.h"
+#include "dialogframe/FileChoice.h"
+#include "dialogframe/Help.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
 #include "hostobjects/IMap.h"
+#include "openers/SecondaryDialogs.h"
 #include "pickers/frmListSelection.h"
 #include "pickers/frmMsgBox.h"
 #include "propertydialogs/frmCoordinates.h"
@@ -13,11 +15,21 @@
 #include "propertydialogs/frmMapSettings.h"
 #include "propertydialogs/frmProperties.h"
 #include "propertydialogs/frmSettings.h"
-#include "service/modDialog.h"
-#include "service/modMain.h"
-#include "service/modMainDialogs.h"
+#include "text/Trimmed.h"
 
 namespace orx {
+namespace {
+
+/// Makes a dialog, or returns null if that fails.
+template <class Dialog>
+std::shared_ptr<PropertyDialog> Make(Desktop& desktop, IPageFactory& pages) {
+  std::shared_ptr<PropertyDialog> form;
+  ErrorTrap trap;
+  trap.Step([&] { form = std::make_shared<Dialog>(desktop, pages); });
+  return form;
+}
+
+}  // namespace
 
 struct CCommonMapDialogs::Request {
   HostObject* Client;
@@ -33,24 +45,19 @@ void CCommonMapDialogs::Language(ILanguage* value) {
   if (IsActive(mLanguage)) modMain::HelpFile(mLanguage->TranslateText("_HelpFileMapDialogs"));
 }
 
-template <class HostForm>
-std::int32_t CCommonMapDialogs::ShowPage(const Request& request) {
-  constexpr bool isLegend = std::is_same_v<HostForm, frmLegend>;
-  ErrorTrap trap;
-  std::shared_ptr<HostForm> form;
-  trap.Step([&] { form = std::make_shared<HostForm>(mDesktop, mPages); });
+std::int32_t CCommonMapDialogs::ShowPages(const std::shared_ptr<PropertyDialog>& form, const Request& request) {
   if (!form) return 0;
+  // What the form holds stays until it is asked for its outcome, whatever the host does meanwhile, also to this object.
+  const Form::Act act(*form);
+  const PropertyTask task{request.Client, mRegistryKey, mCallBack, request.Number};
+  ErrorTrap trap;
   trap.Step([&] { form->Language(mLanguage); });
-  const auto giveCallBack = [&] { form->RegisterCallBack(mCallBack); };
-  if constexpr (isLegend) trap.Step(giveCallBack);
-  trap.Step([&] { form->RegisterClient(request.Client, mRegistryKey); });
-  if constexpr (!isLegend) trap.Step(giveCallBack);
-  if constexpr (isLegend) trap.Step([&] { form->StartUpIndex(request.Number); });
-  if constexpr (std::is_same_v<HostForm, frmMapSettings>) trap.Step([&] { form->RegisterFlags(request.Number); });
+  form->Take(task, trap);
   trap.Step([&] { form->RefreshContents(); });
-  // Loading translates the designed caption, so that it has to come before another one.
+  // Loading translates the designed caption, so it has to happen before the caption is replaced.
   trap.Step([&] { form->Load(); });
-  if (!WithoutBlanksAround(request.Caption).empty()) trap.Step([&] { form->Caption(request.Caption); });
+  if (!Trimmed(request.Caption, kSpaces).empty()) trap.Step([&] { form->Caption(request.Caption); });
+  if (request.Mode == ShowMode::Modeless) form->UnloadWhenHidden();
   trap.Step([&] { form->Show(request.Mode, request.Owner); });
   std::int32_t result = 0;
   trap.Step([&] {
@@ -66,32 +73,32 @@ std::int32_t CCommonMapDialogs::Show(HostObject* mObj, std::int32_t mFlags, cons
   bool isMap = false;
   ErrorTrap trap;
   trap.Step([&] { isMap = QueryKind<IMap>(mObj) || QueryKind<ILayers>(mObj); });
-  return isMap ? ShowPage<frmMapSettings>(request) : ShowPage<frmSettings>(request);
+  return ShowPages(isMap ? Make<frmMapSettings>(mDesktop, mPages) : Make<frmSettings>(mDesktop, mPages), request);
 }
 
 std::int32_t CCommonMapDialogs::ShowDataProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                    OwnerWindow OwnerForm) {
-  return ShowPage<frmDataDialog>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmDataDialog>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLegends(HostObject* mObj, std::int32_t Index, const std::string& mCaption,
                                             ShowMode mModal, OwnerWindow OwnerForm) {
-  return ShowPage<frmLegend>({mObj, Index, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmLegend>(mDesktop, mPages), {mObj, Index, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                OwnerWindow OwnerForm) {
-  return ShowPage<frmProperties>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmProperties>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                            OwnerWindow OwnerForm) {
-  return ShowPage<frmLabels>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmLabels>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                 OwnerWindow OwnerForm) {
-  return ShowPage<frmCoordinates>({mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages(Make<frmCoordinates>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue,
@@ -137,16 +144,16 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
                                                   std::int32_t mListIndex, const std::string& mCaption,
                                                   bool mAskConfirmation, const std::string& mConfirmationQuestion,
                                                   std::vector<std::int32_t>& mSelected) {
-  // Errors reach the host, but not past the unloading.
+  // Errors reach the host, but the form is unloaded first.
   const auto unload = [](frmListSelection* form) { form->Unload(); };
   const auto form = std::make_shared<frmListSelection>(mDesktop);
   const std::unique_ptr<frmListSelection, decltype(unload)> unloaded(form.get(), unload);
   form->Language(mLanguage);
   form->Init(mSelection, mMultiselect, mListIndex, mAskConfirmation, mConfirmationQuestion, mCaption);
   form->Show();
-  bool isCancelled = false;
+  bool isCanceled = false;
   std::int32_t count = 0;
-  form->GetSelectedItems(mSelected, isCancelled, count);
+  form->GetSelectedItems(mSelected, isCanceled, count);
   return count;
 }
 

@@ -9,7 +9,7 @@
 namespace orx {
 namespace {
 
-/// Runs what the bar or the conversion of its value may refuse, with the numbers that hosts know their errors by.
+/// Turns what the bar, or the conversion of its value, refuses into the error numbers that hosts know.
 template <class Action>
 auto Numbered(Action&& action) {
   try {
@@ -70,7 +70,7 @@ void CCommonProgressDialog::Message(const std::string& value) {
 }
 
 void CCommonProgressDialog::Show(OwnerWindow OwnerForm) {
-  // The host may let go of this object while events are handled.
+  // The host may release this object while events are handled.
   const std::shared_ptr<frmProgress> form = mForm;
   Desktop& desktop = mDesktop;
   ErrorTrap trap;

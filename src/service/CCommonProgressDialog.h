@@ -1,5 +1,5 @@
-// The public class for long operations of the host: a window with a bar, a line of text and a Cancel button, which the
-// host updates as it works.
+// The public class for long operations of the host: a window with a bar, a text and a Cancel button, which the host
+// updates as it works.
 #pragma once
 
 #include <cstdint>
@@ -13,42 +13,42 @@ namespace orx {
 class Desktop;
 class frmProgress;
 
-/// One progress window, there from the start and hidden until it is shown. For the user-interface thread of its
-/// desktop.
+/// One progress window, which exists from the start and is hidden until it is shown. Call it only on the user-interface
+/// thread of its desktop.
 ///
-/// The window shows what is set at once, at most 60 times a second, whether the host handles events or not; the Cancel
-/// button is noticed only when it does (Desktop::ProcessPendingEvents, or the host's own loop).
+/// What is set appears at once, at most 60 times a second, whether or not the host handles events. A press of the
+/// Cancel button is noticed only when it does (Desktop::ProcessPendingEvents, or the host's own loop).
 class CCommonProgressDialog {
  public:
-  /// The desktop must outlive the object. The bar goes from 0 to 100 and is empty, the title is "Progress".
+  /// The desktop must outlive the object. The bar goes from 0 to 100 and is empty; the title is "Progress".
   explicit CCommonProgressDialog(Desktop& desktop);
   ~CCommonProgressDialog();
   CCommonProgressDialog(const CCommonProgressDialog&) = delete;
   CCommonProgressDialog& operator=(const CCommonProgressDialog&) = delete;
 
-  /// Sets the minimum of the bar, then its maximum, then its value, as numbers of single precision: whole numbers
-  /// beyond 16,777,216 are rounded. Throws RunTimeError (kErrorInvalidValue) when `Max` is below `Min` or `Value`
-  /// beyond them; what was set before it stays.
+  /// Sets the minimum of the bar, then its maximum, then its value, in single precision: whole numbers beyond
+  /// 16,777,216 are rounded. Throws RunTimeError (kErrorInvalidValue) if `Max` is below `Min` or `Value` lies outside
+  /// them; what was set by then stays.
   void Init(std::int32_t Min, std::int32_t Max, std::int32_t Value);
-  /// True once the user has pressed Cancel, Escape or the close box, also while the window is hidden or shown again.
+  /// True once the user has pressed Cancel, Escape or the close box. Hiding and showing the window does not reset it.
   bool CancelAction() const;
 
-  /// The value of the bar. Setting it throws RunTimeError (kErrorInvalidValue) beyond the ends of the bar, getting it
-  /// (kErrorOverflow) when it has been rounded beyond 32 bits.
+  /// The value of the bar. Setting it throws RunTimeError (kErrorInvalidValue) for a value outside the bar, and getting
+  /// it (kErrorOverflow) for one that was rounded beyond 32 bits.
   std::int32_t Value() const;
   void Value(std::int32_t value);
   /// The title of the window, UTF-8.
   std::string Caption() const;
   void Caption(const std::string& value);
-  /// The text above the bar, UTF-8; two lines have room.
+  /// The text above the bar, UTF-8; there is room for two lines.
   std::string Message() const;
   void Message(const std::string& value);
 
-  /// Shows the window and returns at once. While a modal form of this library is open the window becomes modal, too,
-  /// and this returns when it has closed: by Hide, or by its close box once Cancel has been pressed. Does nothing when
-  /// the window is shown already. Lets pending events be handled; throws nothing of what goes wrong in showing.
+  /// Shows the window and returns at once. While a modal form of this library is open, the window is modal as well, and
+  /// this returns when it has closed: by Hide, or by its close box once Cancel was pressed. Does nothing if the window
+  /// is already shown. Lets pending events be handled. Never throws what goes wrong in showing.
   void Show(OwnerWindow OwnerForm = {});
-  /// Takes the window from the screen and lets pending events be handled. It can be shown again.
+  /// Hides the window, which can be shown again, and lets pending events be handled.
   void Hide();
   /// Repaints the window.
   void Refresh();

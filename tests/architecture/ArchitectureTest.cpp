@@ -35,8 +35,16 @@ TEST(ArchitectureTree, NoFileIncludesItselfByWayOfOthers) {
   ExpectNone(IncludeCircles(ReadSources({"src", "tests", "examples"})));
 }
 
+TEST(ArchitectureTree, NoFolderIncludesItselfByWayOfOthers) {
+  ExpectNone(FolderCircles(Sources()));
+}
+
 TEST(ArchitectureTree, NativeTypesStayInTheDesktops) {
   ExpectNone(NativeNames(Sources()));
+}
+
+TEST(ArchitectureTree, TheComponentServerFreesInOwnersAlone) {
+  ExpectNone(FreesOutsideTheirOwner(Sources()));
 }
 
 TEST(ArchitectureTree, NoFileIsLongerThan400Lines) {

@@ -1,31 +1,36 @@
 #include "tests/architecture/Rules.h"
 
 #include <algorithm>
+#include <cctype>
 #include <map>
 #include <set>
 
 namespace orx::test {
 namespace {
 
-/// From the ground up. An entry that ends with "/" is a folder with all below it, "*" stands for any ending of a file
-/// name. `service` is split: helpers stand below the dialogs, open-and-collect routines and public classes above them.
+/// The folders under src/ from the ground up, each with all below it.
 const std::vector<std::vector<std::string>> kFloors = {
-    {"numbers/"},
+    {"numbers/", "text/"},
     {"forms/"},
     {"hostobjects/"},
-    {"service/modDialog.*", "service/modMain.*", "service/DialogForm.*", "service/Glyphs.*"},
+    {"dialogframe/"},
     {"pickers/", "datadialogs/", "griddialogs/"},
-    {"service/modMain*"},
+    {"openers/"},
     {"propertydialogs/"},
-    {"service/CCommon*"},
+    {"service/"},
     {"desktops/"},
-    {"maplibrary/"},
+    {"maplibrary/files/"},
+    {"maplibrary/model/"},
+    {"maplibrary/drawing/"},
+    {"pages/", "languages/"},
     {"com/"},
 };
 
-bool Matches(const std::string& path, const std::string& pattern) {
-  if (pattern.ends_with('*')) return path.starts_with(pattern.substr(0, pattern.size() - 1));
-  return path.starts_with(pattern);
+/// The floors of the embedded host, which stands beside the dialogs and includes none of them.
+const std::vector<std::string> kEmbeddedHost = {"maplibrary/", "pages/", "languages/"};
+
+bool IsEmbeddedHost(const std::string& name) {
+  return std::ranges::any_of(kEmbeddedHost, [&](const std::string& folder) { return name.starts_with(folder); });
 }
 
 /// "src/forms/Form.h" is included as "forms/Form.h".
@@ -33,11 +38,11 @@ std::string IncludeName(const std::string& path) {
   return path.starts_with("src/") ? path.substr(4) : path;
 }
 
-/// The folder of a file, of a desktop its own: "forms", "desktops/qt".
+/// The room of a file: its folder, of rooms within rooms the innermost: "forms", "desktops/qt", "maplibrary/files".
 std::string FolderOf(const std::string& name) {
   const std::size_t first = name.find('/');
-  if (!name.starts_with("desktops/")) return name.substr(0, first);
-  return name.substr(0, name.find('/', first + 1));
+  const bool isNested = name.starts_with("desktops/") || name.starts_with("maplibrary/");
+  return name.substr(0, isNested ? name.find('/', first + 1) : first);
 }
 
 bool MayInclude(const std::string& from, const std::string& to) {
@@ -45,6 +50,7 @@ bool MayInclude(const std::string& from, const std::string& to) {
   const std::optional<int> toFloor = FloorOf(to);
   if (!fromFloor || !toFloor) return false;
   if (from.starts_with("desktops/")) return FolderOf(from) == FolderOf(to) || *toFloor <= *FloorOf("forms/");
+  if (IsEmbeddedHost(from) && !IsEmbeddedHost(to)) return *toFloor <= *FloorOf("hostobjects/");
   // The dialogs know no desktop, and neither does the map library; what puts all together does.
   if (to.starts_with("desktops/")) return from.starts_with("com/");
   if (*fromFloor == *toFloor) return FolderOf(from) == FolderOf(to);
@@ -75,12 +81,58 @@ bool IsNativeHeader(const std::string& name) {
   return kHeaders.contains(name) || IsQtName(name) || name.starts_with("Qt");
 }
 
+/// What includes what, be it files or folders.
+using IncludeGraph = std::map<std::string, std::set<std::string>>;
+
+/// A call that gives a resource back, and the beginning of the only files that may make it; none may where it is empty.
+struct Freeing {
+  std::string_view Call;
+  std::string_view Owner;
+};
+
+constexpr Freeing kFreeings[] = {
+    {"->Release", "src/com/Handles."},
+    {".Release", "src/com/Handles."},
+    {"SysFreeString", "src/com/Handles."},
+    {"VariantClear", "src/com/Handles."},
+    {"LocalFree", "src/com/Handles."},
+    {"CoTaskMemFree", ""},
+    {"GlobalFree", ""},
+    {"HeapFree", ""},
+    {"free", ""},
+    {"SafeArrayDestroy", "src/com/SafeArray."},
+    {"SafeArrayUnaccessData", "src/com/SafeArray."},
+    {"SafeArrayUnlock", ""},
+    {"ReleaseTypeAttr", "src/com/TypeDescriptions."},
+    {"ReleaseFuncDesc", "src/com/TypeDescriptions."},
+    {"ReleaseVarDesc", ""},
+    {"ReleaseTLibAttr", ""},
+    {"Unadvise", "src/com/PageEvents."},
+    {"RegCloseKey", ""},
+    {"CloseHandle", ""},
+    {"FreeLibrary", ""},
+    {"ReleaseDC", ""},
+    {"DeleteDC", ""},
+    {"DeleteObject", ""},
+    {"delete this", "src/com/Counted."},
+};
+
+/// True when the text stands there as whole words, called where it is the name of a function.
+bool Calls(const std::string& code, std::string_view call) {
+  const auto isWordPart = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; };
+  const bool isFunction = call != "delete this";
+  for (std::size_t at = code.find(call); at != std::string::npos; at = code.find(call, at + 1)) {
+    const bool beginsHere = at == 0 || !isWordPart(call.front()) || !isWordPart(code[at - 1]);
+    const std::size_t end = at + call.size();
+    if (beginsHere && end < code.size() && (isFunction ? code[end] == '(' : !isWordPart(code[end]))) return true;
+  }
+  return false;
+}
+
 /// Walks the includes depth first and notes each way back to a file that is being walked.
 class CircleSearch {
  public:
-  explicit CircleSearch(const std::vector<SourceFile>& sources) {
-    for (const SourceFile& file : sources) mIncludes[IncludeName(file.Path)] = file.QuotedIncludes();
-  }
+  explicit CircleSearch(const IncludeGraph& includes) : mIncludes(includes) {}
 
   Breaches Run() {
     for (const auto& [name, includes] : mIncludes) Visit(name);
@@ -103,7 +155,7 @@ class CircleSearch {
     mFound.push_back(circle + *from);
   }
 
-  std::map<std::string, std::vector<std::string>> mIncludes;
+  const IncludeGraph& mIncludes;
   std::set<std::string> mVisited;
   std::vector<std::string> mPath;
   Breaches mFound;
@@ -114,7 +166,7 @@ class CircleSearch {
 std::optional<int> FloorOf(const std::string& path) {
   const std::string name = IncludeName(path);
   for (std::size_t floor = 0; floor < kFloors.size(); ++floor)
-    if (std::ranges::any_of(kFloors[floor], [&](const std::string& pattern) { return Matches(name, pattern); }))
+    if (std::ranges::any_of(kFloors[floor], [&](const std::string& folder) { return name.starts_with(folder); }))
       return static_cast<int>(floor);
   return {};
 }
@@ -130,7 +182,20 @@ Breaches IncludesAgainstTheFloors(const std::vector<SourceFile>& sources) {
 }
 
 Breaches IncludeCircles(const std::vector<SourceFile>& sources) {
-  return CircleSearch(sources).Run();
+  IncludeGraph includes;
+  for (const SourceFile& file : sources)
+    for (const std::string& included : file.QuotedIncludes()) includes[IncludeName(file.Path)].insert(included);
+  return CircleSearch(includes).Run();
+}
+
+Breaches FolderCircles(const std::vector<SourceFile>& sources) {
+  IncludeGraph includes;
+  for (const SourceFile& file : sources) {
+    const std::string folder = FolderOf(IncludeName(file.Path));
+    for (const std::string& included : file.QuotedIncludes())
+      if (FolderOf(included) != folder) includes[folder].insert(FolderOf(included));
+  }
+  return CircleSearch(includes).Run();
 }
 
 Breaches NativeNames(const std::vector<SourceFile>& sources) {
@@ -141,6 +206,18 @@ Breaches NativeNames(const std::vector<SourceFile>& sources) {
       if (IsNativeHeader(header)) found.push_back(file.Path + " includes <" + header + ">");
     for (const std::string& word : file.Words())
       if (IsNativeWord(word)) found.push_back(file.Path + " uses " + word);
+  }
+  return found;
+}
+
+Breaches FreesOutsideTheirOwner(const std::vector<SourceFile>& sources) {
+  Breaches found;
+  for (const SourceFile& file : sources) {
+    if (!file.Path.starts_with("src/com/")) continue;
+    const std::string code = WithoutCommentsAndTexts(file.Text);
+    for (const auto& [call, owner] : kFreeings)
+      if ((owner.empty() || !file.Path.starts_with(owner)) && Calls(code, call))
+        found.push_back(file.Path + " calls " + std::string(call));
   }
   return found;
 }

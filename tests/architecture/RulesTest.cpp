@@ -24,11 +24,27 @@ TEST(ArchitectureRules, FilesIncludeTheFloorsBelowThem) {
   EXPECT_FALSE(Allowed("src/propertydialogs/frmLabels.h", "service/CCommonMapDialogs.h"));
 }
 
-TEST(ArchitectureRules, ServiceStandsOnThreeFloors) {
-  EXPECT_TRUE(Allowed("src/datadialogs/frmColors.cpp", "service/modMain.h"));
-  EXPECT_FALSE(Allowed("src/datadialogs/frmColors.cpp", "service/modMainDialogs.h"));
-  EXPECT_TRUE(Allowed("src/service/modMainDialogs.cpp", "datadialogs/frmColors.h"));
-  EXPECT_FALSE(Allowed("src/service/modMain.cpp", "datadialogs/frmColors.h"));
+TEST(ArchitectureRules, SecondaryDialogsAreOpenedFromAbove) {
+  EXPECT_TRUE(Allowed("src/datadialogs/frmColors.cpp", "dialogframe/DialogForm.h"));
+  EXPECT_FALSE(Allowed("src/dialogframe/DialogForm.cpp", "datadialogs/frmColors.h"));
+  EXPECT_TRUE(Allowed("src/openers/SecondaryDialogs.cpp", "datadialogs/frmColors.h"));
+  EXPECT_FALSE(Allowed("src/datadialogs/frmColors.cpp", "openers/SecondaryDialogs.h"));
+  EXPECT_TRUE(Allowed("src/propertydialogs/PageRequests.cpp", "openers/SecondaryDialogs.h"));
+}
+
+TEST(ArchitectureRules, NothingBelowIncludesTheChiefHeaders) {
+  EXPECT_TRUE(Allowed("src/service/modMain.h", "openers/SecondaryDialogs.h"));
+  EXPECT_FALSE(Allowed("src/propertydialogs/frmLabels.cpp", "service/modMain.h"));
+  EXPECT_FALSE(Allowed("src/pickers/frmMsgBox.cpp", "service/modDialog.h"));
+}
+
+TEST(ArchitectureRules, TheEmbeddedHostKnowsNoDialogs) {
+  EXPECT_TRUE(Allowed("src/pages/PropertiesPage.cpp", "forms/Form.h"));
+  EXPECT_TRUE(Allowed("src/maplibrary/model/Map.cpp", "hostobjects/IMap.h"));
+  EXPECT_FALSE(Allowed("src/maplibrary/model/Map.cpp", "dialogframe/DialogForm.h"));
+  EXPECT_FALSE(Allowed("src/pages/PropertiesPage.cpp", "pickers/frmTrueType.h"));
+  EXPECT_FALSE(Allowed("src/languages/TextLanguage.cpp", "service/CCommonMapDialogs.h"));
+  EXPECT_FALSE(Allowed("src/maplibrary/files/GridFile.cpp", "maplibrary/model/Map.h"));
 }
 
 TEST(ArchitectureRules, FoldersOnOneFloorAreStrangers) {
@@ -39,7 +55,7 @@ TEST(ArchitectureRules, FoldersOnOneFloorAreStrangers) {
 TEST(ArchitectureRules, DesktopsKnowFormsAlone) {
   EXPECT_TRUE(Allowed("src/desktops/qt/Button.cpp", "forms/Button.h"));
   EXPECT_FALSE(Allowed("src/desktops/qt/Button.cpp", "hostobjects/IMap.h"));
-  EXPECT_FALSE(Allowed("src/maplibrary/Layer.cpp", "desktops/qt/Button.h"));
+  EXPECT_FALSE(Allowed("src/maplibrary/model/Layer.cpp", "desktops/qt/Button.h"));
   EXPECT_TRUE(Allowed("src/com/Server.cpp", "desktops/win32/Win32Desktop.h"));
   EXPECT_FALSE(Allowed("src/desktops/win32/Button.cpp", "com/Handles.h"));
 }
@@ -53,6 +69,13 @@ TEST(ArchitectureRules, ACircleIsNamedWithItsWay) {
   const Files files = {Including("src/forms/A.h", "forms/B.h"), Including("src/forms/B.h", "forms/C.h"),
                        Including("src/forms/C.h", "forms/A.h")};
   EXPECT_EQ(IncludeCircles(files), Breaches{"forms/A.h -> forms/B.h -> forms/C.h -> forms/A.h"});
+}
+
+TEST(ArchitectureRules, ACircleOfFoldersIsFoundWhereNoFileIncludesItself) {
+  const Files files = {Including("src/forms/A.h", "numbers/B.h"), Including("src/numbers/C.h", "forms/D.h"),
+                       Including("src/forms/D.h", "forms/A.h")};
+  EXPECT_EQ(IncludeCircles(files), Breaches{});
+  EXPECT_EQ(FolderCircles(files), Breaches{"forms -> numbers -> forms"});
 }
 
 TEST(ArchitectureRules, TwoWaysToOneFileAreNoCircle) {
@@ -74,9 +97,26 @@ TEST(ArchitectureRules, NativeHeadersAreFound) {
   EXPECT_EQ(NativeNames({{"src/maplibrary/A.h", "#include <QtWidgets>\n"}}).size(), 1u);
 }
 
+TEST(ArchitectureRules, TheComponentServerFreesInOwnersAlone) {
+  const auto freesOf = [](const std::string& path, const std::string& code) {
+    return FreesOutsideTheirOwner({{path, code}});
+  };
+  EXPECT_EQ(freesOf("src/com/A.cpp", "object->Release();"), Breaches{"src/com/A.cpp calls ->Release"});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "SysFreeString(text);"), Breaches{"src/com/A.cpp calls SysFreeString"});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "CoTaskMemFree(p);"), Breaches{"src/com/A.cpp calls CoTaskMemFree"});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "if (none) delete this;"), Breaches{"src/com/A.cpp calls delete this"});
+  EXPECT_EQ(freesOf("src/com/SafeArray.cpp", "SafeArrayDestroy(a); SysFreeString(b);"),
+            Breaches{"src/com/SafeArray.cpp calls SysFreeString"});
+  EXPECT_EQ(freesOf("src/com/Handles.h", "SysFreeString(text); gone->Release();"), Breaches{});
+  EXPECT_EQ(freesOf("src/com/A.cpp", "// free(p)\nA(A&&) = delete; ULONG Release(); MyLocalFree(); pointer.Free();"),
+            Breaches{});
+  EXPECT_EQ(freesOf("tests/com/A.cpp", "SysFreeString(text);"), Breaches{});
+}
+
 TEST(ArchitectureRules, CommentsAndTextsAreTakenOut) {
   EXPECT_EQ(WithoutCommentsAndTexts("a/*b*/c//d\ne"), "ac\ne");
   EXPECT_EQ(WithoutCommentsAndTexts("f(\"a\\\"b\", 'c', 1'000)"), "f(\"\", \"\", 1'000)");
+  EXPECT_EQ(WithoutCommentsAndTexts("f(L'\\\\', b, u8'x')"), "f(L\"\", b, u8\"\")");
   EXPECT_EQ(WithoutCommentsAndTexts("R\"(a \" b)\" c"), "R\"\" c");
 }
 

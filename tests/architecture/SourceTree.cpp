@@ -56,8 +56,31 @@ std::size_t EndOfLiteral(std::string_view code, std::size_t from) {
 
 bool BeginsLiteral(std::string_view code, std::size_t at) {
   if (code[at] == '"') return true;
+  if (code[at] != '\'') return false;
+  std::size_t word = at;
+  while (word > 0 && IsWordPart(code[word - 1])) --word;
   // Between digits an apostrophe only groups them.
-  return code[at] == '\'' && (at == 0 || !IsWordPart(code[at - 1]));
+  const std::string_view prefix = code.substr(word, at - word);
+  return prefix.empty() || prefix == "L" || prefix == "u" || prefix == "U" || prefix == "u8";
+}
+
+/// The code without comments, and with or without what stands in its literals.
+std::string Stripped(std::string_view code, bool keepsTexts) {
+  std::string out;
+  for (std::size_t at = 0; at < code.size();) {
+    if (code.substr(at).starts_with("//")) {
+      at = std::min(code.find('\n', at), code.size());
+    } else if (code.substr(at).starts_with("/*")) {
+      at = std::min(code.find("*/", at), code.size() - 2) + 2;
+    } else if (BeginsLiteral(code, at)) {
+      const std::size_t end = EndOfLiteral(code, at);
+      out += keepsTexts ? code.substr(at, end - at) : "\"\"";
+      at = end;
+    } else {
+      out += code[at++];
+    }
+  }
+  return out;
 }
 
 }  // namespace
@@ -75,31 +98,25 @@ std::size_t SourceFile::LineCount() const {
 }
 
 std::vector<std::string> SourceFile::Words() const {
-  const std::string code = WithoutCommentsAndTexts(Text);
+  return WordsOf(WithoutCommentsAndTexts(Text));
+}
+
+std::vector<std::string> WordsOf(std::string_view text) {
   std::vector<std::string> words;
-  for (auto at = code.begin(); at != code.end();) {
-    const auto begin = std::find_if(at, code.end(), IsWordPart);
-    at = std::find_if_not(begin, code.end(), IsWordPart);
+  for (auto at = text.begin(); at != text.end();) {
+    const auto begin = std::find_if(at, text.end(), IsWordPart);
+    at = std::find_if_not(begin, text.end(), IsWordPart);
     if (begin != at) words.emplace_back(begin, at);
   }
   return words;
 }
 
+std::string WithoutComments(std::string_view code) {
+  return Stripped(code, true);
+}
+
 std::string WithoutCommentsAndTexts(std::string_view code) {
-  std::string out;
-  for (std::size_t at = 0; at < code.size();) {
-    if (code.substr(at).starts_with("//")) {
-      at = std::min(code.find('\n', at), code.size());
-    } else if (code.substr(at).starts_with("/*")) {
-      at = std::min(code.find("*/", at), code.size() - 2) + 2;
-    } else if (BeginsLiteral(code, at)) {
-      at = EndOfLiteral(code, at);
-      out += "\"\"";
-    } else {
-      out += code[at++];
-    }
-  }
-  return out;
+  return Stripped(code, false);
 }
 
 std::vector<SourceFile> ReadSources(const std::vector<std::string>& folders) {
@@ -109,9 +126,19 @@ std::vector<SourceFile> ReadSources(const std::vector<std::string>& folders) {
   return files;
 }
 
+SourceFile ReadSource(const std::string& path) {
+  return {path, ReadText(fs::path(ORX_SOURCE_DIR) / path)};
+}
+
 std::vector<SourceFile> ReadAllTexts() {
-  std::vector<SourceFile> files = ReadSources({"src", "tests", "examples", "benchmarks"});
-  for (const char* folder : {"docs", "cmake", ".ci"}) ReadFolder(fs::path(ORX_SOURCE_DIR) / folder, false, files);
+  std::vector<SourceFile> files = ReadTree({"docs", "cmake", ".ci"});
+  for (SourceFile& code : ReadSources({"src", "tests", "examples", "benchmarks"})) files.push_back(std::move(code));
+  return files;
+}
+
+std::vector<SourceFile> ReadTree(const std::vector<std::string>& folders) {
+  std::vector<SourceFile> files;
+  for (const std::string& folder : folders) ReadFolder(fs::path(ORX_SOURCE_DIR) / folder, false, files);
   for (const auto& entry : fs::directory_iterator(ORX_SOURCE_DIR))
     if (entry.is_regular_file()) files.push_back({entry.path().filename().string(), ReadText(entry.path())});
   return files;

@@ -5,9 +5,10 @@
 #include <optional>
 
 #include "pickers/frmTrueType.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordingHost.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 

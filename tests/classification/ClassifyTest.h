@@ -3,7 +3,7 @@
 #pragma once
 
 #include "datadialogs/frmDataClassify.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/RecordedData.h"
 

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "pickers/frmGeoreference.h"
-#include "service/modMainDialogs.h"
+#include "service/modMain.h"
 #include "tests/georeference/GroundMap.h"
 #include "tests/support/DesktopTest.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 

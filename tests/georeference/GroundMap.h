@@ -14,7 +14,6 @@ namespace orx::test {
 /// Writes down each call that reaches the extent and the asking for it: "Extent", "Left", "Left=(200)".
 class GroundMap final : public HostObject, public IMap {
  public:
-  void* Query(Kind kind) override { return kind == Kind::Map ? static_cast<IMap*>(this) : nullptr; }
   std::int32_t LayerCount() override { return 0; }
   std::string LayerName(std::int32_t) override { return {}; }
   HostObject* Layer(std::int32_t) override { return nullptr; }

@@ -1,12 +1,12 @@
 // A host outside the project: shows a dialog without a screen, and presses OK.
 #include <cstdio>
 
-#include "desktops/headless/HeadlessDesktop.h"
-#include "forms/Button.h"
-#include "forms/Form.h"
-#include "maplibrary/SampleMap.h"
-#include "maplibrary/pages/PageFactory.h"
-#include "service/CCommonMapDialogs.h"
+#include <orx/Button.h>
+#include <orx/CCommonMapDialogs.h>
+#include <orx/Form.h>
+#include <orx/HeadlessDesktop.h>
+#include <orx/PageFactory.h>
+#include <orx/SampleMap.h>
 
 struct PressOK final : orx::DesktopHook {
   void ModalRunning(const orx::Modal& modal) override {
@@ -21,7 +21,7 @@ int main(int, char** argv) {
   PressOK hook;
   orx::headless::HeadlessDesktop desktop;
   desktop.Hook(&hook);
-  orx::maplibrary::PageFactory pages;
+  orx::pages::PageFactory pages;
   const auto map = orx::maplibrary::MakeSampleMap(argv[1]);
   orx::CCommonMapDialogs dialogs(desktop, pages);
   const auto result = dialogs.ShowProperties(map->Layer(1));

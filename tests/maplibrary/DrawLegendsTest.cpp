@@ -3,8 +3,8 @@
 
 #include <set>
 
-#include "maplibrary/ColorRamp.h"
-#include "maplibrary/MapLettering.h"
+#include "maplibrary/drawing/MapLettering.h"
+#include "maplibrary/model/ColorRamp.h"
 #include "tests/maplibrary/Drawing.h"
 
 namespace orx::maplibrary {

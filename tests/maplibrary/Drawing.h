@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/Canvas.h"
-#include "maplibrary/DrawMap.h"
+#include "maplibrary/drawing/DrawMap.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {

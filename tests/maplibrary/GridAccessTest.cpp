@@ -1,5 +1,6 @@
 // Opening grid files: names in any script, what cannot be opened, and kinds of files that are no grids.
-#include "maplibrary/Errors.h"
+#include "maplibrary/files/FileAccess.h"
+#include "maplibrary/model/Errors.h"
 #include "tests/maplibrary/GridFiles.h"
 
 namespace orx::maplibrary {

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "hostobjects/RunTimeError.h"
-#include "maplibrary/GridFile.h"
+#include "maplibrary/files/GridFile.h"
 
 namespace orx::maplibrary {
 

@@ -1,5 +1,5 @@
 // The data of a grid layer: what it starts with, what its setters refuse, its classes, and another file.
-#include "maplibrary/LayerData.h"
+#include "maplibrary/model/LayerData.h"
 
 #include <gtest/gtest.h>
 

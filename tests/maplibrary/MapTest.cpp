@@ -1,12 +1,12 @@
 // The map as dialogs use it: layers by number, moving and removing, kinds, extent and legends.
-#include "maplibrary/Map.h"
+#include "maplibrary/model/Map.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "maplibrary/Errors.h"
-#include "maplibrary/SampleMap.h"
+#include "maplibrary/model/Errors.h"
+#include "maplibrary/model/SampleMap.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {
@@ -29,17 +29,19 @@ std::string ErrorOf(Action action, std::int32_t number) {
   return "no error";
 }
 
+/// For each interface whether the object has it, such as "100011".
+template <class... Interfaces>
+std::string Answers(HostObject* object) {
+  return (std::string() + ... + (QueryKind<Interfaces>(object) ? "1" : "0"));
+}
+
 TEST(MapLibraryMap, ObjectsAnswerForTheirKindsOnly) {
   const auto map = SmallMap();
   HostObject* plain = map->Layer(1);
   HostObject* tiled = map->Layer(3);
   Layers layers(*map);
   const auto kinds = [](HostObject* object) {
-    std::string found;
-    for (const Kind kind : {Kind::Map, Kind::Layers, Kind::Layer, Kind::Labels, Kind::Extent, Kind::Legends}) {
-      found += object->Query(kind) ? '1' : '0';
-    }
-    return found;
+    return Answers<IMap, ILayers, ILayer, ILabels, IExtent, ILegends>(object);
   };
   EXPECT_EQ(kinds(map.get()), "100011");
   EXPECT_EQ(kinds(plain), "001110");

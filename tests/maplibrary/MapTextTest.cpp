@@ -1,5 +1,5 @@
 // The state of a map as text: each single setting shows in it, and reading changes nothing.
-#include "maplibrary/MapText.h"
+#include "tests/support/MapText.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,8 @@
 
 namespace orx::maplibrary {
 namespace {
+
+using test::Serialise;
 
 struct Change {
   const char* Setting;

@@ -6,11 +6,11 @@
 #include <limits>
 
 #include "hostobjects/RunTimeError.h"
-#include "maplibrary/DrawShapes.h"
-#include "maplibrary/LayerFile.h"
-#include "maplibrary/Map.h"
-#include "maplibrary/TiledLayer.h"
-#include "maplibrary/VectorLayer.h"
+#include "maplibrary/drawing/DrawShapes.h"
+#include "maplibrary/model/LayerFile.h"
+#include "maplibrary/model/Map.h"
+#include "maplibrary/model/TiledLayer.h"
+#include "maplibrary/model/VectorLayer.h"
 #include "tests/maplibrary/GridFiles.h"
 
 namespace orx::maplibrary {

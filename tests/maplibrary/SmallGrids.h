@@ -6,9 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "maplibrary/Layer.h"
-#include "maplibrary/Map.h"
-#include "maplibrary/TiledLayer.h"
+#include "maplibrary/files/GridData.h"
+#include "maplibrary/model/Layer.h"
+#include "maplibrary/model/Map.h"
+#include "maplibrary/model/TiledLayer.h"
 
 namespace orx::maplibrary {
 

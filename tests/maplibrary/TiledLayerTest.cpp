@@ -1,5 +1,5 @@
 // A layer of tiles: cut from a grid, moved as a whole or one by one.
-#include "maplibrary/TiledLayer.h"
+#include "maplibrary/model/TiledLayer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // Colours of values and the legend that explains them: classes, special values, sizes, formats.
-#include "maplibrary/ValueColors.h"
+#include "maplibrary/drawing/ValueColors.h"
 
 #include <gtest/gtest.h>
 
-#include "maplibrary/ColorRamp.h"
-#include "maplibrary/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
+#include "maplibrary/model/ColorRamp.h"
 #include "tests/maplibrary/Drawing.h"
 
 namespace orx::maplibrary {

@@ -1,10 +1,10 @@
 // Contour lines on a map: levels, pens, widths, colours and labels.
-#include "maplibrary/DrawIsolines.h"
+#include "maplibrary/drawing/DrawIsolines.h"
 
 #include <gtest/gtest.h>
 
 #include "hostobjects/RunTimeError.h"
-#include "maplibrary/ValueColors.h"
+#include "maplibrary/drawing/ValueColors.h"
 #include "tests/maplibrary/Drawing.h"
 
 namespace orx::maplibrary {

@@ -1,5 +1,5 @@
 // Relief shading: slopes and light of grids that can be worked out by hand, intensities, and how shades meet colours.
-#include "maplibrary/GridShade.h"
+#include "maplibrary/model/GridShade.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <functional>
 
 #include "hostobjects/RunTimeError.h"
-#include "maplibrary/RenderGrid.h"
+#include "maplibrary/drawing/PaintGrid.h"
 #include "tests/maplibrary/SmallGrids.h"
 
 namespace orx::maplibrary {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace orx::test {
 namespace {
 
@@ -94,6 +96,7 @@ void DialogScript::ModalRunning(const Modal& modal) {
   if (modal.ShownFiles && next.Choice) return next.Choice(*modal.ShownFiles);
   if (modal.ShownColor && next.Color) return next.Color(*modal.ShownColor);
   if (modal.ShownFont && next.Face) return next.Face(*modal.ShownFont);
+  if (const auto happens = std::exchange(WhenMessageIsUp, nullptr); modal.ShownMessage && happens) happens();
   if (modal.ShownMessage && next.Answer && next.Box.Buttons == modal.ShownMessage->Buttons)
     return mUser.AnswerMessage(modal, *next.Answer);
   if (!modal.ShownForm || !next.Action) return CloseAnyway(modal);

@@ -38,6 +38,9 @@ class DialogScript final : public DesktopHook {
   /// What the user does when the program lets waiting events be handled, each time that it does.
   std::function<void()> WhenEventsPend;
 
+  /// What happens while the next message box is up, before the user answers it.
+  std::function<void()> WhenMessageIsUp;
+
   /// What was asked of the desktop, oldest first.
   std::vector<Pointer> Pointers;
   std::vector<HelpRequest> Helps;

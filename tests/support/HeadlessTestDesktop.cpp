@@ -3,6 +3,7 @@
 
 #include "desktops/headless/HeadlessDesktop.h"
 #include "tests/support/User.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 namespace {

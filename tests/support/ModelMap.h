@@ -13,12 +13,13 @@
 
 namespace orx::test {
 
-/// A layer with a name; with layers of its own it is a map too. The whole map is one as well.
-class ModelMap final : public HostObject, public IMap {
+/// A layer with a name; with layers of its own it is a map too. The whole map is one as well. Which it is may change,
+/// so that it answers for the map as a view.
+class ModelMap final : public HostObject, private IMap {
  public:
   explicit ModelMap(std::string name = {}) : Name(std::move(name)) {}
 
-  void* Query(Kind kind) override { return kind == Kind::Map && IsMap ? static_cast<IMap*>(this) : nullptr; }
+  HostInterface* ViewFor(const std::type_info&) override { return IsMap ? static_cast<IMap*>(this) : nullptr; }
 
   std::int32_t LayerCount() override {
     Ask("LayerCount");
@@ -101,7 +102,6 @@ class ModelLayers final : public HostObject, public ILayers {
  public:
   explicit ModelLayers(ModelMap& map, std::string name = {}) : Title(std::move(name)), mMap(map) {}
 
-  void* Query(Kind kind) override { return kind == Kind::Layers ? static_cast<ILayers*>(this) : nullptr; }
   std::string Name() override { return Title; }
   HostObject* Map() override { return &mMap; }
 

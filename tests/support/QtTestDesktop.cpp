@@ -65,7 +65,7 @@ void MouseClick(QWidget& widget) {
 /// True when the user finds the control on the screen; one that is scrolled away is brought into view.
 bool CanReach(Control& control) {
   if (!PeerOf(control) || !PeerOf(control)->Widget().isVisible()) return false;
-  static_cast<qt::Dialog*>(PeerOf(control)->Widget().window())->Ground().Reveal(PeerOf(control)->Widget());
+  static_cast<qt::Dialog*>(PeerOf(control)->Widget().window())->Content().Reveal(PeerOf(control)->Widget());
   return true;
 }
 

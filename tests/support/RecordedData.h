@@ -73,11 +73,6 @@ class RecordedData final : public HostObject, public IData, public IClassificati
   RecordedSpecialValue Zero{Log, "ZeroValue"};
   RecordedSpecialValue NoData{Log, "NoDataValue"};
 
-  void* Query(Kind kind) override {
-    if (kind == Kind::Data) return static_cast<IData*>(this);
-    if (kind == Kind::Classification) return static_cast<IClassification*>(this);
-    return kind == Kind::DataOptions ? static_cast<IDataOptions*>(this) : nullptr;
-  }
   /// The writes since the log was cleared.
   std::vector<std::string> Writes() const {
     std::vector<std::string> writes;

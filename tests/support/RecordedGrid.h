@@ -30,7 +30,8 @@ inline std::vector<std::string> WritesIn(const CallLog& log) {
     Held##Member = value;                       \
   }
 
-class RecordedShade final : public HostObject, public ShadeSettings2 {
+/// An object of either generation, which answers for the one it is of.
+class RecordedShade final : public HostObject, private ShadeSettings2 {
  public:
   mutable CallLog Log;
   std::string Prefix;
@@ -39,9 +40,8 @@ class RecordedShade final : public HostObject, public ShadeSettings2 {
   std::int32_t Count = 0;
   std::optional<double> Suggestion;
 
-  void* Query(Kind kind) override {
-    if (kind == Kind::Shade) return static_cast<ShadeSettings*>(this);
-    return kind == Kind::ExtendedShade && IsExtended ? static_cast<ShadeSettings2*>(this) : nullptr;
+  HostInterface* ViewFor(const std::type_info& wanted) override {
+    return wanted == typeid(ShadeSettings) || IsExtended ? static_cast<ShadeSettings2*>(this) : nullptr;
   }
   ORX_LOGGED(bool, bool, ScaleAutomatic, false)
   ORX_LOGGED(std::int16_t, std::int16_t, CombineColors, 1)
@@ -99,7 +99,6 @@ class RecordedIsolines final : public HostObject, public IIsolines {
   RecordedLine Pen{Log};
   RecordedLabelFont Face{Log};
 
-  void* Query(Kind kind) override { return kind == Kind::Isolines ? static_cast<IIsolines*>(this) : nullptr; }
   ORX_LOGGED(bool, bool, UseRangeColor, true)
   ORX_LOGGED(bool, bool, UseRangeWidth, false)
   ORX_LOGGED(std::int32_t, std::int32_t, MaxWidth, 5)

@@ -33,10 +33,8 @@ class CallLog {
   std::set<std::string> Failing;
 };
 
-class PlainObject final : public HostObject {
- public:
-  void* Query(Kind) override { return nullptr; }
-};
+/// An object without any interface.
+class PlainObject final : public HostObject {};
 
 /// One text field; what is typed there is dirty once it was saved or applied.
 class RecordingPage final : public PropertyPage {

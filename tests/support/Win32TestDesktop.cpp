@@ -272,7 +272,7 @@ class Win32User final : public User {
   /// True when the user finds the control on the screen; one that is scrolled away is brought into view.
   static bool CanReach(Control& control) {
     if (!PeerOf(control) || !IsWindowVisible(PeerOf(control)->Window())) return false;
-    win32::Dialog::Around(PeerOf(control)->Window())->Ground().Reveal(PeerOf(control)->Window());
+    win32::Dialog::Containing(PeerOf(control)->Window())->Content().Reveal(PeerOf(control)->Window());
     return true;
   }
 

@@ -47,7 +47,7 @@ RECT PlaceIn(HWND window, HWND outer) {
 /// The size of a text in the window's font; as high as it becomes in `width` when that is given.
 SIZE TextSize(HWND window, const std::string& text, int width = 0) {
   const win32::WindowContext context(window);
-  const win32::Selection font(context.Get(), win32::Dialog::Around(window)->Face());
+  const win32::Selection font(context.Get(), win32::Dialog::Containing(window)->Face());
   RECT place = {0, 0, width, 0};
   DrawTextW(context.Get(), win32::Widened(text).c_str(), -1, &place,
             static_cast<UINT>(DT_CALCRECT | (width ? DT_WORDBREAK : DT_SINGLELINE)));

@@ -7,9 +7,9 @@
 
 #include "com/ClassFactory.h"
 #include "com/Errors.h"
-#include "com/Module.h"
+#include "com/ModuleUse.h"
 #include "com/Registration.h"
-#include "com/Surroundings.h"
+#include "com/ThreadContext.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, LPVOID* factory) {
 STDAPI DllCanUnloadNow() {
   HRESULT answer = S_FALSE;
   const HRESULT asked = Guarded("Server", [&] {
-    const bool stillOpen = orx::com::Surroundings::StillOpen();
+    const bool stillOpen = orx::com::ThreadContext::StillOpen();
     answer = orx::com::ModuleUse::Count() == 0 && !stillOpen ? S_OK : S_FALSE;
   });
   return FAILED(asked) ? S_FALSE : answer;

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "desktops/headless/MemorySettings.h"
 #include "forms/ColorRequest.h"
 #include "forms/FontRequest.h"
 #include "forms/Form.h"
@@ -44,6 +45,9 @@ class HeadlessWindow final : public FormWindow {
 
 }  // namespace
 
+HeadlessDesktop::HeadlessDesktop() : mSettings(std::make_unique<MemorySettings>()) {
+}
+
 HeadlessDesktop::~HeadlessDesktop() {
   CloseOpenForms();
 }
@@ -76,7 +80,7 @@ std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {
 }
 
 MessageAnswer HeadlessDesktop::DoShowMessage(const Message& message, FormWindow*) {
-  // It counts as read when the hook returns.
+  // The message counts as read when the hook returns.
   MessageAnswer answer = message.Harmless();
   ModalIsRunning({.ShownMessage = &message, .Answer = &answer});
   return answer;

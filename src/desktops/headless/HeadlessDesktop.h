@@ -1,14 +1,13 @@
-// A desktop without a screen, for tests and servers. Forms live in memory; whoever answers does so in the hook.
+// A desktop without a screen, for tests and servers. Forms live in memory, and the hook answers them.
 #pragma once
 
-#include "desktops/headless/MemorySettings.h"
 #include "forms/Desktop.h"
 
 namespace orx::headless {
 
 class HeadlessDesktop final : public Desktop {
  public:
-  HeadlessDesktop() = default;
+  HeadlessDesktop();
   ~HeadlessDesktop() override;
 
   ScreenMetrics Metrics(BorderStyle border) const override;
@@ -16,19 +15,20 @@ class HeadlessDesktop final : public Desktop {
   double Scale() const override { return mScale; }
   std::vector<std::string> ScreenFonts() const override { return mScreenFonts; }
   Color SystemColor(orx::SystemColor which) const override;
-  /// 16 pixels high, and as many wide as the code has over a multiple of 20: narrow, wide and without width.
+  /// 16 pixels high and the remainder of code / 20 wide, so that some characters are narrow, some wide and some have no
+  /// width.
   Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
   numbers::Separators Separators() const override { return mSeparators; }
-  SettingsStore& Settings() override { return mSettings; }
+  SettingsStore& Settings() override { return *mSettings; }
 
   /// The size of the screen in twips; 1920 x 1080 pixels unless set.
   void ScreenSize(Size value) { mScreen = value; }
-  /// Further screens beside the main one, by the places of their work areas in twips.
+  /// Sets the work areas of further screens beside the main one, in twips.
   void FurtherScreens(std::vector<Rect> value) { mFurtherScreens = std::move(value); }
   void Separators(const numbers::Separators& value) { mSeparators = value; }
   /// Pixels in 15 twips; 1 unless set.
   void Scale(double value) { mScale = value; }
-  /// The screen's fonts in place of a handful of well-known ones.
+  /// Replaces the screen's fonts, which are a handful of well-known ones at first.
   void ScreenFonts(std::vector<std::string> value) { mScreenFonts = std::move(value); }
 
  protected:
@@ -43,7 +43,7 @@ class HeadlessDesktop final : public Desktop {
   void DoShowHelp(const HelpRequest&) override {}
 
  private:
-  MemorySettings mSettings;
+  std::unique_ptr<SettingsStore> mSettings;
   numbers::Separators mSeparators;
   std::vector<Rect> mFurtherScreens;
   std::vector<std::string> mScreenFonts{"System", "Courier", "Arial", "Courier New", "Symbol", "Times New Roman"};

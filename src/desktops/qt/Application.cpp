@@ -17,10 +17,10 @@ void MakeApplication() {
   static char name[] = "OrvexMapDialogs2";
   static char* arguments[] = {name, nullptr};
   const std::string numeric = std::setlocale(LC_NUMERIC, nullptr);
-  // It stays to the end of the process: Qt does not bear being taken down among the static objects.
+  // It stays to the end of the process: Qt cannot be shut down among the static objects.
   static QApplication* const application = new QApplication(count, arguments);
   application->setQuitOnLastWindowClosed(false);
-  // Qt sets the C locale of the whole process; the host's own way to print and read numbers has to stay.
+  // Qt sets the C locale of the whole process; the way the host prints and reads numbers must not change.
   std::setlocale(LC_NUMERIC, numeric.c_str());
 }
 

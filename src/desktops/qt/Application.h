@@ -9,7 +9,7 @@ namespace orx::qt {
 /// kind, as windows cannot be shown then.
 void EnsureApplication();
 
-/// The font of the dialogs: that of the application, at 9 points or more.
+/// The font of the dialogs: the application's, at 9 points or more.
 QFont DialogFont();
 
 }  // namespace orx::qt

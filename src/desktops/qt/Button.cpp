@@ -18,7 +18,7 @@ class ButtonPeer final : public Peer {
       : Peer(control, dialog, native), mControl(control), mNative(*native) {
     mNative.setAutoDefault(false);
     mNative.setDefault(control.Role() == ButtonRole::Default);
-    // A press of the mouse must not move the focus by itself: the field that loses it may refuse.
+    // A press of the mouse must not move the focus by itself: the field that loses it may refuse to let go.
     mNative.setFocusPolicy(Qt::TabFocus);
     if (control.Picture()) ShowPicture(*control.Picture());
     connect(&mNative, &QPushButton::clicked, this, [this] { Report([this] { mControl.UserPress(); }); });
@@ -27,7 +27,7 @@ class ButtonPeer final : public Peer {
  private:
   void ShowPicture(const Glyph& picture) {
     const int size = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
-    // Widgets count in points of the window, of which sharp screens have several pixels each.
+    // Widgets measure in points of the window, each of which is several pixels on a high-resolution screen.
     const double density = mNative.devicePixelRatioF();
     QIcon icon;
     for (const bool faded : {false, true}) {

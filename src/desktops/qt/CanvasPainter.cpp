@@ -56,7 +56,7 @@ class MarkPainter {
   }
 
   void operator()(const CharacterMark& mark) {
-    // Characters come by the hundred, all of one font.
+    // Characters come by the hundred, all in the same font.
     if (!mCharacters || mCharacters->Face() != mark.Face) mCharacters.emplace(mark.Face, mDialogFont);
     if (mark.Cell.Width > 0) mPainter.fillRect(RectOf(mark.Cell), ColorOf(mark.Ground));
     mPainter.setPen(ColorOf(mark.Ink));

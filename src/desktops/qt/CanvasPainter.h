@@ -1,4 +1,4 @@
-// Paints what a picture box holds.
+// Paints the marks of a drawing.
 #pragma once
 
 #include <QFont>
@@ -9,10 +9,10 @@ class QPainter;
 
 namespace orx::qt {
 
-/// Paints the marks, oldest first. `dialogFont` lends its face to texts without one.
+/// Paints all marks, oldest first. Texts without a face name use that of `dialogFont`.
 void PaintCanvas(QPainter& painter, const Canvas& canvas, const QFont& dialogFont);
 
-/// A font as drawings and dialogs name it, made of the dialog font where the name is empty.
+/// The font that a drawing asks for, based on the dialog font where its name is empty.
 QFont FontOf(const Font& face, QFont dialogFont);
 
 }  // namespace orx::qt

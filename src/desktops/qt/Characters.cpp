@@ -4,15 +4,16 @@
 #include <QPainter>
 
 #include "desktops/qt/CanvasPainter.h"
-#include "forms/AnsiCharacters.h"
 #include "forms/TextBox.h"
+#include "text/AnsiCharacters.h"
+#include "text/CharacterCount.h"
 
 namespace orx::qt {
 namespace {
 
-/// Fonts of signs keep them in a private range, under the codes.
+/// Symbol fonts keep their characters in a private range, offset by the code.
 constexpr char32_t kSigns = 0xF000;
-/// In front of it other fonts have something else in that range.
+/// Below this code, other fonts have something else in that range.
 constexpr int kFirstSign = 0x20;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Single characters of a font by their codes, as CharacterMark has them.
+// Draws single characters of a font by their codes, for CharacterMark.
 #pragma once
 
 #include <QFont>
@@ -12,11 +12,12 @@ class QPainter;
 
 namespace orx::qt {
 
-/// The character that a font has under a code: the letter, else the sign in the private range; none without both.
+/// The character that a font has for a code: the letter, else the symbol in the private range; none when it has
+/// neither.
 std::optional<char32_t> CharacterFor(int code, const std::function<bool(char32_t)>& isInFont);
 
-/// A font with its characters under single-byte codes. No other font lends it a character that it lacks: its sign for
-/// missing ones stands in.
+/// A font whose characters are found by single-byte codes. A character that it lacks is not taken from another font:
+/// its own sign for missing characters is drawn.
 class CharacterFont {
  public:
   /// `dialogFont` stands in for a font whose name is too long to be one.
@@ -24,7 +25,7 @@ class CharacterFont {
 
   const Font& Face() const { return mFace; }
   Size Measure(int code) const;
-  /// Draws the character in the painter's pen.
+  /// Draws the character with the painter's pen.
   void Draw(QPainter& painter, const Point& place, int code) const;
 
  private:

@@ -11,11 +11,11 @@ struct ColorRequest;
 
 namespace orx::qt {
 
-/// Has the user choose a colour as Desktop::ChooseColor says. `running` is called in its modal loop; what it throws
-/// closes the dialog and travels.
+/// Has the user choose a colour as Desktop::ChooseColor says. `running` is called in its modal loop; an exception from
+/// it closes the dialog and is passed on.
 bool RunColorDialog(ColorRequest& request, const std::function<void()>& running);
 
-/// The dialog for colours that waits for its answer, null when there is none.
+/// The colour dialog that is open, null when there is none.
 QColorDialog* OpenColorDialog();
 
 }  // namespace orx::qt

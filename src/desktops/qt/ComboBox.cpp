@@ -11,7 +11,7 @@
 namespace orx::qt {
 namespace {
 
-/// A combo box whose list opens only when the form lets the focus come here.
+/// A combo box whose list opens only when the form grants it the focus.
 class NativeCombo final : public QComboBox {
  public:
   using QComboBox::QComboBox;
@@ -30,7 +30,7 @@ class ComboBoxPeer final : public Peer {
     } else {
       mNative.setFocusPolicy(Qt::TabFocus);
     }
-    // The function may be called while the peer goes; it holds nothing of it.
+    // The function may be called while the peer is being destroyed, so it holds nothing of it.
     mNative.MayOpen = [&control, &dialog] {
       bool agreed = false;
       dialog.Report([&] { control.OwnerForm().UserAct([&] { agreed = control.OwnerForm().MoveFocus(control); }); });
@@ -53,7 +53,7 @@ class ComboBoxPeer final : public Peer {
   }
 
   Qt::FocusReason ReasonToFocus() const override {
-    // Qt would select the text when it believes that the Tab key was pressed.
+    // With the reason of the Tab key, Qt would select the text.
     return IsEditable() ? Qt::OtherFocusReason : Peer::ReasonToFocus();
   }
 

@@ -12,11 +12,11 @@
 
 namespace orx::qt {
 
-Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
+Dialog::Dialog(Form& form) : FormGate(form), mContent(*this, form) {
   setObjectName(ToQt(form.Name()));
-  // A font of its own, every control would have to take over.
+  // A font set here would have to be passed on to every control.
   if (const QFont face = DialogFont(); face != font()) setFont(face);
-  // The end of the host's application is not for a dialog to decide.
+  // Closing a dialog must not end the host's application.
   setAttribute(Qt::WA_QuitOnClose, false);
   Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (form.Border() == BorderStyle::Fixed) flags |= Qt::MSWindowsFixedSizeDialogHint;
@@ -24,26 +24,16 @@ Dialog::Dialog(Form& form) : mForm(form), mGround(*this, form) {
   setMouseTracking(true);
   mUpdateTimer.setSingleShot(true);
   connect(&mUpdateTimer, &QTimer::timeout, this, [this] {
-    if (!mRetired) mForm.ShowUpdates();
+    if (!IsRetired()) Owner().ShowUpdates();
   });
-}
-
-void Dialog::Report(const std::function<void()>& act) {
-  if (mRetired || mQuiet > 0 || !mForm.Visible() || !mForm.Enabled()) return;
-  ++mActs;
-  {
-    const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
-    act();
-  }
-  if (--mActs == 0 && mRetired) deleteLater();
 }
 
 bool Dialog::ReportKey(const QKeyEvent& event) {
   const std::optional<KeyStroke> stroke = StrokeOf(event);
   if (!stroke) return false;
   bool handled = false;
-  Report([&] { handled = mForm.UserKey(*stroke); });
-  // A letter with Alt is a command, though none may answer to it; Qt would type the letter.
+  Report([&] { handled = Owner().UserKey(*stroke); });
+  // A letter with Alt is a command even when no control has that mnemonic; Qt would type the letter.
   return handled || stroke->Key == Key::Character;
 }
 
@@ -73,43 +63,43 @@ bool Dialog::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Dialog::Retire() {
-  mRetired = true;
+  const Busy busy(*this);
+  CutOff();
   hide();
-  if (mActs == 0) deleteLater();
 }
 
 void Dialog::closeEvent(QCloseEvent* event) {
   event->ignore();
-  Report([this] { mForm.UserClose(); });
+  Report([this] { Owner().UserClose(); });
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
-  // Keys come here from a control that had no use for them, and the form has seen them there; only without a control
-  // they are new. The base class is passed by: it would close the dialog on Escape and press buttons on Enter.
+  // Keys arrive here from a control that had no use for them, and the form has already seen those; only without such a
+  // control are they new. The base class is not called: it would close the dialog on Escape and press buttons on Enter.
   event->ignore();
   if ((!focusWidget() || focusWidget() == this) && ReportKey(*event)) event->accept();
 }
 
 void Dialog::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
-  if (mRetired || mForm.Border() == BorderStyle::Fixed || size() == mGround.WindowSize()) return;
-  const int width = size().width() - mGround.ExtraWidth();
+  if (IsRetired() || Owner().Border() == BorderStyle::Fixed || size() == mContent.WindowSize()) return;
+  const int width = size().width() - mContent.ExtraWidth();
   const int height = size().height();
-  Report([&] { mForm.UserResize({mForm.OwnerDesktop().ToTwips(width), mForm.OwnerDesktop().ToTwips(height)}); });
-  if (!mRetired) mGround.Arrange();
+  Report([&] { Owner().UserResize({Owner().OwnerDesktop().ToTwips(width), Owner().OwnerDesktop().ToTwips(height)}); });
+  if (!IsRetired()) mContent.Arrange();
 }
 
 void Dialog::moveEvent(QMoveEvent* event) {
   QDialog::moveEvent(event);
-  if (mRetired) return;
-  const Desktop& desktop = mForm.OwnerDesktop();
-  if (x() == desktop.ToPixels(mForm.Left()) && y() == desktop.ToPixels(mForm.Top())) return;
-  Report([&] { mForm.UserMove(desktop.ToTwips(x()), desktop.ToTwips(y())); });
+  if (IsRetired()) return;
+  const Desktop& desktop = Owner().OwnerDesktop();
+  if (x() == desktop.ToPixels(Owner().Left()) && y() == desktop.ToPixels(Owner().Top())) return;
+  Report([&] { Owner().UserMove(desktop.ToTwips(x()), desktop.ToTwips(y())); });
 }
 
 void Dialog::ReportMouse() {
   const QPoint at = mapFromGlobal(QCursor::pos());
-  Report([&] { mForm.UserMouseMove({at.x(), at.y()}); });
+  Report([&] { Owner().UserMouseMove({at.x(), at.y()}); });
 }
 
 void Dialog::DragBottomEdge() {
@@ -120,7 +110,7 @@ void Dialog::DragBottomEdge() {
 void Dialog::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   mPressedAt = event->position().toPoint();
-  Report([this] { mForm.UserMouseDown({mPressedAt.x(), mPressedAt.y()}); });
+  Report([this] { Owner().UserMouseDown({mPressedAt.x(), mPressedAt.y()}); });
 }
 
 void Dialog::mouseMoveEvent(QMouseEvent* event) {
@@ -128,7 +118,7 @@ void Dialog::mouseMoveEvent(QMouseEvent* event) {
   if (mDragged) {
     resize(width(), std::max(1, at.y() + *mDragged));
   } else {
-    Report([&] { mForm.UserMouseMove({at.x(), at.y()}); });
+    Report([&] { Owner().UserMouseMove({at.x(), at.y()}); });
   }
 }
 
@@ -138,7 +128,7 @@ void Dialog::mouseReleaseEvent(QMouseEvent*) {
 
 void Dialog::leaveEvent(QEvent* event) {
   QDialog::leaveEvent(event);
-  Report([this] { mForm.UserMouseMove({-1, -1}); });
+  Report([this] { Owner().UserMouseMove({-1, -1}); });
 }
 
 }  // namespace orx::qt

@@ -1,51 +1,34 @@
-// The native window of a form. It is the gate through which all that the user does reaches the form, and it stays in
-// memory while such an act runs, even when the act closes the form.
+// The native window of a form. It reports to the form what the user does.
 #pragma once
 
 #include <QDialog>
 #include <QTimer>
 #include <chrono>
-#include <functional>
 #include <optional>
 
-#include "desktops/qt/Surface.h"
+#include "desktops/qt/ContentPane.h"
+#include "forms/FormGate.h"
 
 namespace orx::qt {
 
-class Dialog final : public QDialog {
+class Dialog final : public QDialog, public FormGate {
  public:
   explicit Dialog(Form& form);
 
-  Form& Owner() const { return mForm; }
-  Surface& Ground() { return mGround; }
+  ContentPane& Content() { return mContent; }
 
-  /// Runs `act`, which reports to the form. Does nothing while the program itself moves the widgets, nor when the form
-  /// is not shown. `act` and its surroundings may be gone when this returns.
-  void Report(const std::function<void()>& act);
   /// Hands a key press to the form. True when it is dealt with.
   bool ReportKey(const QKeyEvent& event);
   /// Tells the form where the mouse is.
   void ReportMouse();
-  /// Has the window system drag the lower edge, or does so itself where that cannot.
+  /// Has the window system drag the lower edge, or drags it here where the window system cannot.
   void DragBottomEdge();
-  /// Has the form show what it keeps back, once, after that time.
+  /// Has the form show, once and after that time, the changes that it holds back.
   void CallShowUpdates(std::chrono::milliseconds after) { mUpdateTimer.start(after); }
-  /// Has all presses of mouse and keys in this window come to nothing.
+  /// Drops all presses of mouse and keys in this window, or lets them through again.
   void BlockInput(bool block);
-  /// Cuts the dialog off from its form and deletes it as soon as no event of it runs.
+  /// Cuts the dialog off from its form and deletes it as soon as none of its events is being handled.
   void Retire();
-
-  /// While one lives, what happens to the widgets is the program's doing and not reported.
-  class Quiet {
-   public:
-    explicit Quiet(Dialog& dialog) : mDialog(dialog) { ++mDialog.mQuiet; }
-    ~Quiet() { --mDialog.mQuiet; }
-    Quiet(const Quiet&) = delete;
-    Quiet& operator=(const Quiet&) = delete;
-
-   private:
-    Dialog& mDialog;
-  };
 
   /// Escape and the default button are the form's business.
   void reject() override {}
@@ -62,14 +45,12 @@ class Dialog final : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  Form& mForm;
-  Surface mGround;
-  int mQuiet = 0;
-  int mActs = 0;
-  bool mRetired = false;
+  void LetGo() override { deleteLater(); }
+
+  ContentPane mContent;
   QTimer mUpdateTimer;
   QPoint mPressedAt;
-  /// While the dialog drags its edge itself: how far the edge stands below the mouse.
+  /// While the dialog drags its edge itself: how far below the mouse the edge is.
   std::optional<int> mDragged;
 };
 

@@ -6,11 +6,12 @@
 
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
+#include "forms/PeerMaker.h"
 
 namespace orx::qt {
 namespace {
 
-/// The window that the host has named, null when there is none.
+/// The window that the host has named as owner, null when there is none.
 QWindow* NamedWindow(const OwnerWindow& owner) {
   if (owner.OwnerForm && owner.OwnerForm->Window()) {
     const Dialog* const dialog = static_cast<DialogWindow*>(owner.OwnerForm->Window())->Native();
@@ -25,11 +26,11 @@ QWindow* NamedWindow(const OwnerWindow& owner) {
 
 }  // namespace
 
-DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mMaker(*mDialog) {
+DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)) {
   MakePeers(form, nullptr);
-  // A label looks for the peer of its neighbour, so all are there before the first one shows anything.
+  // A label looks for the peer of its neighbour, so all peers exist before the first one shows anything.
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
-  mDialog->Ground().Complete();
+  mDialog->Content().Complete();
   OrderTabs();
   UpdateCaption();
 }
@@ -40,12 +41,10 @@ DialogWindow::~DialogWindow() {
 
 void DialogWindow::MakePeers(const Container& container, QWidget* parent) {
   for (Control* const control : container.Children()) {
-    std::unique_ptr<Peer>& peer =
-        mPeers.emplace_back(mMaker.Make(*control, parent ? *parent : mDialog->Ground().HomeOf(*control)));
-    control->Peer(peer.get());
-    QWidget& widget = peer->Widget();
-    if (!parent) mDialog->Ground().Add(*control, widget);
-    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, &widget);
+    QWidget& home = parent ? *parent : mDialog->Content().HomeOf(*control);
+    Peer& peer = *mPeers.emplace_back(PeerMaker<Peer, Dialog, QWidget>(*mDialog, home).Make(*control));
+    control->Peer(&peer);
+    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, &peer.Widget());
   }
 }
 
@@ -63,7 +62,7 @@ QWindow* DialogWindow::WindowOf(const OwnerWindow& owner) const {
   QWindow* const named = NamedWindow(owner);
   const QWidget* const modal = QApplication::activeModalWidget();
   if (!modal || modal == mDialog) return named;
-  // A modal window of the host keeps the user from all windows that do not stand before it.
+  // A modal window of the host keeps the user from all windows that are not in front of it.
   for (const QWindow* at = named; at; at = at->transientParent())
     if (at == modal->windowHandle()) return named;
   return modal->windowHandle();
@@ -90,7 +89,7 @@ void DialogWindow::RunModal() {
   if (mEnded) return;
   Desktop& desktop = mForm.OwnerDesktop();
   QTimer::singleShot(0, &mLoop, [this, &desktop] {
-    // Qt bears no exception that passes through its loops.
+    // Exceptions must not pass through Qt's event loops.
     try {
       if (!mEnded) desktop.ModalIsRunning({.ShownForm = &mForm});
     } catch (...) {
@@ -99,7 +98,7 @@ void DialogWindow::RunModal() {
     }
   });
   mLoop.exec();
-  // The host's application is about to end: the dialog goes as by its close box.
+  // The host's application is about to end: the dialog closes as if by its close box.
   if (!mEnded) mForm.WindowLost();
   if (mHookError) std::rethrow_exception(std::exchange(mHookError, nullptr));
 }
@@ -116,7 +115,7 @@ void DialogWindow::UpdateCaption() {
 void DialogWindow::UpdatePlace() {
   const Dialog::Quiet quiet(*mDialog);
   const Desktop& desktop = mForm.OwnerDesktop();
-  const QSize size = mDialog->Ground().WindowSize();
+  const QSize size = mDialog->Content().WindowSize();
   if (mForm.Border() == BorderStyle::Fixed) {
     mDialog->setFixedSize(size);
   } else {
@@ -124,7 +123,7 @@ void DialogWindow::UpdatePlace() {
     mDialog->resize(size);
   }
   mDialog->move(desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()));
-  mDialog->Ground().Arrange();
+  mDialog->Content().Arrange();
 }
 
 void DialogWindow::UpdateEnabled() {
@@ -136,7 +135,7 @@ void DialogWindow::Repaint() {
 }
 
 void DialogWindow::PaintChanges() {
-  // What Qt would send itself before long.
+  // Qt would send this itself before long.
   QEvent request(QEvent::UpdateRequest);
   QCoreApplication::sendEvent(mDialog, &request);
 }

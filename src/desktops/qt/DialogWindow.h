@@ -43,7 +43,6 @@ class DialogWindow final : public FormWindow {
 
   Form& mForm;
   Dialog* mDialog;
-  PeerMaker mMaker;
   std::vector<std::unique_ptr<Peer>> mPeers;
   QEventLoop mLoop;
   std::exception_ptr mHookError;

@@ -11,7 +11,7 @@
 namespace orx::qt {
 namespace {
 
-/// The toolkit's own dialog, which also gives names that do not exist yet when the user agrees.
+/// The toolkit's own dialog, which also accepts names that do not exist yet if the user agrees.
 class CreatingFileDialog final : public QFileDialog {
  public:
   explicit CreatingFileDialog(bool asks) : mAsks(asks) {}

@@ -11,11 +11,11 @@ struct OpenFileRequest;
 
 namespace orx::qt {
 
-/// Has the user choose files as Desktop::OpenFiles says. `running` is called in its modal loop; what it throws closes
-/// the dialog and travels.
+/// Has the user choose files as Desktop::OpenFiles says. `running` is called in its modal loop; an exception from it
+/// closes the dialog and is passed on.
 bool RunFileDialog(OpenFileRequest& request, const std::function<void()>& running);
 
-/// The dialog for files that waits for its answer, null when there is none.
+/// The file dialog that is open, null when there is none.
 QFileDialog* OpenFileDialog();
 
 }  // namespace orx::qt

@@ -10,16 +10,16 @@
 namespace orx::qt {
 namespace {
 
-/// The one store of the user, opened for a single act, so that several programs can share it.
+/// The user's store, opened for a single access, so that several programs can share it.
 class Store final : public QSettings {
  public:
   Store() : QSettings(QSettings::IniFormat, QSettings::UserScope, "OrvexMapDialogs2", "Settings") {
-    // A host's defaults for the whole machine are no settings of this library.
+    // Defaults for the whole machine are not settings of this library.
     setFallbacksEnabled(false);
   }
 };
 
-/// A level of a path in the store. Slashes would make further levels, so they are written as percent codes.
+/// A level of a path in the store. Slashes would start further levels, so they are percent-encoded.
 QString Level(const std::string& name) {
   return QString::fromLatin1(QUrl::toPercentEncoding(ToQt(name), " ()'!*"));
 }

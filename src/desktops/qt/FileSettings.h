@@ -1,4 +1,4 @@
-// Settings in the place that Qt has for them on the platform.
+// Settings where Qt keeps them on each platform.
 #pragma once
 
 #include "forms/SettingsStore.h"

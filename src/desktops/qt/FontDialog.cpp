@@ -49,7 +49,7 @@ bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {
   ColoredFontDialog dialog;
   dialog.setCurrentFont(FontOf(request.Chosen.Face, QApplication::font()));
   dialog.ChosenColor(request.Chosen.Color);
-  // The dialog may know no such font, and starts from another one then.
+  // The dialog may not know that font, and then starts from another one.
   const QFont given = dialog.currentFont();
   if (!RunPlatformDialog(dialog, request.OwnerHandle, running)) return false;
   TakeChanges(given, dialog.currentFont(), request.Chosen.Face);

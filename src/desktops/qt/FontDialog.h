@@ -14,7 +14,7 @@ struct FontRequest;
 
 namespace orx::qt {
 
-/// The toolkit's own dialog with a button for the colour, which it has not.
+/// The toolkit's own dialog, with a button added for the colour.
 class ColoredFontDialog final : public QFontDialog {
  public:
   ColoredFontDialog();
@@ -29,11 +29,11 @@ class ColoredFontDialog final : public QFontDialog {
   QPushButton* mButton;
 };
 
-/// Has the user choose a font as Desktop::ChooseFont says. `running` is called in its modal loop; what it throws
-/// closes the dialog and travels.
+/// Has the user choose a font as Desktop::ChooseFont says. `running` is called in its modal loop; an exception from it
+/// closes the dialog and is passed on.
 bool RunFontDialog(FontRequest& request, const std::function<void()>& running);
 
-/// The dialog for fonts that waits for its answer, null when there is none.
+/// The font dialog that is open, null when there is none.
 ColoredFontDialog* OpenFontDialog();
 
 }  // namespace orx::qt

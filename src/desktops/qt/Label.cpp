@@ -25,7 +25,7 @@ class LabelPeer final : public Peer {
     return mControl.Align() == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
   }
 
-  /// The widget that the label speaks of: that of the next control which takes the focus.
+  /// The widget that the label describes: that of the next control that takes the focus.
   QWidget* Buddy() const {
     const std::vector<Control*> all = mControl.OwnerForm().All();
     const auto next = std::find_if(std::find(all.begin(), all.end(), &mControl), all.end(),

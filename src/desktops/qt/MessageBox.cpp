@@ -28,7 +28,7 @@ QMessageBox::Icon NativeIcon(MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
-/// Puts the box before its owner's window. The owner is no parent widget, as the box must outlive it.
+/// Puts the box in front of its owner's window. The owner is not a parent widget, as the box must outlive it.
 void PutBefore(QMessageBox& box, QWindow* owner) {
   if (!owner) return;
   box.winId();
@@ -50,7 +50,7 @@ MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::f
   box.setAttribute(Qt::WA_QuitOnClose, false);
   const QWidget* const active = QApplication::activeWindow();
   PutBefore(box, owner || !active ? owner : active->windowHandle());
-  // A question is answered by its buttons. The toolkit adds the close box when it makes the window, so that it goes
+  // A question is answered by its buttons. The toolkit adds the close box when it makes the window, so it is removed
   // last.
   box.winId();
   if (isQuestion) box.setWindowFlag(Qt::WindowCloseButtonHint, false);

@@ -7,7 +7,7 @@
 namespace orx::qt {
 namespace {
 
-/// Raises Closing when it goes, which is before its widget goes.
+/// Raises Closing when it is destroyed, which is before its widget is.
 class NativeAreaPeer final : public Peer {
  public:
   NativeAreaPeer(NativeArea& control, Dialog& dialog, QWidget* native)

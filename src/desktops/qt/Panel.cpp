@@ -11,7 +11,7 @@ class PanelPeer final : public Peer {
 
  private:
   void Mirror(Aspect aspect) override {
-    // The page of a tab control is there, but not to be seen, while its tab is not selected.
+    // The page of a tab control is visible itself but not shown while its tab is not selected.
     if (aspect == Aspect::Visible) return ShowIf(mControl.Visible() && mControl.ShowsChildren());
     Peer::Mirror(aspect);
   }

@@ -9,11 +9,7 @@
 namespace orx::qt {
 namespace {
 
-constexpr Aspect kAspects[] = {Aspect::Items,   Aspect::Text,    Aspect::Value,     Aspect::Selection,
-                               Aspect::Colors,  Aspect::Place,   Aspect::Enabled,   Aspect::Visible,
-                               Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible};
-
-/// True when the whole window or a popup got or lost the focus, so that nothing changes within the form.
+/// True when the focus moves because of the whole window or a popup, so that nothing changes within the form.
 bool IsOutsideTheForm(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
 }
@@ -32,14 +28,10 @@ void Peer::Update(Aspect aspect) {
   Mirror(aspect);
 }
 
-void Peer::UpdateAll() {
-  for (const Aspect aspect : kAspects) Update(aspect);
-}
-
 void Peer::TakeFocus() {
   const Dialog::Quiet quiet(mDialog);
   mFocus->setFocus(ReasonToFocus());
-  mDialog.Ground().Reveal(*mWidget);
+  mDialog.Content().Reveal(*mWidget);
 }
 
 void Peer::Mirror(Aspect aspect) {
@@ -48,7 +40,7 @@ void Peer::Mirror(Aspect aspect) {
       return MirrorPlace();
     case Aspect::Visible:
       ShowIf(mControl.Visible());
-      return ArrangeGround();
+      return ArrangeContent();
     case Aspect::Enabled:
       return mWidget->setEnabled(mControl.Enabled());
     case Aspect::ToolTip:
@@ -62,29 +54,29 @@ void Peer::Mirror(Aspect aspect) {
 }
 
 void Peer::ShowIf(bool isVisible) {
-  // A new widget comes with its window by itself, and sooner than by being shown in one that is not there yet.
+  // A new widget appears together with its window; showing it before would cost time.
   if (mWidget->isHidden() == isVisible) mWidget->setVisible(isVisible);
 }
 
 void Peer::MirrorToolTip() {
-  // Qt sends an event for every tool tip that is set, also for none.
+  // Qt sends an event for every tool tip that is set, even for an empty one.
   const QString text = PlainToolTip(mControl.ToolTipText());
   if (text != mWidget->toolTip()) mWidget->setToolTip(text);
 }
 
 void Peer::MirrorName() {
-  // Assistive software is told of every name that is set, also of the same one.
+  // Assistive software is told of every name that is set, even of the same one.
   const QString name = ToQt(mControl.AccessibleName());
   if (name != mFocus->accessibleName()) mFocus->setAccessibleName(name);
 }
 
 void Peer::MirrorPlace() {
-  mWidget->setGeometry(mDialog.Ground().PlaceOf(mControl));
-  ArrangeGround();
+  ArrangeContent();
+  mWidget->setGeometry(mDialog.Content().PlaceOf(mControl));
 }
 
-void Peer::ArrangeGround() {
-  if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+void Peer::ArrangeContent() {
+  if (!mControl.Parent().ContainerControl()) mDialog.Content().Arrange();
 }
 
 void Peer::FocusCame(QObject& watched, QEvent& event) {
@@ -96,18 +88,18 @@ void Peer::FocusCame(QObject& watched, QEvent& event) {
   // A control that was clicked while the window was not yet the active one gets the focus along with the window.
   if (IsOutsideTheForm(reason) && control.HasFocus()) return;
   dialog.Report([&] {
-    dialog.Ground().Reveal(widget);
+    dialog.Content().Reveal(widget);
     dialog.Owner().UserFocus(control);
   });
 }
 
 bool Peer::eventFilter(QObject* watched, QEvent* event) {
-  // Over a widget the dialog is not told of the mouse.
+  // The dialog itself is not told of the mouse over a widget.
   if (event->type() == QEvent::Enter) mDialog.ReportMouse();
   if (watched != mFocus) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride:
-      // The press itself follows; no shortcut of Qt or of the host is to act on a dialog key.
+      // No shortcut of Qt or of the host may act on a dialog key; the press itself follows.
       if (!StrokeOf(static_cast<QKeyEvent&>(*event))) return false;
       event->accept();
       return true;
@@ -117,7 +109,7 @@ bool Peer::eventFilter(QObject* watched, QEvent* event) {
       FocusCame(*watched, *event);
       return true;
     case QEvent::Wheel:
-      // A turn of the wheel over a control that the user is not in scrolls the form and changes no value.
+      // Turning the wheel over a control that does not have the focus scrolls the form and changes no value.
       if (mControl.HasFocus()) return false;
       event->ignore();
       return true;

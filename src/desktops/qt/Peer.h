@@ -9,26 +9,24 @@
 
 namespace orx::qt {
 
-/// As a QObject it is the context of all its connections, which end with it. The widget belongs to its parent widget
-/// and may outlive the peer.
+/// It is a QObject so that its connections end with it. The widget belongs to its parent widget and may outlive the
+/// peer.
 class Peer : public QObject, public ControlPeer {
  public:
-  /// `focus` is the widget that takes keys and the focus for the control; null: `widget` itself.
+  /// `focus` is the widget that takes the focus and the keys for the control; null: `widget` itself.
   Peer(Control& control, Dialog& dialog, QWidget* widget, QWidget* focus = nullptr);
 
   void Update(Aspect aspect) final;
   void TakeFocus() final;
-  /// Brings all aspects up to the state of the control.
-  void UpdateAll();
 
   QWidget& Widget() const { return *mWidget; }
   QWidget& FocusWidget() const { return *mFocus; }
 
  protected:
-  /// Mirrors one aspect; a kind of control handles its own and leaves the others to this.
+  /// Mirrors one aspect. Each kind of control handles its own aspects and leaves the others to this.
   virtual void Mirror(Aspect aspect);
   void ShowIf(bool isVisible);
-  /// The reason to give Qt for a focus that comes by the form's decision.
+  /// The reason that Qt is given when the form moves the focus here.
   virtual Qt::FocusReason ReasonToFocus() const { return Qt::TabFocusReason; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -39,9 +37,9 @@ class Peer : public QObject, public ControlPeer {
   void MirrorName();
   void MirrorToolTip();
   void MirrorPlace();
-  /// Lets the ground of the form follow a control that stands on it.
-  void ArrangeGround();
-  /// Lets the widget have the event, then tells the form that the focus has come.
+  /// Lets the content pane follow a control that stands directly in it.
+  void ArrangeContent();
+  /// Lets the widget handle the event, then tells the form that it has the focus.
   void FocusCame(QObject& watched, QEvent& event);
 
   Control& mControl;

@@ -42,7 +42,7 @@ class NativePicture final : public QWidget {
   }
 
  private:
-  /// What the press sets off may take the functions away.
+  /// The handlers of the press may reset the functions.
   static void Press(const QMouseEvent& event, const std::function<void(QPoint)>& member) {
     const auto pressed = member;
     if (pressed && event.button() == Qt::LeftButton) pressed(event.position().toPoint());
@@ -84,7 +84,7 @@ class PicturePeer final : public Peer {
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Colors || aspect == Aspect::Drawing || aspect == Aspect::Enabled) mNative.update();
     Peer::Mirror(aspect);
-    // Drawings fill exactly the size that the control tells.
+    // Drawings fill exactly the size that the control reports.
     if (aspect == Aspect::Place) mNative.resize(mControl.PixelSize().Width, mControl.PixelSize().Height);
   }
 

@@ -1,4 +1,4 @@
-// The dialogs that the toolkit brings for choosing something: files, a colour.
+// The toolkit's own dialogs for choosing something: files, a colour, a font.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,9 @@ class QDialog;
 
 namespace orx::qt {
 
-/// Shows the dialog before the window with that WId (0: before what the user works in) and returns when it has closed;
-/// true when it was accepted. `running` is called in its modal loop; what it throws closes the dialog and travels.
+/// Shows the dialog in front of the window with that WId (0: in front of the active one) and returns when it has
+/// closed; true when it was accepted. `running` is called in its modal loop; an exception from it closes the dialog and
+/// is passed on.
 bool RunPlatformDialog(QDialog& dialog, std::uintptr_t owner, const std::function<void()>& running);
 
 }  // namespace orx::qt

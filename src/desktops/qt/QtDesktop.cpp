@@ -13,7 +13,6 @@
 #include <QStyle>
 #include <QUrl>
 #include <algorithm>
-#include <optional>
 
 #include "desktops/qt/Application.h"
 #include "desktops/qt/Characters.h"
@@ -29,19 +28,19 @@
 namespace orx::qt {
 namespace {
 
-/// The font size, in points, for which the dialogs are drawn up.
+/// The font size, in points, for which the dialogs are designed.
 constexpr double kDesignPoints = 9;
 constexpr double kDesignDotsPerInch = 96;
 
-/// What the window manager adds to a dialog, as the style thinks of frames. The truth is known only when a window has
-/// been shown, and dialogs are placed before.
+/// The size that the window manager adds to a dialog, estimated from the style's frames. The exact size is known only
+/// after a window has been shown, and dialogs are placed before that.
 QSize FrameSize() {
   const QStyle& style = *QApplication::style();
   const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
   return {2 * edge, 2 * edge + style.pixelMetric(QStyle::PM_TitleBarHeight)};
 }
 
-/// Deletes the dialogs that wait for it; without a running event loop nobody else does.
+/// Deletes the dialogs that wait for it; without a running event loop nothing else does.
 void DeleteRetiredDialogs() {
   std::vector<Dialog*> dialogs;
   for (QWidget* const window : QApplication::topLevelWidgets())
@@ -76,10 +75,8 @@ Rect InTwips(const Desktop& desktop, const QRect& place) {
 
 struct QtDesktop::State {
   FileSettings Settings;
-  std::optional<numbers::Separators> Separators;
-  std::optional<Rect> WorkArea;
   bool PointerIsOurs = false;
-  /// The scale, and what it was worked out from: measuring a font takes longer than all else in placing a control.
+  /// The scale, and what it was computed from: measuring a font takes longer than everything else in placing a control.
   double Scale = 1;
   double Dots = 0;
   QFont MeasuredFont;
@@ -95,22 +92,20 @@ QtDesktop::~QtDesktop() {
   DeleteRetiredDialogs();
 }
 
-ScreenMetrics QtDesktop::Metrics(BorderStyle) const {
+ScreenMetrics QtDesktop::SystemMetrics(BorderStyle) const {
   ScreenMetrics metrics;
   if (const QScreen* const screen = QGuiApplication::primaryScreen()) {
     const Rect whole = InTwips(*this, screen->geometry());
     metrics.Screen = {whole.Width, whole.Height};
     metrics.WorkArea = InTwips(*this, screen->availableGeometry());
   }
-  if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
   const QSize frame = FrameSize();
   metrics.Frame = {ToTwips(frame.width()), ToTwips(frame.height())};
   return metrics;
 }
 
-std::vector<Rect> QtDesktop::WorkAreas() const {
-  std::vector<Rect> areas = Desktop::WorkAreas();
-  if (mState->WorkArea) return areas;
+std::vector<Rect> QtDesktop::FurtherWorkAreas() const {
+  std::vector<Rect> areas;
   for (const QScreen* const screen : QGuiApplication::screens())
     if (screen != QGuiApplication::primaryScreen()) areas.push_back(InTwips(*this, screen->availableGeometry()));
   return areas;
@@ -144,18 +139,9 @@ Size QtDesktop::MeasureCharacter(const Font& face, int code) const {
   return CharacterFont(face, DialogFont()).Measure(code);
 }
 
-numbers::Separators QtDesktop::Separators() const {
-  if (mState->Separators) return *mState->Separators;
+numbers::Separators QtDesktop::LocaleSeparators() const {
   const QLocale locale = QLocale::system();
   return {FromQt(locale.decimalPoint()), FromQt(locale.groupSeparator()), FromQt(locale.currencySymbol())};
-}
-
-void QtDesktop::Separators(const numbers::Separators& value) {
-  mState->Separators = value;
-}
-
-void QtDesktop::WorkArea(const Rect& value) {
-  mState->WorkArea = value;
 }
 
 SettingsStore& QtDesktop::Settings() {
@@ -202,7 +188,7 @@ void QtDesktop::DoBeep() {
 }
 
 void QtDesktop::DoSetPointer(orx::Pointer value) {
-  // One override at most is this desktop's own; those of the host below it stay.
+  // At most one override is this desktop's own; the host's below it stay.
   if (mState->PointerIsOurs) QGuiApplication::restoreOverrideCursor();
   mState->PointerIsOurs = value != orx::Pointer::Default;
   if (mState->PointerIsOurs)

@@ -5,13 +5,12 @@
 #include <memory>
 #include <string>
 
-#include "forms/Desktop.h"
+#include "forms/NativeDesktop.h"
 
 namespace orx::qt {
 
-/// Use it on the thread of the QApplication only. Dialogs take the application's font, at 9 points or more, and grow
-/// with it.
-class QtDesktop final : public Desktop {
+/// For the thread of the QApplication only. Dialogs use the application's font, at 9 points or more, and grow with it.
+class QtDesktop final : public NativeDesktop {
  public:
   /// Uses the host's QApplication. When there is none, one is made that serves all desktops to come and stays until the
   /// process ends. Throws std::logic_error when the host's application object is no QApplication.
@@ -19,26 +18,18 @@ class QtDesktop final : public Desktop {
   /// Closes the forms that are still open.
   ~QtDesktop() override;
 
-  ScreenMetrics Metrics(BorderStyle border) const override;
-  std::vector<Rect> WorkAreas() const override;
   double Scale() const override;
   std::vector<std::string> ScreenFonts() const override;
   Color SystemColor(orx::SystemColor which) const override;
   Size MeasureCharacter(const Font& face, int code) const override;
-  numbers::Separators Separators() const override;
   SettingsStore& Settings() override;
-
-  /// Gives number separators in place of the locale's.
-  void Separators(const numbers::Separators& value);
-  /// Gives a part of the screen, in twips, to keep the dialogs in, in place of the screen's own work area.
-  void WorkArea(const Rect& value);
-
-  /// Writes a picture of a form that is shown, or of the message box that is open, without the frame of its window and
-  /// with all the pixels of the screen, as PNG file. False when nothing is shown or the file cannot be written.
-  bool SavePicture(const Form& form, const std::string& pngPath) const;
-  bool SaveMessagePicture(const std::string& pngPath) const;
+  bool SavePicture(const Form& form, const std::string& pngPath) const override;
+  bool SaveMessagePicture(const std::string& pngPath) const override;
 
  protected:
+  ScreenMetrics SystemMetrics(BorderStyle border) const override;
+  std::vector<Rect> FurtherWorkAreas() const override;
+  numbers::Separators LocaleSeparators() const override;
   std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
   MessageAnswer DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;

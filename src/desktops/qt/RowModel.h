@@ -1,45 +1,41 @@
-// The rows of a list as a view asks for them: they stay in the control, and the view reads those that it shows.
+// The rows of a list, for a view: they stay in the control, and the view reads those that it shows.
 #pragma once
 
 #include <QAbstractListModel>
 
 #include "desktops/qt/Text.h"
+#include "forms/RowList.h"
 
 namespace orx::qt {
 
-/// Belongs to a view, which may outlive the control: Forget cuts it off, and the view is empty from then on.
-template <class List>
-class RowModel : public QAbstractListModel {
+/// Belongs to a view, which may outlive the control: after Forget the view is empty.
+class RowModel final : public QAbstractListModel {
  public:
-  RowModel(const List& control, QObject* parent) : QAbstractListModel(parent), mControl(&control) {}
+  RowModel(const RowList& rows, QObject* parent) : QAbstractListModel(parent), mRows(&rows) {}
 
   int rowCount(const QModelIndex& parent) const override {
-    return mControl && !parent.isValid() ? Count(*mControl) : 0;
+    return mRows && !parent.isValid() ? mRows->ShownCount() : 0;
   }
   QVariant data(const QModelIndex& index, int role) const override {
     if (role != Qt::DisplayRole || !Holds(index)) return {};
-    return ToQt(Text(*mControl, index.row()));
+    return ToQt(mRows->ShownText(index.row()));
   }
   /// True when the control has a row for it.
-  bool Holds(const QModelIndex& index) const { return mControl && index.row() >= 0 && index.row() < Count(*mControl); }
-  /// Has the view read all anew.
+  bool Holds(const QModelIndex& index) const { return mRows && index.row() >= 0 && index.row() < mRows->ShownCount(); }
+  /// To be called only while it holds an index.
+  const RowList& Rows() const { return *mRows; }
+  /// Makes the view read everything again.
   void Renew() {
     beginResetModel();
     endResetModel();
   }
   void Forget() {
-    mControl = nullptr;
+    mRows = nullptr;
     Renew();
   }
 
- protected:
-  virtual int Count(const List& control) const = 0;
-  virtual const std::string& Text(const List& control, int row) const = 0;
-  /// Only for an index that it holds.
-  const List& Source() const { return *mControl; }
-
  private:
-  const List* mControl;
+  const RowList* mRows;
 };
 
 }  // namespace orx::qt

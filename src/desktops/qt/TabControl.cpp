@@ -13,7 +13,7 @@
 namespace orx::qt {
 namespace {
 
-/// A tab strip that is never higher than the strip for which the pages leave room.
+/// A tab strip that is never higher than the room that the pages leave for it.
 class Strip final : public QTabBar {
  public:
   explicit Strip(int height) : mHeight(height) {}
@@ -28,7 +28,7 @@ class Strip final : public QTabBar {
   int mHeight;
 };
 
-/// The pages of the form stand on the tab widget itself, at their designed places. What Qt holds for pages is empty.
+/// The form's pages are children of the tab widget itself, at their designed places. Qt's own pages stay empty.
 class NativeTabs final : public QTabWidget {
  public:
   NativeTabs(QWidget& parent, int stripHeight) : QTabWidget(&parent) {
@@ -45,7 +45,7 @@ class TabControlPeer final : public Peer {
     for (int tab = 0; tab < control.TabCount(); ++tab) mNative.addTab(new QWidget, QString());
     const auto select = [this](int tab) { Report([this, tab] { mControl.UserSelect(tab); }); };
     connect(&mNative, &QTabWidget::currentChanged, this, select);
-    // A click on the selected tab changes nothing but brings the focus.
+    // A click on the selected tab changes nothing but moves the focus here.
     connect(&mNative, &QTabWidget::tabBarClicked, this, [this, select](int tab) {
       if (tab == mControl.Tab()) select(tab);
     });

@@ -18,17 +18,17 @@ inline std::string FromQt(const QString& text) {
   return text.toStdString();
 }
 
-/// The offset in code units of the character with that index, and back.
+/// Converts the index of a character to its offset in code units, and back.
 int UnitOffset(const QString& text, int character);
 int CharacterIndex(const QString& text, int unitOffset);
 
-/// A tool tip that shows `text` as it stands, although Qt takes what looks like markup for rich text.
+/// A tool tip that shows `text` literally, although Qt takes anything that looks like markup for rich text.
 QString PlainToolTip(const std::string& text);
 
-/// The key press when it may be one that a dialog decides about, nothing otherwise.
+/// The key press if it may be one that the dialog handles, nothing otherwise.
 std::optional<KeyStroke> StrokeOf(const QKeyEvent& event);
 
-/// The platform's code of the key (forms/Keys.h), 0 for keys that have none here.
+/// The code of the key as forms/Keys.h has it, 0 for any other key.
 int KeyCodeOf(const QKeyEvent& event);
 
 }  // namespace orx::qt

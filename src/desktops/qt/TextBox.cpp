@@ -11,12 +11,12 @@
 namespace orx::qt {
 namespace {
 
-/// What fields of one and of several lines have in common.
+/// What single-line and multi-line fields have in common.
 class FieldPeer : public Peer {
  public:
   FieldPeer(TextBox& control, Dialog& dialog, QWidget* native) : Peer(control, dialog, native), mControl(control) {
     if (!control.Locked()) return;
-    // On the ground of the dialog, nobody takes it for a field to type in.
+    // With the dialog's background it does not look like a field to type in.
     QPalette palette = native->palette();
     palette.setColor(QPalette::Base, palette.color(QPalette::Window));
     native->setPalette(palette);
@@ -47,7 +47,7 @@ class FieldPeer : public Peer {
     Report([&] { std::invoke(act, mControl, FromQt(text), first, count); });
   }
 
-  // Qt would select the text when it believes that the Tab key was pressed.
+  // With the reason of the Tab key, Qt would select the text.
   Qt::FocusReason ReasonToFocus() const override { return Qt::OtherFocusReason; }
 
   void Mirror(Aspect aspect) override {
@@ -96,7 +96,7 @@ class LinesPeer final : public FieldPeer {
   LinesPeer(TextBox& control, Dialog& dialog, QPlainTextEdit* native)
       : FieldPeer(control, dialog, native), mNative(*native) {
     mNative.setReadOnly(control.Locked());
-    // A locked field can still be read by keyboard.
+    // A locked field can still be read with the keyboard.
     if (control.Locked()) mNative.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     connect(&mNative, &QPlainTextEdit::textChanged, this, [this] { ReportText(); });
     connect(&mNative, &QPlainTextEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
@@ -118,7 +118,7 @@ class LinesPeer final : public FieldPeer {
     caret.setPosition(start);
     caret.setPosition(start + length, QTextCursor::KeepAnchor);
     mNative.setTextCursor(caret);
-    // A locked field is a log, of which the last lines are the news.
+    // A locked field is a log, whose last lines are the newest.
     if (Field().Locked()) mNative.verticalScrollBar()->setValue(mNative.verticalScrollBar()->maximum());
   }
 

@@ -1,7 +1,7 @@
 #include "desktops/win32/Accessible.h"
 
 #include <initguid.h>
-// After initguid.h, so that the identifiers are defined here.
+// After initguid.h, which makes this header define the identifiers.
 #include <oleacc.h>
 
 #include <memory>
@@ -15,7 +15,7 @@ struct Releaser {
   void operator()(IUnknown* object) const { object->Release(); }
 };
 
-/// Null on a thread that has not initialised COM, which is not for a guest to do.
+/// Null on a thread that has not initialised COM; a guest must not do that for its host.
 std::unique_ptr<IAccPropServices, Releaser> Services() {
   IAccPropServices* services = nullptr;
   CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,

@@ -1,4 +1,4 @@
-// Names for assistive software where the platform finds none by itself.
+// Names for assistive software, for windows where the platform finds none by itself.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@ namespace orx::win32 {
 
 /// Gives a window a name. Does nothing and returns false for an empty name, and where the system has no such service.
 bool SetAccessibleName(HWND window, const std::string& name);
-/// Takes the name back; the platform keeps it beyond the life of the window.
+/// Removes the name; the platform would keep it beyond the life of the window.
 void ForgetAccessibleName(HWND window);
 
 }  // namespace orx::win32

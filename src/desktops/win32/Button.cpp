@@ -21,8 +21,8 @@ GdiObject<HBITMAP> ColorsOf(const Image& image) {
   return bitmap;
 }
 
-/// One bit for each pixel, rows of whole words: set where the picture is transparent. A disabled button draws the shape
-/// that is left.
+/// One bit for each pixel, rows of whole words: set where the picture is transparent. A disabled button draws the
+/// remaining shape.
 GdiObject<HBITMAP> MaskOf(const Image& image) {
   const auto width = static_cast<std::size_t>(image.Width);
   const std::size_t stride = (width + 15) / 16 * 2;
@@ -64,7 +64,7 @@ class ButtonPeer final : public Peer {
   }
 
   void ShowPicture(const Glyph& picture) {
-    // The platform itself draws it otherwise while the button is disabled.
+    // The platform would draw it differently while the button is disabled.
     const int pixels = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
     mIcon = std::make_unique<Icon>(DrawGlyph(picture, pixels, false));
     SendMessageW(Window(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(mIcon->Get()));
@@ -78,7 +78,7 @@ class ButtonPeer final : public Peer {
   }
 
   LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
-    // Enter presses the button that has the focus, so it wears the mark of the default one meanwhile.
+    // Enter presses the button that has the focus, so it carries the mark of the default button while it has it.
     if (message == WM_SETFOCUS) MarkDefault(window);
     if (message == WM_KILLFOCUS) MarkDefault(nullptr);
     return Peer::OnMessage(window, message, wParam, lParam);

@@ -21,7 +21,7 @@ RECT RectOf(const Rect& place) {
   return {place.Left, place.Top, place.Right(), place.Bottom()};
 }
 
-/// A raster of the platform in memory: blue, green, red and alpha, premultiplied, from the top.
+/// A bitmap in memory, in the platform's format: blue, green, red and premultiplied alpha, rows from the top.
 class PixelContext {
  public:
   explicit PixelContext(HDC like, const Image& image) : mContext(CreateCompatibleDC(like)) {
@@ -82,7 +82,7 @@ class MarkPainter {
     SIZE size = {};
     TEXTMETRICW font = {};
     {
-      // Measured before it is turned: turned texts have extents of their own.
+      // Measured before it is turned: rotated texts have other extents.
       const GdiObject<HFONT> upright = MakeFont(mark.Face);
       const Selection selection(mContext, upright.get());
       GetTextExtentPoint32W(mContext, text.c_str(), length, &size);
@@ -93,7 +93,7 @@ class MarkPainter {
     SetTextColor(mContext, ColorOf(mark.Pen));
     SetBkMode(mContext, TRANSPARENT);
     SetTextAlign(mContext, TA_LEFT | TA_BASELINE);
-    // The start of the base line, seen from the centre; the screen's y axis points down.
+    // The start of the base line relative to the centre; the screen's y axis points down.
     const double right = -size.cx / 2.0;
     const double down = font.tmAscent - size.cy / 2.0;
     const double angle = mark.Rotation * std::numbers::pi / 180;
@@ -119,7 +119,7 @@ class MarkPainter {
   }
 
   void operator()(const CharacterMark& mark) {
-    // Characters come by the hundred, all of one font.
+    // Characters come by the hundred, all in the same font.
     if (mCharacterFace != mark.Face) {
       mCharacterFont = MakeCharacterFont(mContext, mark.Face);
       mCharacterFace = mark.Face;

@@ -26,7 +26,7 @@ void FillCell(HDC context, const Rect& cell, Color ground) {
 int CALLBACK AddFont(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) {
   auto& list = *reinterpret_cast<std::vector<std::string>*>(names);
   const std::string name = Narrowed(font->lfFaceName);
-  // A font is told once for each of its scripts.
+  // A font is reported once for each of its scripts.
   if (std::ranges::find(list, name) == list.end()) list.push_back(name);
   return TRUE;
 }

@@ -1,4 +1,4 @@
-// Single characters of a font by their codes in the code page of the process, as CharacterMark has them.
+// Draws single characters of a font by their codes in the code page of the process, for CharacterMark.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace orx::win32 {
 
-/// The font for a device; none for a name that is too long to be one, for which the device keeps its own.
+/// The font for a device. None when the name is too long for a font; the device keeps its own then.
 GdiObject<HFONT> MakeCharacterFont(HDC context, const Font& face);
 
 /// Fills the cell and draws the character on it. The caller saves and restores the context.

@@ -12,7 +12,7 @@ class CheckBoxPeer final : public Peer {
  private:
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Text) ShowText(Window(), mControl.Caption());
-    // The codes of the states are the platform's.
+    // The states have the platform's codes.
     if (aspect == Aspect::Value) SendMessageW(Window(), BM_SETCHECK, static_cast<WPARAM>(mControl.Value()), 0);
     Peer::Mirror(aspect);
   }

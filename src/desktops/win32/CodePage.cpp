@@ -47,7 +47,7 @@ std::optional<std::wstring> TrueName(const std::wstring& folder, const std::stri
     found = entry;
   }
   if (found) return found;
-  // No file has this character in its name: it stands for one that was lost.
+  // No file name contains this character: it stands for one that was lost.
   return name.find('?') == std::string::npos ? std::optional(FromCodePage(name)) : std::nullopt;
 }
 

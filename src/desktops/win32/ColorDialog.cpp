@@ -13,7 +13,7 @@
 namespace orx::win32 {
 namespace {
 
-/// The colours that the user has mixed himself; white at first.
+/// The custom colours that the user has mixed; white at first.
 std::array<COLORREF, 16>& OwnColors() {
   static std::array<COLORREF, 16> colors = [] {
     std::array<COLORREF, 16> white;

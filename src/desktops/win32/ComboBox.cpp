@@ -76,20 +76,20 @@ class ComboBoxPeer final : public Peer {
     if (Send(CB_GETCURSEL) != wanted && wanted >= 0) Send(CB_SETCURSEL, static_cast<WPARAM>(wanted));
     if (Narrowed(ShownText()) == text) return;
     ShowText(FocusWindow(), text);
-    // Whoever is typing goes on behind it.
+    // A user who is typing continues behind it.
     SendMessageW(FocusWindow(), EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
   }
 
   void MirrorPlace() {
-    const RECT place = Owner().Ground().PlaceOf(mControl);
-    // The height that the platform wants to hear includes that of the open list.
+    const RECT place = Owner().Content().PlaceOf(mControl);
+    // The height that the platform expects includes that of the open list.
     const int closed = place.bottom - place.top;
     const auto frame = 2 * GetSystemMetrics(SM_CYEDGE) + 2;
     Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), closed - frame);
     const int list = static_cast<int>(Send(CB_GETITEMHEIGHT, 0)) * kShownEntries;
     SetWindowPos(Window(), nullptr, place.left, place.top, place.right - place.left, closed + list,
                  SWP_NOACTIVATE | SWP_NOZORDER);
-    // The frame differs between looks, so what came out corrects what was asked for.
+    // The frame differs between themes, so the height is corrected by the result.
     RECT shown;
     GetWindowRect(Window(), &shown);
     const int missing = closed - static_cast<int>(shown.bottom - shown.top);
@@ -97,7 +97,7 @@ class ComboBoxPeer final : public Peer {
   }
 
   LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
-    // Ctrl+A came to fields of the platform late.
+    // Not all versions of the platform select all on Ctrl+A.
     if (message == WM_CHAR && wParam == 1 && IsEditable()) return SendMessageW(FocusWindow(), EM_SETSEL, 0, -1);
     return Peer::OnMessage(window, message, wParam, lParam);
   }

@@ -8,8 +8,8 @@
 #include <algorithm>
 
 #include "desktops/win32/Fonts.h"
+#include "desktops/win32/MousePointers.h"
 #include "desktops/win32/Peer.h"
-#include "desktops/win32/Pointers.h"
 #include "desktops/win32/Text.h"
 #include "forms/Form.h"
 
@@ -20,72 +20,65 @@ constexpr UINT_PTR kUpdateTimer = 1;
 
 }  // namespace
 
-Dialog* Dialog::Around(HWND window) {
+Dialog* Dialog::Containing(HWND window) {
   const HWND root = window ? GetAncestor(window, GA_ROOT) : nullptr;
   if (!root || reinterpret_cast<WNDPROC>(GetClassLongPtrW(root, GCLP_WNDPROC)) != &Dialog::WindowProc) return nullptr;
   return reinterpret_cast<Dialog*>(GetWindowLongPtrW(root, GWLP_USERDATA));
 }
 
-Dialog::Dialog(Form& form) : mForm(form), mFont(MakeDialogFont()), mGround(form) {
+Dialog::Dialog(Form& form) : FormGate(form), mFont(MakeDialogFont()), mContent(form) {
   mWindow = CreateWindowExW(Style() & WS_THICKFRAME ? WS_EX_CONTROLPARENT : WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME,
                             WindowClasses::kDialog, L"", Style(), 0, 0, 0, 0, nullptr, nullptr, ThisModule(), nullptr);
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  mGround.Open(mWindow);
+  mContent.Open(mWindow);
 }
 
 Dialog::~Dialog() {
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, 0);
   if (mDestroyed) return;
-  // The platform destroys the windows that a window owns with it, but here each form has its own life.
+  // The platform destroys a window together with those that it owns, but here each form has its own life.
   EnumThreadWindows(GetCurrentThreadId(), &Dialog::ReleaseFrom, reinterpret_cast<LPARAM>(mWindow));
   DestroyWindow(mWindow);
 }
 
 BOOL CALLBACK Dialog::ReleaseFrom(HWND window, LPARAM owner) {
   const auto gone = reinterpret_cast<HWND>(owner);
-  if (GetWindow(window, GW_OWNER) == gone && Around(window))
+  if (GetWindow(window, GW_OWNER) == gone && Containing(window))
     SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(GetWindow(gone, GW_OWNER)));
   return TRUE;
 }
 
 DWORD Dialog::Style() const {
   DWORD border = 0;
-  if (mForm.Border() == BorderStyle::Sizable) border = WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX;
-  if (mForm.Border() == BorderStyle::SizableHeight) border = WS_THICKFRAME;
+  if (Owner().Border() == BorderStyle::Sizable) border = WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX;
+  if (Owner().Border() == BorderStyle::SizableHeight) border = WS_THICKFRAME;
   return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | border;
-}
-
-void Dialog::Report(const std::function<void()>& act) {
-  if (mRetired || mQuiet > 0 || !mForm.Visible() || !mForm.Enabled()) return;
-  const Busy busy(*this);
-  const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
-  act();
 }
 
 bool Dialog::ReportKey(const MSG& message) {
   const Busy busy(*this);
-  if (mRetired) return false;
+  if (IsRetired()) return false;
   if (!NoticeFocus()) return true;
-  Control* const active = mForm.ActiveControl();
+  Control* const active = Owner().ActiveControl();
   Peer* const peer = active ? PeerOf(*active) : nullptr;
   if (peer && peer->UsesKey(message)) return true;
-  if (mRetired || (peer && peer->WantsKey(message))) return false;
+  if (IsRetired() || (peer && peer->WantsKey(message))) return false;
   const std::optional<KeyStroke> stroke =
       peer && peer->LeavesArrowKeys() && ArrowStrokeOf(message) ? ArrowStrokeOf(message) : StrokeOf(message);
   if (!stroke) return false;
   bool handled = false;
-  Report([&] { handled = mForm.UserKey(*stroke); });
-  // The platform would sound its signal for a dialog key that has nothing to do in a field of one line.
+  Report([&] { handled = Owner().UserKey(*stroke); });
+  // For a dialog key that does nothing in a field of one line, the platform would beep.
   return handled || (stroke->Key != Key::Character && !(peer && peer->TakesReturn()));
 }
 
 bool Dialog::NoticeFocus() {
-  // Windows of somebody else tell nobody here that they have taken the focus.
+  // Windows of others do not report here that they have taken the focus.
   const HWND focus = GetFocus();
   const Peer* const holder = Peer::Holding(focus);
   if (!holder || !holder->HoldsForeignWindows() || holder->Subject().HasFocus()) return true;
-  Report([&] { mForm.UserFocus(const_cast<Control&>(holder->Subject())); });
-  return !mRetired && GetFocus() == focus;
+  Report([&] { Owner().UserFocus(const_cast<Control&>(holder->Subject())); });
+  return !IsRetired() && GetFocus() == focus;
 }
 
 void Dialog::Defer(MSG& message) {
@@ -104,24 +97,24 @@ void Dialog::Redeliver() {
 }
 
 void Dialog::FocusActive() {
-  const Control* const active = mRetired ? nullptr : mForm.ActiveControl();
+  const Control* const active = IsRetired() ? nullptr : Owner().ActiveControl();
   if (!active || !active->IsReachable() || !PeerOf(*active) || GetActiveWindow() != mWindow) return;
   PeerOf(*active)->RestoreFocus(mLastFocus);
 }
 
 void Dialog::UpdateCaption() {
-  SetWindowTextW(mWindow, Widened(mForm.Caption()).c_str());
+  SetWindowTextW(mWindow, Widened(Owner().Caption()).c_str());
 }
 
 void Dialog::UpdatePlace() {
   const Quiet quiet(*this);
-  const Desktop& desktop = mForm.OwnerDesktop();
-  const SIZE client = mGround.WindowSize();
+  const Desktop& desktop = Owner().OwnerDesktop();
+  const SIZE client = mContent.WindowSize();
   RECT frame = {0, 0, client.cx, client.cy};
   AdjustWindowRectEx(&frame, Style(), FALSE, static_cast<DWORD>(GetWindowLongPtrW(mWindow, GWL_EXSTYLE)));
-  SetWindowPos(mWindow, nullptr, desktop.ToPixels(mForm.Left()), desktop.ToPixels(mForm.Top()),
+  SetWindowPos(mWindow, nullptr, desktop.ToPixels(Owner().Left()), desktop.ToPixels(Owner().Top()),
                frame.right - frame.left, frame.bottom - frame.top, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOOWNERZORDER);
-  mGround.Arrange();
+  mContent.Arrange();
 }
 
 void Dialog::Show(ShowMode mode, HWND owner) {
@@ -142,13 +135,13 @@ void Dialog::Show(ShowMode mode, HWND owner) {
 void Dialog::Hide() {
   const Quiet quiet(*this);
   mHook.reset();
-  // While they are disabled, the platform would look for a window of another program to activate.
+  // While the other windows are disabled, the platform would activate a window of another program.
   mBarrier.reset();
   const bool wasActive = GetActiveWindow() == mWindow;
   ShowWindow(mWindow, SW_HIDE);
   if (wasActive && mActiveBefore && IsWindow(mActiveBefore) && IsWindowVisible(mActiveBefore))
     SetActiveWindow(mActiveBefore);
-  // A hidden window is to outlive the one that it stood before.
+  // A hidden window is to outlive its owner.
   if (!mDestroyed) SetWindowLongPtrW(mWindow, GWLP_HWNDPARENT, 0);
 }
 
@@ -169,33 +162,33 @@ void Dialog::ToolTip(HWND tool, const std::string& text) {
 }
 
 void Dialog::Retire() {
+  const Busy busy(*this);
   Hide();
-  mRetired = true;
-  mGround.Abandon();
-  if (mDepth == 0) delete this;
+  CutOff();
+  mContent.Abandon();
 }
 
 void Dialog::Sized() {
-  if (IsIconic(mWindow) || mForm.Border() == BorderStyle::Fixed) return;
+  if (IsIconic(mWindow) || Owner().Border() == BorderStyle::Fixed) return;
   RECT client;
   GetClientRect(mWindow, &client);
-  const SIZE known = mGround.WindowSize();
+  const SIZE known = mContent.WindowSize();
   if (client.right == known.cx && client.bottom == known.cy) return;
-  const Desktop& desktop = mForm.OwnerDesktop();
-  const Size size{desktop.ToTwips(static_cast<int>(client.right) - mGround.ExtraWidth()),
+  const Desktop& desktop = Owner().OwnerDesktop();
+  const Size size{desktop.ToTwips(static_cast<int>(client.right) - mContent.ExtraWidth()),
                   desktop.ToTwips(static_cast<int>(client.bottom))};
-  Report([&] { mForm.UserResize(size); });
-  if (!mRetired) mGround.Arrange();
+  Report([&] { Owner().UserResize(size); });
+  if (!IsRetired()) mContent.Arrange();
 }
 
 void Dialog::Moved() {
   if (IsIconic(mWindow)) return;
   RECT place;
   GetWindowRect(mWindow, &place);
-  const Desktop& desktop = mForm.OwnerDesktop();
-  if (place.left == desktop.ToPixels(mForm.Left()) && place.top == desktop.ToPixels(mForm.Top())) return;
+  const Desktop& desktop = Owner().OwnerDesktop();
+  if (place.left == desktop.ToPixels(Owner().Left()) && place.top == desktop.ToPixels(Owner().Top())) return;
   Report([&] {
-    mForm.UserMove(desktop.ToTwips(static_cast<int>(place.left)), desktop.ToTwips(static_cast<int>(place.top)));
+    Owner().UserMove(desktop.ToTwips(static_cast<int>(place.left)), desktop.ToTwips(static_cast<int>(place.top)));
   });
 }
 
@@ -205,9 +198,9 @@ void Dialog::WatchActivation(bool isActive) {
 }
 
 void Dialog::Destroyed() {
-  // By the host, together with the window that this one stood before: the form goes as by its close box.
+  // The host has destroyed it, together with its owner window: the form closes as if by its close box.
   mDestroyed = true;
-  Report([this] { mForm.WindowLost(); });
+  Report([this] { Owner().WindowLost(); });
 }
 
 void Dialog::CallShowUpdates(std::chrono::milliseconds after) {
@@ -218,19 +211,19 @@ void Dialog::DragBottomEdge() {
   ReleaseCapture();
   const DWORD at = GetMessagePos();
   SendMessageW(mWindow, WM_NCLBUTTONDOWN, HTBOTTOM, static_cast<LPARAM>(at));
-  if (!mRetired) InvalidateRect(mWindow, nullptr, TRUE);
+  if (!IsRetired()) InvalidateRect(mWindow, nullptr, TRUE);
 }
 
 LRESULT Dialog::HitTest(WPARAM wParam, LPARAM lParam) const {
   const LRESULT part = DefWindowProcW(mWindow, WM_NCHITTEST, wParam, lParam);
-  if (mForm.Border() != BorderStyle::SizableHeight || part < HTSIZEFIRST || part > HTSIZELAST) return part;
+  if (Owner().Border() != BorderStyle::SizableHeight || part < HTSIZEFIRST || part > HTSIZELAST) return part;
   const bool isBelow = part == HTBOTTOM || part == HTBOTTOMLEFT || part == HTBOTTOMRIGHT;
   return isBelow ? HTBOTTOM : HTBORDER;
 }
 
 void Dialog::LimitSize(MINMAXINFO& limits) const {
-  if (mForm.Border() != BorderStyle::SizableHeight) return;
-  RECT frame = {0, 0, mGround.WindowSize().cx, 0};
+  if (Owner().Border() != BorderStyle::SizableHeight) return;
+  RECT frame = {0, 0, mContent.WindowSize().cx, 0};
   AdjustWindowRectEx(&frame, Style(), FALSE, static_cast<DWORD>(GetWindowLongPtrW(mWindow, GWL_EXSTYLE)));
   limits.ptMinTrackSize.x = limits.ptMaxTrackSize.x = frame.right - frame.left;
 }
@@ -239,21 +232,21 @@ void Dialog::ReportMouse() {
   POINT at = {};
   GetCursorPos(&at);
   ScreenToClient(mWindow, &at);
-  Report([&] { mForm.UserMouseMove({static_cast<int>(at.x), static_cast<int>(at.y)}); });
+  Report([&] { Owner().UserMouseMove({static_cast<int>(at.x), static_cast<int>(at.y)}); });
 }
 
 bool Dialog::ShowPointer() {
-  // The platform asks here whatever control the mouse is over.
+  // The platform asks here, whichever control the mouse is over.
   ReportMouse();
-  if (mRetired) return true;
-  const HCURSOR pointer = CursorOf(mForm.OwnerDesktop().Pointer());
+  if (IsRetired()) return true;
+  const HCURSOR pointer = CursorOf(Owner().OwnerDesktop().Pointer());
   if (pointer) SetCursor(pointer);
   return pointer != nullptr;
 }
 
 LRESULT CALLBACK Dialog::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const self = reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (!self || self->mRetired) return DefWindowProcW(window, message, wParam, lParam);
+  if (!self || self->IsRetired()) return DefWindowProcW(window, message, wParam, lParam);
   const Busy busy(*self);
   return self->Handle(message, wParam, lParam);
 }
@@ -262,7 +255,7 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const std::optional<LRESULT> answer = Reflect(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_CLOSE:
-      Report([this] { mForm.UserClose(); });
+      Report([this] { Owner().UserClose(); });
       return 0;
     case WM_DESTROY:
       Destroyed();
@@ -280,10 +273,10 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       Moved();
       return 0;
     case WM_MOUSEMOVE:
-      Report([&] { mForm.UserMouseMove({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); });
+      Report([&] { Owner().UserMouseMove({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); });
       return 0;
     case WM_LBUTTONDOWN:
-      Report([&] { mForm.UserMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); });
+      Report([&] { Owner().UserMouseDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}); });
       return 0;
     case WM_NCHITTEST:
       return HitTest(wParam, lParam);
@@ -294,11 +287,11 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (ShowPointer()) return TRUE;
       break;
     case WM_MOUSEWHEEL:
-      mGround.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      mContent.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_TIMER:
       KillTimer(mWindow, kUpdateTimer);
-      mForm.ShowUpdates();
+      Owner().ShowUpdates();
       return 0;
     case kDeferredKey:
       Redeliver();

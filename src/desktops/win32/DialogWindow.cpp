@@ -3,6 +3,7 @@
 #include "desktops/win32/GuestScope.h"
 #include "forms/Button.h"
 #include "forms/Form.h"
+#include "forms/PeerMaker.h"
 
 namespace orx::win32 {
 namespace {
@@ -12,11 +13,11 @@ constexpr int kFirstId = 100;
 
 }  // namespace
 
-DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mMaker(*mDialog), mNextId(kFirstId) {
+DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mNextId(kFirstId) {
   const Dialog::Quiet quiet(*mDialog);
   MakePeers(form, nullptr);
   for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
-  mDialog->Ground().Complete();
+  mDialog->Content().Complete();
   UpdateCaption();
 }
 
@@ -33,11 +34,10 @@ int DialogWindow::IdOf(const Control& control) {
 
 void DialogWindow::MakePeers(const Container& container, HWND parent) {
   for (Control* const control : container.Children()) {
-    const HWND home = parent ? parent : mDialog->Ground().HomeOf(*control);
-    Peer* const peer = mPeers.emplace_back(mMaker.Make(*control, {home, IdOf(*control)})).get();
-    control->Peer(peer);
-    if (!parent) mDialog->Ground().Add(*control, peer->Window());
-    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, peer->Window());
+    const WindowSite site{parent ? parent : mDialog->Content().HomeOf(*control), IdOf(*control)};
+    Peer& peer = *mPeers.emplace_back(PeerMaker<Peer, Dialog, const WindowSite>(*mDialog, site).Make(*control));
+    control->Peer(&peer);
+    if (const Container* const inner = control->AsContainer()) MakePeers(*inner, peer.Window());
   }
 }
 
@@ -47,8 +47,7 @@ HWND DialogWindow::WindowOf(const OwnerWindow& owner) const {
   // The dialogs of the platform belong to whole windows, not to the controls in them.
   if (const auto window = reinterpret_cast<HWND>(owner.NativeHandle); window && IsWindow(window))
     return GetAncestor(window, GA_ROOT);
-  // Without an owner the dialog stands before whatever the user works in; behind a modal window it could not be
-  // reached.
+  // Without an owner the dialog is shown in front of the active window; behind a modal window it could not be reached.
   const HWND active = GetActiveWindow();
   return active != mDialog->Window() ? active : nullptr;
 }
@@ -73,7 +72,7 @@ void DialogWindow::RunModal() {
   while (!mEnded) {
     GetMessageW(&message, nullptr, 0, 0);
     if (HandleOneMessage(message) || mEnded) continue;
-    // The host's program is about to end: the dialog goes as by its close box.
+    // The host's program is about to end: the dialog closes as if by its close box.
     mForm.WindowLost();
     return;
   }
@@ -95,8 +94,8 @@ void DialogWindow::UpdatePlace() {
 }
 
 void DialogWindow::UpdateEnabled() {
-  // Input is dropped as it is taken from the queue. The platform's own way would have another program's window
-  // activated when a dialog closes that belongs to this one.
+  // Input is dropped as it is taken from the queue. If the window were disabled, the platform would activate another
+  // program's window when a dialog in front of this one closes.
 }
 
 void DialogWindow::Repaint() {

@@ -36,7 +36,6 @@ class DialogWindow final : public FormWindow {
 
   Form& mForm;
   Dialog* mDialog;
-  PeerMaker mMaker;
   std::vector<std::unique_ptr<Peer>> mPeers;
   int mNextId;
   bool mEnded = false;

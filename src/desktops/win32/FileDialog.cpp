@@ -21,7 +21,7 @@ std::wstring CurrentFolder() {
   return folder;
 }
 
-/// The dialog moves the current folder of the process to where the user has gone.
+/// The dialog changes the current folder of the process to the one that the user has gone to.
 class FolderKeeper {
  public:
   FolderKeeper() : mFolder(CurrentFolder()) {}
@@ -33,7 +33,7 @@ class FolderKeeper {
   std::wstring mFolder;
 };
 
-/// A path that the code page has all characters of: the given one, or the short one that the file system keeps for it.
+/// A path whose characters are all in the code page: the given one, or the short one that the file system keeps for it.
 std::wstring Writable(const std::wstring& path) {
   if (FitsCodePage(path)) return path;
   std::wstring shortPath(GetShortPathNameW(path.c_str(), nullptr, 0), L'\0');
@@ -51,7 +51,7 @@ class NarrowRequest {
         mExtension(ToCodePage(Widened(request.DefaultExtension))),
         mFileTitle(ToCodePage(Widened(request.FileTitle))),
         mBuffer(ToCodePage(Widened(request.Buffer))) {
-    // A name that cannot be written would keep the dialog from opening.
+    // An invalid name would keep the dialog from opening.
     if (!FitsCodePage(Widened(InitialName(request)))) std::fill(mBuffer.begin(), mBuffer.end() - 1, ' ');
     EndInitialName();
     mNative.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
@@ -75,7 +75,7 @@ class NarrowRequest {
   const std::string& Buffer() const { return mBuffer; }
 
  private:
-  /// The blanks that fill the buffer would stand in the dialog's field.
+  /// The dialog's field would show the blanks that fill the buffer.
   void EndInitialName() {
     const auto last = mBuffer.find_last_not_of(std::string_view(" \0", 2));
     std::fill(mBuffer.begin() + static_cast<std::ptrdiff_t>(last == std::string::npos ? 0 : last + 1), mBuffer.end(),
@@ -96,12 +96,12 @@ class NarrowRequest {
                       "\" has characters in its name that cannot be told apart here. Rename it, or choose it alone.");
 }
 
-/// The folder of the answer. The dialog has moved the current folder there, whose name has lost nothing.
+/// The folder of the answer. The dialog has made it the current folder, whose name is known without loss.
 std::wstring TrueFolder(const std::string& folder) {
   std::wstring current = CurrentFolder();
   if (ToCodePage(current) == folder) return current;
   if (folder.find('?') == std::string::npos) return FromCodePage(folder);
-  // Not all versions do: then the names of the folders are looked up one by one.
+  // Not all versions do that; then the names of the folders are looked up one by one.
   std::size_t end = folder.find('\\');
   std::wstring path = FromCodePage(folder.substr(0, end));
   while (end != std::string::npos) {
@@ -127,12 +127,12 @@ std::vector<std::string> PartsOf(const std::string& buffer) {
 }
 
 void TakeAnswer(const NarrowRequest& narrow, OpenFileRequest& request) {
-  // Some versions of the platform cut off what the buffer does not hold, without an error.
+  // Some versions of the platform cut off what does not fit into the buffer, without an error.
   if (narrow.Buffer().find(std::string_view("\0\0", 2)) == std::string::npos) RefuseLength();
   std::vector<std::string> parts = PartsOf(narrow.Buffer());
   if (parts.empty()) return RefuseLength();
   if (parts.size() == 1) {
-    // One file stands there with its path.
+    // A single file is given with its path.
     const std::size_t end = parts.front().find_last_of('\\');
     if (end == std::string::npos) RefuseName(parts.front());
     parts = {parts.front().substr(0, end), parts.front().substr(end + 1)};

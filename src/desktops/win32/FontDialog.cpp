@@ -16,7 +16,7 @@ namespace orx::win32 {
 namespace {
 
 constexpr double kDotsPerPoint = 1 / 72.0;
-/// The platform counts the points of the chosen font in tenths.
+/// The platform gives the size of the chosen font in tenths of a point.
 constexpr double kTenths = 10;
 
 LOGFONTW ToNative(const Font& face) {
@@ -44,13 +44,13 @@ bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {
   if (!IsWindow(native.hwndOwner)) native.hwndOwner = nullptr;
   native.lpLogFont = &font;
   native.rgbColors = RGB(color.Red, color.Green, color.Blue);
-  // Printers have no fonts of their own any more; asking for them takes a printer.
+  // Printers no longer have fonts of their own, and asking for these requires a printer.
   native.Flags = (request.Flags & CF_SCREENFONTS) | CF_INITTOLOGFONTSTRUCT | CF_EFFECTS;
   bool chosen = false;
   RunPlatformDialog(native.hwndOwner, running, IDCANCEL, [&] { chosen = ChooseFontW(&native) != FALSE; });
   if (!chosen) return false;
   Font& face = request.Chosen.Face;
-  // Without an entry for the font that it was given, the dialog has none until the user picks one.
+  // When the dialog does not list the font that it was given, none is selected until the user picks one.
   if (font.lfFaceName[0] != L'\0') face.Name = Narrowed(font.lfFaceName);
   // The height is in whole pixels; a size that was not changed keeps its fraction.
   if (font.lfHeight != given.lfHeight) face.Size = native.iPointSize / kTenths;

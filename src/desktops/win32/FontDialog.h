@@ -9,8 +9,8 @@ struct FontRequest;
 
 namespace orx::win32 {
 
-/// Has the user choose a font as Desktop::ChooseFont says. `running` is called in its modal loop; what it throws
-/// closes the dialog and travels.
+/// Has the user choose a font as Desktop::ChooseFont says. `running` is called in its modal loop; an exception from it
+/// closes the dialog and is passed on.
 bool RunFontDialog(FontRequest& request, const std::function<void()>& running);
 
 }  // namespace orx::win32

@@ -20,7 +20,7 @@ LOGFONTW MessageFont() {
   return metrics.lfMessageFont;
 }
 
-/// The height that CreateFont takes for a size in points: of the letters, without the space above them.
+/// The height that CreateFont takes for a size in points: that of the letters, without the space above them.
 LONG HeightOf(double points) {
   return -std::lround(points * SystemDpi() / kPointsPerInch);
 }

@@ -5,10 +5,10 @@
 namespace orx::win32 {
 namespace {
 
-/// The place of the manifest in a library's resources.
+/// The id of the manifest in a library's resources.
 constexpr int kManifest = 2;
 
-/// The contexts of awareness, by their documented values: not all headers know them.
+/// The dpi awareness contexts, by their documented values: not all headers define them.
 const HANDLE kSystemAware = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-2));
 
 template <class Function>

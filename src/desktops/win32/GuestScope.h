@@ -1,5 +1,5 @@
-// What this desktop borrows of the host's thread: the look of the common controls and the awareness of the screen's
-// dpi. Both are taken for the time of an act and given back; nothing of the process is changed.
+// What this desktop borrows from the host's thread: the look of the common controls and the awareness of the screen's
+// dpi. Both are set for the duration of a call and then restored; nothing of the process is changed.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// What owns the platform's handles. Nothing else in this desktop deletes or frees them.
+// Owners of the platform's handles. Nothing else in this desktop deletes or frees them.
 #pragma once
 
 #include <windows.h>
@@ -16,7 +16,7 @@ struct GdiDeleter {
 template <class Handle>
 using GdiObject = std::unique_ptr<std::remove_pointer_t<Handle>, GdiDeleter>;
 
-/// Selects an object into a device context for a while.
+/// Selects an object into a device context for as long as it lives.
 class Selection {
  public:
   Selection(HDC context, HGDIOBJ object) : mContext(context), mBefore(SelectObject(context, object)) {}
@@ -29,7 +29,7 @@ class Selection {
   HGDIOBJ mBefore;
 };
 
-/// A device context in memory that draws on a bitmap of that size, in the colours of `like`.
+/// A device context in memory that draws on a bitmap of that size, with the colour format of `like`.
 class MemoryContext {
  public:
   MemoryContext(HDC like, int width, int height)
@@ -67,6 +67,30 @@ class WindowContext {
  private:
   HWND mWindow;
   HDC mContext;
+};
+
+/// A key of the registry, open as long as this lives.
+class RegistryKey {
+ public:
+  RegistryKey() = default;
+  ~RegistryKey() { Close(); }
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+
+  HKEY Get() const { return mKey; }
+  /// For functions that open a key.
+  HKEY* Out() {
+    Close();
+    return &mKey;
+  }
+
+ private:
+  void Close() {
+    if (mKey) RegCloseKey(mKey);
+    mKey = nullptr;
+  }
+
+  HKEY mKey = nullptr;
 };
 
 /// The module that this code is in: the component's DLL, or the program that it is linked with.

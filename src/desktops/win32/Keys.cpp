@@ -17,14 +17,14 @@ bool IsInput(const MSG& message) {
 }
 
 bool IsBlocked(HWND window) {
-  const Dialog* const dialog = Dialog::Around(window);
+  const Dialog* const dialog = Dialog::Containing(window);
   return dialog && !dialog->IsRetired() && !dialog->Owner().Enabled();
 }
 
 LRESULT CALLBACK SeeMessage(int code, WPARAM removed, LPARAM data) {
   auto& message = *reinterpret_cast<MSG*>(data);
   if (code == HC_ACTION && (removed & PM_REMOVE) != 0 && (StrokeOf(message) || ArrowStrokeOf(message))) {
-    if (Dialog* const dialog = Dialog::Around(message.hwnd)) dialog->Defer(message);
+    if (Dialog* const dialog = Dialog::Containing(message.hwnd)) dialog->Defer(message);
   }
   return CallNextHookEx(nullptr, code, removed, data);
 }
@@ -68,7 +68,7 @@ KeyHook::~KeyHook() {
 
 bool DealWithKey(const MSG& message) {
   if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
-  Dialog* const dialog = Dialog::Around(message.hwnd);
+  Dialog* const dialog = Dialog::Containing(message.hwnd);
   return dialog && dialog->ReportKey(message);
 }
 

@@ -5,7 +5,7 @@
 namespace orx::win32 {
 namespace {
 
-/// Raises Closing when it goes, which is before its window goes.
+/// Raises Closing when it is destroyed, which is before its window is.
 class NativeAreaPeer final : public Peer {
  public:
   NativeAreaPeer(NativeArea& control, Dialog& dialog, HWND window) : Peer(control, dialog, window), mControl(control) {}
@@ -35,7 +35,7 @@ class NativeAreaPeer final : public Peer {
   bool HoldsForeignWindows() const override { return true; }
 
   LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
-    // Comes up from the window under the mouse before that takes the focus: the field that loses it may refuse.
+    // Comes from the window under the mouse before that takes the focus: the field that loses it may refuse to let go.
     if (message == WM_MOUSEACTIVATE && !mControl.HasFocus() && !FocusIsGranted()) return MA_ACTIVATEANDEAT;
     return Peer::OnMessage(window, message, wParam, lParam);
   }

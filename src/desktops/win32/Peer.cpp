@@ -9,10 +9,6 @@
 namespace orx::win32 {
 namespace {
 
-constexpr Aspect kAspects[] = {Aspect::Items,   Aspect::Text,    Aspect::Value,     Aspect::Selection,
-                               Aspect::Colors,  Aspect::Place,   Aspect::Enabled,   Aspect::Visible,
-                               Aspect::ToolTip, Aspect::Drawing, Aspect::Accessible};
-
 /// The window property that holds a control's name: an atom of the global table, which other programs can read.
 constexpr wchar_t kNameProperty[] = L"ControlName";
 
@@ -63,13 +59,13 @@ LRESULT Peer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     }
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-      // The press must not move the focus by itself: the field that loses it may refuse.
+      // The press must not move the focus by itself: the field that loses it may refuse to let go.
       if (mControl.TakesFocus() && !FocusIsGranted()) return 0;
       break;
     case WM_MOUSEWHEEL:
-      // A turn of the wheel over a control that the user is not in scrolls the form and changes no value.
+      // Turning the wheel over a control that does not have the focus scrolls the form and changes no value.
       if (mControl.HasFocus()) break;
-      mDialog.Ground().Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      mDialog.Content().Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     default:
       break;
@@ -88,7 +84,7 @@ bool Peer::FocusIsGranted() {
 void Peer::FocusCame() {
   Control& control = mControl;
   Report([&] {
-    mDialog.Ground().Reveal(mWindow);
+    mDialog.Content().Reveal(mWindow);
     control.OwnerForm().UserFocus(control);
   });
 }
@@ -100,7 +96,7 @@ void Peer::Update(Aspect aspect) {
 }
 
 void Peer::KeepFocus() const {
-  // The form sends the focus to another control, if there is one; without any focus the keys would be lost.
+  // The form moves the focus to another control, if there is one; without any focus the keys would be lost.
   if (GetActiveWindow() != mDialog.Window() || IsWindowVisible(GetFocus())) return;
   SetFocus(mDialog.Window());
 }
@@ -114,19 +110,15 @@ void Peer::RestoreFocus(HWND last) {
   }
 }
 
-void Peer::UpdateAll() {
-  for (const Aspect aspect : kAspects) Update(aspect);
-}
-
 void Peer::TakeFocus() {
   const Dialog::Quiet quiet(mDialog);
-  // A window that is not the active one takes the focus when it becomes that.
+  // A window that is not active takes the focus when it is activated.
   if (GetActiveWindow() == mDialog.Window()) FocusNative();
-  mDialog.Ground().Reveal(mWindow);
+  mDialog.Content().Reveal(mWindow);
 }
 
 SIZE Peer::PixelSize() const {
-  const RECT place = mDialog.Ground().PlaceOf(mControl);
+  const RECT place = mDialog.Content().PlaceOf(mControl);
   return {place.right - place.left, place.bottom - place.top};
 }
 
@@ -143,8 +135,7 @@ void Peer::Mirror(Aspect aspect) {
       return MirrorPlace();
     case Aspect::Visible:
       ShowWindow(mWindow, mControl.Visible() ? SW_SHOWNA : SW_HIDE);
-      if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
-      return;
+      return ArrangeContent();
     case Aspect::Enabled:
       return MirrorEnabled();
     case Aspect::ToolTip:
@@ -157,7 +148,7 @@ void Peer::Mirror(Aspect aspect) {
 }
 
 void Peer::MirrorEnabled() {
-  // The platform lets what stands in a disabled window look as if it could be used.
+  // The platform draws the controls in a disabled window as if they could be used.
   bool isEnabled = true;
   for (const Control* at = &mControl; at; at = at->Parent().ContainerControl()) isEnabled = isEnabled && at->Enabled();
   EnableWindow(mWindow, isEnabled);
@@ -168,16 +159,20 @@ void Peer::MirrorEnabled() {
 }
 
 void Peer::MirrorName() {
-  // A caption is the window's text, which is its name already.
+  // A caption is the window's text, which already is its name.
   if (mControl.Caption().empty() || !mControl.ShowsCaption())
     mIsAnnotated = SetAccessibleName(mFocus, mControl.AccessibleName());
 }
 
 void Peer::MirrorPlace() {
-  const RECT place = mDialog.Ground().PlaceOf(mControl);
+  ArrangeContent();
+  const RECT place = mDialog.Content().PlaceOf(mControl);
   SetWindowPos(mWindow, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                SWP_NOACTIVATE | SWP_NOZORDER);
-  if (!mControl.Parent().ContainerControl()) mDialog.Ground().Arrange();
+}
+
+void Peer::ArrangeContent() {
+  if (!mControl.Parent().ContainerControl()) mDialog.Content().Arrange();
 }
 
 }  // namespace orx::win32

@@ -12,11 +12,11 @@
 
 namespace orx::win32 {
 
-/// Sees the messages of its window before the window does. The window belongs to its parent window and may outlive the
-/// peer.
+/// Receives the messages of its window before the window does. The window belongs to its parent window and may outlive
+/// the peer.
 class Peer : public ControlPeer {
  public:
-  /// `focus` is the window that takes keys and the focus for the control; null: `window` itself.
+  /// `focus` is the window that takes the focus and the keys for the control; null: `window` itself.
   Peer(Control& control, Dialog& dialog, HWND window, HWND focus = nullptr);
   ~Peer() override;
   Peer(const Peer&) = delete;
@@ -24,35 +24,33 @@ class Peer : public ControlPeer {
 
   void Update(Aspect aspect) final;
   void TakeFocus() final;
-  /// Brings all aspects up to the state of the control.
-  void UpdateAll();
 
-  /// The peer whose window that is or that it stands in, null when there is none.
+  /// The peer that the window, or one of its parents, belongs to; null when there is none.
   static Peer* Holding(HWND window);
-  /// Gives the focus back when the dialog becomes the active window; `last` had it before.
+  /// Restores the focus when the dialog becomes the active window; `last` had it before.
   void RestoreFocus(HWND last);
 
   const Control& Subject() const { return mControl; }
   HWND Window() const { return mWindow; }
   HWND FocusWindow() const { return mFocus; }
-  /// True for key messages that belong to the control whatever they mean to the dialog.
+  /// True for key messages that the control keeps, whatever they mean to the dialog.
   virtual bool WantsKey(const MSG&) { return false; }
-  /// Deals with a key message in place of the window that it is for. False when the message goes on.
+  /// Handles a key message in place of the window that it is for. False when that window is to get it.
   virtual bool UsesKey(const MSG&) { return false; }
-  /// True when arrow keys mean nothing to the control, so that they move the focus.
+  /// True when the control has no use for arrow keys, so that they move the focus.
   virtual bool LeavesArrowKeys() const { return false; }
-  /// True when windows that nobody here knows of stand in this one and may take the focus on their own.
+  /// True when this window holds windows of others, which may take the focus on their own.
   virtual bool HoldsForeignWindows() const { return false; }
-  /// True when a line break can be typed here, should the form have no use for Enter.
+  /// True when Enter makes a line break here, unless the form has a use for it.
   virtual bool TakesReturn() const { return false; }
 
  protected:
-  /// Mirrors one aspect; a kind of control handles its own and leaves the others to this.
+  /// Mirrors one aspect. Each kind of control handles its own aspects and leaves the others to this.
   virtual void Mirror(Aspect aspect);
-  /// Deals with a message of the window or of the focus window. After the form was told of something, this object and
+  /// Handles a message of the window or of the focus window. Once the form has been told of something, this object and
   /// the form may be gone; see Dialog::IsRetired.
   virtual LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  /// The window's notifications, by their codes.
+  /// Called with the code of each notification of the window.
   virtual void OnCommand(int) {}
   virtual LRESULT OnNotify(const NMHDR&) { return 0; }
   /// What SetFocus does; by default the focus window takes the focus.
@@ -72,6 +70,8 @@ class Peer : public ControlPeer {
                                        DWORD_PTR peer);
   void FocusCame();
   void MirrorPlace();
+  /// Lets the content pane follow a control that stands directly in it.
+  void ArrangeContent();
   void MirrorEnabled();
   void MirrorName();
   void KeepFocus() const;

@@ -1,4 +1,4 @@
-// The native mirror of each kind of control, one function a kind, each in the file named after the kind.
+// Makes the native mirror of each kind of control. Each function is in the file named after its kind.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace orx::win32 {
 
-/// Where and with which control id a window is to be made.
+/// Where a window is to be made, and its control id.
 struct WindowSite {
   HWND Parent;
   int Id;
@@ -19,8 +19,8 @@ HWND MakeWindow(const wchar_t* className, DWORD style, const WindowSite& site, D
 /// Makes an empty child window that its peer draws or that holds controls.
 HWND MakePane(DWORD style, const WindowSite& site);
 
-/// Makes the peer of a control with a new window. The window shows nothing of the control yet: call UpdateAll when the
-/// peers of all controls are there.
+/// Makes the peer of a control with a new window. The window does not show the control's state yet: call UpdateAll once
+/// all controls have their peers.
 std::unique_ptr<Peer> MakePeer(Button& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(CheckBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(ComboBox& control, Dialog& dialog, const WindowSite& site);
@@ -34,41 +34,5 @@ std::unique_ptr<Peer> MakePeer(ProgressBar& control, Dialog& dialog, const Windo
 std::unique_ptr<Peer> MakePeer(TabControl& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSite& site);
 std::unique_ptr<Peer> MakePeer(TreeList& control, Dialog& dialog, const WindowSite& site);
-
-/// Makes the peer of a control of any kind.
-class PeerMaker final : public ControlVisitor {
- public:
-  explicit PeerMaker(Dialog& dialog) : mDialog(dialog) {}
-
-  std::unique_ptr<Peer> Make(Control& control, const WindowSite& site) {
-    mSite = site;
-    control.Accept(*this);
-    return std::move(mMade);
-  }
-
-  void Visit(Button& control) override { Take(control); }
-  void Visit(CheckBox& control) override { Take(control); }
-  void Visit(ComboBox& control) override { Take(control); }
-  void Visit(Frame& control) override { Take(control); }
-  void Visit(Label& control) override { Take(control); }
-  void Visit(ListBox& control) override { Take(control); }
-  void Visit(NativeArea& control) override { Take(control); }
-  void Visit(Panel& control) override { Take(control); }
-  void Visit(PictureBox& control) override { Take(control); }
-  void Visit(ProgressBar& control) override { Take(control); }
-  void Visit(TabControl& control) override { Take(control); }
-  void Visit(TextBox& control) override { Take(control); }
-  void Visit(TreeList& control) override { Take(control); }
-
- private:
-  template <class Kind>
-  void Take(Kind& control) {
-    mMade = MakePeer(control, mDialog, mSite);
-  }
-
-  Dialog& mDialog;
-  WindowSite mSite = {};
-  std::unique_ptr<Peer> mMade;
-};
 
 }  // namespace orx::win32

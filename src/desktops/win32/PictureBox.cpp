@@ -23,7 +23,7 @@ class PicturePeer final : public Peer {
       InvalidateRect(Window(), nullptr, FALSE);
     Peer::Mirror(aspect);
     if (aspect != Aspect::Place) return;
-    // Drawings fill exactly the size that the control tells.
+    // Drawings fill exactly the size that the control reports.
     const Size size = mControl.PixelSize();
     SetWindowPos(Window(), nullptr, 0, 0, size.Width, size.Height, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOMOVE);
   }
@@ -53,7 +53,7 @@ class PicturePeer final : public Peer {
     if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) {
       SetCapture(window);
       mPressed = true;
-      // The last thing to do here: the press may take the window away.
+      // Last, because the press may destroy the window.
       Report([&] { message == WM_LBUTTONDOWN ? control.UserMouseDown(at) : control.UserDoubleClick(at); });
     } else if (message == WM_KEYDOWN) {
       Report([&] { control.UserKeyDown(static_cast<int>(wParam)); });
@@ -61,7 +61,7 @@ class PicturePeer final : public Peer {
       ReleaseCapture();
       RECT all;
       GetClientRect(window, &all);
-      // A release outside of the box takes the press back.
+      // A release outside the box cancels the press.
       if (PtInRect(&all, {at.X, at.Y})) Report([&] { control.UserClick(); });
     }
   }

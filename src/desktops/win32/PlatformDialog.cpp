@@ -5,19 +5,19 @@
 #include <string_view>
 #include <utility>
 
-#include "desktops/win32/Barrier.h"
+#include "desktops/win32/ModalBarrier.h"
 
 namespace orx::win32 {
 namespace {
 
-/// The platform's dialogs are windows of the predefined class.
+/// The platform's dialogs have its predefined window class.
 bool IsBox(HWND window) {
   wchar_t name[16] = {};
   GetClassNameW(window, name, static_cast<int>(std::size(name)));
   return std::wstring_view(name) == L"#32770";
 }
 
-/// One box from its opening to its end; boxes can stand one upon the other.
+/// One open dialog; dialogs can be nested.
 class PlatformSession {
  public:
   PlatformSession(const std::function<void()>& running, int closing)
@@ -42,7 +42,7 @@ class PlatformSession {
     if (code == HCBT_ACTIVATE && !self.mBox && IsBox(reinterpret_cast<HWND>(wParam))) {
       self.mBox = reinterpret_cast<HWND>(wParam);
       self.Unhook();
-      // The box is not up yet; its loop runs the timer when it is.
+      // The dialog is not up yet; its message loop runs the timer once it is.
       SetTimer(self.mBox, reinterpret_cast<UINT_PTR>(&self), USER_TIMER_MINIMUM, &PlatformSession::BoxIsUp);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
@@ -51,7 +51,7 @@ class PlatformSession {
   static void CALLBACK BoxIsUp(HWND box, UINT, UINT_PTR session, DWORD) {
     auto& self = *reinterpret_cast<PlatformSession*>(session);
     KillTimer(box, session);
-    // The platform bears no exception that passes through its loops.
+    // Exceptions must not pass through the platform's message loops.
     try {
       self.mRunning();
     } catch (...) {
@@ -81,8 +81,8 @@ thread_local PlatformSession* PlatformSession::theInnermost = nullptr;
 void RunPlatformDialog(HWND owner, const std::function<void()>& running, int closing,
                        const std::function<void()>& show) {
   const PlatformSession session(running, closing);
-  // The platform itself disables the owner alone; without one it disables all windows of the thread.
-  std::optional<Barrier> barrier;
+  // The platform itself disables only the owner; without one it disables all windows of the thread.
+  std::optional<ModalBarrier> barrier;
   if (owner) barrier.emplace(owner);
   show();
   session.Rethrow();

@@ -1,4 +1,4 @@
-// The dialogs that the platform brings: message box, file dialog.
+// The platform's own dialogs: message boxes, and those for choosing files, a colour or a font.
 #pragma once
 
 #include <windows.h>
@@ -7,13 +7,13 @@
 
 namespace orx::win32 {
 
-/// Runs `show`, which opens a dialog of the platform before `owner` (null: none) and returns when it has closed.
-/// `running` is called in its modal loop once it is up; what that throws presses the button with the id `closing` and
-/// travels.
+/// Runs `show`, which opens a dialog of the platform in front of `owner` (null: none) and returns when it has closed.
+/// `running` is called in its modal loop once it is up; an exception from it presses the button with the id `closing`
+/// and is passed on.
 void RunPlatformDialog(HWND owner, const std::function<void()>& running, int closing,
                        const std::function<void()>& show);
 
-/// The dialog of the platform that waits for its answer on this thread, null when there is none.
+/// The platform's dialog that is open on this thread, null when there is none.
 HWND OpenPlatformDialog();
 
 }  // namespace orx::win32

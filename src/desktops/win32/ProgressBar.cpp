@@ -25,8 +25,8 @@ class ProgressBarPeer final : public Peer {
     const bool isShown = (GetWindowLongPtrW(Window(), GWL_STYLE) & WS_VISIBLE) != 0;
     if (isShown) SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
     const auto filled = static_cast<WPARAM>(mControl.FilledPixels());
-    // A themed bar creeps up to where it has been told to go, but goes back at once: one pixel too far and back, for
-    // which a full bar lends the range one more.
+    // A themed bar animates slowly upwards but moves down at once, so it is set one pixel too far and then back. For a
+    // full bar the range is one larger meanwhile.
     SendMessageW(Window(), PBM_SETRANGE32, 0, mControl.Pixels() + 1);
     SendMessageW(Window(), PBM_SETPOS, filled + 1, 0);
     SendMessageW(Window(), PBM_SETPOS, filled, 0);

@@ -6,27 +6,13 @@
 #include <stdexcept>
 #include <vector>
 
+#include "desktops/win32/Handles.h"
 #include "desktops/win32/Text.h"
 
 namespace orx::win32 {
 namespace {
 
 constexpr wchar_t kRoot[] = L"Software\\VB and VBA Program Settings\\";
-
-class RegistryKey {
- public:
-  RegistryKey() = default;
-  RegistryKey(const RegistryKey&) = delete;
-  RegistryKey& operator=(const RegistryKey&) = delete;
-  ~RegistryKey() {
-    if (mKey) RegCloseKey(mKey);
-  }
-  HKEY Get() const { return mKey; }
-  HKEY* Out() { return &mKey; }
-
- private:
-  HKEY mKey = nullptr;
-};
 
 std::wstring PathOf(const SettingName& setting) {
   return kRoot + Widened(setting.Key) + L"\\" + Widened(setting.Section);
@@ -40,7 +26,7 @@ struct Value {
 std::optional<Value> ReadValue(HKEY key, const std::wstring& name) {
   Value value;
   DWORD size = 0;
-  // Another program may make the value longer between asking for its size and reading it.
+  // Another program may lengthen the value between the query for its size and the reading.
   LSTATUS status = RegQueryValueExW(key, name.c_str(), nullptr, &value.Type, nullptr, &size);
   while (status == ERROR_SUCCESS && size > value.Bytes.size()) {
     value.Bytes.resize(size);
@@ -55,7 +41,7 @@ std::optional<Value> ReadValue(HKEY key, const std::wstring& name) {
 std::string TextOfBytes(const std::vector<BYTE>& bytes) {
   std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
   std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
-  // The closing zero counts as stored, but not everybody stores it.
+  // The size includes the terminating zero, but not every program stores one.
   return Narrowed(text.substr(0, text.find(L'\0')));
 }
 
@@ -91,7 +77,7 @@ void RegistrySettings::Write(const SettingName& setting, const std::string& text
 }
 
 void RegistrySettings::Forget(const std::string& key) {
-  // Without a key the settings of all programs would go.
+  // An empty key would delete the settings of all programs.
   if (key.find_first_not_of('\\') == std::string::npos) return;
   RegDeleteTreeW(HKEY_CURRENT_USER, (kRoot + Widened(key)).c_str());
 }

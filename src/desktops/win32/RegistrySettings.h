@@ -1,4 +1,4 @@
-// Settings in the registry, where the settings functions of the older Basic keep them.
+// Settings in the registry, in the place where the settings functions of Visual Basic keep them.
 #pragma once
 
 #include "forms/SettingsStore.h"

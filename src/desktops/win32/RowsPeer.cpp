@@ -9,17 +9,12 @@
 
 #include "desktops/win32/Handles.h"
 #include "desktops/win32/Text.h"
-#include "forms/Desktop.h"
 #include "forms/Form.h"
 
 namespace orx::win32 {
 namespace {
 
-/// In twips: what a row is higher than its text, and the gap before a text.
-constexpr int kRowGap = 60;
-constexpr int kTextGap = 45;
-
-int RowHeight(HWND window, HFONT face) {
+int TextHeight(HWND window, HFONT face) {
   const WindowContext context(window);
   const Selection selection(context.Get(), face);
   TEXTMETRICW metrics = {};
@@ -29,12 +24,13 @@ int RowHeight(HWND window, HFONT face) {
 
 }  // namespace
 
-RowsPeer::RowsPeer(Control& control, Dialog& dialog, HWND window) : Peer(control, dialog, window) {
+RowsPeer::RowsPeer(Control& control, RowList& rows, Dialog& dialog, HWND window)
+    : Peer(control, dialog, window), mRows(rows), mMeasures(dialog.Owner().OwnerDesktop().Scale()) {
   Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
   LVCOLUMNW column = {};
   Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
-  // The height of the pictures that rows might have is the height of the rows.
-  const int height = RowHeight(window, dialog.Face()) + Pixels(kRowGap);
+  // The rows are as high as the pictures that they might have.
+  const int height = mMeasures.Height(TextHeight(window, dialog.Face()));
   Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(ImageList_Create(1, height, ILC_COLOR, 1, 1)));
 }
 
@@ -42,13 +38,9 @@ LRESULT RowsPeer::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
   return SendMessageW(Window(), message, wParam, lParam);
 }
 
-int RowsPeer::Pixels(int twips) const {
-  return Subject().OwnerForm().OwnerDesktop().ToPixels(twips);
-}
-
 void RowsPeer::MirrorRows() {
   mWidest = 0;
-  Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(Count()), LVSICF_NOSCROLL | LVSICF_NOINVALIDATEALL);
+  Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(mRows.ShownCount()), LVSICF_NOSCROLL | LVSICF_NOINVALIDATEALL);
   InvalidateRect(Window(), nullptr, TRUE);
 }
 
@@ -78,16 +70,16 @@ LRESULT RowsPeer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
       return 0;
     case WM_RBUTTONDOWN:
     case WM_RBUTTONDBLCLK:
-      // The native list would select by it.
+      // The native list would select the row.
       return 0;
     case WM_KEYDOWN:
       if (GetKeyState(VK_CONTROL) < 0) return 0;
-      if (ScrollsAcross() && (wParam == VK_LEFT || wParam == VK_RIGHT))
+      if (mRows.ScrollsAcross() && (wParam == VK_LEFT || wParam == VK_RIGHT))
         return Send(WM_HSCROLL, wParam == VK_LEFT ? SB_LINELEFT : SB_LINERIGHT);
-      KeyPressed(static_cast<int>(wParam), static_cast<int>(Send(LVM_GETCOUNTPERPAGE)));
+      PressKey(static_cast<int>(wParam));
       return 0;
     case WM_CHAR:
-      if (!IS_HIGH_SURROGATE(wParam) && !IS_LOW_SURROGATE(wParam)) Typed(static_cast<char32_t>(wParam));
+      Type(static_cast<wchar_t>(wParam));
       return 0;
     case WM_PAINT: {
       const int known = mWidest;
@@ -105,15 +97,34 @@ LRESULT RowsPeer::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lPa
   }
 }
 
-void RowsPeer::Press(POINT at, bool twice) {
+void RowsPeer::Press(POINT at, bool isSecond) {
   LVHITTESTINFO hit = {};
   hit.pt = at;
   const auto position = static_cast<int>(Send(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
-  if (position < 0 || position >= Count()) {
+  if (position < 0 || position >= mRows.ShownCount()) {
     FocusIsGranted();
     return;
   }
-  Pressed(position, at, twice);
+  // Each row begins at the left edge of the view: only a list without marks scrolls across.
+  const RowPress press{position, static_cast<int>(at.x), isSecond};
+  Report([&rows = mRows, press] { rows.UserPress(press); });
+}
+
+void RowsPeer::PressKey(int virtualKey) {
+  int code = virtualKey;
+  if (virtualKey == VK_OEM_PLUS) code = kKeyCodePlus;
+  if (virtualKey == VK_OEM_MINUS) code = kKeyCodeMinus;
+  mRows.PageRows(static_cast<int>(Send(LVM_GETCOUNTPERPAGE)));
+  Report([&rows = mRows, code] { rows.UserKeyDown(code); });
+}
+
+void RowsPeer::Type(wchar_t unit) {
+  if (IS_HIGH_SURROGATE(unit) || IS_LOW_SURROGATE(unit)) return;
+  Report([&rows = mRows, unit] { rows.UserCharacter(static_cast<char32_t>(unit)); });
+}
+
+void RowsPeer::NativeSelected(int position, bool isSelected) {
+  Report([&rows = mRows, position, isSelected] { rows.UserSelect(position, isSelected); });
 }
 
 LRESULT RowsPeer::OnNotify(const NMHDR& notice) {
@@ -127,7 +138,7 @@ LRESULT RowsPeer::OnNotify(const NMHDR& notice) {
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
       const bool isTold = ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0;
-      if (isTold && change.iItem >= 0 && change.iItem < Count())
+      if (isTold && change.iItem >= 0 && change.iItem < mRows.ShownCount())
         NativeSelected(change.iItem, (change.uNewState & LVIS_SELECTED) != 0);
       return 0;
     }
@@ -143,14 +154,14 @@ void RowsPeer::GiveText(LVITEMW& item) const {
 }
 
 std::wstring RowsPeer::WideTextAt(int position) const {
-  return position < 0 || position >= Count() ? std::wstring() : Widened(TextAt(position));
+  return position < 0 || position >= mRows.ShownCount() ? std::wstring() : Widened(mRows.ShownText(position));
 }
 
 LRESULT RowsPeer::Draw(const NMLVCUSTOMDRAW& draw) {
   if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
   if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
   const auto position = static_cast<int>(draw.nmcd.dwItemSpec);
-  if (position < Count()) DrawRow(draw.nmcd.hdc, position);
+  if (position < mRows.ShownCount()) DrawRow(draw.nmcd.hdc, position);
   return CDRF_SKIPDEFAULT;
 }
 
@@ -158,7 +169,7 @@ void RowsPeer::DrawRow(HDC context, int position) {
   RECT place = {LVIR_BOUNDS, 0, 0, 0};
   Send(LVM_GETITEMRECT, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&place));
   const bool isFocused = GetFocus() == Window();
-  const bool isSelected = IsSelected(position);
+  const bool isSelected = mRows.IsSelectedAt(position);
   int ground = COLOR_WINDOW;
   int ink = IsWindowEnabled(Window()) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
   if (isSelected) {
@@ -166,20 +177,51 @@ void RowsPeer::DrawRow(HDC context, int position) {
     ink = isFocused ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT;
   }
   FillRect(context, &place, GetSysColorBrush(ground));
-  const int gap = Pixels(kTextGap);
+  const int gap = mMeasures.TextGap();
   RECT text = place;
-  text.left += IndentOf(position) + gap;
+  text.left += mMeasures.Indent(mRows.LevelsAt(position)) + gap;
   DrawMark(context, place, position, ink);
   SetBkMode(context, TRANSPARENT);
   SetTextColor(context, GetSysColor(ink));
   const std::wstring shown = WideTextAt(position);
   DrawTextW(context, shown.c_str(), static_cast<int>(shown.size()), &text,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-  if (isFocused && position == FocusedPosition()) DrawFocusRect(context, &place);
-  if (!ScrollsAcross()) return;
+  if (isFocused && position == mRows.FocusPosition()) DrawFocusRect(context, &place);
+  if (!mRows.ScrollsAcross()) return;
   SIZE size = {};
   GetTextExtentPoint32W(context, shown.c_str(), static_cast<int>(shown.size()), &size);
   mWidest = std::max(mWidest, static_cast<int>(size.cx) + 2 * gap);
+}
+
+/// A square with a minus, and while the row is folded with a plus.
+void RowsPeer::DrawMark(HDC context, const RECT& place, int position, int ink) const {
+  const FoldMark mark = mRows.MarkAt(position);
+  if (mark == FoldMark::None) return;
+  const double scale = Owner().Owner().OwnerDesktop().Scale();
+  const int half = TwipsToPixels(4 * kTwipsPerPixel, scale);
+  const int thick = std::max(1, TwipsToPixels(kTwipsPerPixel, scale));
+  const PixelSpan span = mMeasures.MarkAt(mRows.LevelsAt(position));
+  const int x = span.Left + span.Width / 2;
+  const int y = static_cast<int>(place.top + place.bottom) / 2;
+  const auto fill = [&](int left, int top, int right, int bottom) {
+    const RECT part = {left, top, right, bottom};
+    FillRect(context, &part, GetSysColorBrush(ink));
+  };
+  const int first = thick / 2;
+  const int last = thick - first;
+  fill(x - half - first, y - half - first, x + half + last, y - half + last);
+  fill(x - half - first, y + half - first, x + half + last, y + half + last);
+  fill(x - half - first, y - half - first, x - half + last, y + half + last);
+  fill(x + half - first, y - half - first, x + half + last, y + half + last);
+  const int arm = half - 2 * thick;
+  fill(x - arm - first, y - first, x + arm + last, y + last);
+  if (mark == FoldMark::Folded) fill(x - first, y - arm - first, x + last, y + arm + last);
+}
+
+HWND MakeRowsWindow(const WindowSite& site, DWORD style) {
+  return MakeWindow(WC_LISTVIEWW,
+                    LVS_REPORT | LVS_OWNERDATA | LVS_NOCOLUMNHEADER | LVS_SHOWSELALWAYS | WS_TABSTOP | style, site,
+                    WS_EX_CLIENTEDGE);
 }
 
 }  // namespace orx::win32

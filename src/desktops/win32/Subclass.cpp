@@ -3,8 +3,8 @@
 namespace orx::win32 {
 namespace {
 
-/// The library of the common controls knows these functions by name in its version 6 only, which a program need not
-/// have asked for; their numbers are the same in all versions.
+/// Only version 6 of the common controls exports these functions by name, and a program need not use that version;
+/// their ordinals are the same in all versions.
 template <class Function>
 Function Numbered(WORD ordinal) {
   static const HMODULE library = LoadLibraryW(L"comctl32.dll");

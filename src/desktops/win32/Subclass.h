@@ -1,4 +1,4 @@
-// Sees the messages of a window before the window does, for as long as both live.
+// Receives the messages of a window before the window does, for as long as both live.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,7 @@
 
 namespace orx::win32 {
 
-/// Takes itself off the window again when it goes. A window has at most one for each `proc`.
+/// Removes itself from the window when it is destroyed. A window has at most one for each `proc`.
 class Subclass {
  public:
   /// Calls `proc` with `self` as its last argument; a null window is left alone.
@@ -16,7 +16,7 @@ class Subclass {
   Subclass(const Subclass&) = delete;
   Subclass& operator=(const Subclass&) = delete;
 
-  /// For `proc`: lets the window deal with the message.
+  /// For `proc`: lets the window handle the message.
   static LRESULT CallNext(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   /// The `self` of the subclass with that proc, null for windows without one.
   static void* SelfOf(HWND window, SUBCLASSPROC proc);

@@ -13,7 +13,7 @@
 namespace orx::win32 {
 namespace {
 
-/// What of the space between a page and the line around it is free of the line in every look, in pixels.
+/// How much of the space between a page and the line around it is free in every theme, in pixels.
 constexpr int kRim = 2;
 
 class TabControlPeer final : public Peer {
@@ -65,12 +65,12 @@ class TabControlPeer final : public Peer {
     return result;
   }
 
-  /// The pages have the colour of the dialog; between them and the line around them some looks show another one.
+  /// The pages have the colour of the dialog; some themes show another one between them and the line around them.
   static void PaintRim(HWND window) {
     RECT body;
     GetClientRect(window, &body);
     SendMessageW(window, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&body));
-    // To the right and below, the line stands further inside.
+    // To the right and below, the line is further inside.
     body.left -= kRim;
     body.right += kRim / 2;
     body.bottom += kRim / 2;

@@ -1,4 +1,4 @@
-// Texts between the library and the platform: UTF-8 here, UTF-16 there, and the positions in both.
+// Texts between the library (UTF-8) and the platform (UTF-16), and positions in both.
 #pragma once
 
 #include <string>
@@ -6,11 +6,11 @@
 
 namespace orx::win32 {
 
-/// UTF-8 to and from UTF-16. What is no text on one side becomes the replacement character on the other.
+/// UTF-8 to and from UTF-16. Invalid sequences become the replacement character.
 std::wstring Widened(std::string_view text);
 std::string Narrowed(std::wstring_view text);
 
-/// A text of several lines as fields keep it: lines end with "\r\n" there and with "\n" in the form.
+/// A text of several lines, as native fields keep it: lines end with "\r\n" there, with "\n" in the form.
 std::wstring ToNativeLines(std::string_view text);
 std::string FromNativeLines(const std::wstring& text);
 

@@ -9,7 +9,7 @@ namespace {
 class TextBoxPeer final : public Peer {
  public:
   TextBoxPeer(TextBox& control, Dialog& dialog, HWND window) : Peer(control, dialog, window), mControl(control) {
-    // The platform's own limit is shorter than texts may be.
+    // The platform's own limit is too low for some texts.
     SendMessageW(window, EM_SETLIMITTEXT, 0, 0);
   }
 
@@ -34,7 +34,7 @@ class TextBoxPeer final : public Peer {
     const int start = UnitOffset(text, mControl.SelStart());
     const int end = UnitOffset(text, mControl.SelStart() + mControl.SelLength());
     SendMessageW(Window(), EM_SETSEL, static_cast<WPARAM>(start), end);
-    // A locked field of several lines is a log, of which the last lines are the news.
+    // A locked field of several lines is a log, whose last lines are the newest.
     if (HasLines() && mControl.Locked()) SendMessageW(Window(), WM_VSCROLL, SB_BOTTOM, 0);
   }
 
@@ -43,7 +43,7 @@ class TextBoxPeer final : public Peer {
   }
 
   LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
-    // Ctrl+A came to fields of the platform late.
+    // Not all versions of the platform select all on Ctrl+A.
     if (message == WM_CHAR && wParam == 1) return SendMessageW(window, EM_SETSEL, 0, -1);
     Dialog& dialog = Owner();
     const LRESULT result = Peer::OnMessage(window, message, wParam, lParam);

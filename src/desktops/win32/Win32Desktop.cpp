@@ -4,8 +4,6 @@
 
 #include <commctrl.h>
 
-#include <optional>
-
 #include "desktops/win32/Characters.h"
 #include "desktops/win32/ColorDialog.h"
 #include "desktops/win32/DialogWindow.h"
@@ -14,17 +12,17 @@
 #include "desktops/win32/Fonts.h"
 #include "desktops/win32/GuestScope.h"
 #include "desktops/win32/MessageBox.h"
-#include "desktops/win32/Picture.h"
+#include "desktops/win32/MousePointers.h"
 #include "desktops/win32/PlatformDialog.h"
-#include "desktops/win32/Pointers.h"
 #include "desktops/win32/RegistrySettings.h"
 #include "desktops/win32/Text.h"
+#include "desktops/win32/WindowPicture.h"
 #include "forms/Form.h"
 
 namespace orx::win32 {
 namespace {
 
-/// The font size, in points, and the resolution for which the dialogs are drawn up.
+/// The font size, in points, and the resolution for which the dialogs are designed.
 constexpr double kDesignPoints = 9;
 constexpr double kDesignDotsPerInch = 96;
 
@@ -34,7 +32,7 @@ std::string LocaleText(LCTYPE what) {
   return Narrowed(text);
 }
 
-/// What the frame adds to a client area.
+/// The size that the frame adds to a client area.
 SIZE FrameSize(BorderStyle border) {
   RECT frame = {};
   const bool isFixed = border == BorderStyle::Fixed;
@@ -43,7 +41,7 @@ SIZE FrameSize(BorderStyle border) {
   return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
-/// The help engine takes the file's name in 8 bits.
+/// The help engine takes the name of the file in the 8-bit code page.
 void AskHelpEngine(const HelpRequest& request) {
   const std::wstring wide = Widened(request.FileName);
   const int length = WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);
@@ -71,8 +69,6 @@ BOOL CALLBACK AddMonitor(HMONITOR monitor, HDC, RECT*, LPARAM areas) {
 
 struct Win32Desktop::State {
   RegistrySettings Settings;
-  std::optional<numbers::Separators> Separators;
-  std::optional<Rect> WorkArea;
   std::function<void(const HelpRequest&)> HelpEngine = AskHelpEngine;
   double Scale = MeasureScale();
 };
@@ -84,7 +80,7 @@ Win32Desktop::~Win32Desktop() {
   CloseOpenForms();
 }
 
-ScreenMetrics Win32Desktop::Metrics(BorderStyle border) const {
+ScreenMetrics Win32Desktop::SystemMetrics(BorderStyle border) const {
   const GuestScope guest;
   RECT area = {};
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
@@ -92,15 +88,13 @@ ScreenMetrics Win32Desktop::Metrics(BorderStyle border) const {
   ScreenMetrics metrics;
   metrics.Screen = {twips(GetSystemMetrics(SM_CXSCREEN)), twips(GetSystemMetrics(SM_CYSCREEN))};
   metrics.WorkArea = {twips(area.left), twips(area.top), twips(area.right - area.left), twips(area.bottom - area.top)};
-  if (mState->WorkArea) metrics.WorkArea = *mState->WorkArea;
   const SIZE frame = FrameSize(border);
   metrics.Frame = {twips(frame.cx), twips(frame.cy)};
   return metrics;
 }
 
-std::vector<Rect> Win32Desktop::WorkAreas() const {
-  std::vector<Rect> areas = Desktop::WorkAreas();
-  if (mState->WorkArea) return areas;
+std::vector<Rect> Win32Desktop::FurtherWorkAreas() const {
+  std::vector<Rect> areas;
   const GuestScope guest;
   std::vector<RECT> further;
   EnumDisplayMonitors(nullptr, nullptr, AddMonitor, reinterpret_cast<LPARAM>(&further));
@@ -128,21 +122,12 @@ Size Win32Desktop::MeasureCharacter(const Font& face, int code) const {
   return CharacterSize(face, code);
 }
 
-numbers::Separators Win32Desktop::Separators() const {
-  if (mState->Separators) return *mState->Separators;
+numbers::Separators Win32Desktop::LocaleSeparators() const {
   return {LocaleText(LOCALE_SDECIMAL), LocaleText(LOCALE_STHOUSAND), LocaleText(LOCALE_SCURRENCY)};
-}
-
-void Win32Desktop::Separators(const numbers::Separators& value) {
-  mState->Separators = value;
 }
 
 SettingsStore& Win32Desktop::Settings() {
   return mState->Settings;
-}
-
-void Win32Desktop::WorkArea(const Rect& value) {
-  mState->WorkArea = value;
 }
 
 void Win32Desktop::HelpEngine(std::function<void(const HelpRequest&)> engine) {

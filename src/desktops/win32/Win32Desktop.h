@@ -6,41 +6,34 @@
 #include <memory>
 #include <string>
 
-#include "forms/Desktop.h"
+#include "forms/NativeDesktop.h"
 
 namespace orx::win32 {
 
-/// Use it on one thread only, which has a message queue. It is a guest there: the look of the common controls and the
-/// awareness of the screen's dpi are taken for the time of a call and given back. Dialogs take the user's font for
-/// messages, at 9 points or more, and grow with it and with the system's dpi.
-class Win32Desktop final : public Desktop {
+/// For one thread only, which has a message queue. The desktop is a guest there: the look of the common controls and
+/// the awareness of the screen's dpi are set for the duration of a call and then restored. Dialogs use the user's font
+/// for messages, at 9 points or more, and grow with it and with the system's dpi.
+class Win32Desktop final : public NativeDesktop {
  public:
   Win32Desktop();
   /// Closes the forms that are still open.
   ~Win32Desktop() override;
 
-  ScreenMetrics Metrics(BorderStyle border) const override;
-  std::vector<Rect> WorkAreas() const override;
   double Scale() const override;
   std::vector<std::string> ScreenFonts() const override;
   Color SystemColor(orx::SystemColor which) const override;
   Size MeasureCharacter(const Font& face, int code) const override;
-  numbers::Separators Separators() const override;
   SettingsStore& Settings() override;
+  bool SavePicture(const Form& form, const std::string& pngPath) const override;
+  bool SaveMessagePicture(const std::string& pngPath) const override;
 
-  /// Gives number separators in place of the locale's.
-  void Separators(const numbers::Separators& value);
-  /// Gives a part of the screen, in twips, to keep the dialogs in, in place of the screen's own work area.
-  void WorkArea(const Rect& value);
-  /// Gives a function in place of the platform's help engine.
+  /// Replaces the platform's help engine.
   void HelpEngine(std::function<void(const HelpRequest&)> engine);
 
-  /// Writes a picture of a form that is shown, or of the message box that is open, without the frame of its window, as
-  /// PNG file. False when nothing is shown or the file cannot be written.
-  bool SavePicture(const Form& form, const std::string& pngPath) const;
-  bool SaveMessagePicture(const std::string& pngPath) const;
-
  protected:
+  ScreenMetrics SystemMetrics(BorderStyle border) const override;
+  std::vector<Rect> FurtherWorkAreas() const override;
+  numbers::Separators LocaleSeparators() const override;
   std::unique_ptr<FormWindow> OpenWindow(Form& form) override;
   MessageAnswer DoShowMessage(const Message& message, FormWindow* owner) override;
   bool DoOpenFiles(OpenFileRequest& request) override;

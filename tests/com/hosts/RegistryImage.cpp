@@ -1,5 +1,7 @@
 #include "tests/com/hosts/RegistryImage.h"
 
+#include "desktops/win32/Handles.h"
+
 namespace orx::com::test {
 namespace {
 
@@ -21,25 +23,23 @@ void ReadValues(HKEY key, const std::wstring& path, RegistryImage& image) {
 }
 
 void ReadKey(HKEY parent, const std::wstring& path, const std::wstring& name, RegistryImage& image) {
-  HKEY key = nullptr;
-  if (RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return;
+  win32::RegistryKey key;
+  if (RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ, key.Out()) != ERROR_SUCCESS) return;
   image[path] = L"key";
-  ReadValues(key, path, image);
+  ReadValues(key.Get(), path, image);
   wchar_t child[300];
-  for (DWORD index = 0; RegEnumKeyW(key, index, child, 300) == ERROR_SUCCESS; ++index)
-    ReadKey(key, path + L"\\" + child, child, image);
-  RegCloseKey(key);
+  for (DWORD index = 0; RegEnumKeyW(key.Get(), index, child, 300) == ERROR_SUCCESS; ++index)
+    ReadKey(key.Get(), path + L"\\" + child, child, image);
 }
 
 void ReadNames(HKEY root, const std::wstring& folder, RegistryKeys& keys) {
-  HKEY key = nullptr;
-  if (RegOpenKeyExW(root, (kClasses + (folder.empty() ? L"" : L"\\" + folder)).c_str(), 0, KEY_READ, &key) !=
+  win32::RegistryKey key;
+  if (RegOpenKeyExW(root, (kClasses + (folder.empty() ? L"" : L"\\" + folder)).c_str(), 0, KEY_READ, key.Out()) !=
       ERROR_SUCCESS)
     return;
   wchar_t name[300];
-  for (DWORD index = 0; RegEnumKeyW(key, index, name, 300) == ERROR_SUCCESS; ++index)
+  for (DWORD index = 0; RegEnumKeyW(key.Get(), index, name, 300) == ERROR_SUCCESS; ++index)
     keys.insert(folder.empty() ? name : folder + L"\\" + name);
-  RegCloseKey(key);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "com/PageControls.h"
+#include "com/PageControlFactory.h"
 #include "tests/com/pagecontrols/HostObjects.h"
 #include "tests/com/pagecontrols/TestRegistration.h"
 #include "tests/support/PageHostTest.h"

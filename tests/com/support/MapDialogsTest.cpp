@@ -5,7 +5,7 @@
 namespace orx::com::test {
 
 MapDialogsTest::MapDialogsTest() {
-  Surroundings::DesktopMaker([this] {
+  ThreadContext::DesktopMaker([this] {
     auto made = std::make_unique<headless::HeadlessDesktop>();
     made->Hook(this);
     return made;
@@ -15,7 +15,7 @@ MapDialogsTest::MapDialogsTest() {
 
 MapDialogsTest::~MapDialogsTest() {
   dialogs.Reset();
-  Surroundings::DesktopMaker({});
+  ThreadContext::DesktopMaker({});
 }
 
 void MapDialogsTest::ModalRunning(const Modal& modal) {

@@ -54,37 +54,31 @@ std::string Shown(const VARIANT* value) {
   return "VT" + std::to_string(value->vt);
 }
 
-void Replace(BSTR& text, const char* by) {
-  Bstr made(by);
-  SysFreeString(std::exchange(text, made.Detach()));
-}
-
-void Replace(SAFEARRAY*& array, const std::vector<std::string>& by) {
-  SafeArrayDestroy(array);
-  array = ArrayOfTexts(by, 1);
-}
-
 }  // namespace
 
 std::vector<std::string> TextsOf(SAFEARRAY* array) {
-  LONG first = 0;
-  LONG last = -1;
-  if (array) SafeArrayGetLBound(array, 1, &first);
-  if (array) SafeArrayGetUBound(array, 1, &last);
+  ArrayBounds bounds;
+  BoundsOf(array, bounds);
   std::vector<std::string> texts;
-  for (LONG i = first; i <= last; ++i) {
+  for (LONG index = bounds.First; texts.size() < bounds.Count; ++index) {
     Bstr text;
-    SafeArrayGetElement(array, &i, text.Out());
+    SafeArrayGetElement(array, &index, text.Out());
     texts.push_back(text.Text());
   }
   return texts;
 }
 
-SAFEARRAY* ArrayOfTexts(const std::vector<std::string>& texts, LONG first) {
-  SAFEARRAY* const array = SafeArrayCreateVector(VT_BSTR, first, static_cast<ULONG>(texts.size()));
-  for (LONG i = first; i < first + static_cast<LONG>(texts.size()); ++i)
-    SafeArrayPutElement(array, &i, Bstr(texts[static_cast<std::size_t>(i - first)]).Get());
-  return array;
+SafeArray ArrayOfTexts(const std::vector<std::string>& texts, LONG first) {
+  SafeArray made(VT_BSTR, {first, static_cast<ULONG>(texts.size())});
+  for (const std::string& text : texts) made.Put(first++, Variant(text));
+  return made;
+}
+
+SafeArray TableOf(VARTYPE element) {
+  SAFEARRAYBOUND bounds[] = {{2, 0}, {2, 0}};
+  SafeArray made;
+  *made.InOut() = SafeArrayCreate(element, 2, bounds);
+  return made;
 }
 
 template <class... Values>
@@ -168,7 +162,7 @@ HRESULT Recorder::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMo
 HRESULT Recorder::ShowProperties(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                  long* result) noexcept {
   return Guarded("Recorder", [&] {
-    if (!Failure.empty()) throw RunTimeError(321, Failure);
+    if (!Failure.empty()) throw RunTimeError(kErrorFileFormat, Failure);
     Note("ShowProperties", mObj, mCaption, mModal, OwnerForm);
     *result = 9;
   });
@@ -198,7 +192,7 @@ HRESULT Recorder::ShowGeoReference(IDispatch** mObj, ::CheckState* mKeepRatio, B
 HRESULT Recorder::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, double* mRotation, VARIANT_BOOL* mChanged,
                                          BSTR* mCaption, VARIANT* OwnerForm, long* result) noexcept {
   Note("ShowCharacterSelection", mFontName, mCharacter, mRotation, mChanged, mCaption, OwnerForm);
-  Replace(*mFontName, "Symbols");
+  Bstr("Symbols").SwapWith(*mFontName);
   *mCharacter = 65;
   *mRotation = 22.5;
   *mChanged = VARIANT_TRUE;
@@ -211,19 +205,16 @@ HRESULT Recorder::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMulti
                                     SAFEARRAY** mSelected, long* result) noexcept {
   Note("ShowListSelection", mSelection, mMultiselect, mListIndex, mCaption, mAskConfirmation, mConfirmationQuestion,
        mSelected);
-  SafeArrayDestroy(*mSelected);
-  *mSelected = SafeArrayCreateVector(VT_I4, 0, 2);
-  for (LONG i = 0; i < 2; ++i) {
-    LONG chosen = i + 7;
-    SafeArrayPutElement(*mSelected, &i, &chosen);
-  }
+  SafeArray chosen(VT_I4, {0, 2});
+  for (LONG i = 0; i < 2; ++i) chosen.Put(i, Variant(std::int32_t{i + 7}));
+  chosen.SwapWith(*mSelected);
   *result = 14;
   return S_OK;
 }
 
 HRESULT Recorder::ShowAddLayer(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files, VARIANT_BOOL* result) noexcept {
   Note("ShowAddLayer", hWnd, multiselect, files);
-  Replace(*files, {"a.bil", "b.bil"});
+  ArrayOfTexts({"a.bil", "b.bil"}, 1).SwapWith(*files);
   *result = VARIANT_TRUE;
   return S_OK;
 }
@@ -237,7 +228,7 @@ HRESULT Recorder::ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** f
 HRESULT Recorder::ShowFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                    VARIANT_BOOL* result) noexcept {
   Note("ShowFileNotFound", fileName, newFileName, cancelAll);
-  Replace(*newFileName, "new");
+  Bstr("new").SwapWith(*newFileName);
   *result = VARIANT_FALSE;
   return S_OK;
 }

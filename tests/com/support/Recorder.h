@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "com/Dispatch.h"
+#include "com/SafeArray.h"
 
 namespace orx::com::test {
 
@@ -15,7 +16,7 @@ class Recorder final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDial
  public:
   /// The calls, such as: ShowLegends(object, 3, "A", 1, missing).
   std::vector<std::string> Calls;
-  /// When not empty, ShowProperties fails with this description and the error number 321.
+  /// When not empty, ShowProperties fails with this description and kErrorFileFormat.
   std::string Failure;
 
   HRESULT STDMETHODCALLTYPE get_RegistryKey(BSTR* value) noexcept override;
@@ -67,6 +68,8 @@ class Recorder final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDial
 
 /// The elements of an array of texts, and an array made of them.
 std::vector<std::string> TextsOf(SAFEARRAY* array);
-SAFEARRAY* ArrayOfTexts(const std::vector<std::string>& texts, LONG first = 0);
+SafeArray ArrayOfTexts(const std::vector<std::string>& texts, LONG first = 0);
+/// An array of two dimensions, which no member takes.
+SafeArray TableOf(VARTYPE element);
 
 }  // namespace orx::com::test

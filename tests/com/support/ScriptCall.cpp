@@ -57,15 +57,12 @@ HRESULT ScriptCall::Invoke(WORD flags, LCID locale, std::vector<DISPID> named) {
   std::ranges::reverse(named);
   DISPPARAMS parameters = {reversed.data(), named.data(), static_cast<UINT>(reversed.size()),
                            static_cast<UINT>(named.size())};
-  EXCEPINFO error = {};
+  ExceptionInfo error;
   const HRESULT result =
       mObject->Invoke(member, IID_NULL, locale, flags, &parameters, Result.Out(), &error, &WrongArgument);
   Description = TextOf(error.bstrDescription);
   Source = TextOf(error.bstrSource);
   Code = error.scode;
-  SysFreeString(error.bstrDescription);
-  SysFreeString(error.bstrSource);
-  SysFreeString(error.bstrHelpFile);
   return result;
 }
 

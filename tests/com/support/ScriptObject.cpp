@@ -49,7 +49,7 @@ HRESULT ScriptObject::Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS
   auto& [name, value] = *std::next(mFields.begin(), member - 1);
   if (name == Broken) {
     error->bstrDescription = Bstr(name + " is broken").Detach();
-    error->scode = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 321);
+    error->scode = CodeOf(kErrorFileFormat);
     return DISP_E_EXCEPTION;
   }
   if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {

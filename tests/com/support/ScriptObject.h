@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "com/Counted.h"
+#include "hostobjects/RunTimeError.h"
 
 namespace orx::com::test {
 
@@ -50,7 +51,7 @@ class ScriptObject final : public Counted<IDispatchEx> {
   /// Names of the fields that were read and written, in order.
   std::vector<std::string> Read;
   std::vector<std::string> Written;
-  /// The field that raises error 321 with the description "<field> is broken" whenever it is touched.
+  /// The field that raises kErrorFileFormat with the description "<field> is broken" whenever it is touched.
   std::string Broken;
 
  protected:
@@ -65,6 +66,11 @@ class ScriptObject final : public Counted<IDispatchEx> {
 
 /// An object without members by name or number.
 class PlainObject final : public Counted<IUnknown> {};
+
+/// The error code by which hosts know a run-time error.
+constexpr HRESULT CodeOf(std::int32_t number) {
+  return static_cast<HRESULT>(0x800A0000U + static_cast<std::uint32_t>(number));
+}
 
 /// The number of references of an object.
 template <class Object>

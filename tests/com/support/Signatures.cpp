@@ -4,37 +4,12 @@
 
 #include <map>
 
+#include "com/TypeDescriptions.h"
+
 namespace orx::com::test {
 namespace {
 
 constexpr int kSlotsOfDispatch = 7;
-
-/// What a type library lends until it is given back.
-class Function {
- public:
-  Function(ITypeInfo& info, UINT index) : mInfo(info) { mInfo.GetFuncDesc(index, &mDescription); }
-  ~Function() { mInfo.ReleaseFuncDesc(mDescription); }
-  Function(const Function&) = delete;
-  Function& operator=(const Function&) = delete;
-  const FUNCDESC* operator->() const { return mDescription; }
-
- private:
-  ITypeInfo& mInfo;
-  FUNCDESC* mDescription = nullptr;
-};
-
-class Attributes {
- public:
-  explicit Attributes(ITypeInfo& info) : mInfo(info) { mInfo.GetTypeAttr(&mAttributes); }
-  ~Attributes() { mInfo.ReleaseTypeAttr(mAttributes); }
-  Attributes(const Attributes&) = delete;
-  Attributes& operator=(const Attributes&) = delete;
-  const TYPEATTR* operator->() const { return mAttributes; }
-
- private:
-  ITypeInfo& mInfo;
-  TYPEATTR* mAttributes = nullptr;
-};
 
 std::string NameOf(ITypeInfo& info) {
   Bstr name;
@@ -83,24 +58,25 @@ std::string KindOf(INVOKEKIND kind, bool hasResult) {
   }
 }
 
-std::vector<std::string> NamesOf(ITypeInfo& info, const Function& function) {
-  std::vector<BSTR> names(static_cast<std::size_t>(function->cParams) + 1, nullptr);
+std::vector<std::string> NamesOf(ITypeInfo& info, const FUNCDESC& function) {
+  std::vector<Bstr> owners(static_cast<std::size_t>(function.cParams) + 1);
+  std::vector<BSTR> names(owners.size(), nullptr);
   UINT count = 0;
-  info.GetNames(function->memid, names.data(), static_cast<UINT>(names.size()), &count);
+  info.GetNames(function.memid, names.data(), static_cast<UINT>(names.size()), &count);
   std::vector<std::string> texts;
-  for (BSTR name : names) {
-    texts.push_back(name ? TextOf(name) : "value");
-    SysFreeString(name);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    owners[i].SwapWith(names[i]);
+    texts.push_back(owners[i].Get() ? owners[i].Text() : "value");
   }
   return texts;
 }
 
-std::string DeclarationOf(ITypeInfo& info, const Function& function) {
+std::string DeclarationOf(ITypeInfo& info, const FUNCDESC& function) {
   const std::vector<std::string> names = NamesOf(info, function);
   std::string parameters;
   std::string result;
-  for (SHORT i = 0; i < function->cParams; ++i) {
-    const ELEMDESC& parameter = function->lprgelemdescParam[i];
+  for (SHORT i = 0; i < function.cParams; ++i) {
+    const ELEMDESC& parameter = function.lprgelemdescParam[i];
     if (parameter.paramdesc.wParamFlags & PARAMFLAG_FRETVAL) {
       result = " As " + NameOfType(info, *parameter.tdesc.lptdesc);
       continue;
@@ -108,7 +84,7 @@ std::string DeclarationOf(ITypeInfo& info, const Function& function) {
     if (!parameters.empty()) parameters += ", ";
     parameters += Declared(info, parameter, names[static_cast<std::size_t>(i) + 1]);
   }
-  return KindOf(function->invkind, !result.empty()) + names[0] + "(" + parameters + ")" + result;
+  return KindOf(function.invkind, !result.empty()) + names[0] + "(" + parameters + ")" + result;
 }
 
 Type TypeOf(ITypeInfo& info) {
@@ -116,7 +92,7 @@ Type TypeOf(ITypeInfo& info) {
   Bstr name;
   Bstr help;
   info.GetDocumentation(MEMBERID_NIL, name.Out(), help.Out(), nullptr, nullptr);
-  const Attributes attributes(info);
+  const TypeAttributes attributes = AttributesOf(info);
   type.Name = name.Text();
   type.Help = help.Text();
   type.Kind = attributes->typekind;
@@ -144,12 +120,12 @@ std::vector<Member> MembersOf(ITypeInfo& dualInterface) {
   EXPECT_HRESULT_SUCCEEDED(dualInterface.GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
   EXPECT_HRESULT_SUCCEEDED(dualInterface.GetRefTypeInfo(reference, slots.Out()));
   if (!slots) return members;
-  const Attributes attributes(*slots.Get());
+  const TypeAttributes attributes = AttributesOf(*slots.Get());
   for (UINT i = 0; i < attributes->cFuncs; ++i) {
-    const Function function(*slots.Get(), i);
+    const FunctionDescription function = FunctionOf(*slots.Get(), i);
     Bstr help;
     slots->GetDocumentation(function->memid, nullptr, help.Out(), nullptr, nullptr);
-    members.push_back({DeclarationOf(*slots.Get(), function), help.Text(), function->memid,
+    members.push_back({DeclarationOf(*slots.Get(), *function), help.Text(), function->memid,
                        function->oVft / static_cast<int>(sizeof(void*)) - kSlotsOfDispatch});
   }
   return members;

@@ -4,25 +4,25 @@
 #include <set>
 #include <string>
 
-#include "maplibrary/TextLanguage.h"
-#include "maplibrary/Trimmed.h"
+#include "languages/TextLanguage.h"
+#include "text/Trimmed.h"
 
 namespace orx::test {
 
 /// Asks a language, and keeps the keys that it has no text for.
-class CheckedLanguage final : public maplibrary::FormLanguage {
+class CheckedLanguage final : public languages::FormLanguage {
  public:
-  explicit CheckedLanguage(maplibrary::TextLanguage& language) : mLanguage(language) {}
+  explicit CheckedLanguage(languages::TextLanguage& language) : mLanguage(language) {}
   std::int32_t EntryCount() override { return mLanguage.EntryCount(); }
   std::string TranslateText(const std::string& key) override {
-    if (!mLanguage.HasText(std::string(maplibrary::Trimmed(key))) && !key.starts_with('_')) Missing.insert(key);
+    if (!mLanguage.HasText(std::string(Trimmed(key))) && !key.starts_with('_')) Missing.insert(key);
     return mLanguage.TranslateText(key);
   }
 
   std::set<std::string> Missing;
 
  private:
-  maplibrary::TextLanguage& mLanguage;
+  languages::TextLanguage& mLanguage;
 };
 
 }  // namespace orx::test

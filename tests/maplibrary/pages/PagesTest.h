@@ -7,10 +7,11 @@
 #include <vector>
 
 #include "forms/PictureBox.h"
-#include "maplibrary/pages/PageFactory.h"
+#include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 #include "tests/maplibrary/pages/RecordedObjects.h"
 #include "tests/support/DesktopTest.h"
+#include "text/CharacterCount.h"
 
 namespace orx::test {
 
@@ -20,7 +21,7 @@ using Calls = std::vector<std::string>;
 struct PageForm final : Form {
   PageForm(Desktop& desktop, PageKind kind)
       : Form(desktop, "frmPage", {.Caption = "Page", .Client = {6465, 5670}}),
-        Page(maplibrary::PageFactory().CreatePage(kind, {Tabs.Page(0), "Page1", {0, 0, 6135, 4545}})) {}
+        Page(pages::PageFactory().CreatePage(kind, {Tabs.Page(0), "Page1", {0, 0, 6135, 4545}})) {}
 
   TabControl Tabs{*this, "ssTab", {.Place = {120, 120, 6255, 4995}}, {"Page"}};
   Button cmdOK{*this, "cmdOK", {.Caption = "&OK", .Place = {2340, 5220, 1275, 375}}, ButtonRole::Default};
@@ -98,7 +99,7 @@ class PagesTest : public DesktopTest {
     return made;
   }
 
-  maplibrary::PageFactory pages;
+  pages::PageFactory pages;
   SilentCallBack callBack;
   CCommonMapDialogs service{desktop(), pages};
   RecordedLayer layer;

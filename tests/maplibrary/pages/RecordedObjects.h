@@ -76,18 +76,7 @@ class RecordedLayer final : public HostObject, public ILayer, public ILabels {
   /// What Data gives; not owned.
   HostObject* Behind = nullptr;
   HostObject* Data() override { return Behind; }
-  void* Query(Kind kind) override {
-    switch (kind) {
-      case Kind::Layer:
-        return static_cast<ILayer*>(this);
-      case Kind::Labels:
-        return static_cast<ILabels*>(this);
-      case Kind::Extent:
-        return static_cast<IExtent*>(&Extent);
-      default:
-        return nullptr;
-    }
-  }
+  HostInterface* ViewFor(const std::type_info&) override { return &Extent; }
 
   ORX_RECORDED(std::string, const std::string&, Name, "Elevation")
   ORX_RECORDED(bool, bool, Visible, true)
@@ -112,7 +101,6 @@ class RecordedLayer final : public HostObject, public ILayer, public ILabels {
 /// A map without layers: only its extent counts here.
 class RecordedMap final : public HostObject, public IMap {
  public:
-  void* Query(Kind kind) override { return kind == Kind::Map ? static_cast<IMap*>(this) : nullptr; }
   std::int32_t LayerCount() override { return 0; }
   std::string LayerName(std::int32_t) override { return {}; }
   HostObject* Layer(std::int32_t) override { return nullptr; }
@@ -140,7 +128,6 @@ class RecordedLegend final : public ILegend {
 
 class RecordedLegends final : public HostObject, public ILegends {
  public:
-  void* Query(Kind kind) override { return kind == Kind::Legends ? static_cast<ILegends*>(this) : nullptr; }
   std::int32_t LegendCount() override { return Log.Get("LegendCount", static_cast<std::int32_t>(Legends.size())); }
   ILegend& Legend(std::int32_t index) override { return Legends.at(static_cast<std::size_t>(index)); }
 

@@ -1,0 +1,30 @@
+// What the dialogs of one thread share: the desktop that shows them and the property pages.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "forms/Desktop.h"
+#include "hostobjects/PropertyPage.h"
+
+namespace orx::com {
+
+/// The service objects of a thread share it. When the last one is released while a modeless dialog is still open, the
+/// context stays until that dialog is closed.
+class ThreadContext {
+ public:
+  virtual ~ThreadContext() = default;
+  virtual Desktop& Screen() = 0;
+  virtual IPageFactory& Pages() = 0;
+
+  /// The context of the calling thread, created when there is none.
+  static std::shared_ptr<ThreadContext> OfThread();
+  /// Releases the calling thread's context if it only waited for dialogs that have been closed since. True while any
+  /// thread has a context with open dialogs.
+  static bool StillOpen();
+
+  /// For tests: `maker` makes the desktops from now on; an empty function restores the platform's.
+  static void DesktopMaker(std::function<std::unique_ptr<Desktop>()> maker);
+};
+
+}  // namespace orx::com

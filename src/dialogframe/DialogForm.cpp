@@ -1,0 +1,62 @@
+#include "dialogframe/DialogForm.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "dialogframe/Help.h"
+#include "numbers/Numbers.h"
+
+namespace orx {
+
+DialogForm::DialogForm(Desktop& desktop, const DialogDesign& design)
+    : Form(desktop, design.Name, {.Caption = design.Caption, .Client = design.Client, .Border = design.Border}),
+      mHelpKey(design.HelpKey) {
+}
+
+void DialogForm::Language(ILanguage* value) {
+  mLanguage = value;
+  Hold(value);
+  AskLanguage();
+}
+
+void DialogForm::Form_Load() {
+  for (const auto step : {&DialogForm::Arrange, &DialogForm::TakeLanguage, &DialogForm::Fill,
+                          &DialogForm::TranslateControls, &DialogForm::TranslateCaption, &DialogForm::Ready})
+    if (IsLoaded()) LoadStep([&] { (this->*step)(); });
+}
+
+void DialogForm::TranslateControls() {
+  if (mLanguageActive) mLanguage->TranslateForm(*this);
+}
+
+void DialogForm::TranslateCaption() {
+  if (mLanguageActive) Caption(mLanguage->TranslateText(Caption()));
+}
+
+void DialogForm::TakeLanguage() {
+  if (!mLanguageActive) return;
+  const std::optional<double> number =
+      numbers::ToDouble(mLanguage->TranslateText(mHelpKey), OwnerDesktop().Separators());
+  if (number && std::abs(*number) < std::numeric_limits<std::int32_t>::max())
+    HelpContextId(numbers::RoundToLong(*number));
+}
+
+void DialogForm::Form_Unload() {
+  mLanguage = nullptr;
+  mLanguageActive = false;
+}
+
+void DialogForm::Form_Release() {
+  mHeld.clear();
+}
+
+void DialogForm::Hold(const BorrowedObject* lent) {
+  if (std::shared_ptr<const void> lifetime = lent ? lent->Lifetime() : nullptr) mHeld.push_back(std::move(lifetime));
+}
+
+void DialogForm::ShowHelp() {
+  modMain::ShowHelpFinder(*this, modMain::HelpFile(), HelpContextId());
+}
+
+}  // namespace orx

@@ -1,0 +1,16 @@
+// A language that translates forms text by text.
+#pragma once
+
+#include "hostobjects/ILanguage.h"
+
+namespace orx::languages {
+
+/// Translates captions, tool tips and tab captions of all controls of a form. Texts that the user edits and the entries
+/// of lists are not touched. A translated form can be translated again, as long as no translation is the key of
+/// another.
+class FormLanguage : public ILanguage {
+ public:
+  void TranslateForm(Form& form) override;
+};
+
+}  // namespace orx::languages

@@ -1,0 +1,16 @@
+// A language that exists only to try layouts: it shows which texts are not translated and which do not fit.
+#pragma once
+
+#include "languages/FormLanguage.h"
+
+namespace orx::languages {
+
+/// Computes a text from its key: accented letters between brackets, 35 % longer. The mnemonic letter, the places {1},
+/// {2}, ... and a text that is pseudo-translated already stay as they are. Help keys give an empty text.
+class PseudoLanguage final : public FormLanguage {
+ public:
+  std::int32_t EntryCount() override { return 1; }
+  std::string TranslateText(const std::string& key) override;
+};
+
+}  // namespace orx::languages

@@ -1,0 +1,17 @@
+// The readers of the single file formats; ReadGridFile chooses between them.
+#pragma once
+
+#include <filesystem>
+
+#include "maplibrary/files/GridData.h"
+
+namespace orx::maplibrary {
+
+/// ESRI .bil with its header of the same name beside it. Sizes and places that the header leaves out have the format's
+/// own defaults; unknown fields are passed over. Throws RunTimeError.
+GridData ReadBil(const std::filesystem::path& path);
+
+/// ESRI ASCII grid. Without NODATA_VALUE, -9999 stands for no value. Throws RunTimeError.
+GridData ReadAsc(const std::filesystem::path& path);
+
+}  // namespace orx::maplibrary

@@ -1,0 +1,30 @@
+// The numbers of run-time errors as hosts see them.
+#include "com/Errors.h"
+
+#include <gtest/gtest.h>
+
+#include "hostobjects/RunTimeError.h"
+
+namespace orx::com::test {
+namespace {
+
+TEST(Errors, ReachHostsByTheNumbersThatTheyKnow) {
+  const std::pair<std::int32_t, unsigned> codes[] = {
+      {kErrorOverflow, 0x800A0006},     {kErrorSubscript, 0x800A0009},  {kErrorFixedArray, 0x800A000A},
+      {kErrorTypeMismatch, 0x800A000D}, {kErrorNoSuchFile, 0x800A0035}, {kErrorFileAccess, 0x800A004B},
+      {kErrorNotLoaded, 0x800A005B},    {kErrorFileFormat, 0x800A0141}, {kErrorInvalidValue, 0x800A017C},
+      {kErrorNotAvailable, 0x800A018E}, {kErrorNoSuchPage, 0x800A01AE}, {kErrorNoSuchMember, 0x800A01B6},
+  };
+  for (const auto& [number, code] : codes)
+    EXPECT_EQ(Guarded("Errors", [&] { throw RunTimeError(number, "It failed."); }), static_cast<HRESULT>(code))
+        << number;
+}
+
+TEST(Errors, NumbersOfFailedCallsStayTheirCodes) {
+  EXPECT_EQ(Guarded("Errors", [] { Check(STG_E_ACCESSDENIED, "The file"); }), STG_E_ACCESSDENIED);
+  EXPECT_EQ(Guarded("Errors", [] { throw std::bad_alloc(); }), E_OUTOFMEMORY);
+  EXPECT_EQ(Guarded("Errors", [] { throw RunTimeError(0x10000, "No number of theirs."); }), E_FAIL);
+}
+
+}  // namespace
+}  // namespace orx::com::test

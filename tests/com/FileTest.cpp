@@ -1,0 +1,90 @@
+// The members that choose files, called through their slots with arrays and texts of the automation library.
+#include "forms/OpenFileRequest.h"
+#include "pickers/frmMsgBox.h"
+#include "service/modDialog.h"
+#include "tests/com/support/MapDialogsTest.h"
+#include "tests/com/support/Recorder.h"
+
+namespace orx::com::test {
+namespace {
+
+class ComFiles : public MapDialogsTest {
+ protected:
+  ComFiles() { modDialog::ResetRememberedChoices(); }
+  ~ComFiles() override { modDialog::ResetRememberedChoices(); }
+
+  void Pick(const std::vector<std::string>& names) {
+    answerFiles = [names](OpenFileRequest& request) { PutAnswer(request, "C:\\maps", names); };
+  }
+
+  SafeArray files;
+  VARIANT_BOOL chosen = VARIANT_TRUE;
+};
+
+TEST_F(ComFiles, ChosenLayersComeBackInAnArrayCountedFromOne) {
+  Pick({"a.shp", "b.shp"});
+  ASSERT_EQ(dialogs->ShowAddLayer(0, VARIANT_FALSE, files.InOut(), &chosen), S_OK);
+  EXPECT_EQ(chosen, VARIANT_TRUE);
+  EXPECT_EQ(TextsOf(files.Get()), (std::vector<std::string>{"C:\\maps\\a.shp", "C:\\maps\\b.shp"}));
+  LONG first = 0;
+  SafeArrayGetLBound(files.Get(), 1, &first);
+  EXPECT_EQ(first, 1);
+}
+
+TEST_F(ComFiles, TheElementWithTheIndexOneIsTheNameThatTheDialogOpensOn) {
+  std::string initial;
+  answerFiles = [&](OpenFileRequest& request) { initial = InitialName(request); };
+  files = ArrayOfTexts({"zero.vkr", "one.vkr"}, 0);
+  ASSERT_EQ(dialogs->ShowAddData(0, VARIANT_TRUE, files.InOut(), &chosen), S_OK);
+  EXPECT_EQ(initial, "one.vkr");
+  files = ArrayOfTexts({"first.vkr"}, 1);
+  dialogs->ShowAddData(0, VARIANT_TRUE, files.InOut(), &chosen);
+  EXPECT_EQ(initial, "first.vkr");
+}
+
+TEST_F(ComFiles, CancelLeavesTheArrayAsItWas) {
+  files = ArrayOfTexts({"before"}, 0);
+  ASSERT_EQ(dialogs->ShowAddData(0, VARIANT_FALSE, files.InOut(), &chosen), S_OK);
+  EXPECT_EQ(chosen, VARIANT_FALSE);
+  EXPECT_EQ(TextsOf(files.Get()), std::vector<std::string>{"before"});
+}
+
+TEST_F(ComFiles, TheOwnersHandleReachesThePlatformWithItsSign) {
+  std::uintptr_t owner = 0;
+  answerFiles = [&](OpenFileRequest& request) { owner = request.OwnerHandle; };
+  dialogs->ShowAddLayer(-2, VARIANT_FALSE, files.InOut(), &chosen);
+  EXPECT_EQ(owner, static_cast<std::uintptr_t>(-2));
+}
+
+TEST_F(ComFiles, PlacesForResultsAreRequired) {
+  EXPECT_EQ(dialogs->ShowAddLayer(0, VARIANT_FALSE, nullptr, &chosen), E_POINTER);
+  EXPECT_EQ(dialogs->ShowAddData(0, VARIANT_FALSE, files.InOut(), nullptr), E_POINTER);
+  VARIANT_BOOL cancelAll = VARIANT_FALSE;
+  EXPECT_EQ(dialogs->ShowFileNotFound(nullptr, nullptr, &cancelAll, &chosen), E_POINTER);
+  EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(ComFiles, AMissingFileGivesTheUsersChoiceThroughItsArguments) {
+  Pick({"found.shp"});
+  answer = [](Form& form) { dynamic_cast<frmMsgBox&>(form).cmdBrowse.UserPress(); };
+  Bstr name("C:\\maps\\GONE.SHP");
+  Bstr newName("before");
+  VARIANT_BOOL cancelAll = VARIANT_TRUE;
+  ASSERT_EQ(dialogs->ShowFileNotFound(name.Get(), newName.Out(), &cancelAll, &chosen), S_OK);
+  EXPECT_EQ(newName.Text(), "C:\\maps\\found.shp");
+  EXPECT_EQ(cancelAll, VARIANT_FALSE);
+  EXPECT_EQ(chosen, VARIANT_FALSE) << "The result is never anything else.";
+  EXPECT_EQ(shown, std::vector<std::string>{"frmMsgBox: Open layer"});
+}
+
+TEST_F(ComFiles, SkippingAllMissingDataFilesIsTold) {
+  answer = [](Form& form) { dynamic_cast<frmMsgBox&>(form).cmdCancelAll.UserPress(); };
+  Bstr newName;
+  VARIANT_BOOL cancelAll = VARIANT_FALSE;
+  ASSERT_EQ(dialogs->ShowDataFileNotFound(nullptr, newName.Out(), &cancelAll, &chosen), S_OK);
+  EXPECT_EQ(cancelAll, VARIANT_TRUE);
+  EXPECT_EQ(newName.Text(), "");
+}
+
+}  // namespace
+}  // namespace orx::com::test
