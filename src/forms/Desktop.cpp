@@ -48,9 +48,17 @@ template <class Run>
 auto Desktop::RunBox(const Modal& modal, Run&& run) {
   const Topmost box(mModals, nullptr);
   if (mHook) mHook->ModalOpening(modal);
-  const auto answer = run();
-  if (mHook) mHook->ModalClosed(modal);
-  return answer;
+  const auto closed = [&] {
+    if (mHook) mHook->ModalClosed(modal);
+  };
+  try {
+    const auto answer = run();
+    closed();
+    return answer;
+  } catch (...) {
+    closed();
+    throw;
+  }
 }
 
 MessageAnswer Desktop::ShowMessage(const Message& message) {
@@ -134,9 +142,9 @@ void Desktop::RunModal(Form& form) {
     form.Window()->RunModal();
   } catch (...) {
     session.Error = std::current_exception();
-    // A form that stayed up would keep the user from its owner.
-    form.Hide();
   }
+  // A form that stayed up would keep the user from its owner.
+  if (session.Error) form.Hide();
   std::erase(mSessions, &session);
   if (mHook) mHook->ModalClosed(modal);
   if (session.Error) std::rethrow_exception(session.Error);
@@ -185,7 +193,7 @@ void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {
   }
   Session& session = *mSessions.back();
   if (!session.Error) session.Error = std::move(error);
-  EndModal(*session.Shown);
+  session.Shown->Hide();
 }
 
 }  // namespace orx

@@ -207,10 +207,15 @@ void Form::ShowUpdates() {
 void Form::UserAct(const std::function<void()>& act) {
   const Act running(*this);
   try {
-    act();
+    RunAsHost(act);
   } catch (...) {
     mDesktop.HandlerFailed(*this, std::current_exception());
   }
+}
+
+void Form::RunAsHost(const std::function<void()>& act) {
+  if (mWindow) return mWindow->RunAsHost(act);
+  act();
 }
 
 void Form::UserClose() {
