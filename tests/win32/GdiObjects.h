@@ -32,7 +32,8 @@ inline const GdiEntry* GdiTable() {
   return *reinterpret_cast<const GdiEntry* const*>(block + kTable);
 }
 
-/// GetGuiResources is not there on all systems: it always answers 0 under Wine.
+/// GetGuiResources does not count on all systems: under Wine it always answers 0. Entries without a process belong to
+/// all, and under Wine, where every process has a table of its own, to this one.
 inline int GdiObjects() {
   const GdiEntry* const table = GdiTable();
   MEMORY_BASIC_INFORMATION memory = {};
@@ -42,7 +43,9 @@ inline int GdiObjects() {
                                                    static_cast<const std::byte*>(memory.BaseAddress));
   const std::size_t size = std::min<std::size_t>(0x10000, whole / sizeof(GdiEntry));
   const auto own = static_cast<std::uint16_t>(GetCurrentProcessId());
-  return static_cast<int>(std::count_if(table, table + size, [own](const GdiEntry& at) { return at.Process == own; }));
+  return static_cast<int>(std::count_if(table, table + size, [own](const GdiEntry& at) {
+    return at.Type != 0 && (at.Process == own || at.Process == 0);
+  }));
 }
 
 }  // namespace orx::test

@@ -1,6 +1,12 @@
 // Which windows of the host stand behind a dialog, that they are disabled while it is modal, and that they come back
 // whatever happens.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <iterator>
 #include <stdexcept>
+#include <string_view>
 
 #include "forms/ColorRequest.h"
 #include "forms/FontRequest.h"
@@ -138,7 +144,11 @@ class Refusal {
 
  private:
   static LRESULT CALLBACK See(int code, WPARAM wParam, LPARAM lParam) {
-    if (code == HCBT_CREATEWND && theCountdown-- == 0) return 1;
+    // A tab control makes the arrows beside its tabs, and does without them.
+    wchar_t name[20] = {};
+    GetClassNameW(reinterpret_cast<HWND>(wParam), name, static_cast<int>(std::size(name)));
+    const bool isArrows = std::wstring_view(name) == UPDOWN_CLASSW;
+    if (code == HCBT_CREATEWND && !isArrows && theCountdown-- == 0) return 1;
     return CallNextHookEx(nullptr, code, wParam, lParam);
   }
 
