@@ -48,17 +48,16 @@ template <class Run>
 auto Desktop::RunBox(const Modal& modal, Run&& run) {
   const Topmost box(mModals, nullptr);
   if (mHook) mHook->ModalOpening(modal);
-  const auto closed = [&] {
-    if (mHook) mHook->ModalClosed(modal);
-  };
+  decltype(run()) answer{};
+  std::exception_ptr error;
   try {
-    const auto answer = run();
-    closed();
-    return answer;
+    answer = run();
   } catch (...) {
-    closed();
-    throw;
+    error = std::current_exception();
   }
+  if (mHook) mHook->ModalClosed(modal);
+  if (error) std::rethrow_exception(error);
+  return answer;
 }
 
 MessageAnswer Desktop::ShowMessage(const Message& message) {
