@@ -136,16 +136,22 @@ void Desktop::RunModal(Form& form) {
   const Modal modal{.ShownForm = &form};
   mSessions.push_back(&session);
   const Topmost topmost(mModals, &form);
+  bool isOpen = false;
   try {
-    if (mHook) mHook->ModalOpening(modal);
-    form.Window()->RunModal();
+    form.UserAct([&] { form.FocusFirst(); });
+    // The handlers may have closed it, or failed.
+    if (form.Visible()) {
+      isOpen = true;
+      if (mHook) mHook->ModalOpening(modal);
+      form.Window()->RunModal();
+    }
   } catch (...) {
     session.Error = std::current_exception();
   }
   // A form that stayed up would keep the user from its owner.
   if (session.Error) form.Hide();
   std::erase(mSessions, &session);
-  if (mHook) mHook->ModalClosed(modal);
+  if (isOpen && mHook) mHook->ModalClosed(modal);
   if (session.Error) std::rethrow_exception(session.Error);
 }
 

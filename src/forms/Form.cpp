@@ -122,13 +122,9 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
   mVisible = true;
   mMode = mode;
   mWindow->Show(mode, owner);
+  if (mode == ShowMode::Modal) return mDesktop.RunModal(*this);
   UserAct([this] { FocusFirst(); });
-  if (!mVisible) return;
-  if (mode == ShowMode::Modal) {
-    mDesktop.RunModal(*this);
-  } else {
-    mDesktop.KeepOpen(shared_from_this());
-  }
+  if (mVisible) mDesktop.KeepOpen(shared_from_this());
 }
 
 void Form::Hide() {
