@@ -32,7 +32,7 @@ HostedPage::HostedPage(const PageSite& site, const std::string& progId, const CL
       mArea(site.Parent, site.Name, {.Place = site.Place}) {
   HandleArea();
   // Last, because nobody would disconnect the events of a page whose constructor throws.
-  mEvents = PageEvents::Connect(mControl.Object(), *this);
+  mEvents = PageEvents::Connect(mControl.Object(), *this, mArea.OwnerForm());
 }
 
 HostedPage::~HostedPage() {

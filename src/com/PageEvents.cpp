@@ -5,6 +5,7 @@
 #include "com/Errors.h"
 #include "com/EventArguments.h"
 #include "com/HostAdapters.h"
+#include "forms/Form.h"
 #include "hostobjects/PropertyPage.h"
 
 namespace orx::com {
@@ -105,7 +106,7 @@ HRESULT AsException(HRESULT code, EXCEPINFO* exception) {
 
 }  // namespace
 
-ComPtr<PageEvents> PageEvents::Connect(IUnknown& control, PropertyPage& page) {
+ComPtr<PageEvents> PageEvents::Connect(IUnknown& control, PropertyPage& page, Form& form) {
   SourceInterface source{__uuidof(_IMapPropertyPageEvents), {}};
   ComPtr<IConnectionPoint> point = PointOf(control, source.Id);
   if (!point) {
@@ -113,7 +114,7 @@ ComPtr<PageEvents> PageEvents::Connect(IUnknown& control, PropertyPage& page) {
     if (!source.Names.empty()) point = PointOf(control, source.Id);
   }
   if (!point) return {};
-  auto events = MakeCounted<PageEvents>(page, std::move(source));
+  auto events = MakeCounted<PageEvents>(page, form, std::move(source));
   if (FAILED(point->Advise(static_cast<IDispatch*>(events.Get()), &events->mCookie))) return {};
   events->mPoint = std::move(point);
   return events;
@@ -157,8 +158,8 @@ HRESULT PageEvents::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VAR
   // A handler may close the dialog, which releases this object.
   const ComPtr<PageEvents> keep(this);
   if (!mPage) return S_OK;
-  const HRESULT result =
-      Guarded("PageControl", [&] { event->Raise(*mPage, EventArguments(*given, event->Arguments)); });
+  const HRESULT result = Guarded(
+      "PageControl", [&] { mForm.RunAsHost([&] { event->Raise(*mPage, EventArguments(*given, event->Arguments)); }); });
   return FAILED(result) ? AsException(result, exception) : result;
 }
 

@@ -9,8 +9,9 @@
 #include "com/SourceInterface.h"
 
 namespace orx {
+class Form;
 class PropertyPage;
-}
+}  // namespace orx
 
 namespace orx::com {
 
@@ -20,12 +21,14 @@ struct PageEvent;
 /// exception of a handler goes back to the control as an error code with a description.
 class PageEvents final : public Counted<IDispatch> {
  public:
-  /// Connects the control's events to those of the page. Empty when the control raises none that the page knows.
-  static ComPtr<PageEvents> Connect(IUnknown& control, PropertyPage& page);
+  /// Connects the control's events to those of the page, which the form contains: they are raised in the surroundings
+  /// of the form's host. Empty when the control raises none that the page knows.
+  static ComPtr<PageEvents> Connect(IUnknown& control, PropertyPage& page, Form& form);
   /// Ends the connection. Must be called before the page is destroyed.
   void Disconnect() noexcept;
 
-  PageEvents(PropertyPage& page, SourceInterface source) : mPage(&page), mSource(std::move(source)) {}
+  PageEvents(PropertyPage& page, Form& form, SourceInterface source)
+      : mPage(&page), mForm(form), mSource(std::move(source)) {}
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
@@ -38,6 +41,7 @@ class PageEvents final : public Counted<IDispatch> {
   const PageEvent* EventOf(DISPID id) const;
 
   PropertyPage* mPage;
+  Form& mForm;
   SourceInterface mSource;
   ComPtr<IConnectionPoint> mPoint;
   DWORD mCookie = 0;

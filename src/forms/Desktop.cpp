@@ -48,8 +48,15 @@ template <class Run>
 auto Desktop::RunBox(const Modal& modal, Run&& run) {
   const Topmost box(mModals, nullptr);
   if (mHook) mHook->ModalOpening(modal);
-  const auto answer = run();
+  decltype(run()) answer{};
+  std::exception_ptr error;
+  try {
+    answer = run();
+  } catch (...) {
+    error = std::current_exception();
+  }
   if (mHook) mHook->ModalClosed(modal);
+  if (error) std::rethrow_exception(error);
   return answer;
 }
 
@@ -129,16 +136,22 @@ void Desktop::RunModal(Form& form) {
   const Modal modal{.ShownForm = &form};
   mSessions.push_back(&session);
   const Topmost topmost(mModals, &form);
+  bool isOpen = false;
   try {
-    if (mHook) mHook->ModalOpening(modal);
-    form.Window()->RunModal();
+    form.UserAct([&] { form.FocusFirst(); });
+    // The handlers may have closed it, or failed.
+    if (form.Visible()) {
+      isOpen = true;
+      if (mHook) mHook->ModalOpening(modal);
+      form.Window()->RunModal();
+    }
   } catch (...) {
     session.Error = std::current_exception();
-    // A form that stayed up would keep the user from its owner.
-    form.Hide();
   }
+  // A form that stayed up would keep the user from its owner.
+  if (session.Error) form.Hide();
   std::erase(mSessions, &session);
-  if (mHook) mHook->ModalClosed(modal);
+  if (isOpen && mHook) mHook->ModalClosed(modal);
   if (session.Error) std::rethrow_exception(session.Error);
 }
 
@@ -185,7 +198,7 @@ void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {
   }
   Session& session = *mSessions.back();
   if (!session.Error) session.Error = std::move(error);
-  EndModal(*session.Shown);
+  session.Shown->Hide();
 }
 
 }  // namespace orx

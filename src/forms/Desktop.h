@@ -109,6 +109,8 @@ class Desktop {
   virtual void DoBeep() = 0;
   virtual void DoSetPointer(orx::Pointer value) = 0;
   virtual void DoShowHelp(const HelpRequest& request) = 0;
+  /// An outermost act of a form begins, so that no handler of any form is running: what waits to be deleted may go.
+  virtual void DoTidyUp() {}
 
  private:
   friend class Form;
@@ -128,7 +130,9 @@ class Desktop {
   void Retire(const Form& form, std::unique_ptr<FormWindow> window);
   /// Keeps a modeless form alive until it is hidden or unloaded.
   void KeepOpen(std::shared_ptr<Form> form);
-  void EnterAct() { ++mActs; }
+  void EnterAct() {
+    if (mActs++ == 0) DoTidyUp();
+  }
   void LeaveAct();
   void LetGoOfClosedForms();
   /// Takes an exception that a handler did not catch, so that the caller of the modal Show gets it; without a modal

@@ -122,13 +122,9 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
   mVisible = true;
   mMode = mode;
   mWindow->Show(mode, owner);
+  if (mode == ShowMode::Modal) return mDesktop.RunModal(*this);
   UserAct([this] { FocusFirst(); });
-  if (!mVisible) return;
-  if (mode == ShowMode::Modal) {
-    mDesktop.RunModal(*this);
-  } else {
-    mDesktop.KeepOpen(shared_from_this());
-  }
+  if (mVisible) mDesktop.KeepOpen(shared_from_this());
 }
 
 void Form::Hide() {
@@ -207,10 +203,15 @@ void Form::ShowUpdates() {
 void Form::UserAct(const std::function<void()>& act) {
   const Act running(*this);
   try {
-    act();
+    RunAsHost(act);
   } catch (...) {
     mDesktop.HandlerFailed(*this, std::current_exception());
   }
+}
+
+void Form::RunAsHost(const std::function<void()>& act) {
+  if (mWindow) return mWindow->RunAsHost(act);
+  act();
 }
 
 void Form::UserClose() {

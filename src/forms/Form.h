@@ -123,6 +123,9 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   /// For desktops and test users: runs what an act of the user sets off. Exceptions that handlers do not catch end the
   /// modal loop and reach the caller of Show; nothing is thrown here.
   void UserAct(const std::function<void()>& act);
+  /// Runs what may call the host, in the surroundings that the host had when it showed the form (see
+  /// FormWindow::RunAsHost). UserAct does so; it is for whoever is called by a native window in another way.
+  void RunAsHost(const std::function<void()>& act);
   /// The native focus has come to a control by mouse or by the platform.
   void UserFocus(Control& control);
   /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and has been handled.

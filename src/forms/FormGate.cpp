@@ -7,7 +7,11 @@
 namespace orx {
 
 void FormGate::Report(const std::function<void()>& act) {
-  if (mIsRetired || mQuiet > 0 || !mForm.Visible() || !mForm.Enabled()) return;
+  if (!mIsRetired && mQuiet == 0 && mForm.Visible() && mForm.Enabled()) Tell(act);
+}
+
+void FormGate::Tell(const std::function<void()>& act) {
+  if (mIsRetired) return;
   const Busy busy(*this);
   const std::shared_ptr<Form> keep = mForm.weak_from_this().lock();
   act();

@@ -22,6 +22,9 @@ class FormGate {
   /// Runs `act`, which reports to the form. Does nothing while the program itself changes the native controls, nor when
   /// the form is not shown or takes no input. `act` and its surroundings may be gone when this returns.
   void Report(const std::function<void()>& act);
+  /// Does the same for what happens to the window whatever the form is doing: only a form that has let go of the window
+  /// does not hear of it.
+  void Tell(const std::function<void()>& act);
   /// True when the form has let the window go: it may not be touched any more.
   bool IsRetired() const { return mIsRetired; }
 

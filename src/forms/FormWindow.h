@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 
 #include "forms/Geometry.h"
 
@@ -47,6 +48,9 @@ class FormWindow {
   virtual void DragBottomEdge() = 0;
   /// The handle that the platform's help engine and owned windows need; 0 when there is none.
   virtual std::uintptr_t NativeHandle() const = 0;
+  /// Runs what may call the host, in the surroundings that the host had when it showed the window: native events arrive
+  /// in those of the desktop. The window may be gone when this returns.
+  virtual void RunAsHost(const std::function<void()>& act) { act(); }
   /// The form gives up the window: neither the form nor its controls may be used from now on, whatever native events
   /// still come. A modal loop that runs in the window still comes to its end; the destructor follows later.
   virtual void Abandon() = 0;

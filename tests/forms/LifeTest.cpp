@@ -111,10 +111,25 @@ TEST_F(FormsLife, AnErrorInAHandlerReachesTheCallerOfShow) {
   form->cmdOK.Click = [] { throw std::runtime_error("handler"); };
   script.ExpectForm("frmSample", [this](Form& shown) {
     user.Click(form->cmdOK);
-    EXPECT_TRUE(shown.Visible());
-    shown.Hide();
+    EXPECT_FALSE(shown.Visible()) << "It would keep the user from the windows behind it.";
   });
   EXPECT_THROW(form->Show(), std::runtime_error);
+}
+
+TEST_F(FormsLife, AnErrorAsAFormTakesTheFocusReachesTheCallerOfItsOwnShow) {
+  form->chkShow.Click = [&] {
+    Events log;
+    const auto inner = std::make_shared<SampleForm>(desktop(), log);
+    inner->txtName.GotFocus = [] { throw std::runtime_error("handler"); };
+    EXPECT_THROW(inner->Show(), std::runtime_error);
+    EXPECT_FALSE(inner->Visible());
+  };
+  script.ExpectForm("frmSample", [this](Form& shown) {
+    user.Toggle(form->chkShow);
+    EXPECT_TRUE(shown.Visible());
+    user.CloseBox(shown);
+  });
+  form->Show();
 }
 
 TEST_F(FormsLife, AnErrorInAModelessFormIsShown) {

@@ -32,6 +32,39 @@ TEST_F(FormsMessage, AnErrorWhileAQuestionIsOpenClosesItAndTravels) {
   desktop().Hook(&script);
 }
 
+TEST_F(FormsMessage, TheHookHearsThatABoxHasClosedEvenIfItThrew) {
+  struct Counting final : DesktopHook {
+    void ModalOpening(const Modal&) override { ++Open; }
+    void ModalRunning(const Modal&) override { throw std::runtime_error("no answer"); }
+    void ModalClosed(const Modal&) override { --Open; }
+    int Open = 0;
+  } hook;
+  desktop().Hook(&hook);
+  EXPECT_THROW(desktop().ShowMessage(kQuestion), std::runtime_error);
+  Events log;
+  const auto form = std::make_shared<SampleForm>(desktop(), log);
+  EXPECT_THROW(form->Show(), std::runtime_error);
+  desktop().Hook(&script);
+  EXPECT_EQ(0, hook.Open);
+  EXPECT_FALSE(desktop().HasModalForm());
+  EXPECT_FALSE(form->Visible());
+}
+
+TEST_F(FormsMessage, AHookThatThrowsBeforeABoxOpensLeavesNothingModal) {
+  struct Refusing final : DesktopHook {
+    void ModalOpening(const Modal&) override { throw std::runtime_error("not now"); }
+  } hook;
+  Events log;
+  const auto form = std::make_shared<SampleForm>(desktop(), log);
+  desktop().Hook(&hook);
+  EXPECT_THROW(desktop().ShowMessage(kQuestion), std::runtime_error);
+  EXPECT_THROW(form->Show(), std::runtime_error);
+  desktop().Hook(&script);
+  EXPECT_FALSE(desktop().HasModalForm());
+  EXPECT_FALSE(desktop().IsBehindModal(*form));
+  EXPECT_FALSE(form->Visible());
+}
+
 struct AskingForm final : Form {
   explicit AskingForm(Desktop& desktop) : Form(desktop, "frmAsking", {.Caption = "Layers", .Client = {3000, 2000}}) {
     cmdAsk.Click = [this] {

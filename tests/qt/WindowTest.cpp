@@ -2,6 +2,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QWindow>
 #include <QtTest>
 #include <filesystem>
@@ -161,6 +162,92 @@ TEST_F(QtWindow, MovingByTheUserTellsTheForm) {
   QCoreApplication::processEvents();
   EXPECT_EQ(750, form->Left());
   EXPECT_EQ(900, form->Top());
+}
+
+TEST_F(QtWindow, AWindowGoesWithoutAnEventLoopAsSoonAsAnotherFormIsShown) {
+  QPointer<QWidget> before;
+  for (int round = 0; round < 3; ++round) {
+    Events log;
+    const auto lone = std::make_shared<SampleForm>(desktop(), log);
+    lone->Show(ShowMode::Modeless);
+    EXPECT_FALSE(before) << round;
+    before = &DialogOf(*lone);
+    lone->Unload();
+  }
+}
+
+TEST_F(QtWindow, TheHourglassOfTheHostIsNotShownOverWhatWaitsForTheUser) {
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  const auto shape = [] { return QGuiApplication::overrideCursor()->shape(); };
+  script.ExpectForm("frmSample", [&](Form& shown) {
+    EXPECT_EQ(Qt::ArrowCursor, shape());
+    user.CloseBox(shown);
+  });
+  form->Show();
+  EXPECT_EQ(Qt::WaitCursor, shape());
+  const Message message{"Text", "Title", MessageIcon::None};
+  script.ExpectMessage(message);
+  script.WhenMessageIsUp = [&] { EXPECT_EQ(Qt::ArrowCursor, shape()); };
+  desktop().ShowMessage(message);
+  EXPECT_EQ(Qt::WaitCursor, shape());
+  QGuiApplication::restoreOverrideCursor();
+}
+
+TEST_F(QtWindow, AHostThatTakesItsHourglassAwayWhileADialogIsOpenHasNoneAfterwards) {
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  script.ExpectForm("frmSample", [&](Form& shown) {
+    QGuiApplication::restoreOverrideCursor();
+    user.CloseBox(shown);
+  });
+  form->Show();
+  EXPECT_FALSE(QGuiApplication::overrideCursor());
+}
+
+TEST_F(QtWindow, ClosingAllWindowsClosesOnlyWhatTheUserCanReach) {
+  const Message message{"Text", "Title", MessageIcon::None};
+  form->cmdOK.Click = [&] { desktop().ShowMessage(message); };
+  script.ExpectForm("frmSample", [&](Form& shown) {
+    script.ExpectMessage(message);
+    script.WhenMessageIsUp = [&] {
+      QApplication::closeAllWindows();
+      EXPECT_TRUE(shown.Visible());
+      EXPECT_TRUE(shown.IsLoaded());
+    };
+    user.Click(form->cmdOK);
+    EXPECT_TRUE(shown.Visible());
+    QApplication::closeAllWindows();
+    EXPECT_FALSE(shown.Visible());
+  });
+  form->Show();
+}
+
+TEST_F(QtWindow, ClosingAllWindowsLeavesTheFormBehindASecondaryDialogAlone) {
+  Events log;
+  const auto inner = std::make_shared<SampleForm>(desktop(), log);
+  form->cmdOK.Click = [&] { inner->Show(); };
+  script.ExpectForm("frmSample", [&](Form& outer) {
+    script.ExpectForm("frmSample", [&](Form& shown) {
+      DialogOf(outer).close();
+      EXPECT_TRUE(outer.Visible());
+      user.CloseBox(shown);
+    });
+    user.Click(form->cmdOK);
+    EXPECT_TRUE(outer.Visible());
+    user.CloseBox(outer);
+  });
+  form->Show();
+}
+
+TEST_F(QtWindow, AnErrorInAHandlerGivesTheHostItsWindowsBackAtOnce) {
+  QWidget host;
+  host.show();
+  form->cmdOK.Click = [] { throw std::runtime_error("handler"); };
+  script.ExpectForm("frmSample", [&](Form& shown) {
+    user.Click(form->cmdOK);
+    EXPECT_FALSE(shown.Visible());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+  });
+  EXPECT_THROW(form->Show(ShowMode::Modal, {nullptr, host.winId()}), std::runtime_error);
 }
 
 TEST_F(QtWindow, ThePointerOfTheHostComesBack) {

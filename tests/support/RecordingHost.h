@@ -24,11 +24,14 @@ class CallLog {
   /// Writes the call down, and throws when the test wants it to fail.
   void Call(const std::string& text) {
     Calls.push_back(text);
+    if (WhenCalled) WhenCalled();
     const std::string name = text.substr(0, text.find('('));
     if (Failing.contains(name)) throw RunTimeError(1001, name + " failed");
   }
 
   std::vector<std::string> Calls;
+  /// What else happens in each call.
+  std::function<void()> WhenCalled;
   /// Names of the calls that fail, such as "Page.ApplyChanges".
   std::set<std::string> Failing;
 };

@@ -1,6 +1,8 @@
 // The desktop is a guest in its host's process: what it takes for a call it gives back.
 #include <set>
 
+#include "forms/NativeArea.h"
+#include "tests/win32/GdiObjects.h"
 #include "tests/win32/Win32Test.h"
 
 namespace orx::test {
@@ -18,7 +20,7 @@ struct Borrowed {
     GetCurrentActCtx(&now.Look);
     if (now.Look) ReleaseActCtx(now.Look);
     now.DpiContext = GetThreadDpiAwarenessContext();
-    now.Objects = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    now.Objects = GdiObjects();
     EnumThreadWindows(GetCurrentThreadId(), &Borrowed::Note, reinterpret_cast<LPARAM>(&now.Windows));
     return now;
   }
@@ -63,16 +65,20 @@ TEST_F(Win32Guest, NothingIsLeftBehindByAMessage) {
 }
 
 TEST_F(Win32Guest, TheDialogsHaveTheLookOfTheirOwnManifest) {
+  struct Foreign final : Form {
+    explicit Foreign(Desktop& desktop) : Form(desktop, "frmForeign", {.Client = {3000, 1500}}) {}
+    NativeArea area{*this, "area", {.Place = {120, 120, 1200, 330}}};
+  };
+  const auto foreign = std::make_shared<Foreign>(desktop());
   HANDLE outside = nullptr;
   GetCurrentActCtx(&outside);
-  script.ExpectForm("frmSample", [&](Form& shown) {
-    HANDLE inside = nullptr;
-    GetCurrentActCtx(&inside);
-    EXPECT_NE(inside, outside);
-    ReleaseActCtx(inside);
-    user.CloseBox(shown);
-  });
-  form->Show();
+  HANDLE inside = nullptr;
+  foreign->area.Opened = [&](std::uintptr_t) { GetCurrentActCtx(&inside); };
+  foreign->Show(ShowMode::Modeless);
+  foreign->Unload();
+  EXPECT_NE(inside, outside);
+  EXPECT_TRUE(inside);
+  ReleaseActCtx(inside);
   if (outside) ReleaseActCtx(outside);
 }
 
@@ -96,6 +102,15 @@ TEST_F(Win32Guest, TheWindowClassesGoWithTheLastDialog) {
   EXPECT_TRUE(known());
   form->Unload();
   EXPECT_FALSE(known());
+}
+
+TEST_F(Win32Guest, ObjectsAreCounted) {
+  const int before = GdiObjects();
+  std::vector<HBRUSH> brushes;
+  for (BYTE shade = 0; shade < 100; ++shade) brushes.push_back(CreateSolidBrush(RGB(shade, 1, 2)));
+  EXPECT_EQ(before + 100, GdiObjects());
+  for (const HBRUSH brush : brushes) DeleteObject(brush);
+  EXPECT_EQ(before, GdiObjects());
 }
 
 TEST_F(Win32Guest, AfterManyDialogsNothingHasGrown) {

@@ -18,9 +18,10 @@ class HeadlessWindow final : public FormWindow {
  public:
   HeadlessWindow(Desktop& desktop, Form& form) : mDesktop(desktop), mForm(form) {}
 
-  void Show(ShowMode, OwnerWindow) override {}
+  void Show(ShowMode, OwnerWindow) override { mEnded = false; }
   void Hide() override {}
   void RunModal() override {
+    if (mEnded) return;
     mDesktop.ModalIsRunning({.ShownForm = &mForm});
     if (!mEnded)
       throw std::runtime_error("The dialog \"" + mForm.Caption() +

@@ -4,13 +4,24 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWindow>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
 
 #include "desktops/qt/Application.h"
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
 
 namespace orx::qt {
+namespace {
+
+/// The dialogs that have been let go and may still be there.
+std::vector<QPointer<Dialog>> theRetired;
+
+}  // namespace
 
 Dialog::Dialog(Form& form) : FormGate(form), mContent(*this, form) {
   setObjectName(ToQt(form.Name()));
@@ -66,6 +77,20 @@ void Dialog::Retire() {
   const Busy busy(*this);
   CutOff();
   hide();
+}
+
+void Dialog::LetGo() {
+  deleteLater();
+  theRetired.emplace_back(this);
+}
+
+void Dialog::DeleteRetired() {
+  // The events of some may show or close others.
+  const std::vector<QPointer<Dialog>> retired = std::exchange(theRetired, {});
+  for (const QPointer<Dialog>& dialog : retired)
+    if (dialog) QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
+  std::copy_if(retired.begin(), retired.end(), std::back_inserter(theRetired),
+               [](const QPointer<Dialog>& dialog) { return !dialog.isNull(); });
 }
 
 void Dialog::closeEvent(QCloseEvent* event) {

@@ -30,6 +30,10 @@ class Dialog final : public QDialog, public FormGate {
   /// Cuts the dialog off from its form and deletes it as soon as none of its events is being handled.
   void Retire();
 
+  /// Deletes the dialogs that wait for it, unless events of theirs are being handled: without a running event loop
+  /// nothing else does.
+  static void DeleteRetired();
+
   /// Escape and the default button are the form's business.
   void reject() override {}
 
@@ -45,7 +49,7 @@ class Dialog final : public QDialog, public FormGate {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void LetGo() override { deleteLater(); }
+  void LetGo() override;
 
   ContentPane mContent;
   QTimer mUpdateTimer;

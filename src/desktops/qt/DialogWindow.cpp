@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "desktops/qt/PlainPointer.h"
 #include "desktops/qt/Text.h"
 #include "forms/Form.h"
 #include "forms/PeerMaker.h"
@@ -87,6 +88,7 @@ void DialogWindow::Hide() {
 
 void DialogWindow::RunModal() {
   if (mEnded) return;
+  const PlainPointer pointer;
   Desktop& desktop = mForm.OwnerDesktop();
   QTimer::singleShot(0, &mLoop, [this, &desktop] {
     // Exceptions must not pass through Qt's event loops.

@@ -7,6 +7,7 @@
 #include <exception>
 
 #include "desktops/qt/Application.h"
+#include "desktops/qt/PlainPointer.h"
 #include "desktops/qt/Text.h"
 
 namespace orx::qt {
@@ -54,6 +55,7 @@ MessageAnswer RunMessageBox(const Message& message, QWindow* owner, const std::f
   // last.
   box.winId();
   if (isQuestion) box.setWindowFlag(Qt::WindowCloseButtonHint, false);
+  const PlainPointer pointer;
   std::exception_ptr error;
   QTimer::singleShot(0, &box, [&] {
     try {

@@ -6,6 +6,8 @@
 #include <QWindow>
 #include <exception>
 
+#include "desktops/qt/PlainPointer.h"
+
 namespace orx::qt {
 namespace {
 
@@ -25,6 +27,7 @@ bool RunPlatformDialog(QDialog& dialog, std::uintptr_t owner, const std::functio
   dialog.setWindowModality(Qt::ApplicationModal);
   dialog.setAttribute(Qt::WA_QuitOnClose, false);
   PutBefore(dialog, owner);
+  const PlainPointer pointer;
   std::exception_ptr error;
   QTimer::singleShot(0, &dialog, [&] {
     try {

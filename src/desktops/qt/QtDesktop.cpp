@@ -40,14 +40,6 @@ QSize FrameSize() {
   return {2 * edge, 2 * edge + style.pixelMetric(QStyle::PM_TitleBarHeight)};
 }
 
-/// Deletes the dialogs that wait for it; without a running event loop nothing else does.
-void DeleteRetiredDialogs() {
-  std::vector<Dialog*> dialogs;
-  for (QWidget* const window : QApplication::topLevelWidgets())
-    if (auto* const dialog = dynamic_cast<Dialog*>(window)) dialogs.push_back(dialog);
-  for (Dialog* const dialog : dialogs) QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
-}
-
 bool Save(QWidget& window, const std::string& pngPath) {
   return window.grab().save(ToQt(pngPath), "PNG");
 }
@@ -89,7 +81,7 @@ QtDesktop::QtDesktop() : mState(std::make_unique<State>()) {
 QtDesktop::~QtDesktop() {
   CloseOpenForms();
   DoSetPointer(orx::Pointer::Default);
-  DeleteRetiredDialogs();
+  Dialog::DeleteRetired();
 }
 
 ScreenMetrics QtDesktop::SystemMetrics(BorderStyle) const {
@@ -150,6 +142,10 @@ SettingsStore& QtDesktop::Settings() {
 
 void QtDesktop::DoProcessPendingEvents() {
   QCoreApplication::processEvents();
+}
+
+void QtDesktop::DoTidyUp() {
+  Dialog::DeleteRetired();
 }
 
 bool QtDesktop::SavePicture(const Form& form, const std::string& pngPath) const {

@@ -39,6 +39,7 @@ class QtDesktop final : public NativeDesktop {
   void DoBeep() override;
   void DoSetPointer(orx::Pointer value) override;
   void DoShowHelp(const HelpRequest& request) override;
+  void DoTidyUp() override;
 
  private:
   struct State;

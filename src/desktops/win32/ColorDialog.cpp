@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "forms/ColorRequest.h"
 
@@ -28,8 +29,7 @@ std::array<COLORREF, 16>& OwnColors() {
 bool RunColorDialog(ColorRequest& request, const std::function<void()>& running) {
   CHOOSECOLORW native = {};
   native.lStructSize = sizeof(native);
-  native.hwndOwner = reinterpret_cast<HWND>(request.OwnerHandle);
-  if (!IsWindow(native.hwndOwner)) native.hwndOwner = nullptr;
+  native.hwndOwner = ModalOwner(request.OwnerHandle);
   native.rgbResult = RGB(request.Color.Red, request.Color.Green, request.Color.Blue);
   native.lpCustColors = OwnColors().data();
   native.Flags = request.Flags;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktops/win32/GuestScope.h"
 #include "desktops/win32/Handles.h"
 #include "desktops/win32/Peer.h"
 #include "desktops/win32/WindowClasses.h"
@@ -19,14 +20,15 @@ constexpr int kStepsPerNotch = 3;
 
 void ContentPane::Open(HWND dialog) {
   mDialog = dialog;
-  mPane = CreateWindowExW(WS_EX_CONTROLPARENT, WindowClasses::kPane, L"",
-                          WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0, dialog, nullptr,
-                          ThisModule(), nullptr);
+  mPane = Made(CreateWindowExW(WS_EX_CONTROLPARENT, WindowClasses::kPane, L"",
+                               WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0, dialog, nullptr,
+                               ThisModule(), nullptr));
   mSubclass.emplace(mPane, &ContentPane::PaneProc, this);
 }
 
 LRESULT CALLBACK ContentPane::PaneProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                        DWORD_PTR pane) {
+  const GuestScope guest;
   auto& self = *reinterpret_cast<ContentPane*>(pane);
   if (self.mIsComplete) {
     if (message == WM_VSCROLL) self.ScrollBy(SB_VERT, LOWORD(wParam));

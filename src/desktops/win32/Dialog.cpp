@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktops/win32/Fonts.h"
+#include "desktops/win32/GuestScope.h"
 #include "desktops/win32/MousePointers.h"
 #include "desktops/win32/Peer.h"
 #include "desktops/win32/Text.h"
@@ -27,10 +28,10 @@ Dialog* Dialog::Containing(HWND window) {
 }
 
 Dialog::Dialog(Form& form) : FormGate(form), mFont(MakeDialogFont()), mContent(form) {
-  mWindow = CreateWindowExW(Style() & WS_THICKFRAME ? WS_EX_CONTROLPARENT : WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME,
-                            WindowClasses::kDialog, L"", Style(), 0, 0, 0, 0, nullptr, nullptr, ThisModule(), nullptr);
+  const DWORD edge = Style() & WS_THICKFRAME ? 0 : WS_EX_DLGMODALFRAME;
+  mWindow = Made(CreateWindowExW(WS_EX_CONTROLPARENT | edge, WindowClasses::kDialog, L"", Style(), 0, 0, 0, 0, nullptr,
+                                 nullptr, ThisModule(), nullptr));
   SetWindowLongPtrW(mWindow, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  mContent.Open(mWindow);
 }
 
 Dialog::~Dialog() {
@@ -56,6 +57,7 @@ DWORD Dialog::Style() const {
 }
 
 bool Dialog::ReportKey(const MSG& message) {
+  const GuestScope guest;
   const Busy busy(*this);
   if (IsRetired()) return false;
   if (!NoticeFocus()) return true;
@@ -200,7 +202,20 @@ void Dialog::WatchActivation(bool isActive) {
 void Dialog::Destroyed() {
   // The host has destroyed it, together with its owner window: the form closes as if by its close box.
   mDestroyed = true;
-  Report([this] { Owner().WindowLost(); });
+  Tell([this] { Owner().WindowLost(); });
+}
+
+void Dialog::ColorsChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+  // The platform tells only whole windows of new colours.
+  const MSG passed = {nullptr, message, wParam, lParam, 0, {}};
+  EnumChildWindows(mWindow, &Dialog::PassOn, reinterpret_cast<LPARAM>(&passed));
+  RedrawWindow(mWindow, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+BOOL CALLBACK Dialog::PassOn(HWND child, LPARAM message) {
+  const MSG& passed = *reinterpret_cast<const MSG*>(message);
+  SendMessageW(child, passed.message, passed.wParam, passed.lParam);
+  return TRUE;
 }
 
 void Dialog::CallShowUpdates(std::chrono::milliseconds after) {
@@ -247,6 +262,7 @@ bool Dialog::ShowPointer() {
 LRESULT CALLBACK Dialog::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const self = reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (!self || self->IsRetired()) return DefWindowProcW(window, message, wParam, lParam);
+  const GuestScope guest;
   const Busy busy(*self);
   return self->Handle(message, wParam, lParam);
 }
@@ -293,6 +309,10 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       KillTimer(mWindow, kUpdateTimer);
       Owner().ShowUpdates();
       return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      ColorsChanged(message, wParam, lParam);
+      break;
     case kDeferredKey:
       Redeliver();
       return 0;

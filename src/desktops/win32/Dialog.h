@@ -19,7 +19,7 @@ namespace orx::win32 {
 
 class Dialog final : public FormGate {
  public:
-  /// Makes the window, not shown.
+  /// Makes the window, not shown and without its content pane. Throws std::runtime_error when the platform refuses it.
   explicit Dialog(Form& form);
 
   /// The dialog that a window belongs to, null for windows that are not ours.
@@ -63,6 +63,8 @@ class Dialog final : public FormGate {
   /// Passes a window that `owner` owns on to the owner's own owner.
   static BOOL CALLBACK ReleaseFrom(HWND window, LPARAM owner);
   bool NoticeFocus();
+  void ColorsChanged(UINT message, WPARAM wParam, LPARAM lParam);
+  static BOOL CALLBACK PassOn(HWND child, LPARAM message);
   void Sized();
   void Moved();
   bool ShowPointer();

@@ -1,6 +1,6 @@
 #include "desktops/win32/DialogWindow.h"
 
-#include "desktops/win32/GuestScope.h"
+#include "desktops/win32/Owners.h"
 #include "forms/Button.h"
 #include "forms/Form.h"
 #include "forms/PeerMaker.h"
@@ -14,11 +14,18 @@ constexpr int kFirstId = 100;
 }  // namespace
 
 DialogWindow::DialogWindow(Form& form) : mForm(form), mDialog(new Dialog(form)), mNextId(kFirstId) {
-  const Dialog::Quiet quiet(*mDialog);
-  MakePeers(form, nullptr);
-  for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
-  mDialog->Content().Complete();
-  UpdateCaption();
+  try {
+    const Dialog::Quiet quiet(*mDialog);
+    mDialog->Content().Open(mDialog->Window());
+    MakePeers(form, nullptr);
+    for (const std::unique_ptr<Peer>& peer : mPeers) peer->UpdateAll();
+    mDialog->Content().Complete();
+    UpdateCaption();
+  } catch (...) {
+    for (Control* const control : form.All()) control->Peer(nullptr);
+    Abandon();
+    throw;
+  }
 }
 
 DialogWindow::~DialogWindow() {
@@ -41,31 +48,29 @@ void DialogWindow::MakePeers(const Container& container, HWND parent) {
   }
 }
 
-HWND DialogWindow::WindowOf(const OwnerWindow& owner) const {
+HWND DialogWindow::WindowOf(ShowMode mode, const OwnerWindow& owner) const {
   if (owner.OwnerForm && owner.OwnerForm->Window())
     return reinterpret_cast<HWND>(owner.OwnerForm->Window()->NativeHandle());
-  // The dialogs of the platform belong to whole windows, not to the controls in them.
-  if (const auto window = reinterpret_cast<HWND>(owner.NativeHandle); window && IsWindow(window))
-    return GetAncestor(window, GA_ROOT);
-  // Without an owner the dialog is shown in front of the active window; behind a modal window it could not be reached.
-  const HWND active = GetActiveWindow();
-  return active != mDialog->Window() ? active : nullptr;
+  if (const HWND window = NamedOwner(owner.NativeHandle)) return window;
+  return mode == ShowMode::Modal ? ForemostWindow(mDialog->Window()) : nullptr;
 }
 
 void DialogWindow::Show(ShowMode mode, OwnerWindow owner) {
+  mHost = Surroundings::OfThread();
   const GuestScope guest;
   mEnded = false;
   UpdatePlace();
-  mDialog->Show(mode, WindowOf(owner));
+  mDialog->Show(mode, WindowOf(mode, owner));
 }
 
 void DialogWindow::Hide() {
+  const GuestScope guest;
   mDialog->Hide();
 }
 
 void DialogWindow::RunModal() {
   if (mEnded) return;
-  const GuestScope guest;
+  // The host's own windows and timers are served here as well, so the loop is run in the host's surroundings.
   Desktop& desktop = mForm.OwnerDesktop();
   desktop.ModalIsRunning({.ShownForm = &mForm});
   MSG message;
@@ -85,6 +90,7 @@ void DialogWindow::EndModal() {
 }
 
 void DialogWindow::UpdateCaption() {
+  const GuestScope guest;
   mDialog->UpdateCaption();
 }
 
@@ -99,10 +105,12 @@ void DialogWindow::UpdateEnabled() {
 }
 
 void DialogWindow::Repaint() {
+  const GuestScope guest;
   RedrawWindow(mDialog->Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 void DialogWindow::PaintChanges() {
+  const GuestScope guest;
   RedrawWindow(mDialog->Window(), nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
@@ -111,6 +119,7 @@ void DialogWindow::CallShowUpdates(std::chrono::milliseconds after) {
 }
 
 void DialogWindow::DragBottomEdge() {
+  const GuestScope guest;
   mDialog->DragBottomEdge();
 }
 
@@ -118,8 +127,14 @@ std::uintptr_t DialogWindow::NativeHandle() const {
   return reinterpret_cast<std::uintptr_t>(mDialog->Window());
 }
 
+void DialogWindow::RunAsHost(const std::function<void()>& act) {
+  const SurroundingsScope host(mHost);
+  act();
+}
+
 void DialogWindow::Abandon() {
   if (!mDialog) return;
+  const GuestScope guest;
   mPeers.clear();
   std::exchange(mDialog, nullptr)->Retire();
 }

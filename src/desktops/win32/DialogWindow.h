@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "desktops/win32/GuestScope.h"
 #include "desktops/win32/Peers.h"
 #include "forms/FormWindow.h"
 
@@ -11,6 +12,7 @@ namespace orx::win32 {
 
 class DialogWindow final : public FormWindow {
  public:
+  /// Throws std::runtime_error when the platform refuses one of the windows.
   explicit DialogWindow(Form& form);
   ~DialogWindow() override;
 
@@ -26,16 +28,19 @@ class DialogWindow final : public FormWindow {
   void CallShowUpdates(std::chrono::milliseconds after) override;
   void DragBottomEdge() override;
   std::uintptr_t NativeHandle() const override;
+  void RunAsHost(const std::function<void()>& act) override;
   void Abandon() override;
 
  private:
   void MakePeers(const Container& container, HWND parent);
   int IdOf(const Control& control);
   /// The host's or the form's window behind this one, null when there is none.
-  HWND WindowOf(const OwnerWindow& owner) const;
+  HWND WindowOf(ShowMode mode, const OwnerWindow& owner) const;
 
   Form& mForm;
   Dialog* mDialog;
+  /// Those in which the form was shown.
+  Surroundings mHost;
   std::vector<std::unique_ptr<Peer>> mPeers;
   int mNextId;
   bool mEnded = false;

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktops/win32/CodePage.h"
+#include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Text.h"
 #include "forms/OpenFileRequest.h"
@@ -55,8 +56,7 @@ class NarrowRequest {
     if (!FitsCodePage(Widened(InitialName(request)))) std::fill(mBuffer.begin(), mBuffer.end() - 1, ' ');
     EndInitialName();
     mNative.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
-    mNative.hwndOwner = reinterpret_cast<HWND>(request.OwnerHandle);
-    if (!IsWindow(mNative.hwndOwner)) mNative.hwndOwner = nullptr;
+    mNative.hwndOwner = ModalOwner(request.OwnerHandle);
     mNative.lpstrFilter = mFilter.c_str();
     mNative.nFilterIndex = static_cast<DWORD>(request.FilterIndex);
     mNative.lpstrFile = mBuffer.data();

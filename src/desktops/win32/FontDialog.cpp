@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "desktops/win32/GuestScope.h"
+#include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Text.h"
 #include "forms/FontRequest.h"
@@ -40,8 +41,7 @@ bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {
   const orx::Color color = request.Chosen.Color;
   CHOOSEFONTW native = {};
   native.lStructSize = sizeof(native);
-  native.hwndOwner = reinterpret_cast<HWND>(request.OwnerHandle);
-  if (!IsWindow(native.hwndOwner)) native.hwndOwner = nullptr;
+  native.hwndOwner = ModalOwner(request.OwnerHandle);
   native.lpLogFont = &font;
   native.rgbColors = RGB(color.Red, color.Green, color.Blue);
   // Printers no longer have fonts of their own, and asking for these requires a printer.

@@ -1,5 +1,7 @@
 #include "desktops/win32/GuestScope.h"
 
+#include <utility>
+
 #include "desktops/win32/Handles.h"
 
 namespace orx::win32 {
@@ -24,30 +26,38 @@ HANDLE SetDpiContext(HANDLE context) {
   return set ? set(context) : nullptr;
 }
 
-/// The activation context of this module's manifest; it lives as long as the module is loaded.
-class Look {
- public:
-  Look() {
+HANDLE ThreadDpiContext() {
+  using Function = HANDLE(WINAPI*)();
+  static const auto get = UserFunction<Function>("GetThreadDpiAwarenessContext");
+  return get ? get() : nullptr;
+}
+
+std::shared_ptr<void> Owned(HANDLE look) {
+  return {look, [](HANDLE context) {
+            if (context) ReleaseActCtx(context);
+          }};
+}
+
+/// The activation context of this module's manifest, as long as the module is loaded. A program without such a manifest
+/// keeps its own look.
+const std::shared_ptr<void>& OwnLook() {
+  static const std::shared_ptr<void> look = [] {
     ACTCTXW wanted = {};
     wanted.cbSize = sizeof(wanted);
     wanted.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
     wanted.hModule = ThisModule();
     wanted.lpResourceName = MAKEINTRESOURCEW(kManifest);
-    mContext = CreateActCtxW(&wanted);
-  }
-  ~Look() {
-    if (Exists()) ReleaseActCtx(mContext);
-  }
-  Look(const Look&) = delete;
-  Look& operator=(const Look&) = delete;
+    const HANDLE made = CreateActCtxW(&wanted);
+    return Owned(made != INVALID_HANDLE_VALUE ? made : nullptr);
+  }();
+  return look;
+}
 
-  /// False in a program without such a manifest, which keeps its own look.
-  bool Exists() const { return mContext != INVALID_HANDLE_VALUE; }
-  HANDLE Get() const { return mContext; }
-
- private:
-  HANDLE mContext;
-};
+Surroundings GuestSurroundings() {
+  Surroundings guest{OwnLook(), kSystemAware};
+  if (!guest.Look) guest.Look = Surroundings::OfThread().Look;
+  return guest;
+}
 
 }  // namespace
 
@@ -58,14 +68,23 @@ HINSTANCE ThisModule() {
   return module;
 }
 
-GuestScope::GuestScope() : mDpiBefore(SetDpiContext(kSystemAware)) {
-  static const Look look;
-  mHasLook = look.Exists() && ActivateActCtx(look.Get(), &mCookie);
+Surroundings Surroundings::OfThread() {
+  HANDLE look = nullptr;
+  GetCurrentActCtx(&look);
+  return {Owned(look), ThreadDpiContext()};
 }
 
-GuestScope::~GuestScope() {
-  if (mHasLook) DeactivateActCtx(0, mCookie);
+SurroundingsScope::SurroundingsScope(Surroundings wanted) : mWanted(std::move(wanted)) {
+  mHasLook = ActivateActCtx(mWanted.Look.get(), &mCookie);
+  if (mWanted.DpiContext) mDpiBefore = SetDpiContext(mWanted.DpiContext);
+}
+
+SurroundingsScope::~SurroundingsScope() {
   if (mDpiBefore) SetDpiContext(mDpiBefore);
+  if (mHasLook) DeactivateActCtx(0, mCookie);
+}
+
+GuestScope::GuestScope() : SurroundingsScope(GuestSurroundings()) {
 }
 
 int SystemDpi() {

@@ -1,6 +1,7 @@
 #include "desktops/win32/Peer.h"
 
 #include "desktops/win32/Accessible.h"
+#include "desktops/win32/GuestScope.h"
 #include "desktops/win32/Text.h"
 #include "desktops/win32/WindowClasses.h"
 #include "forms/Container.h"
@@ -39,6 +40,7 @@ Peer* Peer::Holding(HWND window) {
 }
 
 LRESULT CALLBACK Peer::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR peer) {
+  const GuestScope guest;
   auto& self = *reinterpret_cast<Peer*>(peer);
   const Dialog::Busy busy(self.mDialog);
   return self.OnMessage(window, message, wParam, lParam);
@@ -90,6 +92,7 @@ void Peer::FocusCame() {
 }
 
 void Peer::Update(Aspect aspect) {
+  const GuestScope guest;
   const Dialog::Quiet quiet(mDialog);
   Mirror(aspect);
   if (aspect == Aspect::Visible || aspect == Aspect::Enabled) KeepFocus();
@@ -111,6 +114,7 @@ void Peer::RestoreFocus(HWND last) {
 }
 
 void Peer::TakeFocus() {
+  const GuestScope guest;
   const Dialog::Quiet quiet(mDialog);
   // A window that is not active takes the focus when it is activated.
   if (GetActiveWindow() == mDialog.Window()) FocusNative();

@@ -13,6 +13,7 @@
 #include "desktops/win32/GuestScope.h"
 #include "desktops/win32/MessageBox.h"
 #include "desktops/win32/MousePointers.h"
+#include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/RegistrySettings.h"
 #include "desktops/win32/Text.h"
@@ -54,6 +55,18 @@ void AskHelpEngine(const HelpRequest& request) {
 double MeasureScale() {
   const GuestScope guest;
   return SystemDpi() / kDesignDotsPerInch * (DialogFontPoints() / kDesignPoints);
+}
+
+/// Runs a dialog of the platform as a guest. What it is to call once it is up runs in the host's surroundings.
+template <class Show>
+auto AsGuest(const std::function<void()>& isUp, Show&& show) {
+  const Surroundings before = Surroundings::OfThread();
+  const std::function<void()> running = [&] {
+    const SurroundingsScope host(before);
+    isUp();
+  };
+  const GuestScope guest;
+  return show(running);
 }
 
 /// Adds the work area of a screen that is not the main one.
@@ -141,10 +154,12 @@ void Win32Desktop::DoProcessPendingEvents() {
 }
 
 bool Win32Desktop::SavePicture(const Form& form, const std::string& pngPath) const {
+  const GuestScope guest;
   return form.Visible() && win32::SavePicture(reinterpret_cast<HWND>(form.Window()->NativeHandle()), pngPath);
 }
 
 bool Win32Desktop::SaveMessagePicture(const std::string& pngPath) const {
+  const GuestScope guest;
   return win32::SavePicture(OpenPlatformDialog(), pngPath);
 }
 
@@ -157,24 +172,24 @@ std::unique_ptr<FormWindow> Win32Desktop::OpenWindow(Form& form) {
 }
 
 MessageAnswer Win32Desktop::DoShowMessage(const Message& message, FormWindow* owner) {
-  const GuestScope guest;
-  const HWND window = owner ? reinterpret_cast<HWND>(owner->NativeHandle()) : GetActiveWindow();
-  return RunMessageBox(message, window, [&] { ModalIsRunning({.ShownMessage = &message}); });
+  const std::uintptr_t window = owner ? owner->NativeHandle() : 0;
+  return AsGuest([&] { ModalIsRunning({.ShownMessage = &message}); },
+                 [&](const auto& running) { return RunMessageBox(message, ModalOwner(window), running); });
 }
 
 bool Win32Desktop::DoOpenFiles(OpenFileRequest& request) {
-  const GuestScope guest;
-  return RunFileDialog(request, [&] { ModalIsRunning({.ShownFiles = &request}); });
+  return AsGuest([&] { ModalIsRunning({.ShownFiles = &request}); },
+                 [&](const auto& running) { return RunFileDialog(request, running); });
 }
 
 bool Win32Desktop::DoChooseColor(ColorRequest& request) {
-  const GuestScope guest;
-  return RunColorDialog(request, [&] { ModalIsRunning({.ShownColor = &request}); });
+  return AsGuest([&] { ModalIsRunning({.ShownColor = &request}); },
+                 [&](const auto& running) { return RunColorDialog(request, running); });
 }
 
 bool Win32Desktop::DoChooseFont(FontRequest& request) {
-  const GuestScope guest;
-  return RunFontDialog(request, [&] { ModalIsRunning({.ShownFont = &request}); });
+  return AsGuest([&] { ModalIsRunning({.ShownFont = &request}); },
+                 [&](const auto& running) { return RunFontDialog(request, running); });
 }
 
 void Win32Desktop::DoBeep() {
@@ -182,6 +197,7 @@ void Win32Desktop::DoBeep() {
 }
 
 void Win32Desktop::DoSetPointer(orx::Pointer value) {
+  const GuestScope guest;
   ShowPointer(value);
 }
 

@@ -1,6 +1,8 @@
 #include "desktops/win32/WindowClasses.h"
 
 #include <mutex>
+#include <stdexcept>
+#include <string>
 
 #include "desktops/win32/Dialog.h"
 
@@ -29,6 +31,12 @@ void Register(const wchar_t* name, WNDPROC proc, UINT style = 0) {
 }
 
 }  // namespace
+
+HWND Made(HWND window) {
+  if (window) return window;
+  throw std::runtime_error("The system does not let the dialog have a window (error " + std::to_string(GetLastError()) +
+                           "). Close other programs or windows and try again.");
+}
 
 WindowClasses::WindowClasses() {
   const std::lock_guard lock(theLock);

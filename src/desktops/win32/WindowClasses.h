@@ -14,6 +14,10 @@ inline constexpr UINT kChildNotify = WM_APP + 2;   // lParam: const NMHDR*
 /// Sent to a dialog in place of a key message that a host has taken from the queue.
 inline constexpr UINT kDeferredKey = WM_APP + 3;
 
+/// Returns a window that has just been made. Throws std::runtime_error when the platform, or a hook of the host, has
+/// refused it.
+HWND Made(HWND window);
+
 /// Keeps the classes registered. Each dialog has one; the last one to go unregisters them.
 class WindowClasses {
  public:

@@ -2,6 +2,7 @@
 #include "tests/com/pagecontrols/PageControlTest.h"
 #include "com/HostedControl.h"
 
+#include "desktops/win32/GuestScope.h"
 #include "forms/NativeArea.h"
 
 namespace orx::test {
@@ -131,6 +132,20 @@ TEST_F(PageControlTest, AKeyThatTheControlHasUsedGoesNoFurther) {
     EXPECT_EQ(0, GetWindowTextLengthW(Page().First()));
     Press(form, "cmdCancel");
   });
+}
+
+TEST_F(PageControlTest, TheMembersOfAControlAreCalledInTheSurroundingsOfTheHost) {
+  const DPI_AWARENESS_CONTEXT before = SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_UNAWARE);
+  std::set<int> seen;
+  log.WhenCalled = [&] { seen.insert(GetAwarenessFromDpiAwarenessContext(GetThreadDpiAwarenessContext())); };
+  Show([&](Form& form) {
+    const win32::GuestScope guest;
+    Edit(L"Hills");
+    Press(form, "cmdApply");
+    Press(form, "cmdOK");
+  });
+  SetThreadDpiAwarenessContext(before);
+  EXPECT_EQ(std::set<int>{DPI_AWARENESS_UNAWARE}, seen);
 }
 
 TEST_F(PageControlTest, EscapeInTheControlPressesCancel) {

@@ -87,6 +87,20 @@ TEST_F(PageEventsTest, AChangedNameReachesThePage) {
   EXPECT_EQ("Relief", changed);
 }
 
+TEST_F(PageEventsTest, AnEventFromTheControlsWindowIsHandledInTheSurroundingsOfTheHost) {
+  const DPI_AWARENESS_CONTEXT before = SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_UNAWARE);
+  int seen = -1;
+  Page().NameChanged = [&](const std::string&) {
+    seen = GetAwarenessFromDpiAwarenessContext(GetThreadDpiAwarenessContext());
+  };
+  form->Show(ShowMode::Modeless);
+  Control().Pressed = [&] { Control().Raise(2, {com::Variant("Relief")}); };
+  SendMessageW(Control().Button(), BM_CLICK, 0, 0);
+  form->Unload();
+  SetThreadDpiAwarenessContext(before);
+  EXPECT_EQ(DPI_AWARENESS_UNAWARE, seen);
+}
+
 /// Arguments by reference for the flags and texts that come back.
 VARIANTARG Reference(VARIANT_BOOL& flag) {
   VARIANTARG argument = {};
