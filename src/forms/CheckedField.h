@@ -82,6 +82,8 @@ class CheckedField : public CheckedEntry {
 
   /// The value last shown or accepted; a text that is pending does not count yet.
   const Type& Value() const { return mValue; }
+  /// False while the field has none.
+  bool HasValue() const { return mHasValue; }
   /// Shows a value, which counts as not edited.
   void Show(const Type& value) {
     Become(value);
