@@ -8,6 +8,7 @@ std::string ErrorText(const std::exception_ptr& error) {
   } catch (const std::exception& known) {
     if (*known.what()) return known.what();
   } catch (...) {
+    // Not even a description.
   }
   return kUnknownError;
 }

@@ -1,5 +1,4 @@
 // Settings: the order of reads and writes, what is written, what errors do, and what a setting stands for.
-#include "forms/ErrorText.h"
 #include "hostobjects/PassOver.h"
 #include "tests/forms/LampForm.h"
 #include "tests/support/DesktopTest.h"
@@ -339,66 +338,6 @@ TEST_F(FormsSetting, AValueChosenForTheUserCountsAsEdited) {
   list.Write();
   EXPECT_EQ(0.75, lamp.HeldPower);
   form->Unload();
-}
-
-TEST_F(FormsSetting, OneThatCannotBeReadIsLockedWithItsFaultAndTheOthersGoOn) {
-  lamp.Failing = "Name";
-  LampForm& shown = Show(WriteRule::Always, KeepFault);
-  EXPECT_TRUE(shown.Name.IsLocked());
-  EXPECT_EQ("Name failed", shown.Name.Fault());
-  EXPECT_EQ("", user.See(shown.txtName).Text);
-  for (const Setting* const setting : shown.List.All()) EXPECT_EQ(setting == &shown.Name, setting->IsLocked());
-  // Whatever its field holds, nobody hears of it.
-  shown.txtName.Text("Floor lamp");
-  EXPECT_TRUE(shown.List.Check());
-  EXPECT_EQ((Calls{"IsOn=", "Paint=", "Power=", "Bulbs=", "Socket="}), Written());
-  lamp.Failing.clear();
-  shown.List.Read();
-  EXPECT_FALSE(shown.Name.IsLocked());
-  EXPECT_EQ("Reading lamp", user.See(shown.txtName).Text);
-}
-
-TEST_F(FormsSetting, OneThatCannotBeWrittenKeepsItsFaultUntilItCan) {
-  LampForm& shown = Show(WriteRule::WhenEdited, KeepFault);
-  shown.txtName.Text("Floor lamp");
-  shown.chkOn.Value(CheckState::Unchecked);
-  lamp.Failing = "Name=";
-  EXPECT_EQ((Calls{"Name=", "IsOn="}), Written());
-  EXPECT_EQ("Name= failed", shown.Name.Fault());
-  EXPECT_FALSE(shown.Name.IsLocked());
-  EXPECT_FALSE(shown.IsOn.Fault());
-  lamp.Failing.clear();
-  EXPECT_EQ(Calls{"Name="}, Written());
-  EXPECT_FALSE(shown.Name.Fault());
-}
-
-TEST_F(FormsSetting, ForgettingUnlocks) {
-  lamp.Failing = "Name";
-  LampForm& shown = Show(WriteRule::Always, KeepFault);
-  shown.List.Forget();
-  shown.List.Show();
-  EXPECT_FALSE(shown.Name.IsLocked());
-}
-
-TEST_F(FormsSetting, OneMayBeLockedForTheFaultOfAnother) {
-  LampForm& shown = Show(WriteRule::Always, KeepFault);
-  shown.Name.Lock("gone");
-  EXPECT_TRUE(shown.Name.IsLocked());
-  EXPECT_EQ("", user.See(shown.txtName).Text);
-  EXPECT_EQ((Calls{"IsOn=", "Paint=", "Power=", "Bulbs=", "Socket="}), Written());
-}
-
-TEST_F(FormsSetting, WhatHappensAfterAWriteIsNoFaultOfTheSetting) {
-  LampForm& shown = Show(WriteRule::Always, KeepFault);
-  shown.List.Written = [](Setting&) { throw std::runtime_error("not the lamp's"); };
-  EXPECT_THROW(shown.List.Write(), std::runtime_error);
-  EXPECT_FALSE(shown.Name.Fault());
-}
-
-TEST(ErrorText, HasWordsForEveryError) {
-  EXPECT_EQ("lamp is broken", ErrorText(std::make_exception_ptr(std::runtime_error("lamp is broken"))));
-  EXPECT_EQ("Unknown error", ErrorText(std::make_exception_ptr(std::runtime_error(""))));
-  EXPECT_EQ("Unknown error", ErrorText(std::make_exception_ptr(7)));
 }
 
 }  // namespace
