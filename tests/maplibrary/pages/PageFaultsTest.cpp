@@ -174,6 +174,7 @@ TEST_F(PageFaults, ADialogWithARefusedSettingEndsByItsRule) {
     Type("txtName", "Relief");
     Type("txtSize", "20");
     script.ExpectMessage(NotSaved("Size: SymbolSize= failed", "Layer Properties"));
+    script.WhenMessageIsUp = [this] { EXPECT_EQ(Pointer::Default, desktop().Pointer()); };
     Press("cmdOK");
     EXPECT_FALSE(form->Visible());
     EXPECT_EQ(Pointer::Default, desktop().Pointer());
