@@ -26,14 +26,13 @@ std::string Plain(std::string_view text) {
 /// The properties of a data object's classification, in the order in which they are read and written, and the settings
 /// that take them.
 struct ClassificationProperties {
-  /// Both must live as long.
-  ClassificationProperties(Classification& model, IClassification& data) : Model(model), Data(&data) {}
+  /// The model must live as long.
+  ClassificationProperties(Classification& model, const Classification::Find& data) : Model(model), Of(All, data) {}
 
   using C = IClassification;
   Classification& Model;
-  IClassification* Data;
   Settings All{WriteRule::Always, PassOver};
-  Part<C> Of{All, Data};
+  Part<C> Of;
   HeldSetting<std::string> Format{Model.ValueFormat, Of(&C::ValueFormat, &C::ValueFormat)};
   HeldSetting<bool> ShowName{Model.ShowParameterName, Of(&C::ShowParameterName, &C::ShowParameterName)};
   HeldSetting<std::int32_t> Method{Model.Method, Of(&C::ClassifyMethod, &C::ClassifyMethod)};
@@ -55,11 +54,11 @@ int IndexOfFormat(const std::string& format) {
   return found == kValueFormats.end() ? 0 : static_cast<int>(found - kValueFormats.begin());
 }
 
-void Classification::ReadFrom(IClassification& data) {
+void Classification::ReadFrom(const Find& data) {
   ClassificationProperties(*this, data).All.Read();
 }
 
-bool Classification::SaveTo(IClassification& data) const {
+bool Classification::SaveTo(const Find& data) const {
   Classification held;
   held.ReadFrom(data);
   // What follows from the rest may be rounded otherwise by the host; that is no change of the user's.
@@ -68,8 +67,14 @@ bool Classification::SaveTo(IClassification& data) const {
   if (*this == fitted) return false;
   Classification written = *this;
   if (Maximum == fitted.Maximum && DifferByRounding(Maximum, held.Maximum)) written.Maximum = held.Maximum;
-  ClassificationProperties(written, data).All.Write();
-  return true;
+  bool wasThere = false;
+  const auto asked = [&] {
+    IClassification* const found = data();
+    wasThere = wasThere || found;
+    return found;
+  };
+  ClassificationProperties(written, asked).All.Write();
+  return wasThere;
 }
 
 void Classification::FitStep() {

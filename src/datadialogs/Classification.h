@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "hostobjects/IData.h"
@@ -36,11 +37,13 @@ struct Classification {
   /// True for classes that are made without the user.
   bool IsAutomatic() const { return Method == classifymethod::kAutomatic; }
 
+  /// What gives the data's classification, for each property anew; null when it is gone.
+  using Find = std::function<IClassification*()>;
   /// Reads all properties. One that cannot be read leaves its field as it was.
-  void ReadFrom(IClassification& data);
+  void ReadFrom(const Find& data);
   /// Writes all properties but the step when one of them differs from what the data hold now. One that cannot be
-  /// written is passed over. True when something differed.
-  bool SaveTo(IClassification& data) const;
+  /// written is passed over. True when something differed and there were data to write to.
+  bool SaveTo(const Find& data) const;
 
   /// Brings step and range in line: with equal steps the maximum follows from the step, with equal intervals and user
   /// defined classes the step from the range. Other methods leave both alone.

@@ -21,16 +21,23 @@ ISpecialValue& ValueOf(IDataOptions& options, std::size_t kind) {
   }
 }
 
+SpecialValueRecord::Find FindValue(const SpecialValues::Find& find, std::size_t kind) {
+  return [&find, kind]() -> ISpecialValue* {
+    IDataOptions* const options = find();
+    return options ? &ValueOf(*options, kind) : nullptr;
+  };
+}
+
 /// The properties of one kind, in the order in which they are read and written, and the settings that take them.
 struct SpecialValueProperties {
-  /// Both must live as long.
-  SpecialValueProperties(SpecialValueRecord& record, ISpecialValue& value) : Record(record), Value(&value) {}
+  /// The record must live as long.
+  SpecialValueProperties(SpecialValueRecord& record, const SpecialValueRecord::Find& value)
+      : Record(record), Of(All, value) {}
 
   using V = ISpecialValue;
   SpecialValueRecord& Record;
-  ISpecialValue* Value;
   Settings All{WriteRule::Always};
-  Part<V> Of{All, Value};
+  Part<V> Of;
   HeldSetting<orx::Color> Color{Record.Color, Of(&V::Color, &V::Color)};
   HeldSetting<bool> Enabled{Record.Enabled, Of(&V::Enabled, &V::Enabled)};
   HeldSetting<bool> InLegend{Record.InLegend, Of(&V::InLegend, &V::InLegend)};
@@ -42,28 +49,28 @@ struct SpecialValueProperties {
 
 }  // namespace
 
-void SpecialValueRecord::ReadFrom(ISpecialValue& value) {
+void SpecialValueRecord::ReadFrom(const Find& value) {
   SpecialValueProperties(*this, value).All.Read();
 }
 
-void SpecialValueRecord::WriteTo(ISpecialValue& value) const {
+void SpecialValueRecord::WriteTo(const Find& value) const {
   SpecialValueRecord written = *this;
   SpecialValueProperties(written, value).All.Write();
 }
 
-void SpecialValues::ReadFrom(IDataOptions& options) {
-  for (std::size_t i = 0; i < Records.size(); ++i) Records[i].ReadFrom(ValueOf(options, i));
+void SpecialValues::ReadFrom(const Find& options) {
+  for (std::size_t i = 0; i < Records.size(); ++i) Records[i].ReadFrom(FindValue(options, i));
 }
 
-void SpecialValues::WriteTo(IDataOptions& options) const {
+void SpecialValues::WriteTo(const Find& options) const {
   SpecialValues before;
   before.ReadFrom(options);
   std::size_t writing = 0;
   try {
-    for (; writing < Records.size(); ++writing) Records[writing].WriteTo(ValueOf(options, writing));
+    for (; writing < Records.size(); ++writing) Records[writing].WriteTo(FindValue(options, writing));
   } catch (...) {
     ErrorTrap trap;
-    for (std::size_t i = 0; i <= writing; ++i) trap.Step([&] { before.Records[i].WriteTo(ValueOf(options, i)); });
+    for (std::size_t i = 0; i <= writing; ++i) trap.Step([&] { before.Records[i].WriteTo(FindValue(options, i)); });
     throw;
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "hostobjects/IData.h"
@@ -23,9 +24,11 @@ struct SpecialValueRecord {
   bool Transparent = false;
   bool operator==(const SpecialValueRecord&) const = default;
 
+  /// What gives the host's special value, for each property anew; null when nothing is to be read or written any more.
+  using Find = std::function<ISpecialValue*()>;
   /// Reads or writes all properties; what the host throws travels.
-  void ReadFrom(ISpecialValue& value);
-  void WriteTo(ISpecialValue& value) const;
+  void ReadFrom(const Find& value);
+  void WriteTo(const Find& value) const;
 };
 
 /// The records of all kinds.
@@ -35,11 +38,13 @@ struct SpecialValues {
 
   SpecialValueRecord& Of(SpecialKind kind) { return Records[static_cast<std::size_t>(kind)]; }
 
+  /// What gives the host's special values; as SpecialValueRecord::Find.
+  using Find = std::function<IDataOptions*()>;
   /// Reads all three; what the host throws travels.
-  void ReadFrom(IDataOptions& options);
+  void ReadFrom(const Find& options);
   /// Writes all three. When the host refuses one, what was written before it is taken back as far as the host lets it,
   /// and the host's error travels.
-  void WriteTo(IDataOptions& options) const;
+  void WriteTo(const Find& options) const;
   /// Sets the colours, switches and ranges that the dialog starts from; the range of places without data stays.
   void TakeDefaults();
   /// Gives the range of values that count as zero: as far from zero on both sides.

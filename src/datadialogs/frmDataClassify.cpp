@@ -59,9 +59,8 @@ void frmDataClassify::SetData(HostObject* data, double dMin, double dMax, std::i
 }
 
 void frmDataClassify::Fill() {
-  auto* const data = QueryKind<IClassification>(Subject());
-  if (!data) return Unload();
-  mModel.ReadFrom(*data);
+  if (!Edited<IClassification>()) return Unload();
+  mModel.ReadFrom([this] { return Edited<IClassification>(); });
   mSaved = {mModel.Method, mModel.ClassCount};
   cmdDefault.Visible(mDefaultMin != kUnknownRangeEnd || mDefaultMax != kUnknownRangeEnd);
   FillLists();
@@ -94,10 +93,7 @@ void frmDataClassify::FillClasses() {
   cboClasses.Clear();
   for (int entry = 1; entry <= kListedClasses; ++entry) cboClasses.AddItem(std::to_string(entry), entry);
   std::int32_t count = mModel.ClassCount;
-  ErrorTrap trap;
-  trap.Step([&] {
-    if (auto* const data = QueryKind<IData>(Subject())) count = data->ClassCount();
-  });
+  if (auto* const data = Edited<IData>()) ErrorTrap().Step([&] { count = data->ClassCount(); });
   ShowClassCount(count);
   cboClasses.Enabled((mFlags & kMayChangeClassCount) != 0);
 }
@@ -246,7 +242,7 @@ bool frmDataClassify::TakeClassCountOnOK() {
 
 bool frmDataClassify::Save() {
   mModel.FitStep();
-  IsDirty(mModel.SaveTo(*QueryKind<IClassification>(Subject())));
+  IsDirty(mModel.SaveTo([this] { return Edited<IClassification>(); }));
   return true;
 }
 

@@ -3,6 +3,8 @@
 #include "dialogframe/SelectAllText.h"
 #include "forms/BusyScope.h"
 #include "forms/Desktop.h"
+#include "forms/ErrorText.h"
+#include "hostobjects/RunTimeError.h"
 
 namespace orx {
 frmDataOptions::frmDataOptions(Desktop& desktop)
@@ -30,9 +32,8 @@ void frmDataOptions::HandleEvents(int index) {
 }
 
 void frmDataOptions::Fill() {
-  auto* const options = QueryKind<IDataOptions>(Subject());
-  if (!options) return Unload();
-  mValues.ReadFrom(*options);
+  if (!Edited<IDataOptions>()) return Unload();
+  mValues.ReadFrom([this] { return Options(); });
   for (ColorBox& box : mColors) box.DrawEdge();
   ShowRecord(-1);
 }
@@ -84,18 +85,25 @@ bool frmDataOptions::Check() {
   return true;
 }
 
+IDataOptions* frmDataOptions::Options() const {
+  IDataOptions* const options = Edited<IDataOptions>();
+  if (options || IsRetired()) return options;
+  // What is written after this would be the values of nobody.
+  throw RunTimeError(kErrorNotLoaded, "The data do not answer any more.");
+}
+
 bool frmDataOptions::Save() {
+  // Data that are gone need no values.
+  const bool isThere = Edited<IDataOptions>();
+  if (!isThere) IsDirty(false);
   try {
-    mValues.WriteTo(*QueryKind<IDataOptions>(Subject()));
+    if (isThere) mValues.WriteTo([this] { return Options(); });
     return true;
-  } catch (const std::exception& error) {
+  } catch (...) {
     // The host's values are as they were; the user may try again or cancel.
     OwnerDesktop().Pointer(Pointer::Default);
-    OwnerDesktop().ShowMessage({error.what(), Caption(), MessageIcon::Exclamation});
+    OwnerDesktop().ShowMessage({ErrorText(std::current_exception()), Caption(), MessageIcon::Exclamation});
     return false;
-  } catch (...) {
-    IsDirty(false);
-    throw;
   }
 }
 

@@ -117,6 +117,8 @@ class frmDataOptions final : public EditForm {
     NumberSetting Maximum{Form.txtMaxValue[Index], Of(&R::UpperBound)};
   };
 
+  /// The special values of the data; null once the form is retired. Throws when the data do not answer.
+  IDataOptions* Options() const;
   void HandleEvents(int index);
   SpecialValueRecord& Record(int index) { return mValues.Records.at(static_cast<std::size_t>(index)); }
   void ShowOne(int index);

@@ -78,6 +78,8 @@ class CheckedField : public CheckedEntry, public FieldTypes<Held, TextBox&> {
 
   /// The value last shown or accepted; a text that is pending does not count yet.
   const Held& Value() const { return mValue; }
+  /// False while the field has none.
+  bool HasValue() const { return mHasValue; }
   /// Shows a value, which counts as not edited.
   void Show(const Held& value) {
     Become(value);

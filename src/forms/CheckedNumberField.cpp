@@ -57,7 +57,7 @@ bool NumberSpan::Check() {
 }
 
 bool NumberSpan::CheckOrder(CheckedNumberField& focused) {
-  if (mIsEdited && !IsInOrder()) {
+  if (mIsEdited && IsWhole() && !IsInOrder()) {
     const Message refusal = mLower.MakeMessage(
         fieldtexts::kInvalidRange, fieldtexts::kWrongOrder,
         {FieldName(mLower.Box()), mLower.Box().Text(), FieldName(mUpper.Box()), mUpper.Box().Text()});

@@ -40,8 +40,10 @@ class NumberSpan {
   void Restart();
   /// Checks pending texts and the order at once, for a save. False when something was refused.
   bool Check();
+  /// True when both fields have a value; with one alone there is no order to check.
+  bool IsWhole() const { return mLower.HasValue() && mUpper.HasValue(); }
   /// True when the lower value is less than the upper one; equal values are not in order.
-  bool IsInOrder() const { return mLower.Value() < mUpper.Value(); }
+  bool IsInOrder() const { return IsWhole() && mLower.Value() < mUpper.Value(); }
 
   /// Raised when an entry was accepted in one of the fields and when a span was put back.
   Event<> Changed;

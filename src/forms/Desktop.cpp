@@ -3,22 +3,13 @@
 #include <algorithm>
 
 #include "forms/ColorRequest.h"
+#include "forms/ErrorText.h"
 #include "forms/Form.h"
 #include "forms/OpenFileRequest.h"
 #include "forms/Pixels.h"
 
 namespace orx {
 namespace {
-
-std::string DescribeError(const std::exception_ptr& error) {
-  try {
-    std::rethrow_exception(error);
-  } catch (const std::exception& known) {
-    return known.what();
-  } catch (...) {
-    return "Unknown error";
-  }
-}
 
 /// The topmost of all that is modal, for as long as it lives.
 class Topmost {
@@ -193,7 +184,7 @@ void Desktop::CloseOpenForms() {
 
 void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {
   if (mSessions.empty()) {
-    ShowMessage({DescribeError(error), form.Caption(), MessageIcon::Critical});
+    ShowMessage({ErrorText(error), form.Caption(), MessageIcon::Critical});
     return;
   }
   Session& session = *mSessions.back();

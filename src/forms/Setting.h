@@ -1,7 +1,10 @@
 // A setting of a host's object as its list sees it: read, shown, checked and written in its turn.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace orx {
 
@@ -37,6 +40,18 @@ class Setting {
   /// The name for messages, and the control; empty and null without one.
   std::string Name() const;
   virtual Control* Field() const { return nullptr; }
+  /// All controls that the value is edited with; the field is one of them.
+  virtual std::vector<Control*> Controls() const { return {}; }
+
+  /// Why the host failed to give or to take the value, in the words of ErrorText; none when it did not fail. Kept by
+  /// lists with the rule KeepFault, and forgotten with the next try.
+  const std::optional<std::string>& Fault() const { return mFault; }
+  void Fault(std::optional<std::string> reason) { mFault = std::move(reason); }
+  /// True for a setting that could not be read. Its control shows nobody's value, so that it is neither checked nor
+  /// written until it can be read again.
+  bool IsLocked() const { return mFault && !IsRead(); }
+  /// Locks a setting for the fault of another one, on whose value it rests.
+  void Lock(std::optional<std::string> reason);
 
   /// Reads the host's value, without showing it yet. What the host throws travels.
   virtual void Fetch() {}
@@ -56,6 +71,9 @@ class Setting {
   virtual void RequireEntry() const {}
   /// Writes the value as the rule says; true when it was written. What the host throws travels.
   virtual bool Write(WriteRule rule) = 0;
+
+ private:
+  std::optional<std::string> mFault;
 };
 
 }  // namespace orx

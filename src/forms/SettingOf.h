@@ -74,6 +74,12 @@ class SettingOf final : public Setting, public FieldKind {
     else
       return nullptr;
   }
+  std::vector<Control*> Controls() const override {
+    if constexpr (requires { FieldKind::Boxes(); })
+      return FieldKind::Boxes();
+    else
+      return Field() ? std::vector{Field()} : std::vector<Control*>();
+  }
   void Fetch() override {
     mFetched.reset();
     mFetched = mGet();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/CheckedField.h"
+#include "forms/ErrorText.h"
 
 namespace orx {
 
@@ -14,7 +15,22 @@ std::string Setting::Name() const {
   return Field() ? FieldName(*Field()) : std::string();
 }
 
+void Setting::Lock(std::optional<std::string> reason) {
+  Forget();
+  Show();
+  mFault = std::move(reason);
+}
+
+void KeepFault(Setting& setting, const std::function<void()>& step) noexcept {
+  try {
+    step();
+  } catch (...) {
+    setting.Fault(ErrorText(std::current_exception()));
+  }
+}
+
 void Settings::Run(Setting& setting, const std::function<void()>& step) const {
+  setting.Fault(std::nullopt);
   if (mStep) return mStep(setting, step);
   step();
 }
@@ -38,11 +54,14 @@ void Settings::Show() {
 }
 
 void Settings::Forget() {
-  for (Setting* const setting : mSettings) setting->Forget();
+  for (Setting* const setting : mSettings) {
+    setting->Forget();
+    setting->Fault(std::nullopt);
+  }
 }
 
 bool Settings::Check() {
-  return std::ranges::all_of(mSettings, [](Setting* setting) { return setting->Check(); });
+  return std::ranges::all_of(mSettings, [](Setting* setting) { return setting->IsLocked() || setting->Check(); });
 }
 
 void Settings::Write() {
@@ -50,10 +69,11 @@ void Settings::Write() {
 }
 
 void Settings::Write(Setting& setting) {
+  if (setting.IsLocked()) return;
   setting.RequireEntry();
-  Run(setting, [&] {
-    if (setting.Write(mWrite)) Written.Raise(setting);
-  });
+  bool isWritten = false;
+  Run(setting, [&] { isWritten = setting.Write(mWrite); });
+  if (isWritten) Written.Raise(setting);
 }
 
 }  // namespace orx

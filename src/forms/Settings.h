@@ -14,6 +14,10 @@ namespace orx {
 /// Runs one step, the reading or the writing of one setting, and decides what becomes of the errors that it throws.
 using StepRule = std::function<void(Setting& setting, const std::function<void()>& step)>;
 
+/// The rule of lists which tell the user: what a step throws, of any type, is kept as the fault of its setting, and the
+/// others go on.
+void KeepFault(Setting& setting, const std::function<void()>& step) noexcept;
+
 /// Settings join the list as they are made, so the order of their declaration is the order in which they are read,
 /// shown, checked and written. What is written, and what an error of the host does, is the same for all of a list.
 class Settings {
@@ -35,7 +39,8 @@ class Settings {
   void Fetch();
   void Show();
   void Forget();
-  /// Checks entries that are still being typed, up to the first one that is refused. True when none was.
+  /// Checks entries that are still being typed, up to the first one that is refused. True when none was. As when
+  /// writing, locked settings are left out.
   bool Check();
   /// Writes what the write rule says. Throws InvalidEntry at a setting that has no value, with those before it written.
   void Write();
@@ -43,7 +48,7 @@ class Settings {
   void Read(Setting& setting);
   void Write(Setting& setting);
 
-  /// Raised when a setting was written.
+  /// Raised when a setting was written. What the handler throws travels.
   Event<Setting&> Written;
   /// Translates the messages of checked fields; none by default.
   std::function<std::string(const std::string&)> Translate;

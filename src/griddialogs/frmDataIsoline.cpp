@@ -31,7 +31,6 @@ frmDataIsoline::frmDataIsoline(Desktop& desktop)
 void frmDataIsoline::Fill() {
   mColorBox.DrawEdge();
   FillLists();
-  mIsolines = QueryKind<IIsolines>(Subject());
   mSettings.Read();
 }
 
@@ -52,7 +51,7 @@ void frmDataIsoline::cmdFont_Click() {
 
 bool frmDataIsoline::Save() {
   try {
-    if (mIsolines) mSettings.Write();
+    if (Edited<IIsolines>()) mSettings.Write();
     return true;
   } catch (const InvalidEntry& refused) {
     OwnerDesktop().Beep();
@@ -60,11 +59,6 @@ bool frmDataIsoline::Save() {
     SelectAll(*refused.Field);
     return false;
   }
-}
-
-void frmDataIsoline::Form_Release() {
-  mIsolines = nullptr;
-  EditForm::Form_Release();
 }
 
 }  // namespace orx

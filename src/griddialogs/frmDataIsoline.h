@@ -65,20 +65,18 @@ class frmDataIsoline final : public EditForm {
  protected:
   void Fill() override;
   bool Save() override;
-  void Form_Release() override;
 
  private:
   void FillLists();
   void cmdFont_Click();
 
-  IIsolines* mIsolines = nullptr;
   std::int32_t mFlags = 0;
   ColoredFont mFont;
   ColorBox mColorBox{pctColor};
 
   // In the order in which they are read and written.
   Settings mSettings{WriteRule::WhenTheHostDiffers, PassOver};
-  Part<IIsolines> mLines{mSettings, mIsolines};
+  Part<IIsolines> mLines{mSettings, [this] { return Edited<IIsolines>(); }};
   Part<ILineStyle> mLine{mLines, &IIsolines::Line};
   Part<ILabelFont> mLabelFont{mLines, &IIsolines::LabelFont};
   using Lines = IIsolines;

@@ -27,14 +27,18 @@ frmDataShade::frmDataShade(Desktop& desktop)
 }
 
 void frmDataShade::Fill() {
-  mShade2 = QueryKind<ShadeSettings2>(Subject());
-  mShade = mShade2 ? mShade2 : QueryKind<ShadeSettings>(Subject());
-  if (!mShade) return Unload();
+  if (!Shade()) return Unload();
+  const bool isExtended = Edited<ShadeSettings2>();
   FillLists();
   mSettings.Read();
   if (!mShades.IsRead()) ShowDesignOfTwin();
-  if (!mShade2) cmbShadeVersion.ListIndex(0);
-  cmbShadeVersion.Enabled(mShade2 != nullptr);
+  if (!isExtended) cmbShadeVersion.ListIndex(0);
+  cmbShadeVersion.Enabled(isExtended);
+}
+
+ShadeSettings* frmDataShade::Shade() const {
+  ShadeSettings* const extended = Edited<ShadeSettings2>();
+  return extended ? extended : Edited<ShadeSettings>();
 }
 
 void frmDataShade::FillLists() {
@@ -81,10 +85,11 @@ void frmDataShade::cmdScaleFactor_Click() {
   WithHourglass([&] {
     double value = 0;
     ErrorTrap trap;
-    trap.Step([&] { found = mShade->SuggestScaleFactor(value); });
+    ShadeSettings* const shade = Shade();
+    if (shade) trap.Step([&] { found = shade->SuggestScaleFactor(value); });
     if (found) txtScaleFactor.Text(numbers::ShortestText(value, OwnerDesktop().Separators()));
   });
-  if (found) return;
+  if (found || IsRetired()) return;
   OwnerDesktop().ShowMessage({"Scale factor could not be determined.\r\nData might not be valid yet.",
                               "Suggest Scale Factor not possible", MessageIcon::Information});
 }
@@ -126,26 +131,23 @@ bool frmDataShade::Check() {
 }
 
 bool frmDataShade::SetCount() {
-  mShade->ShadeCount(mShade->NrOfShades());
+  const std::optional<std::int32_t> count = mBasic(&S::NrOfShades, &S::NrOfShades).Get();
+  ShadeSettings* const shade = Shade();
+  if (count && shade) shade->ShadeCount(*count);
   return false;
 }
 
 bool frmDataShade::UseAllShades() {
   // With sun and shadow all shades are in use, whatever the field says.
-  if (!mShade2 || mVersion.Value() <= shadeversion::kDarkening || mShade->FirstShadeIndex() == 1) return false;
-  mShade->FirstShadeIndex(1);
-  return true;
+  if (!Edited<ShadeSettings2>() || mVersion.Value() <= shadeversion::kDarkening) return false;
+  const auto first = mBasic(&S::FirstShadeIndex, &S::FirstShadeIndex);
+  const std::optional<std::int32_t> held = first.Get();
+  return held && *held != 1 && first.Set(1);
 }
 
 bool frmDataShade::Save() {
   mSettings.Write();
   return true;
-}
-
-void frmDataShade::Form_Release() {
-  mShade = nullptr;
-  mShade2 = nullptr;
-  EditForm::Form_Release();
 }
 
 }  // namespace orx

@@ -82,7 +82,6 @@ class frmDataShade final : public EditForm {
   bool Check() override;
   bool Save() override;
   void Form_Resize() override { fraIntensity2.Place(fraIntensity1.Place()); }
-  void Form_Release() override;
 
  private:
   static constexpr double kUnlimited = std::numeric_limits<double>::max();
@@ -90,6 +89,8 @@ class frmDataShade final : public EditForm {
   static constexpr double kFullCircle = 360;
   static constexpr double kMostShades = 255;
 
+  /// The settings of the object; null when it has none. The extended ones are asked for first.
+  ShadeSettings* Shade() const;
   void FillLists();
   /// Keeps the texts of two fields for one setting alike.
   void Couple(TextBox& one, TextBox& other);
@@ -110,16 +111,13 @@ class frmDataShade final : public EditForm {
   bool SetCount();
   bool UseAllShades();
 
-  ShadeSettings* mShade = nullptr;
-  /// Null for an object with the basic settings only.
-  ShadeSettings2* mShade2 = nullptr;
   std::int32_t mFlags = 0;
   bool mIsCopying = false;
 
   // In the order in which they are written. txtIntensityMin and txtNrOfShades2 are twins of the fields named here.
   Settings mSettings{WriteRule::WhenTheHostDiffers, PassOver};
-  Part<ShadeSettings> mBasic{mSettings, mShade};
-  Part<ShadeSettings2> mExtended{mSettings, mShade2};
+  Part<ShadeSettings> mBasic{mSettings, [this] { return Shade(); }};
+  Part<ShadeSettings2> mExtended{mSettings, [this] { return Edited<ShadeSettings2>(); }};
   using S = ShadeSettings;
   using S2 = ShadeSettings2;
   ChoiceSetting mVersion{cmbShadeVersion, mExtended(&S2::ShadeVersion, &S2::ShadeVersion), {.Otherwise = 1}};

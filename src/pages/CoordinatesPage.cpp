@@ -5,6 +5,7 @@
 
 #include "forms/Form.h"
 #include "hostobjects/EdgeOrder.h"
+#include "hostobjects/ErrorTrap.h"
 
 namespace orx::pages {
 namespace {
@@ -22,11 +23,13 @@ CoordinatesPage::CoordinatesPage(const PageSite& site) : PageBase(site) {
   mHorizontal.Changed = [this] { ShowSizes(); };
   mVertical.Changed = [this] { ShowSizes(); };
   cmdGeoreference.Click = [this] { cmdGeoreference_Click(); };
+  Follow(txtWidth, {&mLeft, &mRight});
+  Follow(txtHeight, {&mBottom, &mTop});
 }
 
 IExtent* CoordinatesPage::Extent() const {
-  if (IExtent* const extent = QueryKind<IExtent>(Client())) return extent;
-  IMap* const map = QueryKind<IMap>(Client());
+  if (IExtent* const extent = As<IExtent>(Client())) return extent;
+  IMap* const map = As<IMap>(Client());
   return map ? map->Extent() : nullptr;
 }
 
@@ -35,7 +38,9 @@ void CoordinatesPage::ShowValues() {
   mHorizontal.Restart();
   mVertical.Restart();
   ShowSizes();
-  cmdGeoreference.Visible(GeoreferenceRequested.HasHandler() && QueryKind<IMap>(Client()));
+  bool isMap = false;
+  ErrorTrap().Step([&] { isMap = As<IMap>(Client()) != nullptr; });
+  cmdGeoreference.Visible(GeoreferenceRequested.HasHandler() && isMap);
 }
 
 void CoordinatesPage::ShowSizes() {
@@ -50,8 +55,16 @@ void CoordinatesPage::ShowSizes() {
 
 void CoordinatesPage::WriteClient() {
   const auto write = [this](CheckedNumberSetting& lower, CheckedNumberSetting& upper) {
+    const auto writeUnlessPast = [&](CheckedNumberSetting& edge, const CheckedNumberSetting& other) {
+      // An edge that the client has refused stays where it was, and must not be passed.
+      const bool isHeldUp = other.Fault() && other.IsRead() &&
+                            !(&edge == &lower ? edge.Value() < other.HostValue() : edge.Value() > other.HostValue());
+      if (isHeldUp && edge.Differs()) return edge.Fault(other.Fault());
+      List().Write(edge);
+    };
     WriteInOrder(
-        lower.Value() > lower.HostValue(), [&] { List().Write(lower); }, [&] { List().Write(upper); });
+        lower.Value() > lower.HostValue(), [&] { writeUnlessPast(lower, upper); },
+        [&] { writeUnlessPast(upper, lower); });
   };
   write(mLeft, mRight);
   write(mBottom, mTop);
@@ -62,8 +75,7 @@ void CoordinatesPage::cmdGeoreference_Click() {
   GeoreferenceRequested.Raise(request);
   if (!request.Changed) return;
   IsDirty(true);
-  ReadClient();
-  WhileBusy([this] { ShowValues(); });
+  RefreshContents();
 }
 
 }  // namespace orx::pages

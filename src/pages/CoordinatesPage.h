@@ -55,7 +55,7 @@ class CoordinatesPage final : public PageBase {
   void ShowSizes();
   void cmdGeoreference_Click();
 
-  Part<IExtent> mExtent{List(), [this] { return Extent(); }};
+  Part<IExtent> mExtent{List(), Asked<IExtent>([this] { return Extent(); })};
   CheckedNumberSetting mLeft{txtLeft, mExtent(&IExtent::Left, &IExtent::Left)};
   CheckedNumberSetting mRight{txtRight, mExtent(&IExtent::Right, &IExtent::Right)};
   CheckedNumberSetting mBottom{txtBottom, mExtent(&IExtent::Bottom, &IExtent::Bottom)};

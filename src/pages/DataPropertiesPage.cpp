@@ -1,6 +1,7 @@
 #include "pages/DataPropertiesPage.h"
 
 #include "forms/Form.h"
+#include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IMap.h"
 #include "numbers/Numbers.h"
 
@@ -19,11 +20,16 @@ DataPropertiesPage::DataPropertiesPage(const PageSite& site) : PageBase(site) {
   cmdIsolines.Click = [this] { RequestChange(IsolineRequested); };
   cmdDataStyle.Click = [this] { DataStyleRequested.Raise(); };
   cmdColors.Click = [this] { ColorsRequested.Raise(Language()); };
+  Follow(cmdBrowse, {&mFile});
+  Follow(txtMethod, {&mClassMethod});
+  Follow(txtRange, {&mClassMinimum, &mClassMaximum, &mClassFormat});
+  Follow(txtCount, {&mClassCount});
+  Follow(txtFormat, {&mClassFormat});
 }
 
 HostObject* DataPropertiesPage::DataObject() const {
-  if (QueryKind<IData>(Client())) return Client();
-  auto* const layer = QueryKind<ILayer>(Client());
+  if (As<IData>(Client())) return Client();
+  auto* const layer = As<ILayer>(Client());
   return layer ? layer->Data() : nullptr;
 }
 
@@ -42,8 +48,8 @@ void DataPropertiesPage::ShowFile(const std::string& file) {
 void DataPropertiesPage::ShowClasses() {
   txtMethod.Text(MethodText());
   txtRange.Text(RangeText());
-  txtCount.Text(HasRead() ? std::to_string(mCount) : std::string());
-  txtFormat.Text(HasRead() ? mValueFormat : std::string());
+  txtCount.Text(mClassCount.IsRead() ? std::to_string(mCount) : std::string());
+  txtFormat.Text(mClassFormat.IsRead() ? mValueFormat : std::string());
 }
 
 void DataPropertiesPage::ShowButtons() {
@@ -57,7 +63,7 @@ void DataPropertiesPage::ShowButtons() {
 }
 
 std::string DataPropertiesPage::MethodText() const {
-  if (!HasRead()) return {};
+  if (!mClassMethod.IsRead()) return {};
   switch (mMethod) {
     case classifymethod::kEqualIntervals:
       return Translated(Language(), "Equal intervals");
@@ -73,7 +79,7 @@ std::string DataPropertiesPage::MethodText() const {
 }
 
 std::string DataPropertiesPage::RangeText() const {
-  if (!HasRead()) return {};
+  if (!mClassMinimum.IsRead() || !mClassMaximum.IsRead() || !mClassFormat.IsRead()) return {};
   if (mMinimum == kUnknownRangeEnd && mMaximum == kUnknownRangeEnd) return Translated(Language(), "not known");
   const numbers::Separators separators = Surface.OwnerForm().OwnerDesktop().Separators();
   const auto text = [&](double value) { return numbers::FormatNumber(value, mValueFormat, separators); };
@@ -88,14 +94,23 @@ void DataPropertiesPage::cmdBrowse_Click() {
 }
 
 void DataPropertiesPage::cmdClassify_Click() {
-  auto& data = *QueryKind<IData>(DataObject());
-  ClassifyRequest request{DataObject(), data.MinimumOfData(), data.MaximumOfData(), kMayChangeClassCount};
+  ClassifyRequest request{nullptr, kUnknownRangeEnd, kUnknownRangeEnd, kMayChangeClassCount};
+  const bool isThere = Ask([&] {
+    request.Data = &Required(DataObject());
+    Required(As<IData>(request.Data));
+    // A range that the data do not tell is not known.
+    ErrorTrap trap;
+    trap.Step([&] { request.Minimum = Required(As<IData>(request.Data)).MinimumOfData(); });
+    trap.Step([&] { request.Maximum = Required(As<IData>(request.Data)).MaximumOfData(); });
+  });
+  if (!isThere) return;
   ClassifyRequested.Raise(request);
   DataChanged(request.Changed);
 }
 
 void DataPropertiesPage::RequestChange(const Event<DataRequest&>& event) {
-  DataRequest request{DataObject()};
+  DataRequest request;
+  if (!Ask([&] { request.Data = &Required(DataObject()); })) return;
   event.Raise(request);
   DataChanged(request.Changed);
 }
@@ -105,9 +120,14 @@ void DataPropertiesPage::DataChanged(bool changed) {
   IsDirty(true);
   // A chosen file waits for a save all the same.
   const std::optional<std::string> chosen = mFile.Differs() ? std::optional(txtFile.Text()) : std::nullopt;
-  ReadClient();
-  WhileBusy([this] { ShowValues(); });
-  if (chosen) ShowFile(*chosen);
+  RefreshContents();
+  if (chosen && mFile.IsRead()) ShowFile(*chosen);
+}
+
+std::vector<std::string> DataPropertiesPage::Refused() const {
+  if (!mFile.Fault() || mFile.IsLocked()) return {};
+  // A reason need not name the file.
+  return {Line(mFile.Name() + " \"" + txtFile.Text() + '"', mFile)};
 }
 
 }  // namespace orx::pages

@@ -47,8 +47,9 @@ class DataPropertiesPage final : public PageBase {
       Surface, "cmdDataStyle", {.Caption = "Data &style...", .Place = {120, 3840, 2850, 375}, .Visible = false}};
 
  protected:
-  bool IsSupported() const override { return QueryKind<IData>(DataObject()) != nullptr; }
+  bool IsSupported() const override { return As<IData>(DataObject()) != nullptr; }
   void ShowValues() override;
+  std::vector<std::string> Refused() const override;
 
  private:
   /// The data object behind the client, null when there is none.
@@ -70,8 +71,8 @@ class DataPropertiesPage final : public PageBase {
   std::int32_t mCount = 0;
   std::string mValueFormat = "General";
 
-  Part<IData> mData{List(), [this] { return QueryKind<IData>(DataObject()); }};
-  Part<IClassification> mClasses{List(), [this] { return QueryKind<IClassification>(DataObject()); }};
+  Part<IData> mData{List(), Asked<IData>([this] { return As<IData>(DataObject()); })};
+  Part<IClassification> mClasses{List(), Asked<IClassification>([this] { return As<IClassification>(DataObject()); })};
   using C = IClassification;
   /// Differs while the user has chosen a file that is not read yet.
   TextSetting mFile{txtFile, mData(&IData::FileName, &IData::FileName)};

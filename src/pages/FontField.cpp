@@ -2,6 +2,7 @@
 
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
+#include "forms/TextBox.h"
 #include "pages/Preview.h"
 
 namespace orx::pages {
@@ -10,6 +11,10 @@ FontField::FontField(const FontControls& controls, NoRule)
     : mControls(controls), mSize(controls.Size, {kMinimumSize, kMaximumSize}) {
   mSize.Translate = [this](const std::string& text) { return Translate ? Translate(text) : text; };
   mSize.Accepted = [this] { Accepted.Raise(); };
+}
+
+std::vector<Control*> FontField::Boxes() const {
+  return {&mControls.Name, &mControls.Size, &mControls.Bold, &mControls.Italic, &mControls.Underline};
 }
 
 void FontField::Show(const Font& value) {

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/CheckedNumberField.h"
 
@@ -32,6 +33,8 @@ class FontField : public FieldTypes<Font, FontControls> {
 
   /// The control with the font's name.
   ComboBox& Box() const { return mControls.Name; }
+  /// All of them.
+  std::vector<Control*> Boxes() const;
   /// Shows the font.
   void Show(const Font& value);
   /// Shows that there is none.

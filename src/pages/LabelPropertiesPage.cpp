@@ -32,7 +32,11 @@ LabelPropertiesPage::LabelPropertiesPage(const PageSite& site) : PageBase(site) 
            {"Black", "White", "Gray", "Red", "Green", "Blue", "Yellow", "Orange", "Purple", "Brown", "Custom"});
   for (const char* name : kCommonFonts) cboFont.AddItem(name);
   const auto edited = [this] { Edited(); };
-  chkShowLabels.Click = [this] { EnableDependent(), Edited(); };
+  chkShowLabels.Click = [this] {
+    if (IsBusy()) return;
+    EnableControls();
+    ShowPreview();
+  };
   cboContent.Click = edited;
   cboFont.Click = edited;
   cboFont.Change = edited;
@@ -41,10 +45,11 @@ LabelPropertiesPage::LabelPropertiesPage(const PageSite& site) : PageBase(site) 
   mFont.Accepted = edited;
   cboColor.Click = [this] { cboColor_Click(); };
   mColor.Accepted = [this] { ColorEdited(); };
+  Follow(cboColor, {&mColor});
 }
 
 bool LabelPropertiesPage::IsSupported() const {
-  return QueryKind<ILabels>(Client()) != nullptr;
+  return As<ILabels>(Client()) != nullptr;
 }
 
 void LabelPropertiesPage::ShowValues() {
@@ -53,11 +58,9 @@ void LabelPropertiesPage::ShowValues() {
   ShowPreview();
 }
 
-void LabelPropertiesPage::EnableDependent() {
-  if (!HasRead()) return;
-  const bool enabled = chkShowLabels.IsChecked();
-  for (Control* const control : Surface.All())
-    if (control != &chkShowLabels) control->Enabled(enabled);
+bool LabelPropertiesPage::ShowsLabels() const {
+  // Where nobody knows, all can be edited.
+  return mShowLabels.IsLocked() || chkShowLabels.IsChecked();
 }
 
 void LabelPropertiesPage::cboColor_Click() {
@@ -75,8 +78,8 @@ void LabelPropertiesPage::ColorEdited() {
 
 void LabelPropertiesPage::ShowColorName() {
   const auto found = std::find(kNamedColors.begin(), kNamedColors.end(), mColor.Value());
-  Select(cboColor, HasRead() ? static_cast<std::int32_t>(found - kNamedColors.begin()) : -1);
-  pctColor.BackColor(HasRead() ? mColor.Value() : Color{255, 255, 255});
+  Select(cboColor, mColor.IsRead() ? static_cast<std::int32_t>(found - kNamedColors.begin()) : -1);
+  pctColor.BackColor(mColor.IsRead() ? mColor.Value() : Color{255, 255, 255});
 }
 
 void LabelPropertiesPage::Edited() {
@@ -84,7 +87,7 @@ void LabelPropertiesPage::Edited() {
 }
 
 void LabelPropertiesPage::ShowPreview() {
-  const bool isShown = HasRead() && chkShowLabels.IsChecked();
+  const bool isShown = HasRead() && ShowsLabels();
   constexpr const char* kSamples[] = {"Abc", "123", "Abc 123"};
   const auto content = static_cast<std::size_t>(cboContent.SelectedData(0));
   DrawPreview(pctPreview, isShown ? kSamples[content] : "", mFont.Value(), mColor.Value(), mRotation.Value());

@@ -51,9 +51,10 @@ class LabelPropertiesPage final : public PageBase {
  protected:
   bool IsSupported() const override;
   void ShowValues() override;
-  void EnableDependent() override;
+  bool Offers(const Control& control) const override { return &control == &chkShowLabels || ShowsLabels(); }
 
  private:
+  bool ShowsLabels() const;
   void cboColor_Click();
   void Edited();
   void ColorEdited();

@@ -50,6 +50,8 @@ class LegendsPage final : public PageBase {
   void ForgetClient() override { mLegends.clear(); }
   void ShowValues() override;
   void WriteClient() override;
+  std::vector<std::string> Refused() const override;
+  const Settings& Shown() const override { return mFields; }
 
  private:
   /// One legend as it is edited, and its settings with the host.
@@ -63,7 +65,7 @@ class LegendsPage final : public PageBase {
     bool Framed = false;
     double TextSize = 0;
 
-    Settings List{WriteRule::WhenEdited};
+    Settings List{WriteRule::WhenEdited, KeepFault};
     Part<ILegend> Host;
     HeldSetting<std::string> HostTitle{Title, Host(&ILegend::Title, &ILegend::Title)};
     HeldSetting<bool> HostVisible{Visible, Host(&ILegend::Visible, &ILegend::Visible)};
@@ -72,7 +74,8 @@ class LegendsPage final : public PageBase {
     HeldSetting<double> HostTextSize{TextSize, Host(&ILegend::TextSize, &ILegend::TextSize)};
   };
 
-  Legend* Shown() { return mLegends.empty() ? nullptr : mLegends[mShown].get(); }
+  Legend* ShownLegend() { return mLegends.empty() ? nullptr : mLegends[mShown].get(); }
+  void ShowLegend();
   void cboLegend_Click();
   void KeepEdits();
   /// The entry of a legend in the list: "2: Elevation".
@@ -84,7 +87,7 @@ class LegendsPage final : public PageBase {
 
   // What the fields show is the legend as it is edited; the host hears of it in WriteClient.
   Settings mFields{WriteRule::Always};
-  Part<Legend> mLegend{mFields, [this] { return Shown(); }};
+  Part<Legend> mLegend{mFields, [this] { return ShownLegend(); }};
   TextSetting mTitle{txtTitle, mLegend(&Legend::Title)};
   FlagSetting mVisible{chkVisible, mLegend(&Legend::Visible)};
   ChoiceSetting mCorner{cboCorner, mLegend(&Legend::Corner)};

@@ -12,10 +12,11 @@ PropertiesPage::PropertiesPage(const PageSite& site) : PageBase(site) {
   mRotation.Accepted = [this] { Edited(); };
   mSize.Accepted = [this] { Edited(); };
   cmdCharacter.Click = [this] { cmdCharacter_Click(); };
+  Follow(cmdCharacter, {&mFont, &mCharacter, &mRotation});
 }
 
 bool PropertiesPage::IsSupported() const {
-  return QueryKind<ILayer>(Client()) != nullptr;
+  return As<ILayer>(Client()) != nullptr;
 }
 
 void PropertiesPage::ShowValues() {
@@ -46,7 +47,7 @@ void PropertiesPage::Edited() {
 
 void PropertiesPage::ShowPreview() {
   const Font font{.Name = cboFont.Text(), .Size = mSize.Value()};
-  DrawPreview(pctSymbol, HasRead() ? CharacterText(mCharacter.Value()) : std::string(), font, Color{},
+  DrawPreview(pctSymbol, mCharacter.IsRead() ? CharacterText(mCharacter.Value()) : std::string(), font, Color{},
               mRotation.Value());
 }
 

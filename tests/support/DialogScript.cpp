@@ -71,6 +71,7 @@ void DialogScript::CloseAnyway(const Modal& modal) {
 }
 
 void DialogScript::ModalOpening(const Modal& modal) {
+  if (Noted && modal.ShownMessage) return;
   if (mExpected.empty()) return Fail(modal, "Unexpected");
   const Expected& next = mExpected.front();
   if (modal.ShownForm) {
@@ -90,6 +91,10 @@ void DialogScript::ModalOpening(const Modal& modal) {
 }
 
 void DialogScript::ModalRunning(const Modal& modal) {
+  if (Noted && modal.ShownMessage) {
+    Noted->push_back(*modal.ShownMessage);
+    return mUser.AnswerMessage(modal, modal.ShownMessage->Harmless());
+  }
   if (mExpected.empty()) return CloseAnyway(modal);
   const Expected next = std::move(mExpected.front());
   mExpected.pop_front();

@@ -38,6 +38,9 @@ class DialogScript final : public DesktopHook {
   /// What the user does when the program lets waiting events be handled, each time that it does.
   std::function<void()> WhenEventsPend;
 
+  /// While it is set, message boxes are not listed: they are answered harmlessly and noted here.
+  std::vector<Message>* Noted = nullptr;
+
   /// What happens while the next message box is up, before the user answers it.
   std::function<void()> WhenMessageIsUp;
 

@@ -16,6 +16,7 @@
 #include "hostobjects/ILanguage.h"
 #include "hostobjects/PropertyPage.h"
 #include "hostobjects/RunTimeError.h"
+#include "tests/support/Faults.h"
 
 namespace orx::test {
 
@@ -26,6 +27,7 @@ class CallLog {
     Calls.push_back(text);
     if (WhenCalled) WhenCalled();
     const std::string name = text.substr(0, text.find('('));
+    if (Faults) Faults->Call(name);
     if (Failing.contains(name)) throw RunTimeError(1001, name + " failed");
   }
 
@@ -34,6 +36,7 @@ class CallLog {
   std::function<void()> WhenCalled;
   /// Names of the calls that fail, such as "Page.ApplyChanges".
   std::set<std::string> Failing;
+  FaultPlan* Faults = nullptr;
 };
 
 /// An object without any interface.

@@ -117,13 +117,19 @@ TEST_F(DataPage, DiscardForgetsAChosenFile) {
   EXPECT_EQ("/data/old.bil", data.File);
 }
 
-TEST_F(DataPage, AFileThatCannotBeReadIsToldToTheDialog) {
+TEST_F(DataPage, AFileThatCannotBeReadIsNamedToTheUser) {
   onBrowse = [](BrowseRequest& request) { request = {"/data/new.bil", false}; };
   Show();
   Press("cmdBrowse");
   data.IsBroken = true;
-  EXPECT_THROW(page->Page->SaveChanges(), RunTimeError);
+  ExpectRefusal("Page", "Not everything could be saved:\r\nData file \"/data/new.bil\": /data/new.bil is gone");
+  page->Page->SaveChanges();
   EXPECT_FALSE(page->Page->IsDirty());
+  // The choice stays, for the next try.
+  EXPECT_EQ("/data/new.bil", Seen("txtFile"));
+  data.IsBroken = false;
+  page->Page->SaveChanges();
+  EXPECT_EQ("/data/new.bil", data.File);
 }
 
 TEST_F(DataPage, ClassifyHandsOverTheDataWithItsRangeAndShowsWhatChanged) {

@@ -1,6 +1,9 @@
 // The dialogs with several pages over the map library's pages and its real map: what the user changes there reaches the
 // layers, and every text is translated.
+#include <filesystem>
+#include <fstream>
 #include <map>
+#include <random>
 #include <set>
 
 #include "forms/TreeList.h"
@@ -154,6 +157,35 @@ TEST_F(MapLibraryLayerDialogs, ATiledLayerIsMovedOnTheGroundAsTheMapThatItIs) {
   });
   EXPECT_EQ(-1, service.Show(map.get(), 0));
   EXPECT_EQ(-80, QueryKind<IExtent>(map->Layer(2))->Right());
+}
+
+TEST_F(MapLibraryLayerDialogs, AChosenFileThatIsNoGridIsNamedAndTheDialogEndsByItsRule) {
+  namespace fs = std::filesystem;
+  const fs::path folder =
+      fs::weakly_canonical(fs::temp_directory_path()) / ("orx" + std::to_string(std::random_device()()));
+  fs::create_directories(folder);
+  std::ofstream(folder / "notes.bil") << "no grid";
+  std::vector<Message> boxes;
+  script.Noted = &boxes;
+  InDialog("frmDataDialog", [this, folder] {
+    const std::string before = Seen("txtFile");
+    script.ExpectFiles([this, folder](OpenFileRequest& request) {
+      user.PickFiles(request, {folder.string(), {"notes.bil"}});
+    });
+    Press("cmdBrowse");
+    EXPECT_NE(before, Seen("txtFile"));
+    Press("cmdOK");
+    EXPECT_FALSE(form->Visible());
+    EXPECT_EQ(Pointer::Default, desktop().Pointer());
+  });
+  EXPECT_EQ(0, service.ShowDataProperties(map->Layer(1)));
+  script.Noted = nullptr;
+  fs::remove_all(folder);
+  ASSERT_EQ(1U, boxes.size());
+  EXPECT_EQ("Data Classify", boxes[0].Title);
+  EXPECT_TRUE(boxes[0].Text.starts_with("Not everything could be saved:\r\nData file \"")) << boxes[0].Text;
+  EXPECT_NE(std::string::npos, boxes[0].Text.find("notes.bil\": ")) << boxes[0].Text;
+  EXPECT_EQ(std::vector{false}, callBack.Confirmed);
 }
 
 }  // namespace

@@ -172,37 +172,43 @@ TEST_F(MapLibraryPagesRules, ASaveWithAnEntryThatIsRefusedWritesNothingAtAll) {
   EXPECT_TRUE(Field("txtSize").HasFocus());
 }
 
-TEST_F(MapLibraryPagesRules, AGetterThatFailsTravelsAndLeavesThePageUsable) {
+TEST_F(MapLibraryPagesRules, AGetterThatFailsLocksItsFieldAndLeavesThePageUsable) {
   const auto page = MakePage(PageKind::Properties);
   page->Page->Client(&layer);
   layer.Log.Failing = {"SymbolSize"};
-  EXPECT_THROW(page->Page->RefreshContents(), RunTimeError);
-  EXPECT_EQ(Calls{}, EnabledInputs());
+  page->Page->RefreshContents();
+  EXPECT_FALSE(Field("txtSize").Enabled());
+  EXPECT_EQ("", Field("txtSize").Text());
+  EXPECT_NE(Calls{}, EnabledInputs());
   page->Page->SaveChanges();
   EXPECT_EQ(Calls{}, layer.Log.Calls);
   layer.Log.Failing.clear();
   page->Page->RefreshContents();
   EXPECT_EQ("12", Field("txtSize").Text());
-  EXPECT_NE(Calls{}, EnabledInputs());
+  EXPECT_TRUE(Field("txtSize").Enabled());
 }
 
-TEST_F(MapLibraryPagesRules, AGetterThatFailsLaterLeavesTheFieldsAsTheyWere) {
+TEST_F(MapLibraryPagesRules, AGetterThatFailsLaterKeepsNoOtherFieldFromBeingRead) {
   const auto page = MakeFilled(PageKind::LabelProperties);
   layer.HeldLabelRotation = 90;
   layer.Log.Failing = {"LabelColor"};
-  EXPECT_THROW(page->Page->RefreshContents(), RunTimeError);
-  EXPECT_EQ("0", Field("txtRotation").Text());
+  page->Page->RefreshContents();
+  EXPECT_EQ("90", Field("txtRotation").Text());
+  EXPECT_FALSE(Get<ComboBox>("cboColor").Enabled());
+  layer.Log.Failing.clear();
+  page->Page->RefreshContents();
   // Not busy any more: a choice is followed by the preview.
   Get<ComboBox>("cboColor").ListIndex(5);
   EXPECT_EQ("#0000FF", Field("txtColor").Text());
 }
 
-TEST_F(MapLibraryPagesRules, ASetterThatFailsTravelsAndWhatWasWrittenBeforeCounts) {
+TEST_F(MapLibraryPagesRules, ASetterThatFailsIsToldAndWhatWasWrittenCounts) {
   const auto page = MakeFilled(PageKind::Properties);
   Field("txtName").Text("Relief");
   Field("txtSize").Text("20");
   layer.Log.Failing = {"SymbolSize="};
-  EXPECT_THROW(page->Page->SaveChanges(), RunTimeError);
+  ExpectRefusal("Page", "Not everything could be saved:\r\nSize: SymbolSize= failed");
+  page->Page->SaveChanges();
   EXPECT_TRUE(page->Page->IsDirty());
   layer.Log.Failing.clear();
   page->Page->SaveChanges();
@@ -213,7 +219,8 @@ TEST_F(MapLibraryPagesRules, ASetterThatFailsFirstIsNoChange) {
   const auto page = MakeFilled(PageKind::Coordinates);
   Field("txtTop").Text("40");
   layer.Log.Failing = {"Top="};
-  EXPECT_THROW(page->Page->ApplyChanges(), RunTimeError);
+  ExpectRefusal("Page", "Not everything could be saved:\r\nTop: Top= failed");
+  page->Page->ApplyChanges();
   EXPECT_FALSE(page->Page->IsDirty());
   EXPECT_EQ("40", Field("txtTop").Text());
 }

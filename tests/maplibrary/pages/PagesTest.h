@@ -46,10 +46,11 @@ class SilentCallBack final : public IDialogCallBack {
  public:
   void ApplyNotify(bool changed) override { Applied.push_back(changed); }
   void CancelNotify(bool) override {}
-  void OKNotify(bool) override {}
+  void OKNotify(bool changed) override { Confirmed.push_back(changed); }
   std::int32_t RegisterNotify() override { return 0; }
 
   std::vector<bool> Applied;
+  std::vector<bool> Confirmed;
 };
 
 class PagesTest : public DesktopTest {
