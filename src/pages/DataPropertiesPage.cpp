@@ -88,8 +88,10 @@ void DataPropertiesPage::cmdBrowse_Click() {
 }
 
 void DataPropertiesPage::cmdClassify_Click() {
-  auto& data = *QueryKind<IData>(DataObject());
-  ClassifyRequest request{DataObject(), data.MinimumOfData(), data.MaximumOfData(), kMayChangeClassCount};
+  HostObject* const object = DataObject();
+  IData* const data = QueryKind<IData>(object);
+  if (!data) return Surface.OwnerForm().OwnerDesktop().Beep();
+  ClassifyRequest request{object, data->MinimumOfData(), data->MaximumOfData(), kMayChangeClassCount};
   ClassifyRequested.Raise(request);
   DataChanged(request.Changed);
 }

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <thread>
 
+#include "forms/ScreenUpdates.h"
 #include "pickers/frmProgress.h"
 #include "service/CCommonProgressDialog.h"
 #include "tests/support/DesktopTest.h"

@@ -16,6 +16,7 @@
 #include "hostobjects/ILanguage.h"
 #include "hostobjects/PropertyPage.h"
 #include "hostobjects/RunTimeError.h"
+#include "tests/support/Faults.h"
 
 namespace orx::test {
 
@@ -25,12 +26,14 @@ class CallLog {
   void Call(const std::string& text) {
     Calls.push_back(text);
     const std::string name = text.substr(0, text.find('('));
+    if (Faults) Faults->Call(name);
     if (Failing.contains(name)) throw RunTimeError(1001, name + " failed");
   }
 
   std::vector<std::string> Calls;
   /// Names of the calls that fail, such as "Page.ApplyChanges".
   std::set<std::string> Failing;
+  FaultPlan* Faults = nullptr;
 };
 
 /// An object without any interface.

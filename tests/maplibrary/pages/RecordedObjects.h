@@ -8,6 +8,7 @@
 #include "hostobjects/IMap.h"
 #include "hostobjects/RunTimeError.h"
 #include "numbers/Numbers.h"
+#include "tests/support/Faults.h"
 
 namespace orx::test {
 
@@ -28,9 +29,11 @@ struct Record {
 
   std::vector<std::string> Calls;
   std::set<std::string> Failing;
+  FaultPlan* Faults = nullptr;
 
  private:
   void FailIf(const std::string& member) const {
+    if (Faults) Faults->Call(member);
     if (Failing.contains(member)) throw RunTimeError(1001, member + " failed");
   }
   static std::string Text(bool value) { return value ? "True" : "False"; }
@@ -75,7 +78,7 @@ class RecordedLayer final : public HostObject, public ILayer, public ILabels {
  public:
   /// What Data gives; not owned.
   HostObject* Behind = nullptr;
-  HostObject* Data() override { return Behind; }
+  HostObject* Data() override { return !Log.Faults || Log.Faults->Answers("Data") ? Behind : nullptr; }
   HostInterface* ViewFor(const std::type_info&) override { return &Extent; }
 
   ORX_RECORDED(std::string, const std::string&, Name, "Elevation")
