@@ -1,5 +1,6 @@
 #include "dialogframe/DialogForm.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -27,15 +28,15 @@ void DialogForm::Form_Load() {
 }
 
 void DialogForm::TranslateControls() {
-  if (mLanguageActive) mLanguage->TranslateForm(*this);
+  if (LanguageActive()) mLanguage->TranslateForm(*this);
 }
 
 void DialogForm::TranslateCaption() {
-  if (mLanguageActive) Caption(mLanguage->TranslateText(Caption()));
+  if (LanguageActive()) Caption(mLanguage->TranslateText(Caption()));
 }
 
 void DialogForm::TakeLanguage() {
-  if (!mLanguageActive) return;
+  if (!LanguageActive()) return;
   const std::optional<double> number =
       numbers::ToDouble(mLanguage->TranslateText(mHelpKey), OwnerDesktop().Separators());
   if (number && std::abs(*number) < std::numeric_limits<std::int32_t>::max())
@@ -52,7 +53,8 @@ void DialogForm::Form_Release() {
 }
 
 void DialogForm::Hold(const BorrowedObject* lent) {
-  if (std::shared_ptr<const void> lifetime = lent ? lent->Lifetime() : nullptr) mHeld.push_back(std::move(lifetime));
+  std::shared_ptr<const void> lifetime = lent ? lent->Lifetime() : nullptr;
+  if (lifetime && std::ranges::find(mHeld, lifetime) == mHeld.end()) mHeld.push_back(std::move(lifetime));
 }
 
 void DialogForm::ShowHelp() {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "dialogframe/PointerScope.h"
 #include "forms/Form.h"
 #include "hostobjects/ILanguage.h"
 
@@ -52,21 +53,20 @@ class DialogForm : public Form {
   /// Runs one of these steps. An error ends the loading, unless the dialog overrides this to go on with the next step.
   virtual void LoadStep(const std::function<void()>& step) { step(); }
 
-  /// Keeps a borrowed object usable until the form is released. Null is ignored.
+  /// Keeps a borrowed object usable until the form is released, however often it is handed over. Null is ignored.
   void Hold(const BorrowedObject* lent);
-  /// True if the language had entries the last time it was asked, by Language or by AskLanguage.
-  bool LanguageActive() const { return mLanguageActive; }
+  /// True if there is a language that had entries the last time it was asked, by Language or by AskLanguage.
+  bool LanguageActive() const { return mLanguage && mLanguageActive; }
   /// Asks the language again whether it has entries.
   void AskLanguage() { mLanguageActive = IsActive(mLanguage); }
   /// What every Help button does.
   void ShowHelp();
 
-  /// Shows the hourglass while `work` runs. An error travels and leaves the hourglass as it is.
+  /// Shows the hourglass while `work` runs, and the default pointer afterwards, also when an error leaves it.
   template <class Work>
   void WithHourglass(Work&& work) {
-    OwnerDesktop().Pointer(Pointer::Hourglass);
+    const PointerScope hourglass(OwnerDesktop(), Pointer::Hourglass, Pointer::Default);
     work();
-    OwnerDesktop().Pointer(Pointer::Default);
   }
 
  private:

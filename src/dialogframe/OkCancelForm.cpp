@@ -40,6 +40,7 @@ void OkCancelForm::cmdCancel_Click() {
 }
 
 void OkCancelForm::Close(Outcome outcome) {
+  if (IsRetired()) return;
   Conclude(outcome);
   Hide();
 }
@@ -62,7 +63,7 @@ OKButton::OKButton(OkCancelForm& form) : OKButton(form, form, InCorner(form, 1))
 
 OKButton::OKButton(OkCancelForm& form, Container& parent, Design design)
     : Button(parent, "cmdOK", WithCaption(std::move(design), "&OK"), ButtonRole::Default) {
-  Click = [&form] { form.cmdOK_Click(); };
+  Click = [&form] { form.PressOK(); };
 }
 
 CancelButton::CancelButton(OkCancelForm& form) : CancelButton(form, form, InCorner(form, 0)) {
@@ -70,7 +71,7 @@ CancelButton::CancelButton(OkCancelForm& form) : CancelButton(form, form, InCorn
 
 CancelButton::CancelButton(OkCancelForm& form, Container& parent, Design design)
     : Button(parent, "cmdCancel", WithCaption(std::move(design), "&Cancel"), ButtonRole::Cancel) {
-  Click = [&form] { form.cmdCancel_Click(); };
+  Click = [&form] { form.OneAtATime([&form] { form.cmdCancel_Click(); }); };
 }
 
 }  // namespace orx

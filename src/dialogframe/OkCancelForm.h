@@ -4,6 +4,7 @@
 #include <string>
 
 #include "dialogframe/DialogForm.h"
+#include "forms/BusyScope.h"
 #include "forms/Button.h"
 #include "forms/Message.h"
 
@@ -12,7 +13,8 @@ namespace orx {
 class TextBox;
 
 /// OK checks what was entered, accepts it and hides the form; Cancel discards it and hides the form. A hidden form can
-/// still be asked for its outcome. The close box runs neither.
+/// still be asked for its outcome. The close box runs neither. While the host handles events in the middle of what one
+/// of these buttons does, a press of another one comes to nothing.
 class OkCancelForm : public DialogForm {
  public:
   using DialogForm::DialogForm;
@@ -40,8 +42,20 @@ class OkCancelForm : public DialogForm {
   bool IsConfirmed() const { return mOutcome == Outcome::Confirmed; }
   /// Sets the outcome without closing the form.
   void Conclude(Outcome outcome) { mOutcome = outcome; }
-  /// Hides the form rather than unloading it, so that the caller can still read it.
+  /// Hides the form rather than unloading it, so that the caller can still read it. A form that was unloaded meanwhile
+  /// keeps the outcome of that.
   void Close(Outcome outcome);
+  /// Runs what a button that ends or applies does, unless the form is in the middle of another one.
+  template <class Work>
+  void OneAtATime(Work&& work) {
+    if (mIsPressed) return;
+    const BusyScope pressed(mIsPressed);
+    work();
+  }
+  /// What OK and a double click that stands for it do.
+  void PressOK() {
+    OneAtATime([this] { cmdOK_Click(); });
+  }
 
   /// Tells the user what is wrong with a field and moves the focus there. Always returns false, for Check to pass on.
   bool Refuse(const Message& message, Control& field, First first = First::Message);
@@ -53,6 +67,7 @@ class OkCancelForm : public DialogForm {
   friend class CancelButton;
 
   Outcome mOutcome = Outcome::Open;
+  bool mIsPressed = false;
 };
 
 /// The button that Enter presses.

@@ -89,14 +89,17 @@ Form::Act::Act(Form& form) : mKeep(form.weak_from_this().lock()), mForm(form) {
 
 Form::Act::~Act() {
   Desktop& desktop = mForm.mDesktop;
-  if (mForm.mActs == 1 && mForm.mUnloadsWhenHidden && !mForm.mVisible) mForm.UnloadQuietly();
-  if (--mForm.mActs == 0) mForm.Release();
+  if (mForm.mActs == 1) mForm.EndActs();
+  --mForm.mActs;
   desktop.LeaveAct();
 }
 
-void Form::Release() {
-  if (!std::exchange(mRetired, false)) return;
+void Form::EndActs() {
+  if (mUnloadsWhenHidden && !mVisible) UnloadQuietly();
+  if (!mRetired) return;
+  // Still retired, since what is let go may be code of the host, and may want the form shown again.
   Form_Release();
+  mRetired = false;
 }
 
 void Form::Load() {
@@ -129,11 +132,10 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
 
 void Form::Hide() {
   if (!mVisible) return;
-  const std::shared_ptr<Form> keep = weak_from_this().lock();
+  const Act act(*this);
   mVisible = false;
   mWindow->Hide();
   mDesktop.EndModal(*this);
-  mDesktop.LetGoOfClosedForms();
 }
 
 void Form::Unload() {

@@ -182,7 +182,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
   /// For Control: true when the change reaches the screen by ShowUpdates.
   bool TakesOver(Control& control, Aspect aspect, Urgency urgency);
-  void Release();
+  /// What waits for the end of the outermost act.
+  void EndActs();
   /// Closes the window; the peers go with it.
   void DropWindow();
   /// The work area that holds most of the window, or is nearest to it.

@@ -14,7 +14,7 @@ frmListSelection::frmListSelection(Desktop& desktop)
                              .Caption = "Select Layer",
                              .HelpKey = "_HelpMapListSelection",
                              .Client = {5400, 4755}}) {
-  for (ListBox* const list : {&lstMultiSelect, &lstSingleSelect}) list->DblClick = [this] { cmdOK_Click(); };
+  for (ListBox* const list : {&lstMultiSelect, &lstSingleSelect}) list->DblClick = [this] { PressOK(); };
 }
 
 void frmListSelection::Init(TextArray selection, bool multiselect, std::int32_t listIndex, bool askConfirmation,

@@ -99,6 +99,8 @@ void frmMsgBox::ShowMessageText() {
 void frmMsgBox::cmdBrowse_Click() {
   std::vector<std::string> files{AsciiLowerCase(mFileName)};
   const bool chosen = modDialog::ChooseFiles({OwnerDesktop(), NativeHandle(), mKind, Language()}, false, files);
+  // A prompt that was closed meanwhile has nobody left to be told.
+  if (IsRetired()) return;
   mNewFileName = chosen ? files.front() : std::string();
   if (chosen) Unload();
 }

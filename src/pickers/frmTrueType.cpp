@@ -34,7 +34,7 @@ frmTrueType::frmTrueType(Desktop& desktop)
   picFont.LostFocus = [this] { picFont_LostFocus(); };
   picFont.KeyDown = [this](int keyCode) { picFont_KeyDown(keyCode); };
   picFont.MouseDown = [this](Point at) { picFont_MouseDown(at); };
-  picFont.DblClick = [this] { cmdOK_Click(); };
+  picFont.DblClick = [this] { PressOK(); };
   cboFont.Click = [this] { ShowFont(); };
 }
 

@@ -30,44 +30,62 @@ std::optional<std::array<double, 4>> EdgesOf(HostObject* object) {
   return edges;
 }
 
+/// Answers a request of a page. The form and its pages stay until that is done, whatever happens to the form while the
+/// other dialog is open.
+template <class... Arguments, class Work>
+void Answer(Event<Arguments...>& event, DialogForm& form, Work work) {
+  event = [&form, work](Arguments... arguments) {
+    const Form::Act act(form);
+    if (!form.IsRetired()) work(form, arguments...);
+  };
+}
+
 using DataDialog = bool (*)(Desktop&, HostObject*, bool&, ILanguage*);
 
-void Answer(Event<DataRequest&>& event, DialogForm& form, DataDialog show) {
-  event = [&form, show](DataRequest& request) {
-    show(form.OwnerDesktop(), request.Data, request.Changed, form.Language());
-  };
+void AnswerWith(DataDialog show, Event<DataRequest&>& event, DialogForm& form) {
+  Answer(event, form, [show](DialogForm& asked, DataRequest& request) {
+    show(asked.OwnerDesktop(), request.Data, request.Changed, asked.Language());
+  });
+}
+
+void AnswerClassify(DialogForm& form, ClassifyRequest& request) {
+  modMain::ShowClassifyDialog(form.OwnerDesktop(), {request.Data, request.Minimum, request.Maximum, request.Flags},
+                              request.Changed, form.Language());
+}
+
+void AnswerColors(DialogForm& form, ILanguage* language) {
+  modMain::ShowColorsDialog(form.OwnerDesktop(), language ? language : form.Language(), {&form, 0});
+}
+
+void AnswerCharacter(DialogForm& form, CharacterRequest& request) {
+  modMain::ShowCharacterDialog(form.OwnerDesktop(), request, form.Language(), {&form, 0});
+}
+
+void AnswerGeoreference(DialogForm& form, GeoreferenceRequest& request) {
+  // The routine returns true for a cancelled dialog as well, so the edges have to be compared.
+  const auto before = EdgesOf(request.Map);
+  modMain::ShowGeoreferenceDialog(form.OwnerDesktop(), request.Map, form.Language(), {&form, 0});
+  request.Changed = EdgesOf(request.Map) != before;
 }
 
 }  // namespace
 
 void AnswerDataRequests(PropertyPage& page, DialogForm& form) {
-  page.BrowseRequested = [&form](BrowseRequest& request) { AnswerBrowse(form, request); };
-  page.ClassifyRequested = [&form](ClassifyRequest& request) {
-    modMain::ShowClassifyDialog(form.OwnerDesktop(), {request.Data, request.Minimum, request.Maximum, request.Flags},
-                                request.Changed, form.Language());
-  };
-  Answer(page.OptionsRequested, form, modMain::ShowDataOptionsDialog);
-  Answer(page.ShadeRequested, form, modMain::ShowShadeDialog);
-  Answer(page.IsolineRequested, form, modMain::ShowIsolineDialog);
-  page.DataStyleRequested = [&form] { modMain::ShowDataStyleNotice(form.OwnerDesktop()); };
-  page.ColorsRequested = [&form](ILanguage* language) {
-    modMain::ShowColorsDialog(form.OwnerDesktop(), language ? language : form.Language(), {&form, 0});
-  };
+  Answer(page.BrowseRequested, form, AnswerBrowse);
+  Answer(page.ClassifyRequested, form, AnswerClassify);
+  AnswerWith(modMain::ShowDataOptionsDialog, page.OptionsRequested, form);
+  AnswerWith(modMain::ShowShadeDialog, page.ShadeRequested, form);
+  AnswerWith(modMain::ShowIsolineDialog, page.IsolineRequested, form);
+  Answer(page.DataStyleRequested, form, [](DialogForm& asked) { modMain::ShowDataStyleNotice(asked.OwnerDesktop()); });
+  Answer(page.ColorsRequested, form, AnswerColors);
 }
 
 void AnswerCharacterRequest(PropertyPage& page, DialogForm& form) {
-  page.CharacterRequested = [&form](CharacterRequest& request) {
-    modMain::ShowCharacterDialog(form.OwnerDesktop(), request, form.Language(), {&form, 0});
-  };
+  Answer(page.CharacterRequested, form, AnswerCharacter);
 }
 
 void AnswerGeoreferenceRequest(PropertyPage& page, DialogForm& form) {
-  page.GeoreferenceRequested = [&form](GeoreferenceRequest& request) {
-    // The routine returns true for a cancelled dialog as well, so the edges have to be compared.
-    const auto before = EdgesOf(request.Map);
-    modMain::ShowGeoreferenceDialog(form.OwnerDesktop(), request.Map, form.Language(), {&form, 0});
-    request.Changed = EdgesOf(request.Map) != before;
-  };
+  Answer(page.GeoreferenceRequested, form, AnswerGeoreference);
 }
 
 }  // namespace orx

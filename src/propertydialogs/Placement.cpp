@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "hostobjects/ErrorTrap.h"
 #include "numbers/Numbers.h"
 
 namespace orx {
@@ -18,14 +19,18 @@ const numbers::Separators kPlain{".", "", ""};
 
 std::optional<int> Placement::Read(const char* name) const {
   if (mKey.empty()) return std::nullopt;
-  const std::optional<std::string> text = mDesktop.Settings().Read({mKey, mSection, name});
+  std::optional<std::string> text;
+  ErrorTrap trap;
+  trap.Step([&] { text = mDesktop.Settings().Read({mKey, mSection, name}); });
   const std::optional<double> value = text ? numbers::ToDouble(*text, kPlain) : std::nullopt;
   if (!value || std::isnan(*value)) return std::nullopt;
   return static_cast<int>(std::lround(std::clamp(*value, -kFarthest, kFarthest)));
 }
 
 void Placement::Write(const char* name, int twips) const {
-  if (!mKey.empty()) mDesktop.Settings().Write({mKey, mSection, name}, std::to_string(twips));
+  if (mKey.empty()) return;
+  ErrorTrap trap;
+  trap.Step([&] { mDesktop.Settings().Write({mKey, mSection, name}, std::to_string(twips)); });
 }
 
 void Placement::Restore(Form& form) const {

@@ -8,7 +8,8 @@
 
 namespace orx {
 
-/// The section of the host's settings that holds the placement of one dialog. Without a key nothing is read or written.
+/// The section of the host's settings that holds the placement of one dialog. Without a key nothing is read or written,
+/// and a store that fails keeps no dialog from opening or closing: what it does not know is not known.
 class Placement {
  public:
   Placement(Desktop& desktop, std::string key, std::string section)
@@ -16,7 +17,7 @@ class Placement {
 
   /// Puts the form back where it was. What is not known of that is centred on the screen.
   void Restore(Form& form) const;
-  /// Stores where the form is. Throws what the store throws.
+  /// Stores where the form is.
   void Keep(const Form& form) const;
 
   /// A stored length in twips, clamped to what can be calculated with; none if nothing usable is stored.

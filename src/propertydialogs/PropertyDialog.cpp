@@ -27,7 +27,7 @@ PropertyDialog::PropertyDialog(Desktop& desktop, IPageFactory& factory, const Pr
       cmdCancel(*this, *this, ButtonDesign("&Cancel", design.Layout.CancelLeft, design.Layout.ButtonTop)),
       cmdApply(*this, "cmdApply", ButtonDesign("&Apply", design.Layout.ApplyLeft, design.Layout.ButtonTop)) {
   cmdHelp.Click = [this] { ShowHelp(); };
-  cmdApply.Click = [this] { cmdApply_Click(); };
+  cmdApply.Click = [this] { OneAtATime([this] { cmdApply_Click(); }); };
 }
 
 void PropertyDialog::Take(const PropertyTask& task, ErrorTrap& trap) {
@@ -65,9 +65,7 @@ void PropertyDialog::Fill() {
 }
 
 void PropertyDialog::Do(Act act) {
-  Pages().ForEach([&](PropertyPage& page) {
-    if (!IsRetired()) ButtonStep([&] { (page.*act)(); });
-  });
+  Pages().ForEach([&](PropertyPage& page) { ButtonStep([&] { (page.*act)(); }); });
 }
 
 void PropertyDialog::Tell(Notification notify) {
@@ -89,14 +87,22 @@ void PropertyDialog::Apply() {
 }
 
 void PropertyDialog::cmdApply_Click() {
-  WithHourglass([this] { Apply(); });
+  UnderHourglass([this] { Apply(); });
 }
 
 void PropertyDialog::Accept() {
-  WithHourglass([this] {
+  UnderHourglass([this] {
     Relay(&PropertyPage::SaveChanges, &IDialogCallBack::OKNotify);
     Close(Outcome::Confirmed);
   });
+}
+
+void PropertyDialog::UnderHourglass(const std::function<void()>& work) {
+  // Where no page could be made, the error comes before the hourglass.
+  Pages();
+  OwnerDesktop().Pointer(Pointer::Hourglass);
+  work();
+  OwnerDesktop().Pointer(Pointer::Default);
 }
 
 void PropertyDialog::Discard() {

@@ -2,6 +2,7 @@
 // the host's call-back and registry key, and everything that the service relies on.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -98,6 +99,8 @@ class PropertyDialog : public OkCancelForm {
   /// The two halves of that. Neither goes on once the form is retired.
   void Do(Act act);
   void Tell(Notification notify);
+  /// Shows the hourglass while `work` runs. Unlike WithHourglass, an error of a page or of the call-back leaves it.
+  void UnderHourglass(const std::function<void()>& work);
   /// Runs one step of these. An error ends the button's work, unless the dialog overrides this to go on with the next
   /// step.
   virtual void ButtonStep(const std::function<void()>& step) { step(); }

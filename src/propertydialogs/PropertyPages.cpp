@@ -16,9 +16,11 @@ const std::vector<PageDesign>& LayerPages() {
 }
 
 PropertyPages::PropertyPages(IPageFactory& factory, const std::vector<PageDesign>& designs, TabControl& tabs,
-                             DialogForm& form) {
+                             DialogForm& form)
+    : mForm(form) {
   const Size size = tabs.PageSize();
   for (const PageDesign& design : designs) {
+    if (form.IsRetired()) return;
     TabPage& tab = tabs.Page(static_cast<int>(mPages.size()));
     mPages.push_back({design.Kind, design.IsResult,
                       RequirePage(factory, design.Kind, {tab, design.Name, {0, 0, size.Width, size.Height}})});
@@ -51,7 +53,7 @@ void PropertyPages::RefreshContents() {
 bool PropertyPages::IsDirtyAmong(bool results) const {
   bool isDirty = false;
   for (const Hosted& hosted : mPages)
-    if (hosted.IsResult == results && hosted.Page->IsDirty()) isDirty = true;
+    if (hosted.IsResult == results && !mForm.IsRetired() && hosted.Page->IsDirty()) isDirty = true;
   return isDirty;
 }
 
@@ -65,7 +67,8 @@ bool PropertyPages::IsResultDirty() const {
 }
 
 void PropertyPages::Select(int tab) {
-  for (std::size_t i = 0; i < mPages.size(); ++i) mPages[i].Page->Selected(static_cast<int>(i) == tab);
+  int each = 0;
+  ForEach([&](PropertyPage& page) { page.Selected(each++ == tab); });
 }
 
 }  // namespace orx

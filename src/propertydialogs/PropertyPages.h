@@ -25,7 +25,7 @@ struct PageDesign {
 const std::vector<PageDesign>& LayerPages();
 
 /// Created when the dialog is loaded. Calls go to all pages in the order of their tabs; an error travels, and the
-/// pages after it are not called.
+/// pages after it are not called. Neither are those after one in which the form was retired.
 class PropertyPages {
  public:
   /// Makes the pages on the tabs; the form answers their requests and must outlive them. Throws what RequirePage
@@ -36,7 +36,8 @@ class PropertyPages {
   PropertyPage& Of(PageKind kind);
   template <class Action>
   void ForEach(Action&& action) {
-    for (const Hosted& hosted : mPages) action(*hosted.Page);
+    for (const Hosted& hosted : mPages)
+      if (!mForm.IsRetired()) action(*hosted.Page);
   }
 
   void Client(HostObject* value);
@@ -58,6 +59,7 @@ class PropertyPages {
 
   bool IsDirtyAmong(bool results) const;
 
+  DialogForm& mForm;
   std::vector<Hosted> mPages;
 };
 

@@ -56,7 +56,7 @@ void frmDataDialog::Form_Resize() {
   ErrorTrap trap;
   trap.Step([&] { CloseUpButtons(); });
   trap.Step([&] { LayOut(); });
-  if (!IsRetired()) trap.Step([&] { RefreshContents(); });
+  trap.Step([&] { RefreshContents(); });
 }
 
 void frmDataDialog::LayOut() {

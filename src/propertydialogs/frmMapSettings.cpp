@@ -6,6 +6,7 @@
 #include "dialogframe/FileChoice.h"
 #include "dialogframe/Help.h"
 #include "forms/BusyScope.h"
+#include "hostobjects/RunTimeError.h"
 #include "text/Trimmed.h"
 
 namespace orx {
@@ -30,23 +31,17 @@ bool Marks(const std::string& tag, const char* what) {
   return lower.find(what) != std::string::npos;
 }
 
+/// A layer of a map. Throws if it has gone.
+HostObject& LayerOf(IMap& map, std::int32_t index) {
+  if (HostObject* const layer = map.Layer(index)) return *layer;
+  throw RunTimeError(kErrorNotLoaded, "The map has no layer " + std::to_string(index) + ".");
+}
+
 /// The name of a layer, or a numbered one if it is blank.
 std::string NameOr(std::string name, const char* otherwise, std::int32_t number) {
   if (Trimmed(name, kSpaces).empty()) name = otherwise + std::to_string(number);
   return name;
 }
-
-/// Suspends redrawing while the list is being filled, and resumes it even if the host throws.
-class Filling {
- public:
-  explicit Filling(TreeList& list) : mList(list) { mList.Redraw(false); }
-  ~Filling() { mList.Redraw(true); }
-  Filling(const Filling&) = delete;
-  Filling& operator=(const Filling&) = delete;
-
- private:
-  TreeList& mList;
-};
 
 }  // namespace
 
@@ -72,7 +67,7 @@ frmMapSettings::frmMapSettings(Desktop& desktop, IPageFactory& pages)
   cmdDown.Click = [this] { MoveSelected(&IMap::MoveLayerDown, 1); };
   cmdRemove.Click = [this] { cmdRemove_Click(); };
   ssTab.Click = [this](int) {
-    if (HasPages()) Pages().Select(ssTab.Tab());
+    if (HasPages()) ButtonStep([this] { Pages().Select(ssTab.Tab()); });
   };
 }
 
@@ -81,14 +76,14 @@ void frmMapSettings::RegisterClient(HostObject* client, const std::string& regis
   if (IMap* const map = QueryKind<IMap>(client)) {
     Hold(client);
     mClient = client;
-    mMap = mCurrentMap = map;
+    mMap = map;
     // An empty map has no first layer to ask for.
     mCurrentObject = map->LayerCount() > 0 ? map->Layer(1) : nullptr;
   } else if (ILayers* const layers = QueryKind<ILayers>(client)) {
     Hold(client);
     mLayers = layers;
     mClient = mCurrentObject = client;
-    mMap = mCurrentMap = QueryKind<IMap>(layers->Map());
+    mMap = QueryKind<IMap>(layers->Map());
   } else {
     OwnerDesktop().ShowMessage(
         {"Object does not support IMap or ILayers interface!", "Register", MessageIcon::Critical});
@@ -109,9 +104,14 @@ void frmMapSettings::IsDirty(bool value) {
 void frmMapSettings::RefreshContents() {
   if (!mMap) return;
   Load();
-  if (!HasPages() || IsRetired()) return;
-  Pages().Client(mCurrentObject);
-  if (!IsRetired()) Pages().RefreshContents();
+  ShowObject(mCurrentObject);
+  if (HasPages()) Do(&PropertyPage::RefreshContents);
+}
+
+void frmMapSettings::ShowObject(HostObject* object) {
+  if (!HasPages()) return;
+  ButtonStep([&] { Hold(object); });
+  Pages().ForEach([&](PropertyPage& page) { ButtonStep([&] { page.Client(object); }); });
 }
 
 void frmMapSettings::Arrange() {
@@ -129,27 +129,46 @@ void frmMapSettings::Ready() {
 // The list.
 
 void frmMapSettings::FillList() {
-  const Filling filling(sftLayers);
+  // While the host is asked, the list stays as it is: the host may let the user act, who may have it filled himself.
+  const int filling = ++mFillings;
+  std::vector<TreeRow> rows;
+  ErrorTrap trap;
+  if (mLayers) rows.push_back({CollectionName(), 0, 0, kMapTag, true});
+  // What cannot be read ends the list.
+  if (mMap) trap.Step([&] { ReadLayers(rows); });
+  if (IsRetired() || filling != mFillings) return;
   const BusyScope selecting(mIsSelecting);
+  sftLayers.Redraw(false);
   sftLayers.Clear();
-  if (mLayers) {
-    const std::string name = mLayers->Name();
-    sftLayers.AddRow({Trimmed(name, kSpaces).empty() ? "Map" : name, 0, 0, kMapTag, true});
-  }
-  if (mMap && !IsRetired()) AddRows(*mMap, "Layer ", kLayerTag, mLayers ? 1 : 0);
+  for (const TreeRow& row : rows) sftLayers.AddRow(row);
+  sftLayers.Redraw(true);
 }
 
-void frmMapSettings::AddRows(IMap& map, const char* defaultName, const char* tag, int level) {
-  const std::int32_t count = map.LayerCount();
+std::string frmMapSettings::CollectionName() {
+  std::string name;
+  ErrorTrap trap;
+  trap.Step([&] { name = mLayers->Name(); });
+  return Trimmed(name, kSpaces).empty() ? "Map" : name;
+}
+
+void frmMapSettings::ReadLayers(std::vector<TreeRow>& rows) {
+  const int level = mLayers ? 1 : 0;
+  const std::int32_t count = mMap->LayerCount();
   for (std::int32_t i = 1; i <= count && !IsRetired(); ++i) {
-    sftLayers.AddRow({NameOr(map.LayerName(i), defaultName, i), level, i, tag});
-    if (&map == mMap && !IsRetired()) AddTiles(map.Layer(i), level + 1);
+    rows.push_back({NameOr(mMap->LayerName(i), "Layer ", i), level, i, kLayerTag});
+    // A layer that fails is listed without its tiles.
+    ErrorTrap trap;
+    if (!IsRetired()) trap.Step([&] { ReadTiles(mMap->Layer(i), level + 1, rows); });
   }
 }
 
-void frmMapSettings::AddTiles(HostObject* layer, int level) {
+void frmMapSettings::ReadTiles(HostObject* layer, int level, std::vector<TreeRow>& rows) {
   IMap* const tiles = QueryKind<IMap>(layer);
-  if (tiles && tiles->LayerCount() > 1) AddRows(*tiles, "Tile ", kTileTag, level);
+  const std::int32_t count = tiles ? tiles->LayerCount() : 0;
+  if (count <= 1) return;
+  // What is in a tile is not listed, so that a map may even contain itself.
+  for (std::int32_t i = 1; i <= count && !IsRetired(); ++i)
+    rows.push_back({NameOr(tiles->LayerName(i), "Tile ", i), level, i, kTileTag});
 }
 
 void frmMapSettings::sftLayers_Click() {
@@ -178,22 +197,18 @@ void frmMapSettings::SelectRow(int row) {
   ShowSelection(row);
   const int turn = ++mSelections;
   OwnerDesktop().ProcessPendingEvents();
-  // Whatever the user did in the meantime wins: another row may be selected, or the window closed.
-  if (!IsLoaded() || turn != mSelections) return;
-  mSelectedLayer = 0;
-  mCurrentMap = mMap;
-  mCurrentObject = nullptr;
-  try {
-    if (ShowSelection(row)) TakeObject();
-  } catch (...) {
-    // The pages must not keep an object that the map may have released.
-    ShowObject();
-    throw;
+  // Whatever the user does in the meantime wins: another row may be selected, or the window closed.
+  const auto isCurrent = [&] { return IsLoaded() && turn == mSelections; };
+  Selection selection;
+  if (isCurrent() && !TakeRow(row, selection) && isCurrent()) {
+    // The layer has gone, or cannot be had. The nearest one takes its place.
+    ButtonStep([this] { OwnerDesktop().Beep(); });
+    FillList();
+    if (isCurrent()) TakeRow(row, selection);
   }
-  ShowObject();
-}
-
-void frmMapSettings::ShowObject() {
+  if (!isCurrent()) return;
+  mCurrentObject = selection.Object;
+  mSelectedLayer = selection.Layer;
   EnableMoving();
   RefreshContents();
 }
@@ -207,20 +222,21 @@ int frmMapSettings::FoldedPosition() const {
   return (mLayers ? 1 : 0) + mSelectedLayer - 1;
 }
 
-void frmMapSettings::TakeObject() {
-  const TreeRow row = sftLayers.Row(mSelectedRow);
-  if (Marks(row.Tag, "tile")) {
-    HostObject* const layer = mMap->Layer(sftLayers.Row(sftLayers.ParentOf(mSelectedRow)).Data);
-    if (IMap* const tiles = QueryKind<IMap>(layer)) {
-      mCurrentMap = tiles;
-      mCurrentObject = tiles->Layer(row.Data);
-    }
-  } else if (Marks(row.Tag, "layer")) {
-    mCurrentObject = mMap->Layer(row.Data);
-    mSelectedLayer = row.Data;
-  } else {
-    mCurrentObject = mClient;
+bool frmMapSettings::TakeRow(int row, Selection& selection) {
+  ErrorTrap trap;
+  selection = {};
+  if (ShowSelection(row)) trap.Step([&] { selection = SelectionOf(mSelectedRow); });
+  return !trap.IsPending();
+}
+
+frmMapSettings::Selection frmMapSettings::SelectionOf(int row) {
+  const TreeRow chosen = sftLayers.Row(row);
+  if (Marks(chosen.Tag, "tile")) {
+    IMap* const tiles = QueryKind<IMap>(&LayerOf(*mMap, sftLayers.Row(sftLayers.ParentOf(row)).Data));
+    return {tiles ? &LayerOf(*tiles, chosen.Data) : nullptr, 0};
   }
+  if (Marks(chosen.Tag, "layer")) return {&LayerOf(*mMap, chosen.Data), chosen.Data};
+  return {mClient, 0};
 }
 
 void frmMapSettings::EnableMoving() {
@@ -234,39 +250,49 @@ void frmMapSettings::NameChanged(const std::string& name) {
 
 // The buttons beside the list. An error of the map counts as a refusal.
 
-void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
+bool frmMapSettings::Change(const std::function<bool()>& change) {
+  bool isDone = false;
   ErrorTrap trap;
-  if (!mCurrentMap || mSelectedLayer == 0) return;
-  const int position = FoldedPosition() + rows;
-  bool isMoved = false;
-  trap.Step([&] { isMoved = (mCurrentMap->*move)(mSelectedLayer); });
+  {
+    const BusyScope changing(mIsChanging);
+    trap.Step([&] { isDone = change(); });
+  }
+  mListChanged = mListChanged || isDone;
+  // A map that refuses may have lost the layer.
+  Selection selection;
+  if (!IsRetired() && (isDone || !TakeRow(mSelectedRow, selection))) FillList();
+  return isDone;
+}
+
+void frmMapSettings::MoveSelected(MoveLayer move, int rows) {
+  if (!MayChange()) return;
+  const int position = FoldedPosition();
+  const int filled = mFillings;
+  const bool isMoved = Change([&] { return (mMap->*move)(mSelectedLayer); });
   if (IsRetired()) return;
-  if (!isMoved) return trap.Step([&] { OwnerDesktop().Beep(); });
-  trap.Step([&] { FillList(); });
-  trap.Step([&] { SelectPosition(position); });
-  mListChanged = true;
+  if (!isMoved) ButtonStep([this] { OwnerDesktop().Beep(); });
+  if (mFillings != filled) SelectPosition(position + (isMoved ? rows : 0));
 }
 
 void frmMapSettings::cmdRemove_Click() {
-  ErrorTrap trap;
-  if (!mCurrentMap || mSelectedLayer == 0) return;
+  if (!MayChange()) return;
   int position = sftLayers.PositionOf(mSelectedRow);
-  bool isRemoved = false;
-  trap.Step([&] { isRemoved = mCurrentMap->RemoveLayer(mSelectedLayer); });
-  if (IsRetired()) return;
-  if (isRemoved) {
-    position = FoldedPosition();
-    // The layer may no longer exist.
-    mCurrentObject = nullptr;
-    if (HasPages()) trap.Step([&] { Pages().Client(nullptr); });
-    trap.Step([&] { FillList(); });
-    mListChanged = true;
-  }
-  trap.Step([&] { SelectPosition(position - 1); });
+  const int filled = mFillings;
+  Change([this] {
+    const bool isRemoved = mMap->RemoveLayer(mSelectedLayer);
+    if (isRemoved) {
+      // The layer may no longer exist.
+      mCurrentObject = nullptr;
+      ShowObject(nullptr);
+    }
+    return isRemoved;
+  });
+  if (mFillings != filled) position = FoldedPosition();
+  SelectPosition(position - 1);
 }
 
 void frmMapSettings::cmdAdd_Click() {
-  if (!mMap) return;
+  if (!mMap || mIsChanging) return;
   ErrorTrap trap;
   Desktop& desktop = OwnerDesktop();
   Enabled(false);
@@ -286,11 +312,13 @@ void frmMapSettings::cmdAdd_Click() {
 }
 
 void frmMapSettings::AddFile(const std::string& path) {
-  if (!mMap->AddLayer(path, {}) || IsRetired()) return;
-  ErrorTrap trap;
-  trap.Step([&] { FillList(); });
-  trap.Step([&] { RefreshContents(); });
+  {
+    const BusyScope changing(mIsChanging);
+    if (!mMap->AddLayer(path, {})) return;
+  }
   mListChanged = true;
+  FillList();
+  if (!IsRetired()) RefreshContents();
 }
 
 // The buttons along the bottom. Errors of the pages and the call-back are skipped.
@@ -310,7 +338,14 @@ void frmMapSettings::cmdApply_Click() {
   if (!CallBack()) return OwnerDesktop().Pointer(Pointer::Default);
   WithHourglass([this] {
     Tell(&IDialogCallBack::ApplyNotify);
-    ButtonStep([this] { IsDirty(false); });
+    if (!IsRetired()) ButtonStep([this] { IsDirty(false); });
+  });
+}
+
+void frmMapSettings::Accept() {
+  WithHourglass([this] {
+    Relay(&PropertyPage::SaveChanges, &IDialogCallBack::OKNotify);
+    Close(Outcome::Confirmed);
   });
 }
 

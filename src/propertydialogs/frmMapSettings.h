@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "dialogframe/Glyphs.h"
 #include "forms/TreeList.h"
@@ -49,7 +51,14 @@ class frmMapSettings final : public PropertyDialog {
   using MoveLayer = bool (IMap::*)(std::int32_t);
 
   static Design PictureDesign(const char* toolTip, int position);
+  /// The object of a row, and the position of a layer; 0 for all other rows.
+  struct Selection {
+    HostObject* Object = nullptr;
+    std::int32_t Layer = 0;
+  };
+
   void cmdApply_Click() override;
+  void Accept() override;
   void cmdCancel_Click() override;
   void Relay(Act act, Notification notify) override;
   void ButtonStep(const std::function<void()>& step) override;
@@ -62,19 +71,28 @@ class frmMapSettings final : public PropertyDialog {
   void NameChanged(const std::string& name);
 
   Placement Kept() const { return {OwnerDesktop(), RegistryKey(), "MapSettings"}; }
+  /// Fills the list with what can be read of the map.
   void FillList();
-  void AddRows(IMap& map, const char* defaultName, const char* tag, int level);
-  void AddTiles(HostObject* layer, int level);
+  std::string CollectionName();
+  void ReadLayers(std::vector<TreeRow>& rows);
+  void ReadTiles(HostObject* layer, int level, std::vector<TreeRow>& rows);
+  bool MayChange() const { return mMap && mSelectedLayer != 0 && !mIsChanging; }
+  /// Has the map move or remove the selected layer, and fills the list if that is done, or if the layer has gone.
+  bool Change(const std::function<bool()>& change);
   void AddFile(const std::string& path);
-  /// Selects a row and shows its object. A row outside the list stands for the nearest one.
+  /// Selects a row and shows its object. A row outside the list stands for the nearest one, and so does one whose layer
+  /// has gone.
   void SelectRow(int row);
   /// The same by the position among the visible rows.
   void SelectPosition(int position);
   /// The position of the selected layer while all rows are folded, as they are right after filling.
   int FoldedPosition() const;
   bool ShowSelection(int row);
-  void TakeObject();
-  void ShowObject();
+  /// Selects a row of the list alone and asks the map for what it stands for. Returns false if that has gone.
+  bool TakeRow(int row, Selection& selection);
+  Selection SelectionOf(int row);
+  /// Makes an object the client of all pages. A page that fails keeps the others from nothing.
+  void ShowObject(HostObject* object);
   /// Enables Up, Down and Remove, which work on layers only.
   void EnableMoving();
 
@@ -83,14 +101,17 @@ class frmMapSettings final : public PropertyDialog {
   ILayers* mLayers = nullptr;
   IMap* mMap = nullptr;
   HostObject* mCurrentObject = nullptr;
-  IMap* mCurrentMap = nullptr;
   std::int32_t mSelectedLayer = 0;
   int mSelectedRow = 0;
   /// Counts selections, to tell whether another one came in between.
   int mSelections = 0;
+  /// The same for fillings of the list.
+  int mFillings = 0;
   bool mListChanged = false;
   /// Set while the form itself moves the selection.
   bool mIsSelecting = false;
+  /// Set while the map is changed, during which it is asked for no other change.
+  bool mIsChanging = false;
 };
 
 }  // namespace orx

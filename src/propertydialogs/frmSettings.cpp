@@ -20,7 +20,7 @@ void frmSettings::Ready() {
 
 void frmSettings::Apply() {
   PageHostForm::Apply();
-  if (!IsRetired()) IsDirty(false);
+  IsDirty(false);
 }
 
 }  // namespace orx

@@ -2,6 +2,7 @@
 
 #include "dialogframe/FileChoice.h"
 #include "dialogframe/Help.h"
+#include "dialogframe/PointerScope.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
 #include "hostobjects/IMap.h"
@@ -18,121 +19,118 @@
 #include "text/Trimmed.h"
 
 namespace orx {
-namespace {
-
-/// Makes a dialog, or returns null if that fails.
-template <class Dialog>
-std::shared_ptr<PropertyDialog> Make(Desktop& desktop, IPageFactory& pages) {
-  std::shared_ptr<PropertyDialog> form;
-  ErrorTrap trap;
-  trap.Step([&] { form = std::make_shared<Dialog>(desktop, pages); });
-  return form;
-}
-
-}  // namespace
-
 struct CCommonMapDialogs::Request {
   HostObject* Client;
   /// The index of a legend, or the flags of the layer manager.
   std::int32_t Number;
-  const std::string& Caption;
+  std::string Caption;
   ShowMode Mode;
   OwnerWindow Owner;
 };
 
 void CCommonMapDialogs::Language(ILanguage* value) {
-  mLanguage = value;
-  if (IsActive(mLanguage)) modMain::HelpFile(mLanguage->TranslateText("_HelpFileMapDialogs"));
+  mKit.Language = value;
+  if (IsActive(value)) modMain::HelpFile(value->TranslateText("_HelpFileMapDialogs"));
 }
 
-std::int32_t CCommonMapDialogs::ShowPages(const std::shared_ptr<PropertyDialog>& form, const Request& request) {
-  if (!form) return 0;
-  // What the form holds stays until it is asked for its outcome, whatever the host does meanwhile, also to this object.
-  const Form::Act act(*form);
-  const PropertyTask task{request.Client, mRegistryKey, mCallBack, request.Number};
+template <class Dialog>
+std::int32_t CCommonMapDialogs::ShowPages(const Kit& kit, const Request& request) {
+  std::shared_ptr<PropertyDialog> form;
   ErrorTrap trap;
-  trap.Step([&] { form->Language(mLanguage); });
-  form->Take(task, trap);
-  trap.Step([&] { form->RefreshContents(); });
+  trap.Step([&] { form = std::make_shared<Dialog>(kit.Screen, kit.Pages); });
+  return form ? RunPages(kit, *form, request) : 0;
+}
+
+std::int32_t CCommonMapDialogs::RunPages(const Kit& kit, PropertyDialog& form, const Request& request) {
+  // What the form holds stays until it is asked for its outcome, whatever the host does meanwhile.
+  const Form::Act act(form);
+  ErrorTrap trap;
+  trap.Step([&] { form.Language(kit.Language); });
+  form.Take({request.Client, kit.RegistryKey, kit.CallBack, request.Number}, trap);
+  trap.Step([&] { form.RefreshContents(); });
   // Loading translates the designed caption, so it has to happen before the caption is replaced.
-  trap.Step([&] { form->Load(); });
-  if (!Trimmed(request.Caption, kSpaces).empty()) trap.Step([&] { form->Caption(request.Caption); });
-  if (request.Mode == ShowMode::Modeless) form->UnloadWhenHidden();
-  trap.Step([&] { form->Show(request.Mode, request.Owner); });
+  trap.Step([&] { form.Load(); });
+  if (!Trimmed(request.Caption, kSpaces).empty()) trap.Step([&] { form.Caption(request.Caption); });
+  if (request.Mode == ShowMode::Modeless) form.UnloadWhenHidden();
+  trap.Step([&] { form.Show(request.Mode, request.Owner); });
   std::int32_t result = 0;
   trap.Step([&] {
-    if (!form->Canceled() && form->IsDirty()) result = -1;
+    if (!form.Canceled() && form.IsDirty()) result = -1;
   });
-  if (request.Mode == ShowMode::Modal) trap.Step([&] { form->Unload(); });
+  if (request.Mode == ShowMode::Modal) trap.Step([&] { form.Unload(); });
   return result;
 }
 
 std::int32_t CCommonMapDialogs::Show(HostObject* mObj, std::int32_t mFlags, const std::string& mCaption,
                                      ShowMode mModal, OwnerWindow OwnerForm) {
+  const Kit kit = mKit;
   const Request request{mObj, mFlags, mCaption, mModal, OwnerForm};
   bool isMap = false;
   ErrorTrap trap;
   trap.Step([&] { isMap = QueryKind<IMap>(mObj) || QueryKind<ILayers>(mObj); });
-  return ShowPages(isMap ? Make<frmMapSettings>(mDesktop, mPages) : Make<frmSettings>(mDesktop, mPages), request);
+  return isMap ? ShowPages<frmMapSettings>(kit, request) : ShowPages<frmSettings>(kit, request);
 }
 
 std::int32_t CCommonMapDialogs::ShowDataProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                    OwnerWindow OwnerForm) {
-  return ShowPages(Make<frmDataDialog>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmDataDialog>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLegends(HostObject* mObj, std::int32_t Index, const std::string& mCaption,
                                             ShowMode mModal, OwnerWindow OwnerForm) {
-  return ShowPages(Make<frmLegend>(mDesktop, mPages), {mObj, Index, mCaption, mModal, OwnerForm});
+  return ShowPages<frmLegend>(Kit(mKit), {mObj, Index, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                OwnerWindow OwnerForm) {
-  return ShowPages(Make<frmProperties>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmProperties>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                            OwnerWindow OwnerForm) {
-  return ShowPages(Make<frmLabels>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmLabels>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                 OwnerWindow OwnerForm) {
-  return ShowPages(Make<frmCoordinates>(mDesktop, mPages), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmCoordinates>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue,
                                                  std::int32_t flags, bool& IsDirty, const std::string&, ShowMode,
                                                  OwnerWindow) {
+  const Kit kit = mKit;
   bool changed = false;
   ErrorTrap trap;
   trap.Step([&] {
     if (QueryKind<IData>(mObj))
-      changed = modMain::ShowClassifyDialog(mDesktop, {mObj, mMinValue, mMaxValue, flags}, IsDirty, mLanguage);
+      changed = modMain::ShowClassifyDialog(kit.Screen, {mObj, mMinValue, mMaxValue, flags}, IsDirty, kit.Language);
   });
   return changed ? -1 : 0;
 }
 
 std::int32_t CCommonMapDialogs::ShowDataOptions(HostObject* mObj, const std::string&, ShowMode, OwnerWindow) {
+  const Kit kit = mKit;
   bool changed = false;
   ErrorTrap trap;
   trap.Step([&] {
-    if (QueryKind<IData>(mObj)) modMain::ShowDataOptionsDialog(mDesktop, mObj, changed, mLanguage);
+    if (QueryKind<IData>(mObj)) modMain::ShowDataOptionsDialog(kit.Screen, mObj, changed, kit.Language);
   });
   return changed ? -1 : 0;
 }
 
 std::int32_t CCommonMapDialogs::ShowGeoReference(HostObject* mObj, CheckState, const std::string&, const std::string&,
                                                  OwnerWindow OwnerForm) {
+  const Kit kit = mKit;
   if (!QueryKind<IMap>(mObj)) return 0;
-  return modMain::ShowGeoreferenceDialog(mDesktop, mObj, mLanguage, OwnerForm) ? -1 : 0;
+  return modMain::ShowGeoreferenceDialog(kit.Screen, mObj, kit.Language, OwnerForm) ? -1 : 0;
 }
 
 std::int32_t CCommonMapDialogs::ShowCharacterSelection(std::string& mFontName, std::int32_t& mCharacter,
                                                        double& mRotation, bool& mChanged, const std::string&,
                                                        OwnerWindow OwnerForm) {
   CharacterRequest choice{mFontName, mCharacter, mRotation, mChanged};
-  const bool isDone = modMain::ShowCharacterDialog(mDesktop, choice, mLanguage, OwnerForm);
+  const bool isDone = modMain::ShowCharacterDialog(mKit.Screen, choice, mKit.Language, OwnerForm);
   mFontName = std::move(choice.FontName);
   mCharacter = choice.Character;
   mRotation = choice.Rotation;
@@ -145,10 +143,10 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
                                                   bool mAskConfirmation, const std::string& mConfirmationQuestion,
                                                   std::vector<std::int32_t>& mSelected) {
   // Errors reach the host, but the form is unloaded first.
-  const auto unload = [](frmListSelection* form) { form->Unload(); };
-  const auto form = std::make_shared<frmListSelection>(mDesktop);
+  const auto unload = [](frmListSelection* form) { form->UnloadQuietly(); };
+  const auto form = std::make_shared<frmListSelection>(mKit.Screen);
   const std::unique_ptr<frmListSelection, decltype(unload)> unloaded(form.get(), unload);
-  form->Language(mLanguage);
+  form->Language(mKit.Language);
   form->Init(mSelection, mMultiselect, mListIndex, mAskConfirmation, mConfirmationQuestion, mCaption);
   form->Show();
   bool isCanceled = false;
@@ -158,11 +156,11 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
 }
 
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
-  return modDialog::ChooseFiles({mDesktop, hWnd, modDialog::FileKind::Layers, mLanguage}, Multiselect, Files);
+  return modDialog::ChooseFiles({mKit.Screen, hWnd, modDialog::FileKind::Layers, mKit.Language}, Multiselect, Files);
 }
 
 bool CCommonMapDialogs::ShowAddData(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
-  return modDialog::ChooseFiles({mDesktop, hWnd, modDialog::FileKind::Data, mLanguage}, Multiselect, Files);
+  return modDialog::ChooseFiles({mKit.Screen, hWnd, modDialog::FileKind::Data, mKit.Language}, Multiselect, Files);
 }
 
 struct CCommonMapDialogs::MissingFile {
@@ -172,29 +170,29 @@ struct CCommonMapDialogs::MissingFile {
   const std::string& FileName;
 };
 
-bool CCommonMapDialogs::AskForFile(const MissingFile& missing, std::string& newFileName, bool& cancelAll) {
-  const Pointer before = mDesktop.Pointer();
-  mDesktop.Pointer(Pointer::Default);
-  const auto form = std::make_shared<frmMsgBox>(mDesktop);
-  form->Language(mLanguage);
+bool CCommonMapDialogs::AskForFile(const Kit& kit, const MissingFile& missing, std::string& newFileName,
+                                   bool& cancelAll) {
+  const PointerScope pointer(kit.Screen, Pointer::Default, kit.Screen.Pointer());
+  const auto form = std::make_shared<frmMsgBox>(kit.Screen);
+  form->Language(kit.Language);
   form->Kind(missing.Kind);
   form->Message(missing.Prefix + missing.FileName + "\r\nDo you want to specify a new file?\r\n");
   form->Caption(missing.Caption);
   form->FileName(missing.FileName);
-  mDesktop.Beep();
+  kit.Screen.Beep();
   form->Show();
   cancelAll = form->CancelAll();
   newFileName = form->NewFileName();
-  mDesktop.Pointer(before);
   return false;
 }
 
 bool CCommonMapDialogs::ShowFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll) {
-  return AskForFile({"File not found: ", "Open layer", modDialog::FileKind::Layers, FileName}, NewFileName, CancelAll);
+  return AskForFile(Kit(mKit), {"File not found: ", "Open layer", modDialog::FileKind::Layers, FileName}, NewFileName,
+                    CancelAll);
 }
 
 bool CCommonMapDialogs::ShowDataFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll) {
-  return AskForFile({"Data file not found: ", "Open Data", modDialog::FileKind::Data, FileName}, NewFileName,
+  return AskForFile(Kit(mKit), {"Data file not found: ", "Open Data", modDialog::FileKind::Data, FileName}, NewFileName,
                     CancelAll);
 }
 

@@ -31,25 +31,28 @@ class PropertyDialog;
 /// - `OwnerForm`: the window that the dialog belongs to; none by default.
 /// - result: -1 if the object was changed; 0 if it was not, or if the user cancelled or closed the window.
 /// They never throw: failing steps are skipped, and a result is always returned.
+///
+/// In any call that reaches it the host may throw, close the dialog, open another one, or destroy this object; the call
+/// that shows the dialog returns all the same.
 class CCommonMapDialogs {
  public:
   /// Shows dialogs on `desktop` with pages made by `pages`. There is no language and no call-back at first.
-  CCommonMapDialogs(Desktop& desktop, IPageFactory& pages) : mDesktop(desktop), mPages(pages) {}
+  CCommonMapDialogs(Desktop& desktop, IPageFactory& pages) : mKit{.Screen = desktop, .Pages = pages} {}
   CCommonMapDialogs(const CCommonMapDialogs&) = delete;
   CCommonMapDialogs& operator=(const CCommonMapDialogs&) = delete;
 
   /// The key under which dialogs keep their placement in the host's settings. While empty, as it is at first, nothing
   /// is kept.
-  const std::string& RegistryKey() const { return mRegistryKey; }
-  void RegistryKey(const std::string& value) { mRegistryKey = value; }
+  const std::string& RegistryKey() const { return mKit.RegistryKey; }
+  void RegistryKey(const std::string& value) { mKit.RegistryKey = value; }
 
   /// The object that is notified of Apply, Cancel and OK; null for none.
-  IDialogCallBack* CallBack() const { return mCallBack; }
-  void CallBack(IDialogCallBack* value) { mCallBack = value; }
+  IDialogCallBack* CallBack() const { return mKit.CallBack; }
+  void CallBack(IDialogCallBack* value) { mKit.CallBack = value; }
 
   /// The language of the dialogs; null for none. A language with entries also provides the library's help file, under
   /// the key "_HelpFileMapDialogs". Throws what the language throws.
-  ILanguage* Language() const { return mLanguage; }
+  ILanguage* Language() const { return mKit.Language; }
   void Language(ILanguage* value);
 
   /// All settings of a layer on four pages or, for a map (IMap) or a layer collection (ILayers), the layer manager,
@@ -126,17 +129,25 @@ class CCommonMapDialogs {
   bool ShowDataFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll);
 
  private:
+  /// All that this object knows. A call works with a copy from the time on when host code can run, since the host may
+  /// destroy the object in the middle of it.
+  struct Kit {
+    Desktop& Screen;
+    IPageFactory& Pages;
+    std::string RegistryKey = {};
+    ILanguage* Language = nullptr;
+    IDialogCallBack* CallBack = nullptr;
+  };
+
   struct MissingFile;
-  bool AskForFile(const MissingFile& missing, std::string& newFileName, bool& cancelAll);
+  static bool AskForFile(const Kit& kit, const MissingFile& missing, std::string& newFileName, bool& cancelAll);
 
   struct Request;
-  std::int32_t ShowPages(const std::shared_ptr<PropertyDialog>& form, const Request& request);
+  template <class Dialog>
+  static std::int32_t ShowPages(const Kit& kit, const Request& request);
+  static std::int32_t RunPages(const Kit& kit, PropertyDialog& form, const Request& request);
 
-  Desktop& mDesktop;
-  IPageFactory& mPages;
-  std::string mRegistryKey;
-  ILanguage* mLanguage = nullptr;
-  IDialogCallBack* mCallBack = nullptr;
+  Kit mKit;
 };
 
 }  // namespace orx

@@ -29,12 +29,12 @@ CCommonProgressDialog::CCommonProgressDialog(Desktop& desktop)
 }
 
 CCommonProgressDialog::~CCommonProgressDialog() {
-  mForm->Unload();
+  mForm->UnloadQuietly();
 }
 
 void CCommonProgressDialog::Init(std::int32_t Min, std::int32_t Max, std::int32_t Value) {
-  Numbered([&] {
-    ProgressBar& bar = mForm->prgBar;
+  const Form::Act act(*mForm);
+  Numbered([&bar = mForm->prgBar, Min, Max, Value] {
     bar.Min(static_cast<float>(Min));
     bar.Max(static_cast<float>(Max));
     bar.Value(static_cast<float>(Value));
@@ -50,7 +50,8 @@ std::int32_t CCommonProgressDialog::Value() const {
 }
 
 void CCommonProgressDialog::Value(std::int32_t value) {
-  Numbered([&] { mForm->prgBar.Value(static_cast<float>(value)); });
+  const Form::Act act(*mForm);
+  Numbered([&bar = mForm->prgBar, value] { bar.Value(static_cast<float>(value)); });
 }
 
 std::string CCommonProgressDialog::Caption() const {
@@ -58,6 +59,7 @@ std::string CCommonProgressDialog::Caption() const {
 }
 
 void CCommonProgressDialog::Caption(const std::string& value) {
+  const Form::Act act(*mForm);
   mForm->Caption(value);
 }
 
@@ -66,25 +68,29 @@ std::string CCommonProgressDialog::Message() const {
 }
 
 void CCommonProgressDialog::Message(const std::string& value) {
+  const Form::Act act(*mForm);
   mForm->Message(value);
 }
 
 void CCommonProgressDialog::Show(OwnerWindow OwnerForm) {
-  // The host may release this object while events are handled.
-  const std::shared_ptr<frmProgress> form = mForm;
+  frmProgress& form = *mForm;
+  const Form::Act act(form);
   Desktop& desktop = mDesktop;
   ErrorTrap trap;
-  trap.Step([&] { form->Show(ShowMode::Modeless, OwnerForm); });
-  if (trap.IsPending()) trap.Step([&] { form->Show(ShowMode::Modal, OwnerForm); });
+  trap.Step([&] { form.Show(ShowMode::Modeless, OwnerForm); });
+  if (trap.IsPending()) trap.Step([&] { form.Show(ShowMode::Modal, OwnerForm); });
   desktop.ProcessPendingEvents();
 }
 
 void CCommonProgressDialog::Hide() {
+  const Form::Act act(*mForm);
+  Desktop& desktop = mDesktop;
   mForm->Hide();
-  mDesktop.ProcessPendingEvents();
+  desktop.ProcessPendingEvents();
 }
 
 void CCommonProgressDialog::Refresh() {
+  const Form::Act act(*mForm);
   mForm->Refresh();
 }
 

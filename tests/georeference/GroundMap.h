@@ -23,7 +23,8 @@ class GroundMap final : public HostObject, public IMap {
   bool MoveLayerDown(std::int32_t) override { return false; }
   IExtent* Extent() override {
     Log.Call("Extent");
-    return HasExtent ? &mGround : nullptr;
+    const bool answers = !Log.Faults || Log.Faults->Answers("Extent");
+    return HasExtent && answers ? &mGround : nullptr;
   }
 
   /// The setters that were called since the edges were given.

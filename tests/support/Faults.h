@@ -22,12 +22,16 @@ class FaultPlan {
   /// Nothing fails.
   FaultPlan() = default;
   FaultPlan(int at, Failure failure, bool lasts) : mAt(at), mFailure(failure), mLasts(lasts) {}
+  /// Something happens in the next call of that name, which does not fail.
+  FaultPlan(std::string name, std::function<void()> happens)
+      : WhenReached(std::move(happens)), mName(std::move(name)) {}
 
   /// A call that gives or takes a value.
   void Call(const std::string& name) { Answers(name); }
   /// A call that gives an object: false when it is to give none.
   bool Answers(const std::string& name) {
     const int call = mCount++;
+    if (mFailed.empty() && !mName.empty() && name == mName) mAt = call;
     if (mAt < 0 || call < mAt || (call > mAt && !mLasts)) return true;
     if (call == mAt) {
       mFailed = name;
@@ -52,6 +56,7 @@ class FaultPlan {
   }
 
  private:
+  std::string mName;
   int mAt = -1;
   Failure mFailure = Failure::Error;
   bool mLasts = false;

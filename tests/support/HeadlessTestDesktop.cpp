@@ -162,6 +162,7 @@ class HeadlessTestDesktop final : public TestDesktop {
  public:
   Desktop& Get() override { return mDesktop; }
   User& Person() override { return mUser; }
+  bool IsQuick() const override { return true; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
 
  private:

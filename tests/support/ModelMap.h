@@ -10,6 +10,7 @@
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IMap.h"
 #include "hostobjects/RunTimeError.h"
+#include "tests/support/Faults.h"
 
 namespace orx::test {
 
@@ -19,7 +20,10 @@ class ModelMap final : public HostObject, private IMap {
  public:
   explicit ModelMap(std::string name = {}) : Name(std::move(name)) {}
 
-  HostInterface* ViewFor(const std::type_info&) override { return IsMap ? static_cast<IMap*>(this) : nullptr; }
+  HostInterface* ViewFor(const std::type_info&) override {
+    const bool answers = Gives("ViewFor");
+    return IsMap && answers ? static_cast<IMap*>(this) : nullptr;
+  }
 
   std::int32_t LayerCount() override {
     Ask("LayerCount");
@@ -31,11 +35,11 @@ class ModelMap final : public HostObject, private IMap {
   }
   HostObject* Layer(std::int32_t index) override {
     Ask("Layer");
-    return At(index).get();
+    return Gives("Layer") ? At(index).get() : nullptr;
   }
   HostObject* AddLayer(const std::string& path, const std::string& options) override {
     Paths.push_back(path + "|" + options);
-    if (!MayDo("AddLayer")) return nullptr;
+    if (!MayDo("AddLayer") || !Gives("AddLayer")) return nullptr;
     return &Add(path.substr(path.find_last_of("/\\") + 1));
   }
   bool RemoveLayer(std::int32_t index) override {
@@ -59,6 +63,7 @@ class ModelMap final : public HostObject, private IMap {
 
   ModelMap& Add(const std::string& name) {
     Layers.push_back(std::make_unique<ModelMap>(name));
+    Layers.back()->Faults = Faults;
     return *Layers.back();
   }
   /// Adds a layer with that many tiles, named after it.
@@ -83,13 +88,21 @@ class ModelMap final : public HostObject, private IMap {
   int Questions = 0;
   /// What a member is to do: true, or false to refuse; what it throws is thrown. Empty: everything is done.
   std::function<bool(const std::string& member)> Answers;
+  /// Of the layers that are added from now on, too.
+  FaultPlan* Faults = nullptr;
 
  private:
   void Ask(const char* member) {
     ++Questions;
+    Gives(member);
     if (Answers) Answers(member);
   }
-  bool MayDo(const char* member) const { return !Answers || Answers(member); }
+  bool MayDo(const char* member) const {
+    Gives(member);
+    return !Answers || Answers(member);
+  }
+  /// False when the call is to give nothing.
+  bool Gives(const char* member) const { return !Faults || Faults->Answers(member); }
   std::unique_ptr<ModelMap>& At(std::int32_t index) {
     if (index < 1 || index > static_cast<std::int32_t>(Layers.size()))
       throw RunTimeError(9, "There is no layer " + std::to_string(index));
@@ -102,8 +115,11 @@ class ModelLayers final : public HostObject, public ILayers {
  public:
   explicit ModelLayers(ModelMap& map, std::string name = {}) : Title(std::move(name)), mMap(map) {}
 
-  std::string Name() override { return Title; }
-  HostObject* Map() override { return &mMap; }
+  std::string Name() override {
+    if (mMap.Faults) mMap.Faults->Call("Name");
+    return Title;
+  }
+  HostObject* Map() override { return !mMap.Faults || mMap.Faults->Answers("Map") ? &mMap : nullptr; }
 
   std::string Title;
 

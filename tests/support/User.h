@@ -110,6 +110,8 @@ class TestDesktop {
   virtual User& Person() = 0;
   /// How many acts in a row a test may ask of this user, depending on its speed.
   virtual int Patience() const { return 10000; }
+  /// True when dialogs cost next to nothing, so that a test may open thousands of them.
+  virtual bool IsQuick() const { return false; }
   /// Gives the number separators of the user's locale for this test.
   virtual void Separators(const numbers::Separators& value) = 0;
 };

@@ -1,0 +1,98 @@
+#include "hostobjects/ErrorTrap.h"
+#include "propertydialogs/frmMapSettings.h"
+#include "tests/faults/FaultHost.h"
+
+namespace orx::test {
+namespace {
+
+/// The layer manager without the service, so that an error that ends its loop comes out.
+std::int32_t ShowManager(FaultHost& host) {
+  const auto form = std::make_shared<frmMapSettings>(host.Screen, host.Pages);
+  const Form::Act act(*form);
+  ErrorTrap trap;
+  trap.Step([&] { form->Language(&host.Language); });
+  form->Take({&host.Layers, {}, &host.CallBack, 0}, trap);
+  trap.Step([&] { form->Load(); });
+  form->Show();
+  std::int32_t result = 0;
+  trap.Step([&] { result = form->IsDirty() ? -1 : 0; });
+  form->UnloadQuietly();
+  return result;
+}
+
+std::int32_t ShowList(FaultHost& host) {
+  std::vector<std::int32_t> selected;
+  return host.Service->ShowListSelection({{"one", "two"}, 0}, false, 1, "List", false, {}, selected) > 0 ? -1 : 0;
+}
+
+std::int32_t ShowCharacter(FaultHost& host) {
+  std::string font = "Arial";
+  std::int32_t character = 65;
+  double rotation = 0;
+  bool changed = false;
+  return host.Service->ShowCharacterSelection(font, character, rotation, changed);
+}
+
+std::int32_t ShowClassify(FaultHost& host) {
+  bool isDirty = false;
+  return host.Service->ShowDataClassify(&host.Data, 0, 100, kMayChangeClassCount, isDirty);
+}
+
+template <bool (CCommonMapDialogs::*Member)(std::uintptr_t, bool, std::vector<std::string>&)>
+std::int32_t ShowAdd(FaultHost& host) {
+  std::vector<std::string> files;
+  return ((*host.Service).*Member)(0, true, files) ? -1 : 0;
+}
+
+template <bool (CCommonMapDialogs::*Member)(const std::string&, std::string&, bool&)>
+std::int32_t ShowMissing(FaultHost& host) {
+  std::string found;
+  bool cancelAll = false;
+  return ((*host.Service).*Member)("/gone/a.shp", found, cancelAll) ? -1 : 0;
+}
+
+std::int32_t SetLanguage(FaultHost& host) {
+  host.Service->Language(&host.Language);
+  return 0;
+}
+
+}  // namespace
+
+const std::vector<FaultCase>& FaultCases() {
+  constexpr FaultRules kOwnPages{.MayLeaveHourglass = true};
+  constexpr FaultRules kEmbeddedPages{.HasEmbeddedPages = true, .MayLeaveHourglass = true};
+  constexpr FaultRules kThrows{.MayThrow = true};
+  static const std::vector<FaultCase> kCases{
+      {"Language", SetLanguage, kThrows},
+      {"Show(map)", [](FaultHost& host) { return host.Service->Show(&host.Map, 0); }},
+      {"layer manager", ShowManager},
+      {"Show(layer)", [](FaultHost& host) { return host.Service->Show(&host.Layer, 0); }, kOwnPages},
+      {"Show(layer), embedded pages", [](FaultHost& host) { return host.Service->Show(&host.Layer, 0); },
+       kEmbeddedPages},
+      {"ShowDataProperties", [](FaultHost& host) { return host.Service->ShowDataProperties(&host.Layer); }, kOwnPages},
+      {"ShowDataProperties, embedded page",
+       [](FaultHost& host) { return host.Service->ShowDataProperties(&host.Layer); }, kEmbeddedPages},
+      {"ShowLegends", [](FaultHost& host) { return host.Service->ShowLegends(&host.Legends); }, kOwnPages},
+      {"ShowLegends, embedded page", [](FaultHost& host) { return host.Service->ShowLegends(&host.Legends); },
+       kEmbeddedPages},
+      {"ShowProperties", [](FaultHost& host) { return host.Service->ShowProperties(&host.Layer); }, kOwnPages},
+      {"ShowProperties, embedded page", [](FaultHost& host) { return host.Service->ShowProperties(&host.Layer); },
+       kEmbeddedPages},
+      {"ShowLabels, embedded page", [](FaultHost& host) { return host.Service->ShowLabels(&host.Layer); },
+       kEmbeddedPages},
+      {"ShowCoordinates, embedded page", [](FaultHost& host) { return host.Service->ShowCoordinates(&host.Ground); },
+       kEmbeddedPages},
+      {"ShowDataClassify", ShowClassify},
+      {"ShowDataOptions", [](FaultHost& host) { return host.Service->ShowDataOptions(&host.Data); }},
+      {"ShowGeoReference", [](FaultHost& host) { return host.Service->ShowGeoReference(&host.Ground); }, kThrows},
+      {"ShowCharacterSelection", ShowCharacter},
+      {"ShowListSelection", ShowList, kThrows},
+      {"ShowAddLayer", ShowAdd<&CCommonMapDialogs::ShowAddLayer>},
+      {"ShowAddData", ShowAdd<&CCommonMapDialogs::ShowAddData>},
+      {"ShowFileNotFound", ShowMissing<&CCommonMapDialogs::ShowFileNotFound>, kThrows},
+      {"ShowDataFileNotFound", ShowMissing<&CCommonMapDialogs::ShowDataFileNotFound>, kThrows},
+  };
+  return kCases;
+}
+
+}  // namespace orx::test

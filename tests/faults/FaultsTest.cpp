@@ -1,0 +1,168 @@
+// A host that does anything in any call: each dialog is opened once for every call that reaches the host, and in that
+// call a fault happens. Whatever it is, the dialog ends by its rules, and desktop and host are as before.
+#include <iostream>
+
+#include "tests/faults/FaultHost.h"
+#include "tests/faults/FaultScript.h"
+#include "tests/files/FilesTest.h"
+
+namespace orx::test {
+namespace {
+
+enum class Fault { Throws, ThrowsAnInt, Closes, LosesItsOwner, Nests, Removes, AnswersNull, ActsAtRandom, Destroys };
+
+const char* NameOf(Fault fault) {
+  constexpr const char* kNames[] = {"throws",          "throws an int",  "closes",
+                                    "loses its owner", "opens the same", "removes",
+                                    "answers null",    "acts at random", "destroys the service"};
+  return kNames[static_cast<int>(fault)];
+}
+
+class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
+ protected:
+  Faults() {
+    folder.Add("a.shp");
+    desktop().Hook(&acts);
+  }
+
+  struct Outcome {
+    std::int32_t Result = 0;
+    bool HasThrown = false;
+    int Calls = 0;
+    std::string Struck;
+    std::vector<std::string> Writes;
+  };
+
+  /// What the host does in the call. Nothing for faults of the call itself.
+  std::function<void()> HappeningOf(Fault fault, const FaultCase& dialog, FaultHost& host, int at) {
+    switch (fault) {
+      case Fault::Closes:
+        return [this] {
+          if (Form* const top = acts.Top()) user.CloseBox(*top);
+        };
+      case Fault::LosesItsOwner:
+        return [this, &host] {
+          const std::shared_ptr<Form> loading = host.Pages.Loading.lock();
+          if (Form* const top = acts.Top() ? acts.Top() : loading.get()) top->WindowLost();
+        };
+      case Fault::Nests:
+        return [&] { dialog.Show(host); };
+      case Fault::Removes:
+        return [&host] { host.Remove(); };
+      case Fault::ActsAtRandom:
+        return [this, at] {
+          std::mt19937 random(static_cast<unsigned>(at));
+          acts.ActAtRandom(random);
+        };
+      case Fault::Destroys:
+        return [&host] { host.Service.reset(); };
+      default:
+        return nullptr;
+    }
+  }
+
+  /// Opens the dialog with the fault in call number `at`, from 0; none for -1.
+  Outcome Run(const FaultCase& dialog, Fault fault, int at) {
+    const bool isNull = fault == Fault::AnswersNull;
+    const Failure failure = isNull ? Failure::Null : fault == Fault::ThrowsAnInt ? Failure::Number : Failure::Error;
+    FaultPlan plan(at, failure, isNull);
+    FaultHost host(desktop(), dialog.Rules.HasEmbeddedPages, plan);
+    plan.WhenReached = HappeningOf(fault, dialog, host, at);
+    Outcome outcome;
+    try {
+      outcome.Result = dialog.Show(host);
+    } catch (...) {
+      outcome.HasThrown = true;
+    }
+    outcome.Calls = plan.Count();
+    outcome.Struck = plan.Failed();
+    outcome.Writes = host.Writes();
+    return outcome;
+  }
+
+  /// What holds after every call, whatever has happened in it.
+  void Check(const FaultCase& dialog, Fault fault, const Outcome& outcome) {
+    const bool isError = fault == Fault::Throws || fault == Fault::ThrowsAnInt || fault == Fault::AnswersNull ||
+                         fault == Fault::Removes;
+    EXPECT_TRUE(outcome.Result == 0 || outcome.Result == -1) << outcome.Result;
+    EXPECT_TRUE(!outcome.HasThrown || (dialog.Rules.MayThrow && isError));
+    EXPECT_FALSE(desktop().HasModalForm());
+    EXPECT_TRUE(desktop().OpenForms().empty());
+    const bool mayLeaveHourglass = isError && dialog.Rules.MayLeaveHourglass;
+    EXPECT_TRUE(mayLeaveHourglass || desktop().Pointer() == Pointer::Default);
+    desktop().Pointer(Pointer::Default);
+  }
+
+  /// Where acts take their time, every n-th call only.
+  int Stride() { return testDesktop().IsQuick() ? 1 : 7; }
+
+  TestFolder folder;
+  FaultScript acts{user, {folder.Path(), {"a.shp"}}};
+};
+
+TEST_P(Faults, InAnyCallLeaveDesktopAndHostInOrder) {
+  int runs = 0;
+  for (const FaultCase& dialog : FaultCases()) {
+    const int calls = Run(dialog, GetParam(), -1).Calls;
+    ASSERT_GT(calls, 0) << dialog.Name;
+    for (int at = 0; at < calls; at += Stride()) {
+      const Outcome outcome = Run(dialog, GetParam(), at);
+      SCOPED_TRACE(std::string(dialog.Name) + " " + NameOf(GetParam()) + " in call " + std::to_string(at) + " of " +
+                   std::to_string(calls) + ", " + outcome.Struck);
+      Check(dialog, GetParam(), outcome);
+      ++runs;
+      if (HasFailure()) return;
+    }
+  }
+  RecordProperty("runs", runs);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, Faults,
+                         testing::Values(Fault::Throws, Fault::ThrowsAnInt, Fault::Closes, Fault::LosesItsOwner,
+                                         Fault::Nests, Fault::Removes, Fault::AnswersNull, Fault::ActsAtRandom,
+                                         Fault::Destroys),
+                         [](const testing::TestParamInfo<Fault>& each) {
+                           std::string name = NameOf(each.param);
+                           std::erase(name, ' ');
+                           return name;
+                         });
+
+class FaultsWithCancel : public Faults {};
+
+TEST_P(FaultsWithCancel, WriteNothing) {
+  acts.End = FaultScript::Ending::Cancel;
+  for (const FaultCase& dialog : FaultCases()) {
+    const int calls = Run(dialog, GetParam(), -1).Calls;
+    for (int at = 0; at < calls; at += Stride()) {
+      const Outcome outcome = Run(dialog, GetParam(), at);
+      SCOPED_TRACE(std::string(dialog.Name) + " " + NameOf(GetParam()) + " in call " + std::to_string(at) + " of " +
+                   std::to_string(calls) + ", " + outcome.Struck);
+      EXPECT_EQ(std::vector<std::string>{}, outcome.Writes);
+      Check(dialog, GetParam(), outcome);
+      if (HasFailure()) return;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, FaultsWithCancel, testing::Values(Fault::Throws, Fault::Closes, Fault::AnswersNull),
+                         [](const testing::TestParamInfo<Fault>& each) {
+                           std::string name = NameOf(each.param);
+                           std::erase(name, ' ');
+                           return name;
+                         });
+
+/// The figures of docs/quality.md.
+class FaultFigures : public Faults {};
+
+TEST_P(FaultFigures, AreTheCallsOfEachDialog) {
+  for (const FaultCase& dialog : FaultCases()) {
+    const Outcome outcome = Run(dialog, GetParam(), -1);
+    EXPECT_GT(outcome.Calls, 0);
+    std::cout << outcome.Calls << " calls: " << dialog.Name << '\n';
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(None, FaultFigures, testing::Values(Fault::Throws));
+
+}  // namespace
+}  // namespace orx::test
