@@ -131,7 +131,7 @@ void Desktop::RunModal(Form& form) {
   try {
     form.UserAct([&] { form.FocusFirst(); });
     // The handlers may have closed it, or failed.
-    if (form.Visible()) {
+    if (form.Visible() && !session.Error) {
       isOpen = true;
       if (mHook) mHook->ModalOpening(modal);
       form.Window()->RunModal();
@@ -189,7 +189,7 @@ void Desktop::HandlerFailed(const Form& form, std::exception_ptr error) {
   }
   Session& session = *mSessions.back();
   if (!session.Error) session.Error = std::move(error);
-  session.Shown->Hide();
+  EndModal(*session.Shown);
 }
 
 }  // namespace orx

@@ -111,9 +111,18 @@ TEST_F(FormsLife, AnErrorInAHandlerReachesTheCallerOfShow) {
   form->cmdOK.Click = [] { throw std::runtime_error("handler"); };
   script.ExpectForm("frmSample", [this](Form& shown) {
     user.Click(form->cmdOK);
-    EXPECT_FALSE(shown.Visible()) << "It would keep the user from the windows behind it.";
+    EXPECT_TRUE(shown.Visible());
+    shown.Hide();
   });
   EXPECT_THROW(form->Show(), std::runtime_error);
+}
+
+TEST_F(FormsLife, AFormWhoseHandlerHasFailedIsGoneWhenShowReturns) {
+  form->cmdOK.Click = [] { throw std::runtime_error("handler"); };
+  script.LoopEndsByError = true;
+  script.ExpectForm("frmSample", [this](Form&) { user.Click(form->cmdOK); });
+  EXPECT_THROW(form->Show(), std::runtime_error);
+  EXPECT_FALSE(form->Visible()) << "It would keep the user from the windows behind it.";
 }
 
 TEST_F(FormsLife, AnErrorAsAFormTakesTheFocusReachesTheCallerOfItsOwnShow) {

@@ -109,7 +109,7 @@ void DialogScript::ModalRunning(const Modal& modal) {
   const std::weak_ptr<Form> form = modal.ShownForm->weak_from_this();
   next.Action(*modal.ShownForm);
   const std::shared_ptr<Form> left = form.lock();
-  if (left && left->Visible()) {
+  if (left && left->Visible() && !std::exchange(LoopEndsByError, false)) {
     Fail(modal, "Left open");
     CloseAnyway(modal);
   }

@@ -41,6 +41,8 @@ class DialogScript final : public DesktopHook {
   /// While it is set, message boxes are not listed: they are answered harmlessly and noted here.
   std::vector<Message>* Noted = nullptr;
 
+  /// The next form need not be closed: an error of its handler ends its loop.
+  bool LoopEndsByError = false;
   /// What happens while the next message box is up, before the user answers it.
   std::function<void()> WhenMessageIsUp;
 

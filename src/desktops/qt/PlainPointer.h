@@ -1,6 +1,7 @@
 // The mouse pointer over what waits for the user.
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace orx::qt {
