@@ -18,6 +18,9 @@ const char* NameOf(Fault fault) {
   return kNames[static_cast<int>(fault)];
 }
 
+/// Desktops that allow this many acts in a row are fast enough for a closer look.
+constexpr int kManyActs = 10000;
+
 class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
  protected:
   Faults() {
@@ -82,8 +85,8 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
 
   /// What holds after every call, whatever has happened in it.
   void Check(const FaultCase& dialog, Fault fault, const Outcome& outcome) {
-    const bool isError = fault == Fault::Throws || fault == Fault::ThrowsAnInt || fault == Fault::AnswersNull ||
-                         fault == Fault::Removes;
+    const bool isError =
+        fault == Fault::Throws || fault == Fault::ThrowsAnInt || fault == Fault::AnswersNull || fault == Fault::Removes;
     EXPECT_TRUE(outcome.Result == 0 || outcome.Result == -1) << outcome.Result;
     EXPECT_TRUE(!outcome.HasThrown || (dialog.Rules.MayThrow && isError));
     EXPECT_FALSE(desktop().HasModalForm());
@@ -93,8 +96,11 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
     desktop().Pointer(Pointer::Default);
   }
 
-  /// Where acts take their time, every n-th call only.
-  int Stride() { return testDesktop().IsQuick() ? 1 : 7; }
+  /// Where acts take their time, every n-th call only; primes, so that each dialog has other ones tried.
+  int Stride() {
+    if (testDesktop().IsQuick()) return 1;
+    return testDesktop().Patience() < kManyActs ? 97 : 31;
+  }
 
   TestFolder folder;
   FaultScript acts{user, {folder.Path(), {"a.shp"}}};

@@ -109,12 +109,14 @@ TEST_F(LayerManagerReentry, AButtonForALayerThatHasGoneShowsTheListAsItIs) {
 TEST_F(LayerManagerReentry, AManagerAboveMayChangeTheMap) {
   EXPECT_EQ(-1, Show([&](frmMapSettings& form) {
     user.Click(form.sftLayers, 2);
+    const auto own = pages.Made;
     During("CallBack.ApplyNotify", [&] {
       EXPECT_EQ(-1, Show([&](frmMapSettings& above) {
         user.Click(above.sftLayers, 2);
         user.Click(above.cmdRemove);
         Press(above, "cmdOK");
       }));
+      pages.Made = own;
     });
     Press(form, "cmdApply");
     user.Click(form.sftLayers, 2);
