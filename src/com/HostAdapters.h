@@ -11,8 +11,8 @@
 namespace orx::com {
 
 /// Adapts a map or a part of one; null for null. The result holds a reference and everything that was asked of it, and
-/// the dialogs that show it keep it alive (BorrowedObject::Lifetime). What the object supports is decided by the published
-/// interfaces, or by the names of its members.
+/// the dialogs that show it keep it alive (BorrowedObject::Lifetime). What the object supports is decided by the
+/// published interfaces, or by the names of its members.
 std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object);
 
 /// Adapt the language and the call-back. These are plain pointers to the host's objects: no reference is held between
