@@ -19,8 +19,8 @@ using Calls = std::vector<std::string>;
 struct FrameForm final : EditForm {
   FrameForm(Desktop& desktop, CallLog& callLog)
       : EditForm(desktop, {.Name = "frmFrame", .Caption = "Frame", .HelpKey = "_HelpFrame", .Client = {6000, 3000}}),
-        log(callLog) {
-    mColor.Chosen = [this](Color) { log.Call("Chosen"); };
+        Log(callLog) {
+    mColor.Chosen = [this](Color) { Log.Call("Chosen"); };
   }
 
   using EditForm::First;
@@ -34,39 +34,39 @@ struct FrameForm final : EditForm {
   OKButton cmdOK{*this};
   CancelButton cmdCancel{*this};
 
-  CallLog& log;
+  CallLog& Log;
   std::function<void()> WhileFilling;
   bool Passes = true;
   bool Stays = false;
   bool SkipsErrors = false;
 
  protected:
-  void Arrange() override { log.Call("Arrange"); }
+  void Arrange() override { Log.Call("Arrange"); }
   void TakeLanguage() override {
-    log.Call("TakeLanguage");
+    Log.Call("TakeLanguage");
     EditForm::TakeLanguage();
   }
   void Fill() override {
     if (WhileFilling) WhileFilling();
-    log.Call("Fill");
+    Log.Call("Fill");
   }
-  void Ready() override { log.Call("Ready"); }
+  void Ready() override { Log.Call("Ready"); }
   void LoadStep(const std::function<void()>& step) override {
     if (!SkipsErrors) return EditForm::LoadStep(step);
     ErrorTrap trap;
     trap.Step(step);
   }
   bool Check() override {
-    log.Call("Check");
+    Log.Call("Check");
     return Passes;
   }
   bool Save() override {
-    log.Call("Save");
+    Log.Call("Save");
     IsDirty(true);
     return !Stays;
   }
   void Discard() override {
-    log.Call("Discard");
+    Log.Call("Discard");
     EditForm::Discard();
   }
 

@@ -69,7 +69,9 @@ class PlainObject final : public Counted<IUnknown> {};
 
 /// The error code by which hosts know a run-time error.
 constexpr HRESULT CodeOf(std::int32_t number) {
-  return static_cast<HRESULT>(0x800A0000U + static_cast<std::uint32_t>(number));
+  constexpr std::uint32_t kRunTimeErrors = 0x800A0000U;
+  const std::uint32_t code = kRunTimeErrors + static_cast<std::uint32_t>(number);
+  return static_cast<HRESULT>(code);
 }
 
 /// The number of references of an object.

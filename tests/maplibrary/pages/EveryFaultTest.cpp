@@ -26,9 +26,9 @@ class PageFaultsOfALayer : public PageFaults {
   /// Shows the four pages of a layer, of which some call fails; edits all that can be edited and presses the button.
   void Show(FaultPlan& plan, const char* button) {
     PlannedLayer shown(plan);
-    SilentCallBack heard;
-    service.CallBack(&heard);
-    const std::vector<Message> boxes = BoxesIn([&] {
+    SilentCallBack listener;
+    service.CallBack(&listener);
+    const std::vector<Message> shownBoxes = BoxesIn([&] {
       InDialog("frmSettings", [&] {
         for (Control* const control : form->All())
           if (control->Enabled()) Edit(*control);
@@ -39,24 +39,24 @@ class PageFaultsOfALayer : public PageFaults {
     });
     EXPECT_EQ(Pointer::Default, desktop().Pointer()) << plan.Failed();
     service.CallBack(&callBack);
-    Heard = heard;
-    Written = shown.Layer.Log.Calls;
-    for (const std::string& call : shown.Data.Writes()) Written.push_back(call);
-    Boxes = boxes;
+    heard = listener;
+    written = shown.Layer.Log.Calls;
+    for (const std::string& call : shown.Data.Writes()) written.push_back(call);
+    boxes = shownBoxes;
   }
 
-  SilentCallBack Heard;
-  Calls Written;
-  std::vector<Message> Boxes;
+  SilentCallBack heard;
+  Calls written;
+  std::vector<Message> boxes;
 };
 
 TEST_F(PageFaultsOfALayer, WhateverFailsTheDialogIsShownAndEndsByItsRule) {
   ForEachFault(
       [this](FaultPlan& plan) {
         Show(plan, "cmdOK");
-        EXPECT_EQ(1U, Heard.Confirmed.size()) << plan.Failed();
-        EXPECT_GE(4U, Boxes.size()) << plan.Failed();
-        for (const Message& box : Boxes)
+        EXPECT_EQ(1U, heard.Confirmed.size()) << plan.Failed();
+        EXPECT_GE(4U, boxes.size()) << plan.Failed();
+        for (const Message& box : boxes)
           EXPECT_TRUE(box.Text.starts_with("Not everything could be saved:")) << box.Text;
       },
       testDesktop().Patience() < 10000 ? 40 : 7);
@@ -66,8 +66,8 @@ TEST_F(PageFaultsOfALayer, WhateverFailsCancelWritesNothing) {
   ForEachFault(
       [this](FaultPlan& plan) {
         Show(plan, "cmdCancel");
-        EXPECT_EQ(Calls{}, Written) << plan.Failed();
-        EXPECT_EQ(std::vector<Message>{}, Boxes) << plan.Failed();
+        EXPECT_EQ(Calls{}, written) << plan.Failed();
+        EXPECT_EQ(std::vector<Message>{}, boxes) << plan.Failed();
       },
       testDesktop().Patience() < 10000 ? 40 : 7);
 }
