@@ -158,11 +158,11 @@ TEST_P(Win32Border, ATimerOfTheHostRunsInItsSurroundingsWhileADialogIsOpen) {
 TEST_P(Win32Border, WhatFillsANativeAreaIsMeasuredLikeTheDialog) {
   struct Foreign final : Form {
     explicit Foreign(Desktop& desktop) : Form(desktop, "frmForeign", {.Client = {3000, 1500}}) {}
-    NativeArea area{*this, "area", {.Place = {0, 0, 1440, 720}}};
+    NativeArea Area{*this, "area", {.Place = {0, 0, 1440, 720}}};
   };
   const auto foreign = std::make_shared<Foreign>(desktop());
   RECT place = {};
-  foreign->area.Opened = [&](std::uintptr_t window) { GetClientRect(reinterpret_cast<HWND>(window), &place); };
+  foreign->Area.Opened = [&](std::uintptr_t window) { GetClientRect(reinterpret_cast<HWND>(window), &place); };
   foreign->Show(ShowMode::Modeless);
   foreign->Unload();
   EXPECT_EQ(desktop().ToPixels(1440), place.right);

@@ -67,13 +67,13 @@ TEST_F(Win32Guest, NothingIsLeftBehindByAMessage) {
 TEST_F(Win32Guest, TheDialogsHaveTheLookOfTheirOwnManifest) {
   struct Foreign final : Form {
     explicit Foreign(Desktop& desktop) : Form(desktop, "frmForeign", {.Client = {3000, 1500}}) {}
-    NativeArea area{*this, "area", {.Place = {120, 120, 1200, 330}}};
+    NativeArea Area{*this, "area", {.Place = {120, 120, 1200, 330}}};
   };
   const auto foreign = std::make_shared<Foreign>(desktop());
   HANDLE outside = nullptr;
   GetCurrentActCtx(&outside);
   HANDLE inside = nullptr;
-  foreign->area.Opened = [&](std::uintptr_t) { GetCurrentActCtx(&inside); };
+  foreign->Area.Opened = [&](std::uintptr_t) { GetCurrentActCtx(&inside); };
   foreign->Show(ShowMode::Modeless);
   foreign->Unload();
   EXPECT_NE(inside, outside);
