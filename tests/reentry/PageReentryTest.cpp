@@ -1,4 +1,6 @@
 // The dialogs with pages, closed or asked for more in the middle of a call of their host.
+#include <algorithm>
+
 #include "tests/reentry/ReentryTest.h"
 
 namespace orx::test {

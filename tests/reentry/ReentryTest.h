@@ -26,7 +26,7 @@ class Reentry : public LayerManager {
   }
   /// The same, in the dialog of that name, where the user then presses a button, and Cancel if it is still open.
   void DuringPress(const std::string& form, const std::string& button, const std::string& call,
-                   std::function<void(Form&)> happens) {
+                   const std::function<void(Form&)>& happens) {
     script.ExpectForm(form, [this, button, call, happens](Form& shown) {
       During(call, [happens, &shown] { happens(shown); });
       Press(shown, button);
