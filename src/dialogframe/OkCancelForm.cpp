@@ -52,10 +52,14 @@ bool OkCancelForm::Refuse(const Message& message, Control& field, First first) {
   return false;
 }
 
-void OkCancelForm::PutBack(const Message& message, TextBox& field, std::string before) {
+void OkCancelForm::PutBack(const Message& message, TextBox& field, const std::string& before) {
+  // The message lets handlers run, which may note another text in place of the one given here.
+  const auto putBack = [&field, before] {
+    field.Text(before);
+    field.SetFocus();
+  };
   OwnerDesktop().ShowMessage(message);
-  field.Text(before);
-  field.SetFocus();
+  putBack();
 }
 
 OKButton::OKButton(OkCancelForm& form) : OKButton(form, form, InCorner(form, 1)) {

@@ -60,7 +60,7 @@ class OkCancelForm : public DialogForm {
   /// Tells the user what is wrong with a field and moves the focus there. Always returns false, for Check to pass on.
   bool Refuse(const Message& message, Control& field, First first = First::Message);
   /// Refuses an entry as the focus leaves its field: restores the previous text and moves the focus back.
-  void PutBack(const Message& message, TextBox& field, std::string before);
+  void PutBack(const Message& message, TextBox& field, const std::string& before);
 
  private:
   friend class OKButton;
