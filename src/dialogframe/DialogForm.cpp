@@ -54,6 +54,7 @@ void DialogForm::Form_Release() {
 
 void DialogForm::Hold(const BorrowedObject* lent) {
   std::shared_ptr<const void> lifetime = lent ? lent->Lifetime() : nullptr;
+  // The layer manager hands the same objects over again and again.
   if (lifetime && std::ranges::find(mHeld, lifetime) == mHeld.end()) mHeld.push_back(std::move(lifetime));
 }
 

@@ -1,34 +1,27 @@
 // Data objects that fail in the middle of the dialog's work.
 #include "tests/classification/ClassifyTest.h"
+#include "tests/support/EditFaults.h"
 
 namespace orx::test {
 namespace {
 
-class ClassifyFaults : public ClassifyTest {
+class ClassifyFaults : public EditFaults<ClassifyTest> {
  protected:
-  void Follow(FaultPlan* plan) { data.Log.Faults = host.Faults = plan; }
-  /// Opens the dialog, edits, and presses OK with the plan in force.
-  bool EditUnder(FaultPlan& plan) {
+  const char* FormName() const override { return "frmDataClassify"; }
+  bool Open() override {
     data.ShowsName = false;
-    data.Log.Calls.clear();
     isDirty = false;
-    script.ExpectForm("frmDataClassify", [&](Form& shown) {
-      dynamic_cast<CheckBox&>(*shown.Find("chkSeriesInLegend")).Value(CheckState::Checked);
-      data.Log.Calls.clear();
-      plan.WhenReached = atFault ? [&] { atFault(shown); } : std::function<void()>();
-      Follow(&plan);
-      user.Click(dynamic_cast<Button&>(*shown.Find("cmdOK")));
-      Follow(nullptr);
-      EXPECT_FALSE(shown.Visible());
-    });
     const bool result = modMain::ShowClassifyDialog(desktop(), {&host, low, high, flags}, isDirty, nullptr);
     EXPECT_EQ(result, isDirty);
-    EXPECT_EQ(Pointer::Default, desktop().Pointer()) << plan.Failed();
     return result;
   }
+  void Edit(Form& form) override {
+    dynamic_cast<CheckBox&>(*form.Find("chkSeriesInLegend")).Value(CheckState::Checked);
+    data.Log.Calls.clear();
+  }
+  void Follow(FaultPlan* plan) override { data.Log.Faults = host.Faults = plan; }
 
   FaultyObject host{[this](const std::type_info&) { return static_cast<IData*>(&data); }};
-  std::function<void(Form&)> atFault;
 };
 
 TEST_F(ClassifyFaults, WhateverFailsOnOKTheDialogEndsAndTellsWhetherItWrote) {
@@ -45,18 +38,7 @@ TEST_F(ClassifyFaults, DataThatAreGoneOnOKAreNoChange) {
 }
 
 TEST_F(ClassifyFaults, DataThatCloseTheDialogAreNotCalledAnyMore) {
-  FaultPlan none;
-  EditUnder(none);
-  for (int at = 0; at < none.Count(); ++at) {
-    FaultPlan plan(at, Failure::Null, false);
-    int atUnload = 0;
-    atFault = [&](Form& shown) {
-      shown.Unload();
-      atUnload = plan.Count();
-    };
-    EditUnder(plan);
-    EXPECT_EQ(atUnload, plan.Count()) << plan.Failed();
-  }
+  ExpectNoCallAfterAnUnload();
 }
 
 TEST_F(ClassifyFaults, WhateverFailsWhileLoadingNothingTravels) {

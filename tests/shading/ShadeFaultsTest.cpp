@@ -1,38 +1,30 @@
 // Objects that fail in the middle of the dialog's work.
 #include "griddialogs/frmDataShade.h"
 #include "service/modMain.h"
-#include "tests/support/DesktopTest.h"
+#include "tests/support/EditFaults.h"
 #include "tests/support/RecordedGrid.h"
 
 namespace orx::test {
 namespace {
 
-class ShadeFaults : public DesktopTest {
+class ShadeFaults : public EditFaults<DesktopTest> {
  protected:
-  void Follow(FaultPlan* plan) { shade.Log.Faults = host.Faults = plan; }
-  /// Opens the dialog, edits, and presses OK with the plan in force.
-  bool EditUnder(FaultPlan& plan) {
+  const char* FormName() const override { return "frmDataShade"; }
+  bool Open() override {
     bool changed = false;
     shade.HeldAltitude = 45;
-    script.ExpectForm("frmDataShade", [&](Form& shown) {
-      auto& form = dynamic_cast<frmDataShade&>(shown);
-      form.txtAltitude.Text("50");
-      shade.Log.Calls.clear();
-      plan.WhenReached = atFault ? [&] { atFault(shown); } : std::function<void()>();
-      Follow(&plan);
-      user.Click(form.cmdOK);
-      Follow(nullptr);
-      EXPECT_FALSE(form.Visible());
-    });
     const bool result = modMain::ShowShadeDialog(desktop(), &host, changed, nullptr);
     EXPECT_EQ(result, changed);
-    EXPECT_EQ(Pointer::Default, desktop().Pointer()) << plan.Failed();
     return result;
   }
+  void Edit(Form& form) override {
+    dynamic_cast<frmDataShade&>(form).txtAltitude.Text("50");
+    shade.Log.Calls.clear();
+  }
+  void Follow(FaultPlan* plan) override { shade.Log.Faults = host.Faults = plan; }
 
   RecordedShade shade;
   FaultyObject host{[this](const std::type_info& wanted) { return shade.ViewFor(wanted); }};
-  std::function<void(Form&)> atFault;
 };
 
 TEST_F(ShadeFaults, WhateverFailsOnOKTheDialogEndsAndReportsWhatItWrote) {
@@ -49,18 +41,7 @@ TEST_F(ShadeFaults, AnObjectThatIsGoneOnOKIsNoChange) {
 }
 
 TEST_F(ShadeFaults, AnObjectThatClosesTheDialogIsNotCalledAnyMore) {
-  FaultPlan none;
-  EditUnder(none);
-  for (int at = 0; at < none.Count(); ++at) {
-    FaultPlan plan(at, Failure::Null, false);
-    int atUnload = 0;
-    atFault = [&](Form& shown) {
-      shown.Unload();
-      atUnload = plan.Count();
-    };
-    EditUnder(plan);
-    EXPECT_EQ(atUnload, plan.Count()) << plan.Failed();
-  }
+  ExpectNoCallAfterAnUnload();
 }
 
 TEST_F(ShadeFaults, WhateverFailsWhileLoadingNothingTravels) {
