@@ -15,9 +15,10 @@ TEST(Errors, ReachHostsByTheNumbersThatTheyKnow) {
       {kErrorNotLoaded, 0x800A005B},    {kErrorFileFormat, 0x800A0141}, {kErrorInvalidValue, 0x800A017C},
       {kErrorNotAvailable, 0x800A018E}, {kErrorNoSuchPage, 0x800A01AE}, {kErrorNoSuchMember, 0x800A01B6},
   };
-  for (const auto& [number, code] : codes)
-    EXPECT_EQ(Guarded("Errors", [&] { throw RunTimeError(number, "It failed."); }), static_cast<HRESULT>(code))
-        << number;
+  for (const auto& error : codes)
+    EXPECT_EQ(Guarded("Errors", [&] { throw RunTimeError(error.first, "It failed."); }),
+              static_cast<HRESULT>(error.second))
+        << error.first;
 }
 
 TEST(Errors, NumbersOfFailedCallsStayTheirCodes) {

@@ -151,6 +151,8 @@ TEST(Leaks, DescriptionsAreGivenBackWhateverIsThrownMeanwhile) {
   try {
     const TypeAttributes attributes = AttributesOf(*lender.Get());
     const FunctionDescription function = FunctionOf(*lender.Get(), 0);
+    EXPECT_TRUE(attributes);
+    EXPECT_TRUE(function);
     EXPECT_FALSE(FunctionOf(*lender.Get(), Lender::kFunctions));
     EXPECT_EQ(lender->Lent, 2);
     throw RunTimeError(kErrorOverflow, "Meanwhile");
