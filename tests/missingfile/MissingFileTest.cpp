@@ -243,6 +243,18 @@ TEST_F(BrowseTest, CancelLeavesTheNameAsItWas) {
   EXPECT_TRUE(check.Asked.empty());
 }
 
+TEST_F(BrowseTest, WithoutAnyCheckAFileThatIsGoneIsRefused) {
+  CCommonMapDialogs::FileCheck(nullptr);
+  folder.Add("heights.bil");
+  script.ExpectFiles([this](OpenFileRequest& request) {
+    user.PickFiles(request, {folder.Path(), {"heights.bil"}, 0});
+    std::filesystem::remove(std::filesystem::path(folder.PathOf("heights.bil")));
+  });
+  Browse();
+  EXPECT_TRUE(browsed.Cancel);
+  EXPECT_EQ("heights.bil: file not found.", browsed.Refusal);
+}
+
 TEST_F(BrowseTest, WithoutAnyCheckAFileHasToBeReadable) {
   CCommonMapDialogs::FileCheck(nullptr);
   ExpectPick({"heights.bil"});

@@ -29,7 +29,7 @@ fs::path Identity(const fs::path& file) {
 /// The grids that a list has named so far, and how many cells it may still name.
 class ListedGrids {
  public:
-  explicit ListedGrids(const fs::path& list) : mFolder(list.parent_path()) {}
+  ListedGrids(const fs::path& list, std::int64_t mostCells) : mFolder(list.parent_path()), mCellsLeft(mostCells) {}
 
   /// The tile that a line stands for; null for a blank line, and for a grid that is a tile already.
   std::unique_ptr<Layer> TileOf(std::string_view line) {
@@ -47,13 +47,13 @@ class ListedGrids {
   fs::path mFolder;
   std::set<std::string> mNames;
   std::set<fs::path> mFiles;
-  std::int64_t mCellsLeft = kMaxListCells;
+  std::int64_t mCellsLeft;
 };
 
-std::unique_ptr<MapLayer> ReadList(const std::string& path) {
+std::unique_ptr<MapLayer> ReadList(const std::string& path, std::int64_t mostCells) {
   const fs::path list = PathOf(path);
   auto layer = std::make_unique<TiledLayer>(FileStem(path), path);
-  ListedGrids grids(list);
+  ListedGrids grids(list, mostCells);
   std::istringstream lines(ReadText(list, kMaxListBytes));
   for (std::string line; std::getline(lines, line);)
     if (auto tile = grids.TileOf(line)) layer->AddTile(std::move(tile));
@@ -63,11 +63,11 @@ std::unique_ptr<MapLayer> ReadList(const std::string& path) {
 
 }  // namespace
 
-std::unique_ptr<MapLayer> ReadLayerFile(const std::string& path) {
+std::unique_ptr<MapLayer> ReadLayerFile(const std::string& path, std::int64_t mostListCells) {
   const fs::path file = PathOf(path);
   const std::string extension = ExtensionOf(file);
   if (extension == ".SHP") return std::make_unique<VectorLayer>(FileStem(path), path, ReadShapeFile(file));
-  if (extension == ".LST") return ReadList(path);
+  if (extension == ".LST") return ReadList(path, mostListCells);
   if (IsGridFile(path)) return ReadLayer(path);
   FailFile(file, "unknown kind of file. Choose one with the extension .bil, .asc, .shp or .lst.");
 }
