@@ -245,11 +245,9 @@ TEST_F(BrowseTest, CancelLeavesTheNameAsItWas) {
 
 TEST_F(BrowseTest, WithoutAnyCheckAFileThatIsGoneIsRefused) {
   CCommonMapDialogs::FileCheck(nullptr);
-  folder.Add("heights.bil");
-  script.ExpectFiles([this](OpenFileRequest& request) {
-    user.PickFiles(request, {folder.Path(), {"heights.bil"}, 0});
-    std::filesystem::remove(std::filesystem::path(folder.PathOf("heights.bil")));
-  });
+  ExpectPick({"heights.bil"});
+  // Between the choice and the check.
+  script.WhenEventsPend = [this] { std::filesystem::remove(std::filesystem::path(folder.PathOf("heights.bil"))); };
   Browse();
   EXPECT_TRUE(browsed.Cancel);
   EXPECT_EQ("heights.bil: file not found.", browsed.Refusal);
