@@ -8,6 +8,11 @@
 namespace orx::com {
 namespace {
 
+/// A reference that refers to nothing, which the system's functions would follow.
+bool IsNowhere(const VARIANT& value) {
+  return (value.vt & VT_BYREF) && !value.byref;
+}
+
 bool IsNothing(const VARIANT& value) {
   return value.vt == VT_EMPTY || value.vt == VT_NULL;
 }
@@ -118,8 +123,16 @@ HRESULT FromScriptObject(IDispatch* from, VARTYPE element, LCID locale, Variant&
 }  // namespace
 
 VARIANT* ValueBehind(VARIANT* given) {
-  while (given && given->vt == (VT_BYREF | VT_VARIANT)) given = given->pvarVal;
+  // A variable can refer to itself; nobody nests them deeper than this.
+  constexpr int kDeepest = 16;
+  for (int depth = 0; given && given->vt == (VT_BYREF | VT_VARIANT) && given->pvarVal && depth < kDeepest; ++depth)
+    given = given->pvarVal;
   return given;
+}
+
+HRESULT CopyBehind(const VARIANT& given, Variant& to) {
+  if (IsNowhere(given)) return DISP_E_TYPEMISMATCH;
+  return VariantCopyInd(&to, const_cast<VARIANT*>(&given));
 }
 
 bool IsMissing(const VARIANT& given) {
@@ -128,7 +141,7 @@ bool IsMissing(const VARIANT& given) {
 
 HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to) {
   Variant value;
-  const HRESULT copied = VariantCopyInd(&value, const_cast<VARIANT*>(&from));
+  const HRESULT copied = CopyBehind(from, value);
   if (FAILED(copied)) return copied;
   if (type == VT_VARIANT) {
     to = std::move(value);
@@ -142,6 +155,7 @@ HRESULT ConvertValue(const VARIANT& from, VARTYPE type, LCID locale, Variant& to
 }
 
 HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant& to) {
+  if (IsNowhere(from)) return DISP_E_TYPEMISMATCH;
   if (from.vt & VT_ARRAY) return FromArray(from, element, locale, to);
   if (IsNothing(from)) return MakeEmpty(element, to);
   if (from.vt == VT_DISPATCH && from.pdispVal) return FromScriptObject(from.pdispVal, element, locale, to);
@@ -151,7 +165,7 @@ HRESULT ConvertArray(const VARIANT& from, VARTYPE element, LCID locale, Variant&
 
 HRESULT StoreBehind(const VARIANT& reference, Variant& value) {
   const std::size_t size = SizeOf(value.vt);
-  if (reference.vt != (VT_BYREF | value.vt) || size == 0) return DISP_E_TYPEMISMATCH;
+  if (reference.vt != (VT_BYREF | value.vt) || size == 0 || IsNowhere(reference)) return DISP_E_TYPEMISMATCH;
   auto* const there = static_cast<unsigned char*>(reference.byref);
   std::swap_ranges(there, there + size, reinterpret_cast<unsigned char*>(&value.llVal));
   return S_OK;

@@ -5,8 +5,12 @@
 
 namespace orx::com {
 
-/// Follows references to variants down to the variant that holds the value.
+/// Follows references to variants down to the variant that holds the value; null for null only. A reference to nothing
+/// or to itself stays one.
 VARIANT* ValueBehind(VARIANT* given);
+
+/// Copies a value, that behind a reference too. DISP_E_TYPEMISMATCH for a reference to nothing.
+HRESULT CopyBehind(const VARIANT& given, Variant& to);
 
 /// True for an argument that was left out.
 bool IsMissing(const VARIANT& given);

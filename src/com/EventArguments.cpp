@@ -6,8 +6,6 @@
 namespace orx::com {
 namespace {
 
-constexpr VARTYPE kVariantReference = VT_BYREF | VT_VARIANT;
-
 Variant Converted(VARIANT& value, VARTYPE type) {
   Variant converted;
   Check(VariantChangeType(&converted, &value, 0, type), "The argument of an event has the wrong type");
@@ -21,10 +19,8 @@ EventArguments::EventArguments(const DISPPARAMS& given, UINT needed) : mGiven(gi
 }
 
 Variant EventArguments::Read(UINT position, VARTYPE type) const {
-  VARIANTARG* from = &At(position);
-  while (from->vt == kVariantReference) from = from->pvarVal;
   Variant plain;
-  Check(VariantCopyInd(&plain, from), "The argument of an event cannot be read");
+  Check(CopyBehind(*ValueBehind(&At(position)), plain), "The argument of an event cannot be read");
   return Converted(plain, type);
 }
 
@@ -45,27 +41,21 @@ bool EventArguments::Flag(UINT position) const {
 }
 
 ComPtr<IDispatch> EventArguments::Object(UINT position) const {
-  VARIANTARG* from = &At(position);
-  while (from->vt == kVariantReference) from = from->pvarVal;
   Variant plain;
-  Check(VariantCopyInd(&plain, from), "The argument of an event cannot be read");
+  Check(CopyBehind(*ValueBehind(&At(position)), plain), "The argument of an event cannot be read");
   Variant object;
   Check(ConvertValue(plain, VT_DISPATCH, LOCALE_USER_DEFAULT, object), "The argument of an event has the wrong type");
   return ComPtr<IDispatch>(object.pdispVal);
 }
 
 void EventArguments::Answer(UINT position, Variant value) const {
-  VARIANTARG* target = &At(position);
-  bool isVariant = false;
-  while (target->vt == kVariantReference) {
-    target = target->pvarVal;
-    isVariant = true;
-  }
+  VARIANTARG* const given = &At(position);
+  VARIANTARG* const target = ValueBehind(given);
   if (target->vt & VT_BYREF) {
     Variant converted = Converted(value, static_cast<VARTYPE>(target->vt & ~VT_BYREF));
     return Check(StoreBehind(*target, converted), "The argument of an event has the wrong type");
   }
-  if (isVariant) value.SwapWith(*target);
+  if (target != given) value.SwapWith(*target);
 }
 
 }  // namespace orx::com

@@ -91,10 +91,11 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
 
   ComPtr<IDispatch> Item(const VARIANT& index) const {
     const VARIANT& given = *ValueBehind(const_cast<VARIANT*>(&index));
-    if (given.vt == VT_BSTR || given.vt == (VT_BYREF | VT_BSTR))
-      return ByName(TextOf(given.vt & VT_BYREF ? *given.pbstrVal : given.bstrVal));
+    Variant value;
+    Check(CopyBehind(given, value), "Item");
+    if (value.vt == VT_BSTR) return ByName(TextOf(value.bstrVal));
     Variant number;
-    Check(ConvertValue(given, VT_I4, LOCALE_USER_DEFAULT, number), "Item");
+    Check(ConvertValue(value, VT_I4, LOCALE_USER_DEFAULT, number), "Item");
     return ByNumber(number.lVal);
   }
 

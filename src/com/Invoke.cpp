@@ -30,11 +30,12 @@ FunctionDescription FindMember(ITypeInfo& info, DISPID member, INVOKEKIND kind) 
 
 /// The given arguments in the order of the parameters.
 HRESULT InOrder(const DISPPARAMS& given, std::size_t parameters, bool isPut, std::vector<VARIANT*>& ordered) {
+  if (given.cNamedArgs > given.cArgs) return DISP_E_BADPARAMCOUNT;
   ordered.assign(std::max<std::size_t>(parameters, given.cArgs - given.cNamedArgs), nullptr);
   for (UINT i = 0; i < given.cNamedArgs; ++i) {
     const DISPID name = given.rgdispidNamedArgs[i];
     const std::size_t at = name == DISPID_PROPERTYPUT && isPut ? parameters - 1 : static_cast<std::size_t>(name);
-    if (name != DISPID_PROPERTYPUT && (name < 0 || at >= parameters)) return DISP_E_PARAMNOTFOUND;
+    if (at >= parameters) return DISP_E_PARAMNOTFOUND;
     ordered[at] = &given.rgvarg[i];
   }
   // Arguments without names follow, the last one first.

@@ -30,7 +30,7 @@ std::uintptr_t HandleOf(const VARIANT& number) {
 OwnerWindow OwnerOf(const VARIANT* owner) {
   if (!owner) return {};
   Variant value;
-  if (FAILED(VariantCopyInd(&value, const_cast<VARIANT*>(ValueBehind(const_cast<VARIANT*>(owner))))))
+  if (FAILED(CopyBehind(*ValueBehind(const_cast<VARIANT*>(owner)), value)))
     throw RunTimeError(kErrorTypeMismatch, kExplanation);
   if (IsMissing(value) || value.vt == VT_EMPTY || value.vt == VT_NULL) return {};
   if (value.vt != VT_DISPATCH && value.vt != VT_UNKNOWN) {

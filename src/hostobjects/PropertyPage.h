@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "forms/Event.h"
@@ -12,6 +13,7 @@
 namespace orx {
 
 class Container;
+class IFileCheck;
 class ILanguage;
 
 /// The choice of a symbol: the page fills in the present one, the dialog the one chosen.
@@ -24,11 +26,17 @@ struct CharacterRequest {
   bool Changed = false;
 };
 
-/// The choice of a data file: the page fills in the present one, the dialog the one chosen.
+/// The choice of a data file: the page fills in the present one and its own check, the dialog the one chosen.
 struct BrowseRequest {
+  /// UTF-8; unchanged if no file was chosen.
   std::string FileName;
   /// False when a file was chosen that can be opened.
   bool Cancel = true;
+  /// Checks the file unless the host has set a check for the whole process; null for none. Used, not owned.
+  IFileCheck* Check = nullptr;
+  /// Why the chosen file cannot be opened, empty where nobody says why; none when no file was refused. The page tells
+  /// the user.
+  std::optional<std::string> Refusal = {};
 };
 
 /// The change of a data object's classification. The range is that of the data, kUnknownRangeEnd when not known.

@@ -1,16 +1,18 @@
 #include "languages/TextLanguage.h"
 
-#include <fstream>
 #include <optional>
 #include <sstream>
 
+#include "hostobjects/InputFile.h"
 #include "hostobjects/RunTimeError.h"
+#include "text/Paths.h"
 #include "text/Trimmed.h"
 
 namespace orx::languages {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::uint64_t kMaxBytes = 10'000'000;
 
 /// The place of the first equals sign that is not escaped.
 std::size_t FindEquals(std::string_view line) {
@@ -57,11 +59,8 @@ bool IsUtf8(std::string_view text) {
 }  // namespace
 
 TextLanguage::TextLanguage(const std::filesystem::path& file) {
-  const std::u8string text = file.u8string();
-  const std::string name(text.begin(), text.end());
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw RunTimeError(kErrorNoSuchFile, "The language file \"" + name + "\" cannot be opened.");
-  Read(stream, name);
+  std::istringstream stream(ReadText(file, kMaxBytes));
+  Read(stream, Utf8(file));
 }
 
 void TextLanguage::Read(std::istream& stream, const std::string& name) {

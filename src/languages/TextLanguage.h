@@ -12,14 +12,15 @@
 namespace orx::languages {
 
 /// The file is UTF-8, with or without a byte order mark; lines end with LF or CRLF. Empty lines and lines that start
-/// with
-/// "#" are skipped. Keys are the English texts, "&" included, and the help keys, which start with an underscore; blanks
-/// around key and text do not count. "\n" stands for a line break, "\=" for an equals sign in a key, "\#" for a number
-/// sign at the start of a line, "\\" for a backslash.
+/// with "#" are skipped. Keys are the English texts, "&" included, and the help keys, which start with an underscore;
+/// blanks around key and text do not count. "\n" stands for a line break, "\=" for an equals sign in a key, "\#" for a
+/// number sign at the start of a line, "\\" for a backslash.
 class TextLanguage final : public FormLanguage {
  public:
-  /// Reads a file. Throws RunTimeError when there is no such file (kErrorNoSuchFile), and with file and line when a
-  /// line is no pair of key and text, gives a key twice, has an unknown escape, or is not UTF-8 (kErrorFileFormat).
+  /// Reads a file. Throws RunTimeError when there is no such file (kErrorNoSuchFile), when it is no plain file but a
+  /// folder, a pipe or a device, or cannot be read (kErrorFileAccess), when it has more than 10 MB, and with file and
+  /// line when a line is no pair of key and text, gives a key twice, has an unknown escape, or is not UTF-8
+  /// (kErrorFileFormat).
   explicit TextLanguage(const std::filesystem::path& file);
   /// Reads from a stream; `name` stands for it in errors.
   TextLanguage(std::istream& stream, const std::string& name) { Read(stream, name); }

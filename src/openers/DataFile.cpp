@@ -1,36 +1,53 @@
 #include "openers/DataFile.h"
 
-#include <fstream>
+#include <exception>
 #include <vector>
 
 #include "dialogframe/FileChoice.h"
+#include "forms/ErrorText.h"
 #include "hostobjects/ErrorTrap.h"
-#include "text/Paths.h"
+#include "hostobjects/InputFile.h"
 
 namespace orx::modMain {
 namespace {
 
 IFileCheck* theFileCheck = nullptr;
 
-bool CanBeRead(const std::string& path) {
-  const std::optional<std::filesystem::path> file = PathFrom(path);
-  return file && std::filesystem::is_regular_file(*file) && std::ifstream(*file, std::ios::binary).good();
+class ReadableFile final : public IFileCheck {
+ public:
+  bool CanOpen(const std::string& path) override { return OpenFile(PathOf(path)).good(); }
+};
+
+/// Why the file cannot be opened; none when it can.
+std::optional<std::string> RefusalOf(const std::string& path, IFileCheck& check) try {
+  return check.CanOpen(path) ? std::nullopt : std::optional<std::string>(std::string());
+} catch (...) {
+  return ErrorText(std::current_exception());
 }
 
 }  // namespace
+
+IFileCheck* FileCheck() {
+  return theFileCheck;
+}
 
 void FileCheck(IFileCheck* check) {
   theFileCheck = check;
 }
 
-void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language, BrowsedFile& file) noexcept {
-  file.Cancel = true;
+void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language,
+                    BrowseRequest& request) noexcept {
+  request.Cancel = true;
+  request.Refusal.reset();
   std::vector<std::string> files;
   if (!modDialog::ChooseFiles({desktop, ownerHandle, modDialog::FileKind::Data, language}, false, files)) return;
+  ReadableFile readable;
+  IFileCheck* const own = request.Check ? request.Check : &readable;
   ErrorTrap trap;
-  trap.Step([&] { file.FileName = files.front(); });
   trap.Step([&] {
-    if (theFileCheck ? theFileCheck->CanOpen(file.FileName) : CanBeRead(file.FileName)) file.Cancel = false;
+    request.FileName = files.front();
+    request.Refusal = RefusalOf(request.FileName, theFileCheck ? *theFileCheck : *own);
+    request.Cancel = request.Refusal.has_value();
   });
 }
 

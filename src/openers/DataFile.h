@@ -6,6 +6,7 @@
 
 #include "hostobjects/IFileCheck.h"
 #include "hostobjects/ILanguage.h"
+#include "hostobjects/PropertyPage.h"
 
 namespace orx {
 
@@ -13,21 +14,14 @@ class Desktop;
 
 namespace modMain {
 
-/// Sets the check that data files have to pass, for the whole process; not owned. Null stands for the default: that the
-/// file can be opened for reading.
+/// The check that data files have to pass, for the whole process; not owned. Null stands for the check of the request,
+/// and where there is none either, for one that the file can be opened for reading.
+IFileCheck* FileCheck();
 void FileCheck(IFileCheck* check);
-
-/// What the user chose in BrowseDataFile.
-struct BrowsedFile {
-  /// UTF-8; unchanged if no file was chosen.
-  std::string FileName;
-  /// False if a file was chosen and passed the check.
-  bool Cancel = true;
-};
 
 /// Lets the user choose a data file. The dialog belongs to the window `ownerHandle` (0 for none) and is shown in that
 /// language (null for none).
-void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language, BrowsedFile& file) noexcept;
+void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language, BrowseRequest& request) noexcept;
 
 }  // namespace modMain
 }  // namespace orx

@@ -2,6 +2,7 @@
 
 #include "forms/Form.h"
 #include "hostobjects/ErrorTrap.h"
+#include "hostobjects/IFileCheck.h"
 #include "hostobjects/IMap.h"
 #include "numbers/Numbers.h"
 
@@ -88,9 +89,13 @@ std::string DataPropertiesPage::RangeText() const {
 
 void DataPropertiesPage::cmdBrowse_Click() {
   BrowseRequest request{txtFile.Text()};
+  if (!Ask([&] { request.Check = As<IFileCheck>(DataObject()); })) return;
   BrowseRequested.Raise(request);
-  if (request.Cancel) return;
-  ShowFile(request.FileName);
+  const bool isTaken = Ask([&] {
+    if (request.Refusal)
+      throw RunTimeError(kErrorFileFormat, request.Refusal->empty() ? pagetexts::kNoData : *request.Refusal);
+  });
+  if (isTaken && !request.Cancel) ShowFile(request.FileName);
 }
 
 void DataPropertiesPage::cmdClassify_Click() {

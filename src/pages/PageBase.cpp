@@ -86,7 +86,7 @@ const Setting* PageBase::LockOf(const Control& control) const {
 }
 
 std::string PageBase::Reason(const std::string& words) const {
-  for (const char* const own : {pagetexts::kGone, kUnknownError})
+  for (const char* const own : {pagetexts::kGone, pagetexts::kNoData, kUnknownError})
     if (words == own) return Text(own);
   return words;
 }

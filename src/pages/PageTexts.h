@@ -17,9 +17,10 @@ inline constexpr const char* kNotDone = "This cannot be done: {1}";
 /// Reasons where the object has none of its own.
 inline constexpr const char* kNothingToEdit = "There is nothing to edit here.";
 inline constexpr const char* kGone = "The object does not answer.";
+inline constexpr const char* kNoData = "The file cannot be opened as data.";
 
 /// All of them, for the test of a translation.
-inline constexpr const char* kAll[] = {kBlankName, kNoCharacter,   kNoColor, kNotRead,     kNotWritten,
-                                       kNotDone,   kNothingToEdit, kGone,    kUnknownError};
+inline constexpr const char* kAll[] = {kBlankName, kNoCharacter,   kNoColor, kNotRead, kNotWritten,
+                                       kNotDone,   kNothingToEdit, kGone,    kNoData,  kUnknownError};
 
 }  // namespace orx::pages::pagetexts

@@ -12,10 +12,7 @@ namespace orx {
 namespace {
 
 void AnswerBrowse(DialogForm& form, BrowseRequest& request) {
-  modMain::BrowsedFile file{request.FileName};
-  modMain::BrowseDataFile(form.OwnerDesktop(), form.NativeHandle(), form.Language(), file);
-  request.FileName = file.FileName;
-  request.Cancel = file.Cancel;
+  modMain::BrowseDataFile(form.OwnerDesktop(), form.NativeHandle(), form.Language(), request);
 }
 
 /// The edges of a map; none if they cannot be read.

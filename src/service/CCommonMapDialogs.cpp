@@ -6,6 +6,7 @@
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/IData.h"
 #include "hostobjects/IMap.h"
+#include "openers/DataFile.h"
 #include "openers/SecondaryDialogs.h"
 #include "pickers/frmListSelection.h"
 #include "pickers/frmMsgBox.h"
@@ -31,6 +32,14 @@ struct CCommonMapDialogs::Request {
 void CCommonMapDialogs::Language(ILanguage* value) {
   mKit.Language = value;
   if (IsActive(value)) modMain::HelpFile(value->TranslateText("_HelpFileMapDialogs"));
+}
+
+IFileCheck* CCommonMapDialogs::FileCheck() {
+  return modMain::FileCheck();
+}
+
+void CCommonMapDialogs::FileCheck(IFileCheck* value) {
+  modMain::FileCheck(value);
 }
 
 template <class Dialog>

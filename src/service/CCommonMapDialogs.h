@@ -11,6 +11,7 @@
 #include "forms/Desktop.h"
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IDialogCallBack.h"
+#include "hostobjects/IFileCheck.h"
 #include "hostobjects/ILanguage.h"
 #include "hostobjects/PropertyPage.h"
 #include "hostobjects/TextArray.h"
@@ -54,6 +55,12 @@ class CCommonMapDialogs {
   /// the key "_HelpFileMapDialogs". Throws what the language throws.
   ILanguage* Language() const { return mKit.Language; }
   void Language(ILanguage* value);
+
+  /// The check that data files chosen with a page's Browse button have to pass, for the whole process; used, not owned.
+  /// A file that it refuses is not taken, and the dialog stays. Null, as at first, leaves it to the data object that
+  /// the file is for: the map library's objects read the file to see; other files have to be readable.
+  static IFileCheck* FileCheck();
+  static void FileCheck(IFileCheck* value);
 
   /// All settings of a layer on four pages or, for a map (IMap) or a layer collection (ILayers), the layer manager,
   /// which also receives `mFlags` and keeps its placement under RegistryKey.

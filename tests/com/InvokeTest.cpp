@@ -244,6 +244,23 @@ TEST_F(Invoke, MembersThatAreNotThereAreRefused) {
   EXPECT_EQ(recorder->Invoke(4, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr), E_POINTER);
 }
 
+TEST_F(Invoke, ReferencesToNothingAndVariantsThatReferToThemselvesAreRefused) {
+  VARIANT itself = {};
+  itself.vt = VT_BYREF | VT_VARIANT;
+  itself.pvarVal = &itself;
+  std::vector<VARIANT> wrong{itself};
+  for (const VARTYPE type : {VT_VARIANT, VT_I2, VT_R8, VT_UNKNOWN}) {
+    VARIANT nowhere = {};
+    nowhere.vt = static_cast<VARTYPE>(VT_BYREF | type);
+    wrong.push_back(nowhere);
+  }
+  for (const VARIANT& argument : wrong) {
+    EXPECT_TRUE(FAILED(Call("ShowLegends").Value(Variant(object.Get())).Lent(argument).Call())) << argument.vt;
+    EXPECT_TRUE(FAILED(Call("ShowListSelection").Lent(argument).Call())) << argument.vt;
+  }
+  EXPECT_TRUE(recorder->Calls.empty());
+}
+
 TEST_F(Invoke, ArgumentListsThatContradictThemselvesAreRefused) {
   VARIANT argument = {};
   DISPID name = 77;
@@ -252,6 +269,10 @@ TEST_F(Invoke, ArgumentListsThatContradictThemselvesAreRefused) {
       FAILED(recorder->Invoke(6, IID_NULL, 0, DISPATCH_METHOD, &moreNamesThanArguments, nullptr, nullptr, nullptr)));
   DISPPARAMS nameOutside = {&argument, &name, 1, 1};
   EXPECT_EQ(recorder->Invoke(6, IID_NULL, 0, DISPATCH_METHOD, &nameOutside, nullptr, nullptr, nullptr),
+            DISP_E_PARAMNOTFOUND);
+  DISPID value = DISPID_PROPERTYPUT;
+  DISPPARAMS valueForAMethod = {&argument, &value, 1, 1};
+  EXPECT_EQ(recorder->Invoke(6, IID_NULL, 0, DISPATCH_METHOD, &valueForAMethod, nullptr, nullptr, nullptr),
             DISP_E_PARAMNOTFOUND);
   DISPPARAMS noValue = {};
   EXPECT_TRUE(FAILED(recorder->Invoke(1, IID_NULL, 0, DISPATCH_PROPERTYPUT, &noValue, nullptr, nullptr, nullptr)));

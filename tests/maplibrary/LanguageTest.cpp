@@ -84,7 +84,7 @@ TEST(MapLibraryLanguageFile, AMissingFileIsAnErrorThatNamesIt) {
     FAIL() << "opened";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(kErrorNoSuchFile, error.Number());
-    EXPECT_STREQ("The language file \"no-such-language.txt\" cannot be opened.", error.what());
+    EXPECT_STREQ("no-such-language.txt: file not found.", error.what());
   }
 }
 

@@ -127,21 +127,6 @@ TEST_F(LayerFiles, RecordsThatDoNotFitAreToldByTheirNumber) {
             error(Record(1, Parted(3, {0}, kCorners).substr(0, 100))));
 }
 
-TEST_F(LayerFiles, AListBecomesALayerOfTiles) {
-  Write("a.asc", "ncols 2\nnrows 2\nxllcorner 0\nyllcorner 0\ncellsize 1\n1 2 3 4\n");
-  Write("b.asc", "ncols 2\nnrows 2\nxllcorner 2\nyllcorner 0\ncellsize 1\n5 6 7 8\n");
-  const auto layer = ReadLayerFile(Write("tiles.LST", "a.asc\r\n\r\n  b.asc  \n"));
-  auto& tiles = dynamic_cast<TiledLayer&>(*layer);
-  EXPECT_EQ("tiles", tiles.Name());
-  ASSERT_EQ(2, tiles.LayerCount());
-  EXPECT_EQ("b", tiles.LayerName(2));
-}
-
-TEST_F(LayerFiles, AListTellsWhichOfItsFilesIsWrong) {
-  EXPECT_EQ("gone.asc: file not found.", ErrorOf("list.lst", "gone.asc\n"));
-  EXPECT_EQ("list.lst: names no files. Write the path of a grid on each line.", ErrorOf("list.lst", "\n \n"));
-}
-
 TEST_F(LayerFiles, OtherExtensionsAreTold) {
   EXPECT_EQ("x.txt: unknown kind of file. Choose one with the extension .bil, .asc, .shp or .lst.",
             ErrorOf("x.txt", "x"));

@@ -177,20 +177,22 @@ TEST_F(MissingFileTest, WithoutCaptionAndMessageThePromptHasItsOwn) {
 struct CheckingHost final : IFileCheck {
   bool CanOpen(const std::string& path) override {
     Asked.push_back(path);
+    if (!Error.empty()) throw RunTimeError(kErrorFileFormat, Error);
     return Answer;
   }
   std::vector<std::string> Asked;
+  std::string Error;
   bool Answer = true;
 };
 
 class BrowseTest : public FilesTest {
  protected:
-  BrowseTest() { modMain::FileCheck(&check); }
-  ~BrowseTest() override { modMain::FileCheck(nullptr); }
+  BrowseTest() { CCommonMapDialogs::FileCheck(&check); }
+  ~BrowseTest() override { CCommonMapDialogs::FileCheck(nullptr); }
   void Browse() { modMain::BrowseDataFile(desktop(), 0, nullptr, browsed); }
 
   CheckingHost check;
-  modMain::BrowsedFile browsed{"before", false};
+  BrowseRequest browsed{"before", false};
 };
 
 TEST_F(BrowseTest, AFileThatPassesTheHostsCheckIsTaken) {
@@ -207,6 +209,30 @@ TEST_F(BrowseTest, AFileThatFailsTheHostsCheckIsNamedAndCancelled) {
   Browse();
   EXPECT_EQ(folder.PathOf("heights.bil"), browsed.FileName);
   EXPECT_TRUE(browsed.Cancel);
+  EXPECT_EQ("", browsed.Refusal);
+}
+
+TEST_F(BrowseTest, ACheckThatThrowsTellsWhyTheFileIsRefused) {
+  check.Error = "heights.bil has no heights";
+  ExpectPick({"heights.bil"});
+  Browse();
+  EXPECT_TRUE(browsed.Cancel);
+  EXPECT_EQ("heights.bil has no heights", browsed.Refusal);
+}
+
+TEST_F(BrowseTest, TheCheckOfThePageStandsBehindTheHosts) {
+  CheckingHost own;
+  own.Answer = false;
+  browsed.Check = &own;
+  ExpectPick({"heights.bil"});
+  Browse();
+  EXPECT_FALSE(browsed.Cancel);
+  EXPECT_TRUE(own.Asked.empty());
+  CCommonMapDialogs::FileCheck(nullptr);
+  ExpectPick({"heights.bil"});
+  Browse();
+  EXPECT_TRUE(browsed.Cancel);
+  EXPECT_EQ(1u, own.Asked.size());
 }
 
 TEST_F(BrowseTest, CancelLeavesTheNameAsItWas) {
@@ -217,11 +243,22 @@ TEST_F(BrowseTest, CancelLeavesTheNameAsItWas) {
   EXPECT_TRUE(check.Asked.empty());
 }
 
-TEST_F(BrowseTest, WithoutAHostsCheckAFileHasToBeReadable) {
-  modMain::FileCheck(nullptr);
+TEST_F(BrowseTest, WithoutAnyCheckAFileThatIsGoneIsRefused) {
+  CCommonMapDialogs::FileCheck(nullptr);
+  ExpectPick({"heights.bil"});
+  // Between the choice and the check.
+  script.WhenEventsPend = [this] { std::filesystem::remove(std::filesystem::path(folder.PathOf("heights.bil"))); };
+  Browse();
+  EXPECT_TRUE(browsed.Cancel);
+  EXPECT_EQ("heights.bil: file not found.", browsed.Refusal);
+}
+
+TEST_F(BrowseTest, WithoutAnyCheckAFileHasToBeReadable) {
+  CCommonMapDialogs::FileCheck(nullptr);
   ExpectPick({"heights.bil"});
   Browse();
   EXPECT_FALSE(browsed.Cancel);
+  EXPECT_EQ(std::nullopt, browsed.Refusal);
 }
 
 }  // namespace

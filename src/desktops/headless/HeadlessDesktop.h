@@ -20,6 +20,8 @@ class HeadlessDesktop final : public Desktop {
   Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
   numbers::Separators Separators() const override { return mSeparators; }
   SettingsStore& Settings() override { return *mSettings; }
+  /// Replaces the store, which is in memory at first. Never null.
+  void Settings(std::unique_ptr<SettingsStore> value) { mSettings = std::move(value); }
 
   /// The size of the screen in twips; 1920 x 1080 pixels unless set.
   void ScreenSize(Size value) { mScreen = value; }

@@ -1,6 +1,7 @@
 #include "maplibrary/drawing/ClipLine.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace orx::maplibrary {
@@ -16,6 +17,8 @@ struct Segment {
 std::optional<Segment> Clipped(const Segment& whole, const Rect& frame) {
   const double dx = whole.To.X - whole.From.X;
   const double dy = whole.To.Y - whole.From.Y;
+  // Places that were moved beyond all numbers stand nowhere.
+  if (!std::isfinite(dx) || !std::isfinite(dy)) return std::nullopt;
   double start = 0;
   double end = 1;
   const auto cut = [&](double direction, double room) {
@@ -28,7 +31,11 @@ std::optional<Segment> Clipped(const Segment& whole, const Rect& frame) {
   const bool isSeen = cut(-dx, whole.From.X - frame.Left) && cut(dx, frame.Right() - whole.From.X) &&
                       cut(-dy, whole.From.Y - frame.Top) && cut(dy, frame.Bottom() - whole.From.Y);
   if (!isSeen) return std::nullopt;
-  const auto at = [&](double share) { return PixelPoint{whole.From.X + share * dx, whole.From.Y + share * dy}; };
+  // Where the ends are very far, what is calculated lies beside the frame.
+  const auto at = [&](double share) {
+    return PixelPoint{std::clamp<double>(whole.From.X + share * dx, frame.Left, frame.Right()),
+                      std::clamp<double>(whole.From.Y + share * dy, frame.Top, frame.Bottom())};
+  };
   return Segment{start > 0 ? at(start) : whole.From, end < 1 ? at(end) : whole.To};
 }
 

@@ -1,4 +1,5 @@
 // Reader of ESRI ASCII grids: a few named fields, then the values as text, row by row from the north.
+#include <algorithm>
 #include <limits>
 
 #include "maplibrary/files/FileAccess.h"
@@ -30,6 +31,8 @@ class Words {
     mRest.remove_prefix(word.size());
     return word;
   }
+  /// More words than this cannot follow.
+  std::size_t Most() const { return mRest.size() / 2 + 1; }
 
  private:
   static constexpr std::string_view kBlanks = " \t\r\n\v\f";
@@ -40,20 +43,24 @@ bool IsFieldName(std::string_view word) {
   return !word.empty() && ((word[0] >= 'a' && word[0] <= 'z') || (word[0] >= 'A' && word[0] <= 'Z'));
 }
 
-void RequireKnown(const fs::path& path, const std::string& name) {
-  for (const char* known :
-       {"NCOLS", "NROWS", "XLLCORNER", "XLLCENTER", "YLLCORNER", "YLLCENTER", "CELLSIZE", "NODATA_VALUE", "NODATA"}) {
-    if (name == known) return;
-  }
-  FailFile(path, "unknown field " + Quoted(name) + ".");
+bool IsKnown(const std::string& name) {
+  constexpr std::string_view kFields[] = {"NCOLS",     "NROWS",    "XLLCORNER",    "XLLCENTER", "YLLCORNER",
+                                          "YLLCENTER", "CELLSIZE", "NODATA_VALUE", "NODATA"};
+  return std::ranges::find(kFields, name) != std::end(kFields);
 }
 
 GridHeader ReadFields(const fs::path& path, Words& words) {
   GridHeader fields(path);
   while (IsFieldName(words.Peek())) {
     const std::string name = AsciiUpperCase(words.Next());
-    RequireKnown(path, name);
-    fields.Add(name, words.Next());
+    if (IsKnown(name)) {
+      fields.Add(name, words.Next());
+    } else if (fields.IsEmpty()) {
+      // What is no grid at all is not for an error to quote: a list may name any file of the user.
+      FailFile(path, "is no grid, as it does not begin with a field such as NCOLS.");
+    } else {
+      FailFile(path, "unknown field " + Quoted(name) + ".");
+    }
   }
   return fields;
 }
@@ -64,11 +71,11 @@ double FirstCenter(const GridHeader& fields, const std::string& axis, double cel
   return fields.Coordinate(axis + "LLCORNER") + cellSize / 2;
 }
 
-GridData AscFrame(const GridHeader& fields) {
+GridData AscFrame(const GridHeader& fields, std::int64_t mostCells) {
   GridData grid;
   grid.Columns = static_cast<std::int32_t>(fields.Whole("NCOLS", 1, kMaxGridSide));
   grid.Rows = static_cast<std::int32_t>(fields.Whole("NROWS", 1, kMaxGridSide));
-  RequireCellCount(fields.File(), grid.Rows, grid.Columns);
+  RequireCellCount(fields.File(), grid, mostCells);
   grid.CellWidth = grid.CellHeight = fields.CellSize("CELLSIZE");
   grid.UpperLeft.X = FirstCenter(fields, "X", grid.CellWidth);
   grid.UpperLeft.Y = FirstCenter(fields, "Y", grid.CellHeight) + (grid.Rows - 1) * grid.CellHeight;
@@ -86,9 +93,10 @@ std::string CellName(const GridData& grid, std::size_t index) {
   return "row " + std::to_string(index / columns + 1) + ", column " + std::to_string(index % columns + 1);
 }
 
-// The values grow with what the file really holds, so that a header with large sizes cannot claim memory by itself.
+// Room is made for what the file can really hold, so that a header with large sizes cannot claim memory by itself.
 void ReadValues(const fs::path& path, Words& words, GridData& grid) {
   const std::size_t count = static_cast<std::size_t>(grid.Rows) * static_cast<std::size_t>(grid.Columns);
+  grid.Values.reserve(std::min(count, words.Most()));
   for (std::string_view word = words.Next(); !word.empty(); word = words.Next()) {
     if (grid.Values.size() == count) FailFile(path, "too many values: " + ExpectedCount(grid) + ", more found.");
     const std::optional<double> value = NumberFrom(word);
@@ -101,11 +109,11 @@ void ReadValues(const fs::path& path, Words& words, GridData& grid) {
 
 }  // namespace
 
-GridData ReadAsc(const fs::path& path) {
+GridData ReadAsc(const fs::path& path, std::int64_t mostCells) {
   const std::string text = ReadText(path, kMaxTextBytes);
   Words words(text);
   const GridHeader fields = ReadFields(path, words);
-  GridData grid = AscFrame(fields);
+  GridData grid = AscFrame(fields, mostCells);
   ReadValues(path, words, grid);
   return grid;
 }

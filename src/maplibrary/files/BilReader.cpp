@@ -75,11 +75,11 @@ CellLayout LayoutFrom(const GridHeader& fields, std::int64_t columns) {
   return layout;
 }
 
-GridData BilFrame(const GridHeader& fields) {
+GridData BilFrame(const GridHeader& fields, std::int64_t mostCells) {
   GridData grid;
   grid.Rows = static_cast<std::int32_t>(fields.Whole("NROWS", 1, kMaxGridSide));
   grid.Columns = static_cast<std::int32_t>(fields.Whole("NCOLS", 1, kMaxGridSide));
-  RequireCellCount(fields.File(), grid.Rows, grid.Columns);
+  RequireCellCount(fields.File(), grid, mostCells);
   grid.CellWidth = fields.CellSize("XDIM", 1);
   grid.CellHeight = fields.CellSize("YDIM", 1);
   grid.UpperLeft = {fields.Coordinate("ULXMAP", 0), fields.Coordinate("ULYMAP", grid.Rows - 1)};
@@ -133,11 +133,11 @@ void ReadCells(const fs::path& path, std::ifstream& file, const CellLayout& layo
 
 }  // namespace
 
-GridData ReadBil(const fs::path& path) {
+GridData ReadBil(const fs::path& path, std::int64_t mostCells) {
   std::ifstream file = OpenFile(path);
   const GridHeader fields = ReadHeader(HeaderOf(path));
   RequireOneBand(fields);
-  GridData grid = BilFrame(fields);
+  GridData grid = BilFrame(fields, mostCells);
   const CellLayout layout = LayoutFrom(fields, grid.Columns);
   RequireFileSize(path, layout, grid);
   ReadCells(path, file, layout, grid);

@@ -70,10 +70,11 @@ std::string GridHeader::Choice(const std::string& name, const std::string& choic
   Fail(name, list);
 }
 
-void RequireCellCount(const std::filesystem::path& file, std::int64_t rows, std::int64_t columns) {
-  if (rows * columns <= kMaxGridCells) return;
-  FailFile(file, "too large: " + std::to_string(rows) + " rows of " + std::to_string(columns) + " cells, at most " +
-                     std::to_string(kMaxGridCells) + " cells can be read.");
+void RequireCellCount(const std::filesystem::path& file, const GridData& frame, std::int64_t most) {
+  if (std::int64_t{frame.Rows} * frame.Columns <= most) return;
+  FailFile(file, "too large: " + std::to_string(frame.Rows) + " rows of " + std::to_string(frame.Columns) +
+                     " cells, at most " + std::to_string(most) + (most < kMaxGridCells ? " more" : "") +
+                     " cells can be read.");
 }
 
 }  // namespace orx::maplibrary

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "maplibrary/files/GridData.h"
 #include "text/AsciiCase.h"
 
 namespace orx::maplibrary {
@@ -18,6 +19,7 @@ class GridHeader {
   explicit GridHeader(std::filesystem::path file) : mFile(std::move(file)) {}
 
   void Add(std::string_view name, std::string_view value) { mValues[AsciiUpperCase(name)] = std::string(value); }
+  bool IsEmpty() const { return mValues.empty(); }
   bool Has(const std::string& name) const { return mValues.count(name) > 0; }
   const std::filesystem::path& File() const { return mFile; }
 
@@ -39,7 +41,7 @@ class GridHeader {
   std::map<std::string, std::string> mValues;
 };
 
-/// Throws when the grid has more than kMaxGridCells cells.
-void RequireCellCount(const std::filesystem::path& file, std::int64_t rows, std::int64_t columns);
+/// Throws when the grid has more rows and columns than make `most` cells.
+void RequireCellCount(const std::filesystem::path& file, const GridData& frame, std::int64_t most);
 
 }  // namespace orx::maplibrary

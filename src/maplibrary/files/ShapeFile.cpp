@@ -143,7 +143,7 @@ class ShapeReader {
       const std::uint32_t first = mBytes.Little(at);
       const std::uint32_t end = part + 1 < parts ? mBytes.Little(at + 4) : points;
       if (first > end || end > points) Fail(record, "has parts that do not follow each other.");
-      shape.Parts.push_back(PointsOf(record, coordinates, first, end));
+      if (first < end) shape.Parts.push_back(PointsOf(record, coordinates, first, end));
     }
     return shape;
   }

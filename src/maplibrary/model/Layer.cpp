@@ -2,7 +2,6 @@
 
 #include "maplibrary/files/FileAccess.h"
 #include "maplibrary/files/GridData.h"
-#include "maplibrary/files/GridFile.h"
 #include "maplibrary/model/LayerData.h"
 
 namespace orx::maplibrary {
@@ -11,8 +10,8 @@ Layer::Layer(std::string name, std::string source, std::shared_ptr<const GridDat
     : MapLayer(std::move(name), source), mData(std::move(source), std::move(grid)) {
 }
 
-std::unique_ptr<Layer> ReadLayer(const std::string& path) {
-  auto grid = std::make_shared<const GridData>(ReadGridFile(path));
+std::unique_ptr<Layer> ReadLayer(const std::string& path, std::int64_t mostCells) {
+  auto grid = std::make_shared<const GridData>(ReadGridFile(path, mostCells));
   return std::make_unique<Layer>(FileStem(path), path, std::move(grid));
 }
 

@@ -1,10 +1,12 @@
 // A layer of the embedded map that shows one grid.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "maplibrary/files/GridData.h"
+#include "maplibrary/files/GridFile.h"
 #include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/MapLayer.h"
 
@@ -29,7 +31,8 @@ class Layer : public MapLayer {
   LayerData mData;
 };
 
-/// Reads a grid file into a layer that is named after the file. Throws RunTimeError as ReadGridFile does.
-std::unique_ptr<Layer> ReadLayer(const std::string& path);
+/// Reads a grid file of at most `mostCells` into a layer that is named after the file. Throws RunTimeError as
+/// ReadGridFile does.
+std::unique_ptr<Layer> ReadLayer(const std::string& path, std::int64_t mostCells = kMaxGridCells);
 
 }  // namespace orx::maplibrary

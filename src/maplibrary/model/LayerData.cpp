@@ -47,6 +47,10 @@ void LayerData::FileName(const std::string& value) {
   mFile = value;
 }
 
+bool LayerData::CanOpen(const std::string& path) {
+  return !ReadGridFile(path).Values.empty();
+}
+
 void LayerData::ClassifyMethod(std::int32_t value) {
   RequireOneOf("ClassifyMethod", value,
                {classifymethod::kEqualIntervals, classifymethod::kAutomatic, classifymethod::kEqualSteps,

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "hostobjects/IData.h"
+#include "hostobjects/IFileCheck.h"
 #include "maplibrary/files/GridData.h"
 #include "maplibrary/model/GridIsolines.h"
 #include "maplibrary/model/GridShade.h"
@@ -16,7 +17,11 @@ namespace orx::maplibrary {
 /// Classes are automatic at first: colours without steps over the range of all that the map shows. Setters throw
 /// RunTimeError for values that make no sense: unknown methods and styles, no classes, ends that are not finite, sizes
 /// beyond 1000 pixels.
-class LayerData final : public HostObject, public IData, public IClassification, public IDataOptions {
+class LayerData final : public HostObject,
+                        public IData,
+                        public IClassification,
+                        public IDataOptions,
+                        public IFileCheck {
  public:
   /// `grid` must not be null; `file` is where it came from, empty for none.
   LayerData(std::string file, std::shared_ptr<const GridData> grid);
@@ -27,6 +32,8 @@ class LayerData final : public HostObject, public IData, public IClassification,
   std::int32_t ClassCount() override { return mClasses; }
   std::string FileName() override { return mFile; }
   void FileName(const std::string& value) override;
+  /// True when FileName takes the file. Throws what it would throw; the data stay as they are.
+  bool CanOpen(const std::string& path) override;
   double MinimumOfData() override { return mRange ? mRange->Low : kUnknownRangeEnd; }
   double MaximumOfData() override { return mRange ? mRange->High : kUnknownRangeEnd; }
 

@@ -49,6 +49,17 @@ TEST(EventArguments, ReferencesAreAnsweredInTheirOwnType) {
   EXPECT_EQ(VARIANT_TRUE, flag);
 }
 
+TEST(EventArguments, ReferencesToNothingAndVariantsThatReferToThemselvesAreRefused) {
+  OneArgument nowhere(Reference<short>(VT_I2, nullptr));
+  EXPECT_THROW(nowhere.Arguments.Whole(0), RunTimeError);
+  EXPECT_THROW(nowhere.Arguments.Object(0), RunTimeError);
+  EXPECT_THROW(nowhere.Arguments.Answer(0, com::Variant(std::int32_t{1})), RunTimeError);
+  OneArgument itself(VARIANTARG{});
+  itself.Argument = Reference(VT_VARIANT, &itself.Argument);
+  EXPECT_THROW(itself.Arguments.Whole(0), RunTimeError);
+  EXPECT_THROW(itself.Arguments.Answer(0, com::Variant(std::int32_t{1})), RunTimeError);
+}
+
 TEST(EventArguments, TextIsReplacedThroughItsReference) {
   com::Bstr text("old");
   OneArgument argument(Reference(VT_BSTR, text.InOut()));

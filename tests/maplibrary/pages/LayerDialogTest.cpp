@@ -159,12 +159,13 @@ TEST_F(MapLibraryLayerDialogs, ATiledLayerIsMovedOnTheGroundAsTheMapThatItIs) {
   EXPECT_EQ(-80, QueryKind<IExtent>(map->Layer(2))->Right());
 }
 
-TEST_F(MapLibraryLayerDialogs, AChosenFileThatIsNoGridIsNamedAndTheDialogEndsByItsRule) {
+TEST_F(MapLibraryLayerDialogs, AChosenFileThatIsNoGridAnyMoreIsNamedAndTheDialogEndsByItsRule) {
   namespace fs = std::filesystem;
   const fs::path folder =
       fs::weakly_canonical(fs::temp_directory_path()) / ("orx" + std::to_string(std::random_device()()));
   fs::create_directories(folder);
   std::ofstream(folder / "notes.bil") << "no grid";
+  std::ofstream(folder / "notes.hdr") << "NROWS 1\nNCOLS 7\n";
   std::vector<Message> boxes;
   script.Noted = &boxes;
   InDialog("frmDataDialog", [this, folder] {
@@ -174,6 +175,7 @@ TEST_F(MapLibraryLayerDialogs, AChosenFileThatIsNoGridIsNamedAndTheDialogEndsByI
     });
     Press("cmdBrowse");
     EXPECT_NE(before, Seen("txtFile"));
+    fs::remove(folder / "notes.hdr");
     Press("cmdOK");
     EXPECT_FALSE(form->Visible());
     EXPECT_EQ(Pointer::Default, desktop().Pointer());
