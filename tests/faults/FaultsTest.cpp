@@ -2,9 +2,9 @@
 // call a fault happens. Whatever it is, the dialog ends by its rules, and desktop and host are as before.
 #include <iostream>
 
-#include "tests/faults/FaultHost.h"
 #include "tests/faults/FaultScript.h"
 #include "tests/files/FilesTest.h"
+#include "tests/support/DialogCases.h"
 
 namespace orx::test {
 namespace {
@@ -37,7 +37,7 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
   };
 
   /// What the host does in the call. Nothing for faults of the call itself.
-  std::function<void()> HappeningOf(Fault fault, const FaultCase& dialog, FaultHost& host, int at) {
+  std::function<void()> HappeningOf(Fault fault, const DialogCase& dialog, DialogHost& host, int at) {
     switch (fault) {
       case Fault::Closes:
         return [this] {
@@ -65,11 +65,11 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
   }
 
   /// Opens the dialog with the fault in call number `at`, from 0; none for -1.
-  Outcome Run(const FaultCase& dialog, Fault fault, int at) {
+  Outcome Run(const DialogCase& dialog, Fault fault, int at) {
     const bool isNull = fault == Fault::AnswersNull;
     const Failure failure = isNull ? Failure::Null : fault == Fault::ThrowsAnInt ? Failure::Number : Failure::Error;
     FaultPlan plan(at, failure, isNull);
-    FaultHost host(desktop(), dialog.Rules.HasEmbeddedPages, plan);
+    DialogHost host(desktop(), dialog.Rules.HasEmbeddedPages, plan);
     plan.WhenReached = HappeningOf(fault, dialog, host, at);
     Outcome outcome;
     try {
@@ -84,7 +84,7 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
   }
 
   /// What holds after every call, whatever has happened in it.
-  void Check(const FaultCase& dialog, Fault fault, const Outcome& outcome) {
+  void Check(const DialogCase& dialog, Fault fault, const Outcome& outcome) {
     const bool isError =
         fault == Fault::Throws || fault == Fault::ThrowsAnInt || fault == Fault::AnswersNull || fault == Fault::Removes;
     EXPECT_TRUE(outcome.Result == 0 || outcome.Result == -1) << outcome.Result;
@@ -108,7 +108,7 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
 
 TEST_P(Faults, InAnyCallLeaveDesktopAndHostInOrder) {
   int runs = 0;
-  for (const FaultCase& dialog : FaultCases()) {
+  for (const DialogCase& dialog : DialogCases()) {
     const int calls = Run(dialog, GetParam(), -1).Calls;
     ASSERT_GT(calls, 0) << dialog.Name;
     for (int at = 0; at < calls; at += Stride()) {
@@ -137,7 +137,7 @@ class FaultsWithCancel : public Faults {};
 
 TEST_P(FaultsWithCancel, WriteNothing) {
   acts.End = FaultScript::Ending::Cancel;
-  for (const FaultCase& dialog : FaultCases()) {
+  for (const DialogCase& dialog : DialogCases()) {
     const int calls = Run(dialog, GetParam(), -1).Calls;
     for (int at = 0; at < calls; at += Stride()) {
       const Outcome outcome = Run(dialog, GetParam(), at);
@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(Each, FaultsWithCancel, testing::Values(Fault::Throws, 
 class FaultFigures : public Faults {};
 
 TEST_P(FaultFigures, AreTheCallsOfEachDialog) {
-  for (const FaultCase& dialog : FaultCases()) {
+  for (const DialogCase& dialog : DialogCases()) {
     const Outcome outcome = Run(dialog, GetParam(), -1);
     EXPECT_GT(outcome.Calls, 0);
     std::cout << outcome.Calls << " calls: " << dialog.Name << '\n';
