@@ -55,7 +55,7 @@ struct DialogHost {
   /// Takes away what is edited. The objects stay, since a dialog may be in the middle of a call to them.
   void Remove() {
     Layer.Behind = nullptr;
-    GoneLegends = std::move(Legends.Legends);
+    if (GoneLegends.empty()) GoneLegends = std::move(Legends.Legends);
     Ground.HasExtent = false;
     if (Map.Layers.empty()) return;
     Map.Removed.push_back(std::move(Map.Layers.back()));
