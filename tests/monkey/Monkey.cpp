@@ -15,6 +15,15 @@ std::string Difference(const std::string& before, const std::string& after) {
   return "\"" + line(before) + "\" became \"" + line(after) + "\"";
 }
 
+/// True when the selected filter of a dialog for files shows such a name.
+bool Offers(const OpenFileRequest& request, const std::string& name) {
+  const std::vector<FileFilter> filters = FiltersOf(request);
+  const auto selected = static_cast<std::size_t>(std::max(1, request.FilterIndex)) - 1;
+  return selected < filters.size() && std::ranges::any_of(filters[selected].Patterns, [&](const std::string& pattern) {
+           return name.ends_with(pattern.substr(1));
+         });
+}
+
 }  // namespace
 
 Monkey::Monkey(TestDesktop& screen, DialogHost& host, const DialogCase& dialog, FaultPlan& plan, Acts acts,
@@ -120,7 +129,8 @@ bool Monkey::DoNext() {
   --mDepth;
   NoteStrike();
   if (!form->Visible() && endings == mEndings) Complain(form->Name() + " has gone without being told to");
-  if (isOutermost && !mHasErrorStruck && mHost.Screen.Pointer() != Pointer::Default) Complain("the hourglass was left");
+  const bool isWaiting = mHost.Screen.Pointer() == Pointer::Hourglass;
+  if (isOutermost && !mHasErrorStruck && isWaiting) Complain("the hourglass was left");
   return true;
 }
 
@@ -135,10 +145,11 @@ void Monkey::Answer(const Modal& modal) {
   const bool picks = act.AnyWith(3) > 0;
   Say(picks ? "picks what it is asked for" : "picks nothing");
   if (modal.ShownFiles) {
-    if (!picks) return mUser.CancelFiles(*modal.ShownFiles);
+    const std::string name = mFiles.Names.at(act.How % mFiles.Names.size());
+    // The dialogs of some platforms refuse what their filter hides.
+    if (!picks || !Offers(*modal.ShownFiles, name)) return mUser.CancelFiles(*modal.ShownFiles);
     // A file that is chosen is taken at once.
     ++mWritings;
-    const std::string name = mFiles.Names.at(act.How % mFiles.Names.size());
     return mUser.PickFiles(*modal.ShownFiles, {mFiles.Folder, {name}});
   }
   const auto part = [&](int shift) { return static_cast<std::uint8_t>(act.How >> shift); };

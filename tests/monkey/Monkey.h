@@ -57,6 +57,7 @@ class Monkey final : public DesktopHook {
   void PressDialogKey(Form& form, const Act& act);
   void PressMnemonic(Form& form, const Act& act);
   void PressKey(Form& form, const Act& act);
+  void Size(Form& form, const Act& act);
   void CloseBehind(const Form& form, const Act& act);
   void SwitchLanguage(const Act& act);
   void HostFails(const Act& act);

@@ -95,9 +95,7 @@ void Monkey::Do(Form& form, const Act& act) {
     case Deed::CloseBehind:
       return CloseBehind(form, act);
     case Deed::Size:
-      Say("drags its lower edge");
-      if (form.Border() == BorderStyle::SizableHeight) mUser.DragFromBottom(form, 3, act.AnyHow(600) - 300);
-      return;
+      return Size(form, act);
     case Deed::Move:
       Say("moves it");
       return form.Move(act.AnyWith(60000) - 20000, act.AnyHow(60000) - 20000);
@@ -175,7 +173,7 @@ void Monkey::WorkOn(TreeList& list, const Act& act) {
 }
 
 void Monkey::WorkOn(PictureBox& box, const Act& act) {
-  const Size size = box.PixelSize();
+  const orx::Size size = box.PixelSize();
   if (size.Width < 1 || size.Height < 1) return;
   const Point at{act.AnyHow(size.Width), static_cast<int>(act.How >> 16) % size.Height};
   if (act.AnyHow(5) > 0) return mUser.ClickAt(box, at);
@@ -219,6 +217,19 @@ void Monkey::PressKey(Form& form, const Act& act) {
   Say("presses key " + std::to_string(key));
   if (key == kKeyCodeSpace) Pressing(form.ActiveControl());
   mUser.PressKey(form, key);
+}
+
+void Monkey::Size(Form& form, const Act& act) {
+  const Desktop& desktop = form.OwnerDesktop();
+  constexpr int kFromEdge = 2;
+  if (act.AnyWith(2) == 0) {
+    Say("leaves the mouse at its lower edge");
+    form.UserMouseMove({1, desktop.ToPixels(form.ShownClientSize().Height) - kFromEdge});
+  } else if (form.Border() == BorderStyle::SizableHeight) {
+    constexpr int kFarthest = 300;
+    Say("drags its lower edge");
+    mUser.DragFromBottom(form, kFromEdge, act.AnyHow(2 * kFarthest) - kFarthest);
+  }
 }
 
 void Monkey::CloseBehind(const Form& form, const Act& act) {

@@ -78,7 +78,7 @@ void CheckEnd(TestDesktop& screen, const DialogRules& rules, Monkey& monkey) {
   if (!screen.Get().OpenForms().empty()) monkey.Complain("a dialog was left open");
   if (!screen.IsHostInOrder()) monkey.Complain("the host's windows were left out of order");
   const bool mayLeaveHourglass = hasErrorStruck && rules.MayLeaveHourglass;
-  if (!mayLeaveHourglass && screen.Get().Pointer() != Pointer::Default) monkey.Complain("the hourglass was left");
+  if (!mayLeaveHourglass && screen.Get().Pointer() != Pointer::Default) monkey.Complain("the pointer was left");
 }
 
 }  // namespace
@@ -96,6 +96,7 @@ SessionOutcome Session::Run(std::uint32_t seed, int limit) const {
   Monkey monkey(mScreen, host, dialog, plan, Acts(random(), std::min(acts, limit), hostIsKind), mFiles);
   monkey.Listener = Listener;
   mScreen.Get().Hook(&monkey);
+  if (!mScreen.IsHostInOrder()) monkey.Complain("the host's windows are out of order at the start");
   // A dialog that was ended early is opened again, on what it has written.
   constexpr int kRounds = 5;
   for (int round = 0; round < kRounds && host.Service && monkey.IsWilling(); ++round) ShowOnce(host, dialog, monkey);

@@ -187,7 +187,16 @@ class QtUser final : public User {
   void TypeCharacters(Form& form, const std::string& text) override {
     QWidget& dialog = WindowOf(form);
     Activate(dialog);
-    if (dialog.focusWidget()) QTest::keyClicks(dialog.focusWidget(), ToQt(text));
+    const QPointer<QWidget> focused = dialog.focusWidget();
+    for (const char32_t character : ToQt(text).toUcs4()) {
+      if (!focused) return;
+      // The toolkit's test library knows the keys of these characters only.
+      if (character < 0x80) {
+        QTest::keyClick(focused, static_cast<char>(character));
+      } else {
+        QTest::sendKeyEvent(QTest::Click, focused, Qt::Key(0), QString::fromUcs4(&character, 1), Qt::NoModifier);
+      }
+    }
   }
 
   void DragFromBottom(Form& form, int above, int by) override {
@@ -326,6 +335,14 @@ class QtTestDesktop final : public TestDesktop {
   Desktop& Get() override { return mDesktop; }
   User& Person() override { return mUser; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+  bool IsHostInOrder() override {
+    return !QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !QApplication::overrideCursor();
+  }
+  int NativeObjects() override {
+    // Those that wait to be deleted are as good as gone.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return static_cast<int>(QApplication::allWidgets().size());
+  }
 
  private:
   qt::QtDesktop mDesktop;

@@ -11,6 +11,7 @@
 #include "tests/support/User.h"
 #include "tests/support/Win32CommonDialogs.h"
 #include "tests/support/Win32Rows.h"
+#include "tests/win32/GdiObjects.h"
 
 namespace orx::test {
 namespace {
@@ -356,8 +357,21 @@ class Win32TestDesktop final : public TestDesktop {
   User& Person() override { return mUser; }
   int Patience() const override { return 600; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+  bool IsHostInOrder() override {
+    // The host shows a window from the first time on that it is asked for.
+    if (!mHostWindow)
+      mHostWindow = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                                    nullptr, nullptr, nullptr);
+    return IsWindowEnabled(mHostWindow);
+  }
+  int NativeObjects() override { return GdiObjects(); }
+
+  ~Win32TestDesktop() override {
+    if (mHostWindow) DestroyWindow(mHostWindow);
+  }
 
  private:
+  HWND mHostWindow = nullptr;
   win32::Win32Desktop mDesktop;
   Win32User mUser{mDesktop};
 };
