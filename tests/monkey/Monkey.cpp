@@ -125,7 +125,11 @@ bool Monkey::DoNext() {
   const std::shared_ptr<Form> keep = form->shared_from_this();
   const int endings = mEndings;
   const bool isOutermost = mDepth++ == 0;
-  Do(*form, *act);
+  try {
+    Do(*form, *act);
+  } catch (...) {
+    Complain("an error has come out of an act of the user");
+  }
   --mDepth;
   NoteStrike();
   if (!form->Visible() && endings == mEndings) Complain(form->Name() + " has gone without being told to");

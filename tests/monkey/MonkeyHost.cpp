@@ -55,7 +55,7 @@ void Monkey::HostChanges(const Act& act) {
       mHost.Map.Add("new");
       break;
     case 5:
-      mHost.Small->MoveLayerUp(2);
+      if (mHost.Small->LayerCount() > 1) mHost.Small->MoveLayerUp(2);
       break;
     case 6:
       mHost.Shade.HeldAltitude = count;

@@ -64,7 +64,7 @@ TEST_F(MonkeySessions, LeaveDesktopAndHostInOrder) {
   std::uint32_t seed = first;
   for (; done < total; ++seed) {
     // The last line of a program that dies or hangs.
-    std::cerr << "monkey " << seed << std::endl;
+    std::cerr << "monkey " << seed << " " << testDesktop().NativeObjects() << std::endl;
     const SessionOutcome outcome = session.Run(seed, Session::kNoLimit);
     if (!outcome.Complaint.empty()) FAIL() << Told(seed, Shortest(seed));
     done += outcome.Acts;

@@ -336,7 +336,8 @@ class QtTestDesktop final : public TestDesktop {
   User& Person() override { return mUser; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
   bool IsHostInOrder() override {
-    return !QApplication::activeModalWidget() && !QApplication::activePopupWidget() && !QApplication::overrideCursor();
+    const bool hasPlainPointer = mDesktop.Pointer() != Pointer::Default || !QApplication::overrideCursor();
+    return hasPlainPointer && !QApplication::activeModalWidget() && !QApplication::activePopupWidget();
   }
   int NativeObjects() override {
     // Those that wait to be deleted are as good as gone.
