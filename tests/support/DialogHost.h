@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/Form.h"
 #include "maplibrary/model/Map.h"
 #include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
