@@ -203,12 +203,14 @@ class QtUser final : public User {
     QWidget& dialog = WindowOf(form);
     Activate(dialog);
     const QPoint from(dialog.width() / 2, dialog.height() - above);
-    QWindow& window = *dialog.windowHandle();
-    QTest::mouseMove(&window, from);
-    QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, from);
-    QTest::mouseMove(&window, from + QPoint(0, by));
-    QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, from + QPoint(0, by));
-    QTest::mouseMove(&window, QPoint(from.x(), 1));
+    const QPoint to = from + QPoint(0, by);
+    // Each step may close the dialog.
+    const QPointer<QWindow> window = dialog.windowHandle();
+    if (window) QTest::mouseMove(window, from);
+    if (window) QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+    if (window) QTest::mouseMove(window, to);
+    if (window) QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
+    if (window) QTest::mouseMove(window, QPoint(from.x(), 1));
     QCoreApplication::processEvents();
   }
 

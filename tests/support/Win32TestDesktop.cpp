@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "desktops/win32/Peer.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Text.h"
@@ -362,7 +364,10 @@ class Win32TestDesktop final : public TestDesktop {
     if (!mHostWindow)
       mHostWindow = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
                                     nullptr, nullptr, nullptr);
-    return IsWindowEnabled(mHostWindow);
+    if (IsWindowEnabled(mHostWindow)) return true;
+    // The next session is not to suffer from this one.
+    DestroyWindow(std::exchange(mHostWindow, nullptr));
+    return false;
   }
   int NativeObjects() override { return GdiObjects(); }
 
