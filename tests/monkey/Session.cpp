@@ -89,7 +89,7 @@ SessionOutcome Session::Run(std::uint32_t seed, int limit) const {
   std::mt19937 random(seed);
   const DialogCase& dialog = kScenes[random() % kScenes.size()];
   const bool hostIsKind = random() % 2 == 0;
-  const int acts = 20 + static_cast<int>(random() % 100);
+  const int acts = kFewestActs + static_cast<int>(random() % (kMostActs - kFewestActs + 1));
   FaultPlan plan;
   DialogHost host(mScreen.Get(), dialog.Rules.HasEmbeddedPages, plan);
   KeepPlace(host, random);

@@ -31,8 +31,9 @@ class Session {
   /// Is told what is done while it is done, for sessions that do not come to their end.
   std::ostream* Listener = nullptr;
 
-  /// More acts than any session has.
-  static constexpr int kNoLimit = 1000;
+  /// No session has more acts, and none fewer unless told.
+  static constexpr int kMostActs = 119;
+  static constexpr int kFewestActs = 20;
 
  private:
   TestDesktop& mScreen;
