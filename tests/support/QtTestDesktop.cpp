@@ -51,11 +51,15 @@ void Activate(QWidget& widget) {
   if (!QTest::qWaitForWindowActive(&window, 1000)) QApplication::setActiveWindow(&window);
 }
 
-/// Clicks through the window, as the mouse does: what covers the widget or is disabled gets in the way.
+/// Clicks through the window, as the mouse does: what is disabled gets in the way. Where the widget is covered or cut
+/// off the user does not find it.
 void MouseClick(QWidget& widget, QPoint at) {
   Activate(widget);
   QWidget& window = *widget.window();
-  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, widget.mapTo(&window, at));
+  const QPoint place = widget.mapTo(&window, at);
+  const QWidget* const hit = window.childAt(place);
+  if (!hit || (hit != &widget && !widget.isAncestorOf(hit))) return;
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
 void MouseClick(QWidget& widget) {

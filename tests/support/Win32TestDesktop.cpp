@@ -285,14 +285,15 @@ class Win32User final : public User {
     MouseClickAt(window, {client.right / 2, client.bottom / 2});
   }
 
-  /// Clicks through the top window, as the mouse does: what covers the window or is disabled gets in the way.
+  /// Clicks through the top window, as the mouse does: what is disabled gets in the way. Where the window is covered or
+  /// cut off the user does not find it.
   void MouseClickAt(HWND window, POINT at, UINT press = WM_LBUTTONDOWN) {
     Activate(window);
     const HWND root = GetAncestor(window, GA_ROOT);
     POINT place = at;
     MapWindowPoints(window, root, &place, 1);
     const HWND hit = WindowAt(root, place);
-    if (!hit || !IsReallyEnabled(hit)) return;
+    if ((hit != window && !IsChild(window, hit)) || !IsReallyEnabled(hit)) return;
     MapWindowPoints(root, hit, &place, 1);
     const LPARAM where = MAKELPARAM(place.x, place.y);
     PostMessageW(hit, press, MK_LBUTTON, where);
