@@ -97,6 +97,8 @@ void frmDataDialog::Form_MouseDown(Point at) {
 }
 
 void frmDataDialog::Form_Unload() {
+  // The mouse may still be where the strip was, if the user ended the dialog by a key.
+  if (OwnerDesktop().Pointer() == Pointer::SizeNS) OwnerDesktop().Pointer(Pointer::Default);
   PageHostForm::Form_Unload();
   // A form whose page could not be made has never been put anywhere.
   if (!HasPages()) return;

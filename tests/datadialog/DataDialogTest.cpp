@@ -214,6 +214,17 @@ TEST_F(DataDialog, ThePointerIsPutBackOnlyWhenItIsAnother) {
   });
 }
 
+TEST_F(DataDialog, ThePointerIsPutBackWhenTheDialogIsEndedByAKeyWithTheMouseOnTheStrip) {
+  for (const KeyStroke& key : {kEscape, kEnter}) {
+    Show([&](frmDataDialog& form) {
+      form.UserMouseMove({50, form.SizingStrip().Top});
+      EXPECT_EQ(Pointer::SizeNS, desktop().Pointer());
+      user.Press(form, key);
+    });
+    EXPECT_EQ(Pointer::Default, desktop().Pointer());
+  }
+}
+
 TEST_F(DataDialog, TheRequestsOfThePageOpenTheirDialogs) {
   RecordedData data;
   Show([&](frmDataDialog&) {

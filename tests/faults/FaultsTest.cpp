@@ -2,24 +2,12 @@
 // call a fault happens. Whatever it is, the dialog ends by its rules, and desktop and host are as before.
 #include <iostream>
 
-#include "tests/faults/FaultHost.h"
 #include "tests/faults/FaultScript.h"
 #include "tests/files/FilesTest.h"
+#include "tests/support/HostFaults.h"
 
 namespace orx::test {
 namespace {
-
-enum class Fault { Throws, ThrowsAnInt, Closes, LosesItsOwner, Nests, Removes, AnswersNull, ActsAtRandom, Destroys };
-
-const char* NameOf(Fault fault) {
-  constexpr const char* kNames[] = {"throws",          "throws an int",  "closes",
-                                    "loses its owner", "opens the same", "removes",
-                                    "answers null",    "acts at random", "destroys the service"};
-  return kNames[static_cast<int>(fault)];
-}
-
-/// Desktops that allow this many acts in a row are fast enough for a closer look.
-constexpr int kManyActs = 10000;
 
 class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
  protected:
@@ -36,41 +24,16 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
     std::vector<std::string> Writes;
   };
 
-  /// What the host does in the call. Nothing for faults of the call itself.
-  std::function<void()> HappeningOf(Fault fault, const FaultCase& dialog, FaultHost& host, int at) {
-    switch (fault) {
-      case Fault::Closes:
-        return [this] {
-          if (Form* const top = acts.Top()) user.CloseBox(*top);
-        };
-      case Fault::LosesItsOwner:
-        return [this, &host] {
-          const std::shared_ptr<Form> loading = host.Pages.Loading.lock();
-          if (Form* const top = acts.Top() ? acts.Top() : loading.get()) top->WindowLost();
-        };
-      case Fault::Nests:
-        return [&] { dialog.Show(host); };
-      case Fault::Removes:
-        return [&host] { host.Remove(); };
-      case Fault::ActsAtRandom:
-        return [this, at] {
-          std::mt19937 random(static_cast<unsigned>(at));
-          acts.ActAtRandom(random);
-        };
-      case Fault::Destroys:
-        return [&host] { host.Service.reset(); };
-      default:
-        return nullptr;
-    }
-  }
-
   /// Opens the dialog with the fault in call number `at`, from 0; none for -1.
-  Outcome Run(const FaultCase& dialog, Fault fault, int at) {
-    const bool isNull = fault == Fault::AnswersNull;
-    const Failure failure = isNull ? Failure::Null : fault == Fault::ThrowsAnInt ? Failure::Number : Failure::Error;
-    FaultPlan plan(at, failure, isNull);
-    FaultHost host(desktop(), dialog.Rules.HasEmbeddedPages, plan);
-    plan.WhenReached = HappeningOf(fault, dialog, host, at);
+  Outcome Run(const DialogCase& dialog, Fault fault, int at) {
+    FaultPlan plan;
+    DialogHost host(desktop(), dialog.Rules.HasEmbeddedPages, plan);
+    const FaultScene scene{host, dialog, user, [this] { return acts.Top(); },
+                           [this, at] {
+                             std::mt19937 random(static_cast<unsigned>(at));
+                             acts.ActAtRandom(random);
+                           }};
+    plan = PlanOf(fault, at, scene);
     Outcome outcome;
     try {
       outcome.Result = dialog.Show(host);
@@ -84,14 +47,12 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
   }
 
   /// What holds after every call, whatever has happened in it.
-  void Check(const FaultCase& dialog, Fault fault, const Outcome& outcome) {
-    const bool isError =
-        fault == Fault::Throws || fault == Fault::ThrowsAnInt || fault == Fault::AnswersNull || fault == Fault::Removes;
+  void Check(const DialogCase& dialog, Fault fault, const Outcome& outcome) {
     EXPECT_TRUE(outcome.Result == 0 || outcome.Result == -1) << outcome.Result;
-    EXPECT_TRUE(!outcome.HasThrown || (dialog.Rules.MayThrow && isError));
+    EXPECT_TRUE(!outcome.HasThrown || (dialog.Rules.MayThrow && IsError(fault)));
     EXPECT_FALSE(desktop().HasModalForm());
     EXPECT_TRUE(desktop().OpenForms().empty());
-    const bool mayLeaveHourglass = isError && dialog.Rules.MayLeaveHourglass;
+    const bool mayLeaveHourglass = IsError(fault) && dialog.Rules.MayLeaveHourglass;
     EXPECT_TRUE(mayLeaveHourglass || desktop().Pointer() == Pointer::Default);
     desktop().Pointer(Pointer::Default);
   }
@@ -99,7 +60,7 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
   /// Where acts take their time, every n-th call only; primes, so that each dialog has other ones tried.
   int Stride() {
     if (testDesktop().IsQuick()) return 1;
-    return testDesktop().Patience() < kManyActs ? 97 : 31;
+    return testDesktop().IsSlow() ? 97 : 31;
   }
 
   TestFolder folder;
@@ -108,7 +69,7 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
 
 TEST_P(Faults, InAnyCallLeaveDesktopAndHostInOrder) {
   int runs = 0;
-  for (const FaultCase& dialog : FaultCases()) {
+  for (const DialogCase& dialog : DialogCases()) {
     const int calls = Run(dialog, GetParam(), -1).Calls;
     ASSERT_GT(calls, 0) << dialog.Name;
     for (int at = 0; at < calls; at += Stride()) {
@@ -123,21 +84,17 @@ TEST_P(Faults, InAnyCallLeaveDesktopAndHostInOrder) {
   RecordProperty("runs", runs);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Faults,
-                         testing::Values(Fault::Throws, Fault::ThrowsAnInt, Fault::Closes, Fault::LosesItsOwner,
-                                         Fault::Nests, Fault::Removes, Fault::AnswersNull, Fault::ActsAtRandom,
-                                         Fault::Destroys),
-                         [](const testing::TestParamInfo<Fault>& each) {
-                           std::string name = NameOf(each.param);
-                           std::erase(name, ' ');
-                           return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Each, Faults, testing::ValuesIn(kFaults), [](const testing::TestParamInfo<Fault>& each) {
+  std::string name = NameOf(each.param);
+  std::erase(name, ' ');
+  return name;
+});
 
 class FaultsWithCancel : public Faults {};
 
 TEST_P(FaultsWithCancel, WriteNothing) {
   acts.End = FaultScript::Ending::Cancel;
-  for (const FaultCase& dialog : FaultCases()) {
+  for (const DialogCase& dialog : DialogCases()) {
     const int calls = Run(dialog, GetParam(), -1).Calls;
     for (int at = 0; at < calls; at += Stride()) {
       const Outcome outcome = Run(dialog, GetParam(), at);
@@ -161,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(Each, FaultsWithCancel, testing::Values(Fault::Throws, 
 class FaultFigures : public Faults {};
 
 TEST_P(FaultFigures, AreTheCallsOfEachDialog) {
-  for (const FaultCase& dialog : FaultCases()) {
+  for (const DialogCase& dialog : DialogCases()) {
     const Outcome outcome = Run(dialog, GetParam(), -1);
     EXPECT_GT(outcome.Calls, 0);
     std::cout << outcome.Calls << " calls: " << dialog.Name << '\n';

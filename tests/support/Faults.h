@@ -35,7 +35,8 @@ class FaultPlan {
     if (mAt < 0 || call < mAt || (call > mAt && !mLasts)) return true;
     if (call == mAt) {
       mFailed = name;
-      if (WhenReached) return WhenReached(), true;
+      // What happens may put another plan in this one's place.
+      if (const auto happens = std::exchange(WhenReached, nullptr)) return happens(), true;
     }
     if (mFailure == Failure::Error) throw RunTimeError(1001, name + " failed");
     if (mFailure == Failure::Number) throw 7;

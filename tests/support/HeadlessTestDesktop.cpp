@@ -1,6 +1,8 @@
 // The user of the desktop without a screen: acts on the control objects.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "desktops/headless/HeadlessDesktop.h"
 #include "tests/support/User.h"
 #include "text/CharacterCount.h"
@@ -97,7 +99,8 @@ class HeadlessUser final : public User {
     form.UserMouseMove(at);
     form.UserMouseDown(at);
     // Nobody but the form says whether the press has taken hold of the edge.
-    if (desktop.Pointer() == Pointer::SizeNS) form.UserResize({client.Width, client.Height + desktop.ToTwips(by)});
+    if (desktop.Pointer() == Pointer::SizeNS)
+      form.UserResize({client.Width, std::max(0, client.Height + desktop.ToTwips(by))});
     form.UserMouseMove({at.X, 0});
   }
 

@@ -1,45 +1,19 @@
 #include "tests/support/MapText.h"
 
 #include <bit>
-#include <charconv>
 #include <cstdint>
 
 #include "maplibrary/files/GridData.h"
 #include "maplibrary/model/LayerData.h"
 #include "maplibrary/model/TiledLayer.h"
+#include "tests/support/ExactText.h"
 
 namespace orx::test {
 namespace {
 
 using namespace maplibrary;
 
-std::string Text(double value) {
-  char digits[40];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value, std::chars_format::hex).ptr;
-  return std::string(digits, end);
-}
-
-/// Quotes and line ends are escaped, so that no name can look like another line.
-std::string Text(const std::string& value) {
-  std::string text = "\"";
-  for (const char c : value) {
-    if (c == '"' || c == '\\') text += '\\';
-    text += c == '\n' ? "\\n" : std::string(1, c);
-  }
-  return text + '"';
-}
-
-std::string Text(const Font& font) {
-  std::string flags;
-  for (const bool flag : {font.Bold, font.Italic, font.Underline, font.Strikethrough}) flags += flag ? '1' : '0';
-  return Text(font.Name) + " " + Text(font.Size) + " " + flags;
-}
-
-std::string Text(const Color& color) {
-  return std::to_string(color.Red) + " " + std::to_string(color.Green) + " " + std::to_string(color.Blue);
-}
-
-std::string Text(const GroundRect& rect) {
+std::string Edges(const GroundRect& rect) {
   return Text(rect.Left) + " " + Text(rect.Right) + " " + Text(rect.Bottom) + " " + Text(rect.Top);
 }
 
@@ -60,7 +34,7 @@ class Lines {
   void Begin(const std::string& object) { mObject = object; }
   void Add(const char* member, const std::string& value) { mText += mObject + " " + member + " " + value + "\n"; }
   void AddExtent(const PlacedExtent& extent) {
-    Add("Extent", Text(extent.Current()) + (extent.IsPlaced() ? " placed" : " natural"));
+    Add("Extent", Edges(extent.Current()) + (extent.IsPlaced() ? " placed" : " natural"));
   }
   const std::string& All() const { return mText; }
 
@@ -70,7 +44,7 @@ class Lines {
 };
 
 void AddGrid(Lines& lines, const GridData& grid) {
-  lines.Add("Grid", std::to_string(grid.Rows) + " " + std::to_string(grid.Columns) + " " + Text(grid.Edges()) + " " +
+  lines.Add("Grid", std::to_string(grid.Rows) + " " + std::to_string(grid.Columns) + " " + Edges(grid.Edges()) + " " +
                         std::to_string(CheckSum(grid.Values)));
 }
 
@@ -157,7 +131,7 @@ void AddLayer(Lines& lines, const std::string& object, const MapLayer& layer) {
   if (const auto* single = dynamic_cast<const Layer*>(&layer)) AddData(lines, single->Data());
   const auto* tiled = dynamic_cast<const TiledLayer*>(&layer);
   if (!tiled) return;
-  lines.Add("Frame", Text(tiled->Frame()));
+  lines.Add("Frame", Edges(tiled->Frame()));
   for (std::int32_t i = 1; i <= tiled->Tiles().Count(); ++i) {
     AddLayer(lines, object + "." + std::to_string(i), tiled->Tiles().At(i));
   }

@@ -51,11 +51,15 @@ void Activate(QWidget& widget) {
   if (!QTest::qWaitForWindowActive(&window, 1000)) QApplication::setActiveWindow(&window);
 }
 
-/// Clicks through the window, as the mouse does: what covers the widget or is disabled gets in the way.
+/// Clicks through the window, as the mouse does: what is disabled gets in the way. Where the widget is covered or cut
+/// off the user does not find it.
 void MouseClick(QWidget& widget, QPoint at) {
   Activate(widget);
   QWidget& window = *widget.window();
-  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, widget.mapTo(&window, at));
+  const QPoint place = widget.mapTo(&window, at);
+  const QWidget* const hit = window.childAt(place);
+  if (!hit || (hit != &widget && !widget.isAncestorOf(hit))) return;
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
 void MouseClick(QWidget& widget) {
@@ -187,19 +191,30 @@ class QtUser final : public User {
   void TypeCharacters(Form& form, const std::string& text) override {
     QWidget& dialog = WindowOf(form);
     Activate(dialog);
-    if (dialog.focusWidget()) QTest::keyClicks(dialog.focusWidget(), ToQt(text));
+    const QPointer<QWidget> focused = dialog.focusWidget();
+    for (const char32_t character : ToQt(text).toUcs4()) {
+      if (!focused) return;
+      // The toolkit's test library knows the keys of these characters only.
+      if (character < 0x80) {
+        QTest::keyClick(focused, static_cast<char>(character));
+      } else {
+        QTest::sendKeyEvent(QTest::Click, focused, Qt::Key(0), QString::fromUcs4(&character, 1), Qt::NoModifier);
+      }
+    }
   }
 
   void DragFromBottom(Form& form, int above, int by) override {
     QWidget& dialog = WindowOf(form);
     Activate(dialog);
     const QPoint from(dialog.width() / 2, dialog.height() - above);
-    QWindow& window = *dialog.windowHandle();
-    QTest::mouseMove(&window, from);
-    QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, from);
-    QTest::mouseMove(&window, from + QPoint(0, by));
-    QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, from + QPoint(0, by));
-    QTest::mouseMove(&window, QPoint(from.x(), 1));
+    const QPoint to = from + QPoint(0, by);
+    // Each step may close the dialog.
+    const QPointer<QWindow> window = dialog.windowHandle();
+    if (window) QTest::mouseMove(window, from);
+    if (window) QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
+    if (window) QTest::mouseMove(window, to);
+    if (window) QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
+    if (window) QTest::mouseMove(window, QPoint(from.x(), 1));
     QCoreApplication::processEvents();
   }
 
@@ -326,6 +341,15 @@ class QtTestDesktop final : public TestDesktop {
   Desktop& Get() override { return mDesktop; }
   User& Person() override { return mUser; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+  bool IsHostInOrder() override {
+    const bool hasPlainPointer = mDesktop.Pointer() != Pointer::Default || !QApplication::overrideCursor();
+    return hasPlainPointer && !QApplication::activeModalWidget() && !QApplication::activePopupWidget();
+  }
+  int NativeObjects() override {
+    // Those that wait to be deleted are as good as gone.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return static_cast<int>(QApplication::allWidgets().size());
+  }
 
  private:
   qt::QtDesktop mDesktop;

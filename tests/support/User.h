@@ -112,6 +112,12 @@ class TestDesktop {
   virtual int Patience() const { return 10000; }
   /// True when dialogs cost next to nothing, so that a test may open thousands of them.
   virtual bool IsQuick() const { return false; }
+  /// True when an act takes some hundredths of a second.
+  bool IsSlow() const { return Patience() < 10000; }
+  /// True when the native windows around the dialogs are as a host wants them: none is disabled, or kept from the user.
+  virtual bool IsHostInOrder() { return true; }
+  /// The number of objects of the platform that are in use: pens and fonts, or widgets.
+  virtual int NativeObjects() { return 0; }
   /// Gives the number separators of the user's locale for this test.
   virtual void Separators(const numbers::Separators& value) = 0;
 };

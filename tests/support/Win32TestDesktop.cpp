@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "desktops/win32/Peer.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Text.h"
@@ -11,6 +13,7 @@
 #include "tests/support/User.h"
 #include "tests/support/Win32CommonDialogs.h"
 #include "tests/support/Win32Rows.h"
+#include "tests/win32/GdiObjects.h"
 
 namespace orx::test {
 namespace {
@@ -282,14 +285,15 @@ class Win32User final : public User {
     MouseClickAt(window, {client.right / 2, client.bottom / 2});
   }
 
-  /// Clicks through the top window, as the mouse does: what covers the window or is disabled gets in the way.
+  /// Clicks through the top window, as the mouse does: what is disabled gets in the way. Where the window is covered or
+  /// cut off the user does not find it.
   void MouseClickAt(HWND window, POINT at, UINT press = WM_LBUTTONDOWN) {
     Activate(window);
     const HWND root = GetAncestor(window, GA_ROOT);
     POINT place = at;
     MapWindowPoints(window, root, &place, 1);
     const HWND hit = WindowAt(root, place);
-    if (!hit || !IsReallyEnabled(hit)) return;
+    if ((hit != window && !IsChild(window, hit)) || !IsReallyEnabled(hit)) return;
     MapWindowPoints(root, hit, &place, 1);
     const LPARAM where = MAKELPARAM(place.x, place.y);
     PostMessageW(hit, press, MK_LBUTTON, where);
@@ -356,8 +360,24 @@ class Win32TestDesktop final : public TestDesktop {
   User& Person() override { return mUser; }
   int Patience() const override { return 600; }
   void Separators(const numbers::Separators& value) override { mDesktop.Separators(value); }
+  bool IsHostInOrder() override {
+    // The host shows a window from the first time on that it is asked for.
+    if (!mHostWindow)
+      mHostWindow = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                                    nullptr, nullptr, nullptr);
+    if (IsWindowEnabled(mHostWindow)) return true;
+    // The next session is not to suffer from this one.
+    DestroyWindow(std::exchange(mHostWindow, nullptr));
+    return false;
+  }
+  int NativeObjects() override { return GdiObjects(); }
+
+  ~Win32TestDesktop() override {
+    if (mHostWindow) DestroyWindow(mHostWindow);
+  }
 
  private:
+  HWND mHostWindow = nullptr;
   win32::Win32Desktop mDesktop;
   Win32User mUser{mDesktop};
 };

@@ -1,4 +1,4 @@
-// A host for one run with a fault: everything that the dialogs can be given, each object of which asks the plan.
+// A host of all dialogs: everything that they can be given, each object of which asks a plan of faults.
 #pragma once
 
 #include <functional>
@@ -6,9 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "forms/Form.h"
+#include "maplibrary/model/Map.h"
 #include "pages/PageFactory.h"
 #include "service/CCommonMapDialogs.h"
 #include "tests/georeference/GroundMap.h"
+#include "tests/maplibrary/SmallGrids.h"
 #include "tests/maplibrary/pages/RecordedObjects.h"
 #include "tests/support/ModelMap.h"
 #include "tests/support/RecordedData.h"
@@ -34,24 +37,26 @@ class WatchedPages final : public IPageFactory {
   FaultPlan& mPlan;
 };
 
-struct FaultHost {
-  FaultHost(Desktop& desktop, bool hasEmbeddedPages, FaultPlan& plan)
+struct DialogHost {
+  DialogHost(Desktop& desktop, bool hasEmbeddedPages, FaultPlan& plan)
       : Screen(desktop), Pages(hasEmbeddedPages ? static_cast<IPageFactory&>(Embedded) : Own, plan) {
     Map.IsMap = true;
     Map.Faults = &plan;
     for (const char* const name : {"Roads", "Terrain"}) Map.Add(name);
     Map.AddTiled("Hills", 2);
-    Layer.Behind = &Data;
+    Layer.Behind = &Grid;
+    Grid.Faults = &plan;
     Legends.Legends.emplace_back(Legends.Log, "Elevation");
     Service->CallBack(&CallBack);
     Service->Language(&Language);
     Log.Faults = Data.Log.Faults = Layer.Log.Faults = Legends.Log.Faults = Ground.Log.Faults = &plan;
+    Shade.Log.Faults = Isolines.Log.Faults = &plan;
   }
 
   /// Takes away what is edited. The objects stay, since a dialog may be in the middle of a call to them.
   void Remove() {
     Layer.Behind = nullptr;
-    GoneLegends = std::move(Legends.Legends);
+    if (GoneLegends.empty()) GoneLegends = std::move(Legends.Legends);
     Ground.HasExtent = false;
     if (Map.Layers.empty()) return;
     Map.Removed.push_back(std::move(Map.Layers.back()));
@@ -60,10 +65,14 @@ struct FaultHost {
   /// The setters of the objects that were called.
   std::vector<std::string> Writes() const {
     std::vector<std::string> writes = Layer.Log.Calls;
-    for (const std::vector<std::string>& more : {Data.Writes(), Legends.Log.Calls, Ground.Writes()})
+    for (const std::vector<std::string>& more :
+         {Data.Writes(), Legends.Log.Calls, Ground.Writes(), WritesIn(Shade.Log), WritesIn(Isolines.Log)})
       writes.insert(writes.end(), more.begin(), more.end());
     return writes;
   }
+
+  /// All that the dialogs can change, each value on a line of its own to the last bit.
+  std::string State() const;
 
   Desktop& Screen;
   CallLog Log;
@@ -75,30 +84,20 @@ struct FaultHost {
   ModelMap Map{"whole map"};
   ModelLayers Layers{Map, "All layers"};
   RecordedData Data;
+  RecordedShade Shade;
+  RecordedIsolines Isolines;
+  /// The data of a grid, with shading and contour lines.
+  FaultyObject Grid{[this](const std::type_info& wanted) { return GridView(wanted); }};
   RecordedLayer Layer;
   RecordedLegends Legends;
   std::vector<RecordedLegend> GoneLegends;
   GroundMap Ground;
+  /// A map of the library, which never fails.
+  std::unique_ptr<maplibrary::Map> Small = maplibrary::SmallMap();
   std::unique_ptr<CCommonMapDialogs> Service = std::make_unique<CCommonMapDialogs>(Screen, Pages);
-};
 
-/// What may come of a fault in a dialog.
-struct FaultRules {
-  bool HasEmbeddedPages = false;
-  /// Errors of a page or of the call-back leave the hourglass.
-  bool MayLeaveHourglass = false;
-  /// Errors may reach the host.
-  bool MayThrow = false;
+ private:
+  HostInterface* GridView(const std::type_info& wanted);
 };
-
-/// One dialog as a host opens it.
-struct FaultCase {
-  const char* Name;
-  /// Shows the dialog and returns the result.
-  std::function<std::int32_t(FaultHost&)> Show;
-  FaultRules Rules = {};
-};
-
-const std::vector<FaultCase>& FaultCases();
 
 }  // namespace orx::test
