@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "forms/Desktop.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
@@ -63,6 +64,9 @@ HRESULT ReturnError(const char* source) noexcept {
       throw;
     } catch (const RunTimeError& error) {
       code = CodeOf(error.Number());
+      description = error.what();
+    } catch (const WrongThread& error) {
+      code = RPC_E_WRONG_THREAD;
       description = error.what();
     } catch (const std::bad_alloc&) {
       code = E_OUTOFMEMORY;

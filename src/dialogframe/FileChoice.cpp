@@ -8,6 +8,7 @@
 
 #include "forms/Desktop.h"
 #include "forms/OpenFileRequest.h"
+#include "forms/ProcessWide.h"
 #include "hostobjects/ErrorTrap.h"
 #include "text/AsciiCase.h"
 #include "text/CharacterCount.h"
@@ -74,8 +75,13 @@ const Rule kLayerRules[] = {
     {{".LST"}, "File has to be a List File (*.lst)."},
 };
 
-RememberedChoices theChoices;
-std::int32_t theLastResult = 0;
+ProcessWide<RememberedChoices>& SharedChoices() {
+  static ProcessWide<RememberedChoices> choices;
+  return choices;
+}
+
+/// Of the dialog that this thread has shown, which another thread's dialog does not change.
+thread_local std::int32_t theLastResult = 0;
 
 /// The remembered choice of one kind.
 struct Choice {
@@ -83,9 +89,9 @@ struct Choice {
   std::int32_t& FilterIndex;
 };
 
-Choice ChoiceOf(FileKind kind) {
-  if (kind == FileKind::Data) return {theChoices.DataFolder, theChoices.DataFilterIndex};
-  return {theChoices.LayerFolder, theChoices.LayerFilterIndex};
+Choice ChoiceOf(RememberedChoices& choices, FileKind kind) {
+  if (kind == FileKind::Data) return {choices.DataFolder, choices.DataFilterIndex};
+  return {choices.LayerFolder, choices.LayerFilterIndex};
 }
 
 /// The rule for a kind and the filter that the user left selected, or null if there is none.
@@ -95,11 +101,12 @@ const Rule* RuleOf(FileKind kind, std::int32_t filter) {
   return isKnown ? &kLayerRules[filter - 1] : nullptr;
 }
 
-void SetFirstChoices(ErrorTrap& trap) {
-  for (std::string* const folder : {&theChoices.DataFolder, &theChoices.LayerFolder})
+void SetFirstChoices(RememberedChoices& choices) {
+  ErrorTrap trap;
+  for (std::string* const folder : {&choices.DataFolder, &choices.LayerFolder})
     if (folder->empty()) trap.Step([&] { *folder = Utf8(std::filesystem::current_path()); });
-  if (theChoices.DataFilterIndex == 0) theChoices.DataFilterIndex = kFirstDataFilter;
-  if (theChoices.LayerFilterIndex == 0) theChoices.LayerFilterIndex = kFirstLayerFilter;
+  if (choices.DataFilterIndex == 0) choices.DataFilterIndex = kFirstDataFilter;
+  if (choices.LayerFilterIndex == 0) choices.LayerFilterIndex = kFirstLayerFilter;
 }
 
 template <std::size_t Count>
@@ -116,8 +123,9 @@ OpenFileRequest RequestFor(const FileChoice& choice) {
   request.Title = isData ? "Open Data" : "Add Layers";
   request.Flags = isData ? kDataFlags : kLayerFlags;
   request.Filter = isData ? TextOf(kDataFilters) : TextOf(kLayerFilters);
-  request.FilterIndex = ChoiceOf(choice.Kind).FilterIndex;
-  request.InitialFolder = ChoiceOf(choice.Kind).Folder;
+  RememberedChoices remembered = Remembered();
+  request.FilterIndex = ChoiceOf(remembered, choice.Kind).FilterIndex;
+  request.InitialFolder = ChoiceOf(remembered, choice.Kind).Folder;
   request.FileTitle.assign(kFileTitleLength, ' ');
   return request;
 }
@@ -155,7 +163,7 @@ bool RunOpenFileDialog(const FileChoice& choice, bool, std::string& fileName) no
   ErrorTrap trap;
   bool isActive = false;
   trap.Step([&] { isActive = IsActive(choice.Language); });
-  SetFirstChoices(trap);
+  SharedChoices().Change(SetFirstChoices);
   OpenFileRequest request = RequestFor(choice);
   if (isActive) trap.Step([&] { request.Title = choice.Language->TranslateText(request.Title); });
   request.Buffer = BufferFor(fileName);
@@ -164,8 +172,10 @@ bool RunOpenFileDialog(const FileChoice& choice, bool, std::string& fileName) no
   trap.Step([&] { choice.Screen.ProcessPendingEvents(); });
   if (theLastResult == 0) return false;
   fileName = NameIn(request.Buffer);
-  ChoiceOf(choice.Kind).FilterIndex = request.FilterIndex;
-  ChoiceOf(choice.Kind).Folder = request.LastFolder;
+  SharedChoices().Change([&](RememberedChoices& choices) {
+    ChoiceOf(choices, choice.Kind).FilterIndex = request.FilterIndex;
+    ChoiceOf(choices, choice.Kind).Folder = request.LastFolder;
+  });
   if (IsAccepted(choice.Kind, request.FilterIndex, request.Buffer)) return true;
   trap.Step([&] { Refuse(choice, *RuleOf(choice.Kind, request.FilterIndex)); });
   return false;
@@ -211,12 +221,12 @@ std::int32_t LastSystemResult() {
   return theLastResult;
 }
 
-const RememberedChoices& Remembered() {
-  return theChoices;
+RememberedChoices Remembered() {
+  return SharedChoices().Get();
 }
 
 void ResetRememberedChoices() {
-  theChoices = {};
+  SharedChoices().Set({});
   theLastResult = 0;
 }
 

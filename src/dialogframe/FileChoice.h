@@ -37,7 +37,7 @@ bool ChooseFiles(const FileChoice& choice, bool multiselect, std::vector<std::st
 /// The same with the platform's raw answer: a path, or a folder and file names, separated by NULs.
 bool RunOpenFileDialog(const FileChoice& choice, bool multiselect, std::string& fileName) noexcept;
 
-/// What the platform's dialog last returned; 0 if the user cancelled.
+/// What the platform's dialog last returned on this thread; 0 if the user cancelled.
 std::int32_t LastSystemResult();
 
 /// Splits an answer at its NULs. Inside double quotes that enclose a whole part, a NUL is text.
@@ -54,7 +54,7 @@ struct RememberedChoices {
   std::int32_t LayerFilterIndex = 0;
   bool operator==(const RememberedChoices&) const = default;
 };
-const RememberedChoices& Remembered();
+RememberedChoices Remembered();
 
 /// For tests: forgets everything.
 void ResetRememberedChoices();

@@ -2,24 +2,25 @@
 
 #include "forms/Desktop.h"
 #include "forms/Form.h"
+#include "forms/ProcessWide.h"
 #include "hostobjects/ErrorTrap.h"
 
 namespace orx::modMain {
 namespace {
 
-std::string& HelpFileOfTheProcess() {
-  static std::string file;
+ProcessWide<std::string>& HelpFileOfTheProcess() {
+  static ProcessWide<std::string> file;
   return file;
 }
 
 }  // namespace
 
-const std::string& HelpFile() {
-  return HelpFileOfTheProcess();
+std::string HelpFile() {
+  return HelpFileOfTheProcess().Get();
 }
 
 void HelpFile(const std::string& value) {
-  HelpFileOfTheProcess() = value;
+  HelpFileOfTheProcess().Set(value);
 }
 
 void ShowHelpFinder(Form& form, const std::string& helpFile, std::int32_t helpContextId) {

@@ -10,8 +10,9 @@ class Form;
 
 namespace modMain {
 
-/// The help file of the whole library, UTF-8; empty if there is none. There is one for the process.
-const std::string& HelpFile();
+/// The help file of the whole library, UTF-8; empty if there is none. There is one for all
+/// threads of the process.
+std::string HelpFile();
 void HelpFile(const std::string& value);
 
 /// Opens the Help Topics of `helpFile` at the help context number, on behalf of the form. Without a help file the user

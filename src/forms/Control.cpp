@@ -48,7 +48,9 @@ Form& Control::OwnerForm() const {
 }
 
 void Control::Changed(Aspect aspect, Urgency urgency) {
-  if (mPeer && !OwnerForm().TakesOver(*this, aspect, urgency)) mPeer->Update(aspect);
+  Form& form = OwnerForm();
+  form.OwnerDesktop().RequireThread();
+  if (mPeer && !form.TakesOver(*this, aspect, urgency)) mPeer->Update(aspect);
 }
 
 void Control::Caption(const std::string& value) {

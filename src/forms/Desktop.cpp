@@ -27,6 +27,10 @@ class Topmost {
 
 Desktop::~Desktop() = default;
 
+void Desktop::RequireThread() const {
+  if (std::this_thread::get_id() != mThread) throw WrongThread();
+}
+
 int Desktop::ToPixels(int twips) const {
   return TwipsToPixels(twips, Scale());
 }
@@ -37,6 +41,7 @@ int Desktop::ToTwips(int pixels) const {
 
 template <class Run>
 auto Desktop::RunBox(const Modal& modal, Run&& run) {
+  RequireThread();
   const Topmost box(mModals, nullptr);
   if (mHook) mHook->ModalOpening(modal);
   decltype(run()) answer{};
@@ -91,22 +96,26 @@ void Desktop::ModalIsRunning(const Modal& modal) {
 }
 
 void Desktop::ProcessPendingEvents() {
+  RequireThread();
   if (mHook) mHook->EventsPending();
   DoProcessPendingEvents();
 }
 
 void Desktop::Beep() {
+  RequireThread();
   if (mHook) mHook->Beeped();
   DoBeep();
 }
 
 void Desktop::Pointer(orx::Pointer value) {
+  RequireThread();
   mPointer = value;
   if (mHook) mHook->PointerChanged(value);
   DoSetPointer(value);
 }
 
 void Desktop::ShowHelp(const HelpRequest& request) {
+  RequireThread();
   if (mHook && mHook->HelpRequested(request)) return;
   DoShowHelp(request);
 }

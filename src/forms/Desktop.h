@@ -5,7 +5,9 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "forms/Appearance.h"
@@ -27,14 +29,25 @@ struct ScreenMetrics {
   Size Frame;
 };
 
-/// Shows forms and messages on one platform. A host makes one and uses it on its user-interface thread only; it
-/// outlives all forms that were made for it.
+/// What is asked of a desktop, or of a form of it, on a thread that did not make the desktop. Nothing has been done
+/// yet.
+class WrongThread final : public std::logic_error {
+ public:
+  WrongThread() : std::logic_error("Dialogs can be used only on the thread that made their desktop.") {}
+};
+
+/// Shows forms and messages on one platform. A host makes one on its user-interface thread and uses it only there; it
+/// outlives all forms that were made for it. Whatever would show, ask or change something on another thread throws
+/// WrongThread instead. Several threads may have a desktop each.
 class Desktop {
  public:
   Desktop() = default;
   virtual ~Desktop();
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
+
+  /// Throws WrongThread unless it is called on the thread that made the desktop.
+  void RequireThread() const;
 
   /// The hook that sees everything modal; null removes it. Not owned.
   void Hook(DesktopHook* hook) { mHook = hook; }
@@ -139,6 +152,7 @@ class Desktop {
   /// form the user is told.
   void HandlerFailed(const Form& form, std::exception_ptr error);
 
+  const std::thread::id mThread = std::this_thread::get_id();
   DesktopHook* mHook = nullptr;
   orx::Pointer mPointer = orx::Pointer::Default;
   std::vector<Session*> mSessions;

@@ -22,11 +22,13 @@ void Form::PaceUpdates() {
 }
 
 void Form::Caption(const std::string& value) {
+  mDesktop.RequireThread();
   mDesign.Caption = value;
   if (mWindow) mWindow->UpdateCaption();
 }
 
 void Form::Move(int left, int top) {
+  mDesktop.RequireThread();
   mLeft = left;
   mTop = top;
   if (mWindow) mWindow->UpdatePlace();
@@ -41,6 +43,7 @@ int Form::Height() const {
 }
 
 void Form::ClientSize(Size value) {
+  mDesktop.RequireThread();
   if (value == mDesign.Client) return;
   mDesign.Client = value;
   if (mWindow) mWindow->UpdatePlace();
@@ -83,6 +86,7 @@ void Form::KeepOnScreen() {
 }
 
 Form::Act::Act(Form& form) : mKeep(form.weak_from_this().lock()), mForm(form) {
+  mForm.mDesktop.RequireThread();
   ++mForm.mActs;
   mForm.mDesktop.EnterAct();
 }
@@ -174,12 +178,14 @@ void Form::DropWindow() {
 }
 
 void Form::Enabled(bool value) {
+  mDesktop.RequireThread();
   if (mEnabled == value) return;
   mEnabled = value;
   if (mWindow) mWindow->UpdateEnabled();
 }
 
 void Form::Refresh() {
+  mDesktop.RequireThread();
   ShowUpdates();
   if (mWindow) mWindow->Repaint();
 }

@@ -27,7 +27,8 @@ struct FormDesign {
 };
 
 /// The base of all dialogs. Create forms with std::make_shared: a modeless form keeps itself alive until it is closed.
-/// All members are for the user-interface thread of the desktop.
+/// All members are for the thread that made the desktop; on another one, what reaches the window or runs code of the
+/// form throws WrongThread.
 class Form : public Container, public std::enable_shared_from_this<Form> {
  public:
   /// Makes an empty form, neither loaded nor shown; the desktop must outlive it. `name` is the name by which tests and

@@ -29,7 +29,14 @@ struct CCommonMapDialogs::Request {
   OwnerWindow Owner;
 };
 
+CCommonMapDialogs::Kit CCommonMapDialogs::Ready() const {
+  // Before any trap, which would take the error for one of the host's objects.
+  mKit.Screen.RequireThread();
+  return mKit;
+}
+
 void CCommonMapDialogs::Language(ILanguage* value) {
+  mKit.Screen.RequireThread();
   mKit.Language = value;
   if (IsActive(value)) modMain::HelpFile(value->TranslateText("_HelpFileMapDialogs"));
 }
@@ -72,7 +79,7 @@ std::int32_t CCommonMapDialogs::RunPages(const Kit& kit, PropertyDialog& form, c
 
 std::int32_t CCommonMapDialogs::Show(HostObject* mObj, std::int32_t mFlags, const std::string& mCaption,
                                      ShowMode mModal, OwnerWindow OwnerForm) {
-  const Kit kit = mKit;
+  const Kit kit = Ready();
   const Request request{mObj, mFlags, mCaption, mModal, OwnerForm};
   bool isMap = false;
   ErrorTrap trap;
@@ -82,33 +89,33 @@ std::int32_t CCommonMapDialogs::Show(HostObject* mObj, std::int32_t mFlags, cons
 
 std::int32_t CCommonMapDialogs::ShowDataProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                    OwnerWindow OwnerForm) {
-  return ShowPages<frmDataDialog>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmDataDialog>(Ready(), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLegends(HostObject* mObj, std::int32_t Index, const std::string& mCaption,
                                             ShowMode mModal, OwnerWindow OwnerForm) {
-  return ShowPages<frmLegend>(Kit(mKit), {mObj, Index, mCaption, mModal, OwnerForm});
+  return ShowPages<frmLegend>(Ready(), {mObj, Index, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowProperties(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                OwnerWindow OwnerForm) {
-  return ShowPages<frmProperties>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmProperties>(Ready(), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowLabels(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                            OwnerWindow OwnerForm) {
-  return ShowPages<frmLabels>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmLabels>(Ready(), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowCoordinates(HostObject* mObj, const std::string& mCaption, ShowMode mModal,
                                                 OwnerWindow OwnerForm) {
-  return ShowPages<frmCoordinates>(Kit(mKit), {mObj, 0, mCaption, mModal, OwnerForm});
+  return ShowPages<frmCoordinates>(Ready(), {mObj, 0, mCaption, mModal, OwnerForm});
 }
 
 std::int32_t CCommonMapDialogs::ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue,
                                                  std::int32_t flags, bool& IsDirty, const std::string&, ShowMode,
                                                  OwnerWindow) {
-  const Kit kit = mKit;
+  const Kit kit = Ready();
   bool changed = false;
   ErrorTrap trap;
   trap.Step([&] {
@@ -119,7 +126,7 @@ std::int32_t CCommonMapDialogs::ShowDataClassify(HostObject* mObj, double mMinVa
 }
 
 std::int32_t CCommonMapDialogs::ShowDataOptions(HostObject* mObj, const std::string&, ShowMode, OwnerWindow) {
-  const Kit kit = mKit;
+  const Kit kit = Ready();
   bool changed = false;
   ErrorTrap trap;
   trap.Step([&] {
@@ -130,7 +137,7 @@ std::int32_t CCommonMapDialogs::ShowDataOptions(HostObject* mObj, const std::str
 
 std::int32_t CCommonMapDialogs::ShowGeoReference(HostObject* mObj, CheckState, const std::string&, const std::string&,
                                                  OwnerWindow OwnerForm) {
-  const Kit kit = mKit;
+  const Kit kit = Ready();
   if (!QueryKind<IMap>(mObj)) return 0;
   return modMain::ShowGeoreferenceDialog(kit.Screen, mObj, kit.Language, OwnerForm) ? -1 : 0;
 }
@@ -139,7 +146,8 @@ std::int32_t CCommonMapDialogs::ShowCharacterSelection(std::string& mFontName, s
                                                        double& mRotation, bool& mChanged, const std::string&,
                                                        OwnerWindow OwnerForm) {
   CharacterRequest choice{mFontName, mCharacter, mRotation, mChanged};
-  const bool isDone = modMain::ShowCharacterDialog(mKit.Screen, choice, mKit.Language, OwnerForm);
+  const Kit kit = Ready();
+  const bool isDone = modMain::ShowCharacterDialog(kit.Screen, choice, kit.Language, OwnerForm);
   mFontName = std::move(choice.FontName);
   mCharacter = choice.Character;
   mRotation = choice.Rotation;
@@ -153,9 +161,10 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
                                                   std::vector<std::int32_t>& mSelected) {
   // Errors reach the host, but the form is unloaded first.
   const auto unload = [](frmListSelection* form) { form->UnloadQuietly(); };
-  const auto form = std::make_shared<frmListSelection>(mKit.Screen);
+  const Kit kit = Ready();
+  const auto form = std::make_shared<frmListSelection>(kit.Screen);
   const std::unique_ptr<frmListSelection, decltype(unload)> unloaded(form.get(), unload);
-  form->Language(mKit.Language);
+  form->Language(kit.Language);
   form->Init(mSelection, mMultiselect, mListIndex, mAskConfirmation, mConfirmationQuestion, mCaption);
   form->Show();
   bool isCanceled = false;
@@ -165,11 +174,13 @@ std::int32_t CCommonMapDialogs::ShowListSelection(const TextArray& mSelection, b
 }
 
 bool CCommonMapDialogs::ShowAddLayer(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
-  return modDialog::ChooseFiles({mKit.Screen, hWnd, modDialog::FileKind::Layers, mKit.Language}, Multiselect, Files);
+  const Kit kit = Ready();
+  return modDialog::ChooseFiles({kit.Screen, hWnd, modDialog::FileKind::Layers, kit.Language}, Multiselect, Files);
 }
 
 bool CCommonMapDialogs::ShowAddData(std::uintptr_t hWnd, bool Multiselect, std::vector<std::string>& Files) {
-  return modDialog::ChooseFiles({mKit.Screen, hWnd, modDialog::FileKind::Data, mKit.Language}, Multiselect, Files);
+  const Kit kit = Ready();
+  return modDialog::ChooseFiles({kit.Screen, hWnd, modDialog::FileKind::Data, kit.Language}, Multiselect, Files);
 }
 
 struct CCommonMapDialogs::MissingFile {
@@ -196,12 +207,12 @@ bool CCommonMapDialogs::AskForFile(const Kit& kit, const MissingFile& missing, s
 }
 
 bool CCommonMapDialogs::ShowFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll) {
-  return AskForFile(Kit(mKit), {"File not found: ", "Open layer", modDialog::FileKind::Layers, FileName}, NewFileName,
+  return AskForFile(Ready(), {"File not found: ", "Open layer", modDialog::FileKind::Layers, FileName}, NewFileName,
                     CancelAll);
 }
 
 bool CCommonMapDialogs::ShowDataFileNotFound(const std::string& FileName, std::string& NewFileName, bool& CancelAll) {
-  return AskForFile(Kit(mKit), {"Data file not found: ", "Open Data", modDialog::FileKind::Data, FileName}, NewFileName,
+  return AskForFile(Ready(), {"Data file not found: ", "Open Data", modDialog::FileKind::Data, FileName}, NewFileName,
                     CancelAll);
 }
 

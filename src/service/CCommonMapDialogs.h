@@ -20,7 +20,8 @@ namespace orx {
 
 class PropertyDialog;
 
-/// Shows the dialogs. Call it only on the user-interface thread of the desktop. The objects given to it are used, not
+/// Shows the dialogs. Its members throw WrongThread when they are called on another thread than the one that made the
+/// desktop, and nothing is shown. The objects given to it are used, not
 /// owned: the host keeps the desktop, the page factory, the language and the call-back alive for as long as it uses the
 /// service or has a modeless dialog open.
 ///
@@ -31,7 +32,7 @@ class PropertyDialog;
 ///   until it is closed. While a modal dialog of the library is open nothing is shown modeless, and the result is 0.
 /// - `OwnerForm`: the window that the dialog belongs to; none by default.
 /// - result: -1 if the object was changed; 0 if it was not, or if the user cancelled or closed the window.
-/// They never throw: failing steps are skipped, and a result is always returned.
+/// On the right thread they never throw: failing steps are skipped, and a result is always returned.
 ///
 /// In any call that reaches it the host may throw, close the dialog, open another one, or destroy this object; the call
 /// that shows the dialog returns all the same.
@@ -153,6 +154,9 @@ class CCommonMapDialogs {
   template <class Dialog>
   static std::int32_t ShowPages(const Kit& kit, const Request& request);
   static std::int32_t RunPages(const Kit& kit, PropertyDialog& form, const Request& request);
+
+  /// What a member works with. A copy, since the host may destroy this object meanwhile. Throws WrongThread.
+  Kit Ready() const;
 
   Kit mKit;
 };

@@ -13,8 +13,9 @@ namespace orx {
 class Desktop;
 class frmProgress;
 
-/// One progress window, which exists from the start and is hidden until it is shown. Call it only on the user-interface
-/// thread of its desktop. It may be destroyed in any event that one of its members lets be handled.
+/// One progress window, which exists from the start and is hidden until it is shown. On another
+/// thread than the one that made its desktop, members that show or change something throw WrongThread. It may be
+/// destroyed in any event that one of its members lets be handled.
 ///
 /// What is set appears at once, at most 60 times a second, whether or not the host handles events. A press of the
 /// Cancel button is noticed only when it does (Desktop::ProcessPendingEvents, or the host's own loop).

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/Desktop.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com::test {
@@ -24,6 +25,7 @@ TEST(Errors, ReachHostsByTheNumbersThatTheyKnow) {
 TEST(Errors, NumbersOfFailedCallsStayTheirCodes) {
   EXPECT_EQ(Guarded("Errors", [] { Check(STG_E_ACCESSDENIED, "The file"); }), STG_E_ACCESSDENIED);
   EXPECT_EQ(Guarded("Errors", [] { throw std::bad_alloc(); }), E_OUTOFMEMORY);
+  EXPECT_EQ(Guarded("Errors", [] { throw WrongThread(); }), RPC_E_WRONG_THREAD);
   EXPECT_EQ(Guarded("Errors", [] { throw RunTimeError(0x10000, "No number of theirs."); }), E_FAIL);
 }
 

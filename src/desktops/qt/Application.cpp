@@ -2,9 +2,12 @@
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QThread>
 #include <clocale>
 #include <stdexcept>
 #include <string>
+
+#include "forms/Desktop.h"
 
 namespace orx::qt {
 namespace {
@@ -30,6 +33,8 @@ void EnsureApplication() {
   if (!QCoreApplication::instance()) MakeApplication();
   if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
     throw std::logic_error("The dialogs need a QApplication; the host has made another kind of application object.");
+  // Qt's widgets live on that thread alone, so windows made here would take the process down later.
+  if (QThread::currentThread() != qApp->thread()) throw WrongThread();
 }
 
 QFont DialogFont() {

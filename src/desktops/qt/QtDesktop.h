@@ -13,7 +13,8 @@ namespace orx::qt {
 class QtDesktop final : public NativeDesktop {
  public:
   /// Uses the host's QApplication. When there is none, one is made that serves all desktops to come and stays until the
-  /// process ends. Throws std::logic_error when the host's application object is no QApplication.
+  /// process ends. Throws std::logic_error when the host's application object is no QApplication, and WrongThread
+  /// on another thread than the application's.
   QtDesktop();
   /// Closes the forms that are still open.
   ~QtDesktop() override;

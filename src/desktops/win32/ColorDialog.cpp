@@ -4,23 +4,25 @@
 
 #include <commdlg.h>
 
-#include <algorithm>
 #include <array>
 
 #include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "forms/ColorRequest.h"
+#include "forms/ProcessWide.h"
 
 namespace orx::win32 {
 namespace {
 
+using Colors = std::array<COLORREF, 16>;
+
 /// The custom colours that the user has mixed; white at first.
-std::array<COLORREF, 16>& OwnColors() {
-  static std::array<COLORREF, 16> colors = [] {
-    std::array<COLORREF, 16> white;
-    std::fill(white.begin(), white.end(), RGB(255, 255, 255));
+ProcessWide<Colors>& OwnColors() {
+  static ProcessWide<Colors> colors([] {
+    Colors white;
+    white.fill(RGB(255, 255, 255));
     return white;
-  }();
+  }());
   return colors;
 }
 
@@ -31,10 +33,13 @@ bool RunColorDialog(ColorRequest& request, const std::function<void()>& running)
   native.lStructSize = sizeof(native);
   native.hwndOwner = ModalOwner(request.OwnerHandle);
   native.rgbResult = RGB(request.Color.Red, request.Color.Green, request.Color.Blue);
-  native.lpCustColors = OwnColors().data();
+  Colors colors = OwnColors().Get();
+  native.lpCustColors = colors.data();
   native.Flags = request.Flags;
   bool chosen = false;
   RunPlatformDialog(native.hwndOwner, running, IDCANCEL, [&] { chosen = ChooseColorW(&native) != FALSE; });
+  // The user may have mixed colours and chosen none.
+  OwnColors().Set(colors);
   if (chosen) request.Color = {GetRValue(native.rgbResult), GetGValue(native.rgbResult), GetBValue(native.rgbResult)};
   return chosen;
 }
