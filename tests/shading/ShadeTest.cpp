@@ -1,4 +1,6 @@
 // The relief shading dialog: what it shows of both generations of objects, what OK checks and writes.
+#include <limits>
+
 #include "griddialogs/frmDataShade.h"
 #include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
@@ -157,6 +159,21 @@ TEST_F(Shading, OKUntouchedWritesNothingButTheCount) {
   EXPECT_FALSE(changed);
   EXPECT_EQ(Calls{"ShadeCount="}, WritesIn(shade.Log));
   EXPECT_EQ(200, shade.Count);
+}
+
+TEST_F(Shading, EndlessValuesOfTheHostAreNoObstacleToOK) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  shade.HeldScaleFactor = infinity;
+  shade.HeldScaleMultiplier = infinity;
+  EXPECT_FALSE(Edit([] {}));
+  EXPECT_EQ(Calls{"ShadeCount="}, WritesIn(shade.Log));
+  EXPECT_EQ(infinity, shade.HeldScaleFactor);
+}
+
+TEST_F(Shading, PickingTheEntryThatStandsInForAnUnknownCodeTakesIt) {
+  shade.HeldCombineColors = 9;
+  EXPECT_TRUE(Edit([this] { user.Choose(form->cmbCombine, 0); }));
+  EXPECT_EQ(combinecolors::kNone, shade.HeldCombineColors);
 }
 
 TEST_F(Shading, EverySettingIsWrittenInOrder) {

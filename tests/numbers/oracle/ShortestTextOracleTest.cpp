@@ -66,5 +66,14 @@ TEST(NumbersShortestTextOracle, NumbersOfFifteenDigitsAreWrittenAsThePlatformWri
   differences.ExpectAllExplained(5'000);
 }
 
+TEST(NumbersGeneralTextOracle, EveryNumberIsWrittenAsThePlatformWritesIt) {
+  Differences<Writing> differences(WritingDifferences());
+  for (const Locale* locale : {&English(), &German()})
+    for (const double value : Values(300))
+      differences.Compare(
+          {value, locale, GeneralText(value, locale->Marks), TextOf(value, *locale).value_or("nothing")});
+  differences.ExpectAllExplained(5'000);
+}
+
 }  // namespace
 }  // namespace orx::numbers::oracle
