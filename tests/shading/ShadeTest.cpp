@@ -1,6 +1,4 @@
 // The relief shading dialog: what it shows of both generations of objects, what OK checks and writes.
-#include <limits>
-
 #include "griddialogs/frmDataShade.h"
 #include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
@@ -163,17 +161,10 @@ TEST_F(Shading, OKUntouchedWritesNothingButTheCount) {
 
 TEST_F(Shading, EndlessValuesOfTheHostAreNoObstacleToOK) {
   const double infinity = std::numeric_limits<double>::infinity();
-  shade.HeldScaleFactor = infinity;
-  shade.HeldScaleMultiplier = infinity;
+  shade.HeldScaleFactor = shade.HeldScaleMultiplier = infinity;
   EXPECT_FALSE(Edit([] {}));
   EXPECT_EQ(Calls{"ShadeCount="}, WritesIn(shade.Log));
   EXPECT_EQ(infinity, shade.HeldScaleFactor);
-}
-
-TEST_F(Shading, PickingTheEntryThatStandsInForAnUnknownCodeTakesIt) {
-  shade.HeldCombineColors = 9;
-  EXPECT_TRUE(Edit([this] { user.Choose(form->cmbCombine, 0); }));
-  EXPECT_EQ(combinecolors::kNone, shade.HeldCombineColors);
 }
 
 TEST_F(Shading, EverySettingIsWrittenInOrder) {
@@ -350,7 +341,7 @@ TEST_F(Shading, ASettingThatCannotBeWrittenIsPassedOver) {
   }
 }
 
-TEST_F(Shading, UnknownCodesStayUntilAnotherEntryIsChosen) {
+TEST_F(Shading, UnknownCodesStayUntilAnEntryIsPickedBeItTheOneShown) {
   shade.HeldShadeVersion = 30;
   shade.HeldCombineColors = 9;
   shade.HeldFirstShadeIndex = 1;
@@ -360,6 +351,8 @@ TEST_F(Shading, UnknownCodesStayUntilAnotherEntryIsChosen) {
   }));
   EXPECT_EQ(30, shade.HeldShadeVersion);
   EXPECT_EQ(9, shade.HeldCombineColors);
+  EXPECT_TRUE(Edit([this] { user.Choose(form->cmbCombine, 0); }));
+  EXPECT_EQ(combinecolors::kNone, shade.HeldCombineColors);
 }
 
 TEST_F(Shading, CancelAndTheCloseBoxReportNoChange) {
