@@ -67,7 +67,8 @@ TEST(NumbersShortestTextOracle, NumbersOfFifteenDigitsAreWrittenAsThePlatformWri
 }
 
 TEST(NumbersGeneralTextOracle, EveryNumberIsWrittenAsThePlatformWritesIt) {
-  Differences<Writing> differences(WritingDifferences());
+  // Only the decimal comma is left to explain: all values are finite and none is below the normal range.
+  Differences<Writing> differences({WritingDifferences().back()});
   for (const Locale* locale : {&English(), &German()})
     for (const double value : Values(300))
       differences.Compare(
