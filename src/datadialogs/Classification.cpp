@@ -14,11 +14,6 @@ namespace {
 /// The number of classes that automatic classification starts with.
 constexpr std::int32_t kAutomaticClasses = 10;
 
-bool DifferByRounding(double one, double two) {
-  constexpr double kLastDigits = 1e-13;
-  return std::abs(one - two) <= kLastDigits * std::max(std::abs(one), std::abs(two));
-}
-
 std::string Plain(std::string_view text) {
   return AsciiLowerCase(Trimmed(text, kSpaces));
 }
@@ -66,7 +61,6 @@ bool Classification::SaveTo(const Find& data) const {
   fitted.FitStep();
   if (*this == fitted) return false;
   Classification written = *this;
-  if (Maximum == fitted.Maximum && DifferByRounding(Maximum, held.Maximum)) written.Maximum = held.Maximum;
   bool wasThere = false;
   const auto asked = [&] {
     IClassification* const found = data();

@@ -148,6 +148,7 @@ void frmDataClassify::ShowClassCount(std::int32_t count) {
   const BusyScope busy(mIsBusy);
   cboClasses.Text(std::to_string(count));
   mShownClasses = cboClasses.Text();
+  mShownEdits = cboClasses.Edits();
 }
 
 std::optional<double> frmDataClassify::TypedClassCount() const {
@@ -232,8 +233,10 @@ bool frmDataClassify::Check() {
 
 bool frmDataClassify::TakeClassCountOnOK() {
   try {
-    // A box that nobody has touched stands for the number of the settings, which the data may count otherwise.
-    if (cboClasses.Text() != mShownClasses) mModel.ClassCount = numbers::RoundToLong(*TypedClassCount());
+    // A box that nobody has touched stands for the number of the settings, which the data may count otherwise; where
+    // the settings have none, the number shown is all that there is.
+    const bool isTouched = cboClasses.Text() != mShownClasses || cboClasses.Edits() != mShownEdits;
+    if (isTouched || mModel.ClassCount < 1) mModel.ClassCount = numbers::RoundToLong(*TypedClassCount());
   } catch (const std::overflow_error&) {
     return RefuseValue(kInvalidClassCount, cboClasses);
   }

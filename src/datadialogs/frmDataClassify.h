@@ -105,6 +105,7 @@ class frmDataClassify final : public EditForm {
   Classification mModel;
   SavedClassification mSaved;
   std::string mShownClasses;
+  int mShownEdits = 0;
   bool mIsBusy = false;
 
   // The fields and the model; what the data object holds is the model's.

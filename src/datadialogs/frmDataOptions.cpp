@@ -75,10 +75,11 @@ bool frmDataOptions::Check() {
   const auto& [missing, zero, noData] = mFields;
   for (const NumberSetting* const field : {&missing.Minimum, &missing.Maximum, &zero.Minimum})
     if (!field->Value())
-      return Refuse({"Valid number required.", "Invalid number", MessageIcon::Information}, field->Box());
+      return Refuse({"Valid number required.", "Invalid number", MessageIcon::Information}, field->Box(), First::Focus);
   const double lower = *missing.Minimum.Value();
   const double upper = *missing.Maximum.Value();
-  if (upper < lower) return Refuse({"Number too large.", "Invalid range", MessageIcon::Information}, txtMinValue[0]);
+  if (upper < lower)
+    return Refuse({"Number too large.", "Invalid range", MessageIcon::Information}, txtMinValue[0], First::Focus);
   Record(0).LowerBound = lower;
   Record(0).UpperBound = upper;
   mValues.ZeroRange(*zero.Minimum.Value());

@@ -11,6 +11,7 @@
 #include "forms/PictureBox.h"
 #include "forms/SettingOf.h"
 #include "forms/TextBox.h"
+#include "numbers/Numbers.h"
 
 namespace orx {
 
@@ -113,8 +114,10 @@ class frmDataOptions final : public EditForm {
     FlagSetting InLegend{Form.chkInLegend[Index], Of(&R::InLegend)};
     FlagSetting Transparent{Form.chkTransparent[Index], Of(&R::Transparent)};
     ColorSetting Ground{Form.pctColor[Index], Of(&R::Color)};
-    NumberSetting Minimum{Form.txtMinValue[Index], Of(&R::LowerBound)};
-    NumberSetting Maximum{Form.txtMaxValue[Index], Of(&R::UpperBound)};
+    const NumberRule Bound{
+        .Format = [this](double value) { return numbers::GeneralText(value, Form.OwnerDesktop().Separators()); }};
+    NumberSetting Minimum{Form.txtMinValue[Index], Of(&R::LowerBound), Bound};
+    NumberSetting Maximum{Form.txtMaxValue[Index], Of(&R::UpperBound), Bound};
   };
 
   /// The special values of the data; null once the form is retired. Throws when the data do not answer.

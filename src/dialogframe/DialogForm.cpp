@@ -1,9 +1,8 @@
 #include "dialogframe/DialogForm.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 #include <optional>
+#include <stdexcept>
 
 #include "dialogframe/Help.h"
 #include "numbers/Numbers.h"
@@ -39,8 +38,12 @@ void DialogForm::TakeLanguage() {
   if (!LanguageActive()) return;
   const std::optional<double> number =
       numbers::ToDouble(mLanguage->TranslateText(mHelpKey), OwnerDesktop().Separators());
-  if (number && std::abs(*number) < std::numeric_limits<std::int32_t>::max())
+  if (!number) return;
+  try {
     HelpContextId(numbers::RoundToLong(*number));
+  } catch (const std::overflow_error&) {
+    // No topic has a number of more than 32 bits; the designed one stays.
+  }
 }
 
 void DialogForm::Form_Unload() {

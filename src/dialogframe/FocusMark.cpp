@@ -1,5 +1,7 @@
 #include "dialogframe/FocusMark.h"
 
+#include <algorithm>
+
 #include "forms/PictureBox.h"
 #include "hostobjects/ErrorTrap.h"
 
@@ -12,7 +14,10 @@ void DrawInsetFocusRect(PictureBox& box, std::int32_t inset) noexcept {
   });
   trap.Step([&] {
     const Size client = box.PixelSize();
-    box.Drawing().ToggleFocus({inset, inset, client.Width - 2 * inset, client.Height - 2 * inset});
+    // Beyond the size of the box a mark is nowhere to be seen, however large the inset is.
+    const int most = std::max(client.Width, client.Height);
+    const int edge = std::clamp(inset, -most, most);
+    box.Drawing().ToggleFocus({edge, edge, client.Width - 2 * edge, client.Height - 2 * edge});
   });
   trap.Step([&] { box.Refresh(); });
 }

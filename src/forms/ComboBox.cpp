@@ -23,12 +23,17 @@ void ComboBox::UserPick(int index) {
   OwnerForm().UserAct([&] {
     // The native list already shows the entry; it must show the one that the control ends up with.
     Changed(Aspect::Value);
-    if (OwnerForm().MoveFocus(*this)) ListIndex(index);
+    if (!OwnerForm().MoveFocus(*this)) return;
+    ++mEdits;
+    if (index == ListIndex()) return Click.Raise();
+    ListIndex(index);
   });
 }
 
 void ComboBox::UserText(const std::string& text) {
-  if (mStyle != ComboStyle::Editable || text == mText) return;
+  if (mStyle != ComboStyle::Editable) return;
+  ++mEdits;
+  if (text == mText) return;
   OwnerForm().UserAct([&] {
     mText = text;
     Select(IndexOf(text));

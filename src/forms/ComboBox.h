@@ -24,10 +24,14 @@ class ComboBox final : public ListControl {
   /// or throws std::invalid_argument when there is none.
   void Text(const std::string& value);
 
+  /// How often the user has picked an entry or edited the text, also to what was there before.
+  int Edits() const override { return mEdits; }
+
   /// Raised when the text of an editable box is typed or set.
   Event<> Change;
 
-  /// For desktops and test users: the user picks an entry, or types into an editable box.
+  /// For desktops and test users: the user picks an entry, or types into an editable box. Picking the entry that is
+  /// shown is a pick like any other, so that it raises Click.
   void UserPick(int index);
   void UserText(const std::string& text);
   void Accept(ControlVisitor& visitor) override;
@@ -38,6 +42,7 @@ class ComboBox final : public ListControl {
  private:
   ComboStyle mStyle;
   std::string mText;
+  int mEdits = 0;
 };
 
 }  // namespace orx

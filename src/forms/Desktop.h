@@ -80,7 +80,8 @@ class Desktop {
   /// Lengths converted by the scale, rounded to the nearest.
   int ToPixels(int twips) const;
   int ToTwips(int pixels) const;
-  /// The face names of the fonts for the screen, in the system's order.
+  /// The face names of the fonts for the screen, in the system's order. The first is the system's own, which no list
+  /// offers; it may have no name.
   virtual std::vector<std::string> ScreenFonts() const = 0;
   /// A colour of the user's scheme.
   virtual Color SystemColor(orx::SystemColor which) const = 0;

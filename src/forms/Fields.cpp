@@ -18,13 +18,18 @@ bool FlagField::Value() const {
 void ChoiceField::Show(std::int32_t code) {
   mCode = code;
   if (!mList.SelectData(code)) mList.ListIndex(mRule.Otherwise);
-  mShown = mList.ListIndex();
+  Shown();
 }
 
 void ChoiceField::Clear() {
   mCode.reset();
   mList.ListIndex(mRule.Otherwise);
+  Shown();
+}
+
+void ChoiceField::Shown() {
   mShown = mList.ListIndex();
+  mEdits = mList.Edits();
 }
 
 std::int32_t ChoiceField::Value() const {
@@ -32,7 +37,7 @@ std::int32_t ChoiceField::Value() const {
 }
 
 bool ChoiceField::IsEdited() const {
-  return mList.ListIndex() != mShown;
+  return mList.ListIndex() != mShown || mList.Edits() != mEdits;
 }
 
 void ColorField::Show(Color value) {

@@ -69,8 +69,8 @@ struct ChoiceRule {
   int Otherwise = -1;
 };
 
-/// A list whose entries carry codes. It stands for the code that it was given until the user picks another entry, also
-/// for a code that the list does not have.
+/// A list whose entries carry codes. It stands for the code that it was given until the user picks an entry, also for
+/// a code that the list does not have. Picking the entry that is shown counts.
 class ChoiceField : public FieldTypes<std::int32_t, ListControl&, ChoiceRule> {
  public:
   /// The list must live as long.
@@ -84,14 +84,17 @@ class ChoiceField : public FieldTypes<std::int32_t, ListControl&, ChoiceRule> {
   void Clear();
   /// The code that the list stands for; 0 when there is none.
   std::int32_t Value() const;
-  /// True when another entry is selected than the one shown.
+  /// True when an entry was picked since, or another one is selected than the one shown.
   bool IsEdited() const;
 
  private:
+  void Shown();
+
   ListControl& mList;
   ChoiceRule mRule;
   std::optional<std::int32_t> mCode;
   int mShown = -1;
+  int mEdits = 0;
 };
 
 /// A box that shows a colour as its ground.

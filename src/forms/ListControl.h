@@ -35,6 +35,9 @@ class ListControl : public Control {
   /// The number of the selected entry, `otherwise` when none is selected.
   std::int32_t SelectedData(std::int32_t otherwise = 0) const;
 
+  /// How often the user has picked an entry that may have been shown already; 0 for lists that know only of changes.
+  virtual int Edits() const { return 0; }
+
   /// Raised when an entry is selected, by the user or by the program.
   Event<> Click;
 

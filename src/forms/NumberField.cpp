@@ -16,12 +16,14 @@ void NumberField::Show(double value) {
 void NumberField::Show(double value, const std::string& text) {
   mValue = value;
   mEntry.Text(mText = text);
+  mEdits = mEntry.Edits();
 }
 
 void NumberField::Clear() {
   if (mRule.Initially) return Show(*mRule.Initially);
   mValue.reset();
   mEntry.Text(mText = {});
+  mEdits = mEntry.Edits();
 }
 
 std::optional<double> NumberField::Read(const std::string& text) const {
@@ -33,9 +35,7 @@ std::optional<double> NumberField::Value() const {
 }
 
 bool NumberField::IsEdited() const {
-  if (mEntry.Text() == mText) return false;
-  const std::optional<double> read = Read(mEntry.Text());
-  return !read || read != Read(mText);
+  return mEntry.Edits() != mEdits || mEntry.Text() != mText;
 }
 
 }  // namespace orx

@@ -13,8 +13,8 @@ namespace orx {
 
 /// What a number may be, both ends included, and how it is shown.
 struct NumberRule {
-  double Minimum = std::numeric_limits<double>::lowest();
-  double Maximum = std::numeric_limits<double>::max();
+  double Minimum = -std::numeric_limits<double>::infinity();
+  double Maximum = std::numeric_limits<double>::infinity();
   /// What the field holds while there is no value; none: an empty text.
   std::optional<double> Initially = std::nullopt;
   /// How the number is shown; none: the shortest text that reads back as the same number. A format that rounds costs
@@ -25,13 +25,13 @@ struct NumberRule {
   bool Allows(double value) const { return value >= Minimum && value <= Maximum; }
   /// True when not every number is allowed.
   bool HasRange() const {
-    return Minimum > std::numeric_limits<double>::lowest() || Maximum < std::numeric_limits<double>::max();
+    return Minimum > -std::numeric_limits<double>::infinity() || Maximum < std::numeric_limits<double>::infinity();
   }
 };
 
-/// Stands for the exact number that it was given while its text reads as the number shown, however much the text
-/// rounds; a text that the user has changed stands for what it reads. It refuses nothing by itself. Numbers are read
-/// and shown in the locale of the form's desktop.
+/// Stands for the exact number that it was given, however much its text rounds, until the text is edited; from then on
+/// it stands for what the text reads, also where that is the rounded number shown. It refuses nothing by itself.
+/// Numbers are read and shown in the locale of the form's desktop.
 class NumberField : public FieldTypes<double, TextEntry, NumberRule> {
  public:
   /// The control must live as long; it is left as it is.
@@ -47,7 +47,7 @@ class NumberField : public FieldTypes<double, TextEntry, NumberRule> {
   void Clear();
   /// The number that the field stands for; none when its text is no number.
   std::optional<double> Value() const;
-  /// True when the field does not stand for the number shown any more.
+  /// True when the text was typed, or set to another one, since the number was shown.
   bool IsEdited() const;
 
  private:
@@ -57,6 +57,7 @@ class NumberField : public FieldTypes<double, TextEntry, NumberRule> {
   NumberRule mRule;
   std::optional<double> mValue;
   std::string mText;
+  int mEdits = 0;
 };
 
 /// The shortest text that reads back as that number in the locale of the control's desktop.

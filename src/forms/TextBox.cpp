@@ -29,7 +29,9 @@ void TextBox::SelLength(int value) {
 
 void TextBox::UserText(const std::string& text, int selStart, int selLength) {
   UserSelect(selStart, selLength);
-  if (text == mText || mLocked) return;
+  if (mLocked) return;
+  ++mEdits;
+  if (text == mText) return;
   OwnerForm().UserAct([&] {
     mText = text;
     Change.Raise();

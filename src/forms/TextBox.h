@@ -31,6 +31,9 @@ class TextBox final : public Control {
   int SelLength() const { return mSelLength; }
   void SelLength(int value);
 
+  /// How often the user has edited the text, also to the same text again.
+  int Edits() const { return mEdits; }
+
   /// Raised when the text changes, by the user or by the program.
   Event<> Change;
 
@@ -46,6 +49,7 @@ class TextBox final : public Control {
   std::string mText;
   int mSelStart = 0;
   int mSelLength = 0;
+  int mEdits = 0;
 };
 
 }  // namespace orx

@@ -17,4 +17,8 @@ void TextEntry::Text(const std::string& value) const {
   std::visit([&](auto* box) { box->Text(value); }, mBox);
 }
 
+int TextEntry::Edits() const {
+  return std::visit([](auto* box) { return box->Edits(); }, mBox);
+}
+
 }  // namespace orx

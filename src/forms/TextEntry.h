@@ -22,6 +22,8 @@ class TextEntry {
   /// The text, UTF-8; setting it raises the control's Change when it differs.
   const std::string& Text() const;
   void Text(const std::string& value) const;
+  /// How often the user has edited the text, also to the same text again.
+  int Edits() const;
 
  private:
   std::variant<TextBox*, ComboBox*> mBox;

@@ -84,7 +84,7 @@ class frmDataShade final : public EditForm {
   void Form_Resize() override { fraIntensity2.Place(fraIntensity1.Place()); }
 
  private:
-  static constexpr double kUnlimited = std::numeric_limits<double>::max();
+  static constexpr double kUnlimited = std::numeric_limits<double>::infinity();
   static constexpr double kRightAngle = 90;
   static constexpr double kFullCircle = 360;
   static constexpr double kMostShades = 255;

@@ -5,6 +5,9 @@
 
 namespace orx::numbers {
 
+/// More digits than these show the noise of binary numbers instead of what was entered.
+inline constexpr int kSignificantDigits = 15;
+
 /// Significant digits, the first one standing for tens to the power of `Exponent`. No digits stand for zero.
 struct Decimal {
   std::string Digits;

@@ -9,9 +9,6 @@
 namespace orx::numbers {
 namespace {
 
-/// More digits than these show the noise of binary numbers instead of what was entered.
-constexpr int kSignificantDigits = 15;
-
 /// The digits in front of the decimal separator and behind it.
 struct Parts {
   std::string Integers;
@@ -71,7 +68,7 @@ std::string MagnitudeText(Decimal& decimal, const NumberPattern& pattern, const 
 
 std::string FormatNumber(double value, std::string_view pattern, const Separators& separators) {
   const std::optional<NumberPattern> places = ToNumberPattern(pattern);
-  if (!places || !std::isfinite(value)) return ShortestText(value, separators);
+  if (!places || !std::isfinite(value)) return GeneralText(value, separators);
   Decimal decimal;
   if (value != 0) decimal = RoundedDecimal(std::fabs(value), kSignificantDigits);
   const std::string magnitude = MagnitudeText(decimal, *places, separators);

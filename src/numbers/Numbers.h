@@ -32,6 +32,10 @@ std::int32_t RoundToLong(double value);
 /// "-1.#INF" or "1.#QNAN", which are no numbers for ToDouble.
 std::string ShortestText(double value, const Separators& separators = {});
 
+/// The number with up to 15 significant digits, in the same notation: the general format of the platform, which writes
+/// 0.1 also for the double next to it.
+std::string GeneralText(double value, const Separators& separators = {});
+
 /// `value` as `pattern` shows it, with the locale's separators. "0" is a digit that is always there, "#" one that is
 /// there when the number has it, "," between them asks for groups of three digits, "." for the decimal separator (which
 /// is shown even when no digit follows), "E+00" at the end for an exponent of at least so many digits that always has
@@ -40,7 +44,7 @@ std::string ShortestText(double value, const Separators& separators = {});
 ///
 /// At most 15 digits are significant; they are rounded half away from zero, so 1.005 as "0.00" is "1.01". A value that
 /// rounds to zero has no minus sign. Blanks around the pattern are ignored. "General" in any letter case, a pattern
-/// with anything else in it, and a value that is not finite give ShortestText.
+/// with anything else in it, and a value that is not finite give GeneralText.
 std::string FormatNumber(double value, std::string_view pattern, const Separators& separators = {});
 
 }  // namespace orx::numbers

@@ -1,4 +1,4 @@
-// Numbers as text. The digits are those of the standard library's shortest form; the notation is the platform's.
+// Numbers as text without a pattern. The digits are those of the standard library; the notation is the platform's.
 #include <cmath>
 #include <cstdlib>
 
@@ -29,16 +29,27 @@ std::string Scientific(const Decimal& decimal, const std::string& separator) {
   return text + (power.size() < 2 ? "0" : "") + power;
 }
 
-}  // namespace
-
-std::string ShortestText(double value, const Separators& separators) {
+/// Writes a number whose digits `digitsOf` finds for its magnitude.
+template <class DigitsOf>
+std::string InPlatformNotation(double value, const Separators& separators, DigitsOf digitsOf) {
   if (value == 0) return "0";
   const std::string sign = std::signbit(value) ? "-" : "";
   if (std::isnan(value)) return "1.#QNAN";
   if (std::isinf(value)) return sign + "1.#INF";
-  const Decimal decimal = ShortestDecimal(std::fabs(value));
+  const Decimal decimal = digitsOf(std::fabs(value));
   const bool plain = decimal.Exponent >= kLeastPlain && decimal.Exponent <= kMostPlain;
   return sign + (plain ? Plain(decimal, separators.Decimal) : Scientific(decimal, separators.Decimal));
+}
+
+}  // namespace
+
+std::string ShortestText(double value, const Separators& separators) {
+  return InPlatformNotation(value, separators, ShortestDecimal);
+}
+
+std::string GeneralText(double value, const Separators& separators) {
+  return InPlatformNotation(value, separators,
+                            [](double magnitude) { return RoundedDecimal(magnitude, kSignificantDigits); });
 }
 
 }  // namespace orx::numbers

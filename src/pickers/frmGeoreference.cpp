@@ -23,6 +23,7 @@ frmGeoreference::frmGeoreference(Desktop& desktop)
                              .HelpKey = "_HelpMapGeoreference",
                              .Client = {4830, 3165}}) {
   for (int i = 0; i < kEdges; ++i) {
+    if (i != EdgeTop) txtInput[i].Text("0");
     txtInput[i].GotFocus = [this, i] { txtInput_GotFocus(i); };
     txtInput[i].LostFocus = [this, i] { txtInput_LostFocus(i); };
   }

@@ -76,12 +76,11 @@ void frmMsgBox::Fill() {
   if (mCaption.empty()) mCaption = kApplicationTitle;
   Form::Caption(mCaption);
   if (mMessage.empty()) mMessage = "File not found...";
+  ShowMessageText();
   mCancelAll = false;
 }
 
 void frmMsgBox::Ready() {
-  // Only now, since a path is not to be translated.
-  ShowMessageText();
   DrawSign(imgIcon);
 }
 

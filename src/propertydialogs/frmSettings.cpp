@@ -13,7 +13,7 @@ void frmSettings::Ready() {
   // The first tab's caption is left to the translation of the form.
   for (int tab = 1; tab < ssTab.TabCount() && LanguageActive(); ++tab) {
     ssTab.Tab(tab);
-    ssTab.TabCaption(tab, Language()->TranslateText(LayerPages().at(static_cast<std::size_t>(tab)).TabCaption));
+    ssTab.TabCaption(tab, Language()->TranslateText(ssTab.TabCaption(tab)));
   }
   ssTab.Tab(0);
 }

@@ -86,12 +86,16 @@ class CCommonMapDialogs {
   /// How the values of a data object (IData) are divided into classes. `mMinValue` and `mMaxValue` are the range of the
   /// data, kUnknownRangeEnd if not known; `flags` is kMayChangeClassCount or 0. `IsDirty` is set to the result. The
   /// dialog is always modal, without owner and with its own title, whatever the last three parameters say. For other
-  /// objects nothing is shown, and the result is 0.
+  /// objects nothing is shown, and the result is 0. OK writes nothing unless a setting was changed: a field that nobody
+  /// has typed into, and a list in which nobody has picked an entry, stand for exactly what the object holds. With
+  /// equal steps a confirmed change also writes the upper end that is shown, which follows from step and number of
+  /// classes; where the settings have no number of classes, OK takes the one of IData.
   std::int32_t ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue, std::int32_t flags, bool& IsDirty,
                                 const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                 OwnerWindow OwnerForm = {});
   /// How missing values, zeros and places without data of a data object (IData) are treated. Works like
-  /// ShowDataClassify.
+  /// ShowDataClassify, but OK writes all values, and the range of zero always from -|x| to |x|, x being its lower
+  /// bound: the one case in which OK can change an object that the user has not edited. The result does not count it.
   std::int32_t ShowDataOptions(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                OwnerWindow OwnerForm = {});
 

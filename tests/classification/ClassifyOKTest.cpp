@@ -51,10 +51,29 @@ TEST_F(ClassifyTest, AChangedFormatAloneChangesOnlyTheFormat) {
   EXPECT_EQ(kAllWrites, data.Writes());
 }
 
-TEST_F(ClassifyTest, LeavingAFieldThatReadsTheSameChangesNothing) {
+TEST_F(ClassifyTest, ATypedNumberCountsAlsoWhereItReadsAsTheRoundedOneShown) {
+  for (const char* const typed : {"0", "0.0"}) {
+    data.Format = "0";
+    data.Minimum = 0.4;
+    data.Maximum = 1234.4;
+    Classify([this, typed] {
+      EXPECT_EQ("0", Seen(form->txtMin));
+      EXPECT_EQ("1234", Seen(form->txtMax));
+      Enter(form->txtMin, typed);
+      Enter(form->txtMax, "1234");
+    });
+    EXPECT_EQ(0, data.Minimum) << typed;
+    EXPECT_EQ(1234, data.Maximum) << typed;
+  }
+}
+
+TEST_F(ClassifyTest, AFieldThatTheFocusOnlyPassesStaysExact) {
   data.Minimum = 1.0 / 3;
   const double minimum = data.Minimum;
-  Classify([this] { Enter(form->txtMin, "0.330"); });
+  Classify([this] {
+    user.ClickInto(form->txtMin);
+    user.Press(*form, kTab);
+  });
   EXPECT_EQ(minimum, data.Minimum);
   EXPECT_EQ(Calls{}, data.Writes());
 }
@@ -108,6 +127,50 @@ TEST_F(ClassifyTest, ABoxNobodyTouchedStandsForTheNumberOfTheSettings) {
   Classify([this] { EXPECT_EQ("9", Seen(form->cboClasses)); });
   EXPECT_EQ(Calls{}, data.Writes());
   EXPECT_EQ(4, data.Classes);
+}
+
+TEST_F(ClassifyTest, WhereTheSettingsHaveNoNumberOfClassesOKTakesTheOneShown) {
+  flags = 0;
+  data.Counted = 5;
+  for (const bool isUnreadable : {false, true}) {
+    data.Classes = isUnreadable ? 7 : 0;
+    if (isUnreadable) data.Log.Failing = {"NumberOfClasses"};
+    EXPECT_TRUE(Classify([this] { EXPECT_EQ("5", Seen(form->cboClasses)); }));
+    EXPECT_EQ(5, data.Classes);
+    EXPECT_TRUE(isDirty);
+  }
+}
+
+TEST_F(ClassifyTest, PickingTheEntryThatIsShownIsAPick) {
+  data.Method = 3;
+  data.Style = 9;
+  data.Format = "Currency";
+  data.Counted = 9;
+  Classify([this] {
+    user.Choose(form->cboMethod, 0);
+    user.Choose(form->cboRangeFormat, 0);
+    user.Choose(form->cboFormat, 0);
+    user.Choose(form->cboClasses, 8);
+  });
+  EXPECT_EQ(classifymethod::kEqualIntervals, data.Method);
+  EXPECT_EQ(legendstyle::kByColor, data.Style);
+  EXPECT_EQ("General", data.Format);
+  EXPECT_EQ(9, data.Classes);
+}
+
+TEST_F(ClassifyTest, WithEqualStepsTheShownEndIsWrittenWithAnyChange) {
+  data.Method = classifymethod::kEqualSteps;
+  data.Step = 2.5;
+  data.Maximum = 10 + 1e-13;
+  const double maximum = data.Maximum;
+  Classify([] {});
+  EXPECT_EQ(maximum, data.Maximum);
+  EXPECT_EQ(Calls{}, data.Writes());
+  Classify([this] {
+    EXPECT_EQ("10.00", Seen(form->txtMax));
+    user.Toggle(form->chkSeriesInLegend);
+  });
+  EXPECT_EQ(10, data.Maximum);
 }
 
 TEST_F(ClassifyTest, AStyleThatTheListLacksGivesWayToTheEntryPickedLast) {

@@ -112,7 +112,7 @@ TEST(ClassificationModel, SavingWhatWasReadWritesNothing) {
   EXPECT_EQ(data.Writes(), Calls{});
 }
 
-TEST(ClassificationModel, AMaximumThatTheHostRoundsOtherwiseStaysToTheLastBit) {
+TEST(ClassificationModel, AMaximumThatTheHostRoundsOtherwiseStaysUntilSomethingIsChanged) {
   RecordedData data;
   data.Method = classifymethod::kEqualSteps;
   data.Step = 0.1;
@@ -124,9 +124,10 @@ TEST(ClassificationModel, AMaximumThatTheHostRoundsOtherwiseStaysToTheLastBit) {
   model.ReadFrom(Giving(data));
   model.FitStep();
   EXPECT_FALSE(model.SaveTo(Giving(data)));
+  EXPECT_EQ(data.Maximum, 0.3);
   model.ValueFormat = "0";
   EXPECT_TRUE(model.SaveTo(Giving(data)));
-  EXPECT_EQ(data.Maximum, 0.3);
+  EXPECT_EQ(data.Maximum, 3 * data.Step);
   EXPECT_EQ(data.Format, "0");
 }
 

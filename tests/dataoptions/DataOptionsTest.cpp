@@ -39,7 +39,10 @@ class DataOptions : public DesktopTest {
   void Cancel() { user.Click(form->cmdCancel); }
   void ExpectRefused(const Message& message, Control& focused) {
     script.ExpectMessage(message);
+    bool wasFocused = false;
+    script.WhenMessageIsUp = [&] { wasFocused = focused.HasFocus(); };
     user.Click(form->cmdOK);
+    EXPECT_TRUE(wasFocused) << focused.Name();
     EXPECT_TRUE(form->Visible());
     EXPECT_TRUE(user.See(focused).Focused) << focused.Name();
     EXPECT_EQ(Calls{}, data.Writes());
@@ -131,6 +134,25 @@ TEST_F(DataOptions, TheRangeOfZeroIsAsFarOnBothSides) {
   Edit([this] { user.Type(form->txtMinValue[1], "-0.5"); });
   EXPECT_EQ(-0.5, data.Zero.Lower);
   EXPECT_EQ(0.5, data.Zero.Upper);
+}
+
+TEST_F(DataOptions, TheRangeOfZeroIsWrittenAsFarOnBothSidesAlsoUnedited) {
+  data.Zero.Lower = 0.25;
+  data.Zero.Upper = 7;
+  EXPECT_FALSE(Edit([] {}));
+  EXPECT_EQ(-0.25, data.Zero.Lower);
+  EXPECT_EQ(0.25, data.Zero.Upper);
+}
+
+TEST_F(DataOptions, BoundsAreShownWithFifteenDigitsAndStayExact) {
+  data.Missing.Lower = 0.09999999999999999;
+  data.Missing.Upper = 0.1 + 0.2;
+  Edit([this] {
+    EXPECT_EQ("0.1", Seen(form->txtMinValue[0]));
+    EXPECT_EQ("0.3", Seen(form->txtMaxValue[0]));
+  });
+  EXPECT_EQ(0.09999999999999999, data.Missing.Lower);
+  EXPECT_EQ(0.1 + 0.2, data.Missing.Upper);
 }
 
 TEST_F(DataOptions, LettersInABoundOfNoDataChangeNothing) {

@@ -82,6 +82,19 @@ TEST_F(OptionsFaults, AnErrorWithoutWordsIsTold) {
   EXPECT_EQ((std::vector<Message>{{"Unknown error", "Data Options", MessageIcon::Exclamation}}), boxes);
 }
 
+TEST_F(OptionsFaults, WhateverIsThrownTheUserHasThePlainPointer) {
+  for (const Failure failure : {Failure::Error, Failure::Number}) {
+    FaultPlan none;
+    EditUnder(none);
+    for (int at = 0; at < none.Count(); ++at) {
+      data = std::make_unique<RecordedData>();
+      FaultPlan plan(at, failure, false);
+      EditUnder(plan);
+      EXPECT_EQ(Pointer::Default, desktop().Pointer()) << plan.Description();
+    }
+  }
+}
+
 TEST_F(OptionsFaults, DataThatAreGoneOnOKAreNoChange) {
   FaultPlan plan(0, Failure::Null, true);
   EXPECT_FALSE(EditUnder(plan));

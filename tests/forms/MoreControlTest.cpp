@@ -131,14 +131,15 @@ TEST_F(FormsMore, AnErrorWhileColorsAreOpenClosesThemAndTravels) {
   EXPECT_THROW(desktop().ChooseColor(request), std::runtime_error);
 }
 
-TEST_F(FormsMore, ANumberFieldIsExactUntilItReadsOtherwise) {
+TEST_F(FormsMore, ANumberFieldIsExactUntilItIsTypedInto) {
   NumberField number(form->txtNumber);
   EXPECT_EQ(std::nullopt, number.Value());
   number.Show(1.0 / 3, "0.33");
   EXPECT_EQ(1.0 / 3, number.Value());
-  user.Type(form->txtNumber, "0.330");
   EXPECT_FALSE(number.IsEdited());
-  EXPECT_EQ(1.0 / 3, number.Value());
+  user.Type(form->txtNumber, "0.33");
+  EXPECT_TRUE(number.IsEdited());
+  EXPECT_EQ(0.33, number.Value());
   user.Type(form->txtNumber, "0.34");
   EXPECT_TRUE(number.IsEdited());
   EXPECT_EQ(0.34, number.Value());

@@ -5,6 +5,12 @@
 namespace orx::test {
 namespace {
 
+TEST_F(GeoreferenceTest, TheEdgesHaveTheirDesignedTextsUntilTheFormIsLoaded) {
+  const auto designed = std::make_shared<frmGeoreference>(desktop());
+  for (const Field field : {kLeft, kRight, kBottom}) EXPECT_EQ("0", designed->txtInput[field].Text());
+  EXPECT_EQ("", designed->txtInput[kTop].Text());
+}
+
 TEST_F(GeoreferenceTest, ShowsTheEdgesAsPlainNumbers) {
   map.Edges(-84.5, 0.1 + 0.2, 1E20, 3E20);
   Edit([this] {

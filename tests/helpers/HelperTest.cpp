@@ -1,4 +1,7 @@
 // The small helpers: focus mark, select-all, help, point in rectangle.
+#include <algorithm>
+#include <limits>
+
 #include "forms/PictureBox.h"
 #include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
@@ -46,6 +49,18 @@ TEST_F(Helpers, FocusRectWithInsetZeroFollowsTheOuterEdge) {
 TEST_F(Helpers, FocusRectMovesEveryEdgeInwardsByTheInset) {
   modMain::DrawInsetFocusRect(form->pctPreview, 3);
   EXPECT_EQ((std::vector<Mark>{FocusMark{{3, 3, Pixels().Width - 6, Pixels().Height - 6}}}), Marks());
+}
+
+TEST_F(Helpers, FocusRectOfAnEndlessInsetStaysWithinReach) {
+  const int most = std::max(Pixels().Width, Pixels().Height);
+  for (const int sign : {1, -1}) {
+    const int inset = sign * most;
+    modMain::DrawInsetFocusRect(form->pctPreview, sign * std::numeric_limits<std::int32_t>::max());
+    const std::vector<Mark> expected{
+        FocusMark{{inset, inset, Pixels().Width - 2 * inset, Pixels().Height - 2 * inset}}};
+    EXPECT_EQ(expected, Marks());
+    modMain::DrawInsetFocusRect(form->pctPreview, sign * std::numeric_limits<std::int32_t>::max());
+  }
 }
 
 TEST_F(Helpers, FocusRectDrawnTwiceIsGone) {

@@ -153,6 +153,17 @@ TEST_F(MissingFileTest, ALanguageTranslatesThePromptAndGivesItsHelpNumber) {
   Ask("a.shp");
 }
 
+TEST_F(MissingFileTest, TheLanguageGetsThePromptWithItsMessage) {
+  RecordingLanguage language{log};
+  service.Language(&language);
+  InPrompt([this](frmMsgBox& prompt) {
+    EXPECT_TRUE(prompt.lblMsg.Caption().starts_with("<File not found: a.shp")) << prompt.lblMsg.Caption();
+    EXPECT_TRUE(prompt.lblMsg.Caption().ends_with(">")) << prompt.lblMsg.Caption();
+    user.Click(prompt.cmdCancel);
+  });
+  Ask("a.shp");
+}
+
 TEST_F(MissingFileTest, HelpLeavesThePromptOpen) {
   modMain::HelpFile("maps.hlp");
   InPrompt([this](frmMsgBox& prompt) {

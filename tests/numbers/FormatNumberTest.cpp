@@ -131,9 +131,13 @@ TEST(NumbersFormatNumber, WhatIsNotFiniteIsNotFormatted) {
   ExpectTexts({{Limits::quiet_NaN(), "0.0000E+000", "1.#QNAN"}});
 }
 
-TEST(NumbersFormatNumber, GeneralInAnyLetterCaseIsTheShortestText) {
+TEST(NumbersFormatNumber, GeneralInAnyLetterCaseHasFifteenDigits) {
   for (const std::string general : {"General", "general", "GENERAL", " General "})
-    ExpectTexts({{0.1 + 0.2, general, "0.30000000000000004"}, {1e20, general, "1E+20"}});
+    ExpectTexts({{0.1 + 0.2, general, "0.3"},
+                 {0.09999999999999999, general, "0.1"},
+                 {1.0 / 3, general, "0.333333333333333"},
+                 {999999999999999.9, general, "1E+15"},
+                 {1e20, general, "1E+20"}});
   ExpectTexts({{1234.5, "General", "1234,5"}}, kGermanFormat);
 }
 

@@ -1,4 +1,5 @@
 // Single characters of fonts as Qt paints them: what the pixels of the picker's grid show.
+#include <QFontDatabase>
 #include <set>
 
 #include "desktops/qt/Characters.h"
@@ -37,6 +38,14 @@ class QtCharacters : public QtFormsTest {
 
   std::shared_ptr<frmTrueType> picker = std::make_shared<frmTrueType>(desktop());
 };
+
+TEST_F(QtCharacters, EveryFamilyOfTheSystemCanBeChosen) {
+  picker->Load();
+  std::set<std::string> offered;
+  for (int i = 0; i < picker->cboFont.ListCount(); ++i) offered.insert(picker->cboFont.List(i));
+  for (const QString& family : QFontDatabase::families())
+    EXPECT_TRUE(offered.contains(family.toStdString())) << family.toStdString();
+}
 
 TEST_F(QtCharacters, EachLetterLooksDifferent) {
   picker->Show(ShowMode::Modeless);

@@ -94,6 +94,35 @@ TEST_F(SettingsDialog, TheTabsAreTranslatedAndTheFirstOneIsCurrent) {
   });
 }
 
+/// Translates the tabs with the form, as far as it has words for them.
+class TabLanguage final : public ILanguage {
+ public:
+  std::int32_t EntryCount() override { return 3; }
+  std::string TranslateText(const std::string& key) override { return key == "Daten" ? "Werte" : key; }
+  void TranslateForm(Form& form) override {
+    if (auto* const tabs = dynamic_cast<TabControl*>(form.Find("ssTab"))) tabs->TabCaption(2, "Daten");
+  }
+};
+
+TEST_F(SettingsDialog, ATabIsLookedUpByTheCaptionThatTheTranslatedFormGivesIt) {
+  TabLanguage words;
+  service.Language(&words);
+  Show([&](frmSettings& form) {
+    EXPECT_EQ("Label", form.ssTab.TabCaption(1));
+    EXPECT_EQ("Werte", form.ssTab.TabCaption(2));
+  });
+}
+
+TEST_F(SettingsDialog, HelpNumbersUpToTheEndsOf32BitsCount) {
+  service.Language(&language);
+  const std::pair<const char*, std::int32_t> numbers[] = {
+      {"2147483647", 2147483647}, {"-2147483648", -2147483647 - 1}, {"2147483648", 0}, {"-2147483649", 0}};
+  for (const auto& [text, expected] : numbers) {
+    language.Texts["_HelpMapLayerSettings"] = text;
+    Show([expected = expected](frmSettings& form) { EXPECT_EQ(expected, form.HelpContextId()); });
+  }
+}
+
 TEST_F(SettingsDialog, WithoutALanguageTheTabOfTheDesignIsCurrent) {
   int switches = 0;
   const auto form = std::make_shared<frmSettings>(desktop(), pages);

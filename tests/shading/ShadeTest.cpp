@@ -159,6 +159,14 @@ TEST_F(Shading, OKUntouchedWritesNothingButTheCount) {
   EXPECT_EQ(200, shade.Count);
 }
 
+TEST_F(Shading, EndlessValuesOfTheHostAreNoObstacleToOK) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  shade.HeldScaleFactor = shade.HeldScaleMultiplier = infinity;
+  EXPECT_FALSE(Edit([] {}));
+  EXPECT_EQ(Calls{"ShadeCount="}, WritesIn(shade.Log));
+  EXPECT_EQ(infinity, shade.HeldScaleFactor);
+}
+
 TEST_F(Shading, EverySettingIsWrittenInOrder) {
   PutBack();
   EXPECT_TRUE(EditEverything());
@@ -333,7 +341,7 @@ TEST_F(Shading, ASettingThatCannotBeWrittenIsPassedOver) {
   }
 }
 
-TEST_F(Shading, UnknownCodesStayUntilAnotherEntryIsChosen) {
+TEST_F(Shading, UnknownCodesStayUntilAnEntryIsPickedBeItTheOneShown) {
   shade.HeldShadeVersion = 30;
   shade.HeldCombineColors = 9;
   shade.HeldFirstShadeIndex = 1;
@@ -343,6 +351,8 @@ TEST_F(Shading, UnknownCodesStayUntilAnotherEntryIsChosen) {
   }));
   EXPECT_EQ(30, shade.HeldShadeVersion);
   EXPECT_EQ(9, shade.HeldCombineColors);
+  EXPECT_TRUE(Edit([this] { user.Choose(form->cmbCombine, 0); }));
+  EXPECT_EQ(combinecolors::kNone, shade.HeldCombineColors);
 }
 
 TEST_F(Shading, CancelAndTheCloseBoxReportNoChange) {

@@ -116,7 +116,8 @@ double QtDesktop::Scale() const {
 }
 
 std::vector<std::string> QtDesktop::ScreenFonts() const {
-  std::vector<std::string> names;
+  // The system's own font has no name here: what it is drawn with is one of the families.
+  std::vector<std::string> names(1);
   for (const QString& family : QFontDatabase::families()) names.push_back(FromQt(family));
   return names;
 }

@@ -78,8 +78,7 @@ TEST(NumbersFormatNumberOracle, PatternsShowWhatThePlatformShows) {
   const std::vector<double> values = Values(kLargestPower);
   for (const Locale* locale : {&English(), &German()}) {
     for (const std::string& pattern : kPatterns)
-      for (const double value : values)
-        if (pattern != kGeneral || HasFifteenDigits(value)) differences.Compare(Show(value, pattern, *locale));
+      for (const double value : values) differences.Compare(Show(value, pattern, *locale));
     for (const double value : Values(kLargestScientificPower)) differences.Compare(Show(value, "0.0000E+000", *locale));
   }
   differences.ExpectAllExplained(100'000);

@@ -66,5 +66,15 @@ TEST(NumbersShortestTextOracle, NumbersOfFifteenDigitsAreWrittenAsThePlatformWri
   differences.ExpectAllExplained(5'000);
 }
 
+TEST(NumbersGeneralTextOracle, EveryNumberIsWrittenAsThePlatformWritesIt) {
+  // Only the decimal comma is left to explain: all values are finite and none is below the normal range.
+  Differences<Writing> differences({WritingDifferences().back()});
+  for (const Locale* locale : {&English(), &German()})
+    for (const double value : Values(300))
+      differences.Compare(
+          {value, locale, GeneralText(value, locale->Marks), TextOf(value, *locale).value_or("nothing")});
+  differences.ExpectAllExplained(5'000);
+}
+
 }  // namespace
 }  // namespace orx::numbers::oracle
