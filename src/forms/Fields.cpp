@@ -18,16 +18,16 @@ bool FlagField::Value() const {
 void ChoiceField::Show(std::int32_t code) {
   mCode = code;
   if (!mList.SelectData(code)) mList.ListIndex(mRule.Otherwise);
-  Shown();
+  TakeAsShown();
 }
 
 void ChoiceField::Clear() {
   mCode.reset();
   mList.ListIndex(mRule.Otherwise);
-  Shown();
+  TakeAsShown();
 }
 
-void ChoiceField::Shown() {
+void ChoiceField::TakeAsShown() {
   mShown = mList.ListIndex();
   mEdits = mList.Edits();
 }

@@ -88,7 +88,8 @@ class ChoiceField : public FieldTypes<std::int32_t, ListControl&, ChoiceRule> {
   bool IsEdited() const;
 
  private:
-  void Shown();
+  /// What is selected now is what the field has been given.
+  void TakeAsShown();
 
   ListControl& mList;
   ChoiceRule mRule;

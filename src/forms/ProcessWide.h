@@ -11,9 +11,11 @@ namespace orx {
 template <class Value>
 class ProcessWide {
  public:
-  constexpr ProcessWide() = default;
+  /// Starts with a value.
+  ProcessWide() = default;
   explicit ProcessWide(Value value) : mValue(std::move(value)) {}
 
+  /// Reads and replaces the whole value.
   Value Get() const {
     const std::lock_guard lock(mMutex);
     return mValue;

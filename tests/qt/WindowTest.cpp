@@ -38,6 +38,33 @@ TEST_F(QtWindow, AFormStandsBeforeTheFormThatOwnsIt) {
   inner->Unload();
 }
 
+TEST_F(QtWindow, AFormEndsWithTheWindowOfTheHostThatOwnsIt) {
+  for (const ShowMode mode : {ShowMode::Modal, ShowMode::Modeless}) {
+    auto host = std::make_unique<QWidget>();
+    host->show();
+    if (mode == ShowMode::Modal)
+      script.ExpectForm("frmSample", [&](Form&) {
+        host.reset();
+        EXPECT_FALSE(form->Visible());
+      });
+    form->Show(mode, {nullptr, host->winId()});
+    host.reset();
+    EXPECT_FALSE(form->Visible());
+    EXPECT_FALSE(form->IsLoaded());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+  }
+}
+
+TEST_F(QtWindow, AFormIsNotEndedByTheOwnerOfAnEarlierShow) {
+  auto host = std::make_unique<QWidget>();
+  host->show();
+  form->Show(ShowMode::Modeless, {nullptr, host->winId()});
+  form->Hide();
+  form->Show(ShowMode::Modeless);
+  host.reset();
+  EXPECT_TRUE(form->Visible());
+}
+
 TEST_F(QtWindow, AnErrorOfTheHookReachesTheCallerOfShow) {
   script.ExpectForm("frmSample", [](Form&) { throw std::runtime_error("hook"); });
   EXPECT_THROW(form->Show(), std::runtime_error);

@@ -69,6 +69,14 @@ QWindow* DialogWindow::WindowOf(const OwnerWindow& owner) const {
   return modal->windowHandle();
 }
 
+void DialogWindow::EndWith(const OwnerWindow& owner) {
+  QObject::disconnect(mOwnerLost);
+  const QWindow* const host = owner.OwnerForm ? nullptr : NamedWindow(owner);
+  if (!host) return;
+  mOwnerLost = QObject::connect(host, &QObject::destroyed, mDialog,
+                                [dialog = mDialog, this] { dialog->Tell([this] { mForm.WindowLost(); }); });
+}
+
 void DialogWindow::Show(ShowMode mode, OwnerWindow owner) {
   const Dialog::Quiet quiet(*mDialog);
   mEnded = false;
@@ -77,6 +85,7 @@ void DialogWindow::Show(ShowMode mode, OwnerWindow owner) {
   // The owner is no parent widget: Qt deletes a parent's dialogs with it, but here each form owns its window.
   mDialog->winId();
   mDialog->windowHandle()->setTransientParent(WindowOf(owner));
+  EndWith(owner);
   mDialog->show();
   mDialog->activateWindow();
 }

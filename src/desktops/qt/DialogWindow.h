@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QMetaObject>
 #include <exception>
 #include <memory>
 #include <vector>
@@ -40,11 +41,14 @@ class DialogWindow final : public FormWindow {
   void OrderTabs() const;
   /// The host's or the form's window behind this one, null when there is none.
   QWindow* WindowOf(const OwnerWindow& owner) const;
+  /// The dialog ends with the host's window that it belongs to.
+  void EndWith(const OwnerWindow& owner);
 
   Form& mForm;
   Dialog* mDialog;
   std::vector<std::unique_ptr<Peer>> mPeers;
   QEventLoop mLoop;
+  QMetaObject::Connection mOwnerLost;
   std::exception_ptr mHookError;
   bool mEnded = false;
 };
