@@ -7,7 +7,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "forms/Appearance.h"
@@ -41,7 +40,8 @@ class WrongThread final : public std::logic_error {
 /// WrongThread instead. Several threads may have a desktop each.
 class Desktop {
  public:
-  Desktop() = default;
+  /// It belongs to this thread from now on.
+  Desktop();
   virtual ~Desktop();
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
@@ -153,7 +153,8 @@ class Desktop {
   /// form the user is told.
   void HandlerFailed(const Form& form, std::exception_ptr error);
 
-  const std::thread::id mThread = std::this_thread::get_id();
+  /// The mark of the thread that made the desktop.
+  const void* const mThread;
   DesktopHook* mHook = nullptr;
   orx::Pointer mPointer = orx::Pointer::Default;
   std::vector<Session*> mSessions;

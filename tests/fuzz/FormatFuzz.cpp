@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   Require(numbers::FormatNumber(value, " " + pattern + " ") == text);
   const std::optional<numbers::NumberPattern> known = numbers::ToNumberPattern(pattern);
   if (!std::isfinite(value) || !known) {
-    Require(text == numbers::ShortestText(value));
+    Require(text == numbers::GeneralText(value));
     return 0;
   }
   // A pattern may leave nothing but a sign or a decimal point of a small number.

@@ -52,7 +52,7 @@ TEST_F(ServiceThreads, NoMemberShowsAnythingOnAnotherThread) {
       [&] { service.ShowDataOptions(&object); },
       [&] { service.ShowGeoReference(&map); },
       [&] { service.ShowCharacterSelection(name, number, angle, flag); },
-      [&] { service.ShowListSelection(TextArray({"a"}), false, 0, {}, false, {}, chosen); },
+      [&] { service.ShowListSelection(TextArray{{"a"}}, false, 0, {}, false, {}, chosen); },
       [&] { service.ShowAddLayer(0, false, files); },
       [&] { service.ShowAddData(0, false, files); },
       [&] { service.ShowFileNotFound("a", name, flag); },
