@@ -25,10 +25,12 @@ class ClassifyFaults : public EditFaults<ClassifyTest> {
 };
 
 TEST_F(ClassifyFaults, WhateverFailsOnOKTheDialogEndsAndTellsWhetherItWrote) {
-  ForEachFault([this](FaultPlan& plan) {
-    const bool result = EditUnder(plan);
-    EXPECT_EQ(!data.Writes().empty(), result) << plan.Failed();
-  });
+  ForEachFault(
+      [this](FaultPlan& plan) {
+        const bool result = EditUnder(plan);
+        EXPECT_EQ(!data.Writes().empty(), result) << plan.Failed();
+      },
+      CallStride());
 }
 
 TEST_F(ClassifyFaults, DataThatAreGoneOnOKAreNoChange) {
@@ -42,14 +44,16 @@ TEST_F(ClassifyFaults, DataThatCloseTheDialogAreNotCalledAnyMore) {
 }
 
 TEST_F(ClassifyFaults, WhateverFailsWhileLoadingNothingTravels) {
-  ForEachFault([this](FaultPlan& plan) {
-    const auto alone = std::make_shared<frmDataClassify>(desktop());
-    alone->SetData(&host, low, high, flags, {});
-    Follow(&plan);
-    EXPECT_NO_THROW(alone->Load()) << plan.Failed();
-    Follow(nullptr);
-    alone->Unload();
-  });
+  ForEachFault(
+      [this](FaultPlan& plan) {
+        const auto alone = std::make_shared<frmDataClassify>(desktop());
+        alone->SetData(&host, low, high, flags, {});
+        Follow(&plan);
+        EXPECT_NO_THROW(alone->Load()) << plan.Failed();
+        Follow(nullptr);
+        alone->Unload();
+      },
+      CallStride());
   EXPECT_EQ(Calls{}, data.Writes());
 }
 

@@ -28,10 +28,12 @@ class IsolineFaults : public EditFaults<DesktopTest> {
 };
 
 TEST_F(IsolineFaults, WhateverFailsOnOKTheDialogEndsAndReportsWhatItWrote) {
-  ForEachFault([this](FaultPlan& plan) {
-    const bool result = EditUnder(plan);
-    EXPECT_EQ(lines.HeldMaxWidth == 9, result) << plan.Failed();
-  });
+  ForEachFault(
+      [this](FaultPlan& plan) {
+        const bool result = EditUnder(plan);
+        EXPECT_EQ(lines.HeldMaxWidth == 9, result) << plan.Failed();
+      },
+      CallStride());
 }
 
 TEST_F(IsolineFaults, AnObjectThatIsGoneOnOKIsNoChange) {
@@ -45,14 +47,16 @@ TEST_F(IsolineFaults, AnObjectThatClosesTheDialogIsNotCalledAnyMore) {
 }
 
 TEST_F(IsolineFaults, WhateverFailsWhileLoadingNothingTravels) {
-  ForEachFault([this](FaultPlan& plan) {
-    const auto alone = std::make_shared<frmDataIsoline>(desktop());
-    alone->IsolineObject(&host);
-    Follow(&plan);
-    EXPECT_NO_THROW(alone->Load()) << plan.Failed();
-    Follow(nullptr);
-    alone->Unload();
-  });
+  ForEachFault(
+      [this](FaultPlan& plan) {
+        const auto alone = std::make_shared<frmDataIsoline>(desktop());
+        alone->IsolineObject(&host);
+        Follow(&plan);
+        EXPECT_NO_THROW(alone->Load()) << plan.Failed();
+        Follow(nullptr);
+        alone->Unload();
+      },
+      CallStride());
   EXPECT_TRUE(WritesIn(lines.Log).empty());
 }
 

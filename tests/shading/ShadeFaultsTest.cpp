@@ -28,10 +28,12 @@ class ShadeFaults : public EditFaults<DesktopTest> {
 };
 
 TEST_F(ShadeFaults, WhateverFailsOnOKTheDialogEndsAndReportsWhatItWrote) {
-  ForEachFault([this](FaultPlan& plan) {
-    const bool result = EditUnder(plan);
-    EXPECT_EQ(shade.HeldAltitude == 50, result) << plan.Failed();
-  });
+  ForEachFault(
+      [this](FaultPlan& plan) {
+        const bool result = EditUnder(plan);
+        EXPECT_EQ(shade.HeldAltitude == 50, result) << plan.Failed();
+      },
+      CallStride());
 }
 
 TEST_F(ShadeFaults, AnObjectThatIsGoneOnOKIsNoChange) {
@@ -45,20 +47,22 @@ TEST_F(ShadeFaults, AnObjectThatClosesTheDialogIsNotCalledAnyMore) {
 }
 
 TEST_F(ShadeFaults, WhateverFailsWhileLoadingNothingTravels) {
-  ForEachFault([this](FaultPlan& plan) {
-    const auto alone = std::make_shared<frmDataShade>(desktop());
-    alone->ShadeObject(&host);
-    Follow(&plan);
-    EXPECT_NO_THROW(alone->Load()) << plan.Failed();
-    if (!alone->IsLoaded()) return Follow(nullptr);
-    std::vector<Message> boxes;
-    script.Noted = &boxes;
-    EXPECT_NO_THROW(alone->cmdScaleFactor.Click.Raise()) << plan.Failed();
-    script.Noted = nullptr;
-    EXPECT_EQ(1U, boxes.size());
-    Follow(nullptr);
-    alone->Unload();
-  });
+  ForEachFault(
+      [this](FaultPlan& plan) {
+        const auto alone = std::make_shared<frmDataShade>(desktop());
+        alone->ShadeObject(&host);
+        Follow(&plan);
+        EXPECT_NO_THROW(alone->Load()) << plan.Failed();
+        if (!alone->IsLoaded()) return Follow(nullptr);
+        std::vector<Message> boxes;
+        script.Noted = &boxes;
+        EXPECT_NO_THROW(alone->cmdScaleFactor.Click.Raise()) << plan.Failed();
+        script.Noted = nullptr;
+        EXPECT_EQ(1U, boxes.size());
+        Follow(nullptr);
+        alone->Unload();
+      },
+      CallStride());
   EXPECT_TRUE(WritesIn(shade.Log).empty());
 }
 

@@ -16,6 +16,9 @@ class DesktopTest : public testing::Test {
 
   Desktop& desktop() { return mDesktop->Get(); }
   TestDesktop& testDesktop() { return *mDesktop; }
+  /// Tests that go through all calls of a host take each of them; where an act takes its time, one in so many. A prime,
+  /// so that each way to fail meets other calls.
+  int CallStride() { return testDesktop().IsSlow() ? 11 : 1; }
 
  private:
   std::unique_ptr<TestDesktop> mDesktop = MakeTestDesktop();

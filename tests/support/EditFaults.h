@@ -39,7 +39,7 @@ class EditFaults : public Base {
     FaultPlan none;
     EditUnder(none);
     ASSERT_GT(none.Count(), 0);
-    for (int at = 0; at < none.Count(); ++at) {
+    for (int at = 0; at < none.Count(); at += this->CallStride()) {
       FaultPlan plan(at, Failure::Null, false);
       int atUnload = 0;
       atFault = [&](Form& shown) {
