@@ -4,6 +4,7 @@
 
 #include "forms/ComboBox.h"
 #include "forms/FieldTexts.h"
+#include "hostobjects/ErrorTrap.h"
 
 namespace orx::pages {
 
@@ -12,7 +13,7 @@ PageBase::PageBase(const PageSite& site) : Surface(site.Parent, site.Name, {.Pla
 }
 
 void PageBase::Adopt(Settings& list) {
-  list.Translate = [this](const std::string& text) { return Translated(mLanguage, text); };
+  list.Translate = [this](const std::string& text) { return Text(text); };
   list.Written = [this](Setting& setting) {
     mIsDirty = mHasWritten = true;
     if (!OwnerForm().IsRetired()) WasWritten(setting);
@@ -27,8 +28,14 @@ void PageBase::Client(HostObject* value) {
 void PageBase::Language(ILanguage* value) {
   mLanguage = value;
   for (const TranslatedList& list : mLists)
-    for (int i = 0; i < list.Box->ListCount(); ++i)
-      list.Box->List(i, Translated(mLanguage, list.Texts[static_cast<std::size_t>(i)]));
+    for (int i = 0; i < list.Box->ListCount(); ++i) list.Box->List(i, Text(list.Texts[static_cast<std::size_t>(i)]));
+}
+
+std::string PageBase::Text(const std::string& text) const {
+  std::string translated = text;
+  // A language that fails must not keep the page from showing what it has read.
+  ErrorTrap().Step([&] { translated = Translated(mLanguage, text); });
+  return translated;
 }
 
 void PageBase::RefreshContents() {

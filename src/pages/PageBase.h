@@ -142,7 +142,7 @@ class PageBase : public PropertyPage {
     std::vector<const Setting*> Followed;
   };
 
-  std::string Text(const char* text) const { return Translated(mLanguage, text); }
+  std::string Text(const std::string& text) const;
   /// A reason for the user: those of the library are translated.
   std::string Reason(const std::string& words) const;
   /// The locked setting that a control shows or acts on; null for none.

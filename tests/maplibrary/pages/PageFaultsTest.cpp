@@ -1,5 +1,6 @@
 // Properties that a host fails to give or to take: what is locked, what is told, and that nothing else is lost.
 #include "languages/TextLanguage.h"
+#include "pages/PageTexts.h"
 #include "tests/maplibrary/pages/PageFaults.h"
 
 namespace orx::test {
@@ -166,6 +167,30 @@ TEST_F(PageFaults, TheLanguageSpeaksOfFaultsToo) {
   EXPECT_EQ((std::vector<Message>{{"Nicht alles konnte gespeichert werden:\r\nName: Unbekannter Fehler", "Page",
                                    MessageIcon::Exclamation}}),
             BoxesIn([&] { page->Page->SaveChanges(); }));
+}
+
+/// Fails at every text once it has been set.
+class FailingLanguage final : public languages::FormLanguage {
+ public:
+  std::int32_t EntryCount() override { return 1; }
+  std::string TranslateText(const std::string& key) override {
+    // Lists are translated before.
+    if (Fails && key == pagetexts::kNothingToEdit) throw std::runtime_error(key);
+    return key;
+  }
+  bool Fails = false;
+};
+
+TEST_F(PageFaults, ALanguageThatFailsKeepsNothingFromBeingReadAndNothingIsWrittenForIt) {
+  FailingLanguage language;
+  service.Language(&language);
+  language.Fails = true;
+  InDialog("frmLabels", [this] {
+    EXPECT_EQ("9", Seen("txtSize"));
+    EXPECT_EQ("Name", Seen("cboContent"));
+  });
+  EXPECT_EQ(0, service.ShowLabels(&layer));
+  EXPECT_EQ(Calls{}, layer.Log.Calls);
 }
 
 TEST_F(PageFaults, ADialogWithARefusedSettingEndsByItsRule) {
