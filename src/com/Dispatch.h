@@ -42,6 +42,8 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID locale, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* error, UINT* wrongArgument) noexcept override {
     if (!parameters) return E_POINTER;
+    // The host may release the object from within the call, which then still needs the description.
+    const ComPtr<Interface> keep(this);
     HRESULT invoked = S_OK;
     const HRESULT done = Guarded("Object", [&] {
       invoked = InvokeMember(*Description(), static_cast<Interface*>(this),

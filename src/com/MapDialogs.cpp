@@ -50,12 +50,14 @@ HRESULT MapDialogs::get_Language(IDispatch** value) noexcept {
 }
 
 HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
-  return Guarded(kDialogsSource, [&] {
+  return Kept(kDialogsSource, [&] {
     IDispatch* const language = value ? *value : nullptr;
-    // The old adapter lives until the service has the new one, even if the new language throws when it is set.
-    const auto before = std::exchange(mLanguageAdapter, AdaptLanguage(language));
+    // Both adapters live until the service has the new one: the new language may throw when it is set, or set another
+    // one itself.
+    const auto adapter = AdaptLanguage(language);
+    const auto before = std::exchange(mLanguageAdapter, adapter);
     mLanguage = language;
-    mService.Language(mLanguageAdapter.get());
+    mService.Language(adapter.get());
   });
 }
 

@@ -12,14 +12,14 @@
 namespace orx::com {
 namespace {
 
-std::function<std::unique_ptr<Desktop>()>& Maker() {
-  static std::function<std::unique_ptr<Desktop>()> maker;
+std::function<std::shared_ptr<Desktop>()>& Maker() {
+  static std::function<std::shared_ptr<Desktop>()> maker;
   return maker;
 }
 
 class DialogContext final : public ThreadContext {
  public:
-  DialogContext() : mScreen(Maker() ? Maker()() : std::make_unique<win32::Win32Desktop>()) {}
+  DialogContext() : mScreen(Maker() ? Maker()() : std::make_shared<win32::Win32Desktop>()) {}
 
   Desktop& Screen() override { return *mScreen; }
   IPageFactory& Pages() override { return mPages; }
@@ -28,7 +28,7 @@ class DialogContext final : public ThreadContext {
   // The desktop is the last and so destroyed first: pages of open dialogs go with it, and need the factories.
   pages::PageFactory mEmbedded;
   PageControlFactory mPages{mEmbedded};
-  std::unique_ptr<Desktop> mScreen;
+  std::shared_ptr<Desktop> mScreen;
 };
 
 /// One entry for each thread with service objects or open dialogs.
@@ -99,7 +99,7 @@ bool ThreadContext::StillOpen() {
   return AllThreads().StillOpen();
 }
 
-void ThreadContext::DesktopMaker(std::function<std::unique_ptr<Desktop>()> maker) {
+void ThreadContext::DesktopMaker(std::function<std::shared_ptr<Desktop>()> maker) {
   Maker() = std::move(maker);
 }
 

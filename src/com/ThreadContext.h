@@ -23,8 +23,9 @@ class ThreadContext {
   /// thread has a context with open dialogs.
   static bool StillOpen();
 
-  /// For tests: `maker` makes the desktops from now on; an empty function restores the platform's.
-  static void DesktopMaker(std::function<std::unique_ptr<Desktop>()> maker);
+  /// For tests: `maker` gives the desktops from now on, shared with whom it likes; an empty function restores the
+  /// platform's.
+  static void DesktopMaker(std::function<std::shared_ptr<Desktop>()> maker);
 };
 
 }  // namespace orx::com

@@ -100,6 +100,31 @@ TEST_F(MapDialogsTest, ALanguageWithEntriesGivesTheHelpFile) {
   EXPECT_EQ(modMain::HelpFile(), "maps.hlp");
 }
 
+TEST_F(MapDialogsTest, ALanguageMayReleaseTheServiceThatItIsGivenTo) {
+  const auto language = LanguageOf(3);
+  orx::test::FaultPlan plan("EntryCount", [this] { dialogs.Reset(); });
+  language->Faults = &plan;
+  IDispatch* given = language.Get();
+  EXPECT_EQ(dialogs->putref_Language(&given), S_OK);
+  EXPECT_FALSE(dialogs);
+  EXPECT_EQ(ReferencesOf(language.Get()), 1u);
+}
+
+TEST_F(MapDialogsTest, ALanguageMaySetAnotherOneWhenItIsSet) {
+  const auto first = LanguageOf(3);
+  const auto second = LanguageOf(3);
+  orx::test::FaultPlan plan("EntryCount", [&] {
+    IDispatch* given = second.Get();
+    EXPECT_EQ(dialogs->putref_Language(&given), S_OK);
+  });
+  first->Faults = &plan;
+  IDispatch* given = first.Get();
+  EXPECT_EQ(dialogs->putref_Language(&given), S_OK);
+  ComPtr<IDispatch> got;
+  ASSERT_EQ(dialogs->get_Language(got.Out()), S_OK);
+  EXPECT_EQ(got.Get(), second.Get());
+}
+
 TEST_F(MapDialogsTest, AnObjectThatIsNoLanguageIsToldByTheMissingMember) {
   const auto object = MakeCounted<ScriptObject>();
   IDispatch* given = object.Get();

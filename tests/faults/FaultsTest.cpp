@@ -28,11 +28,12 @@ class Faults : public DesktopTest, public testing::WithParamInterface<Fault> {
   Outcome Run(const DialogCase& dialog, Fault fault, int at) {
     FaultPlan plan;
     DialogHost host(desktop(), dialog.Rules.HasEmbeddedPages, plan);
-    const FaultScene scene{host, dialog, user, [this] { return acts.Top(); },
-                           [this, at] {
-                             std::mt19937 random(static_cast<unsigned>(at));
-                             acts.ActAtRandom(random);
-                           }};
+    const FaultScene scene = SceneOf(
+        host, dialog, user, [this] { return acts.Top(); },
+        [this, at] {
+          std::mt19937 random(static_cast<unsigned>(at));
+          acts.ActAtRandom(random);
+        });
     plan = PlanOf(fault, at, scene);
     Outcome outcome;
     try {
@@ -84,11 +85,7 @@ TEST_P(Faults, InAnyCallLeaveDesktopAndHostInOrder) {
   RecordProperty("runs", runs);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Faults, testing::ValuesIn(kFaults), [](const testing::TestParamInfo<Fault>& each) {
-  std::string name = NameOf(each.param);
-  std::erase(name, ' ');
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Each, Faults, testing::ValuesIn(kFaults), TestNameOf);
 
 class FaultsWithCancel : public Faults {};
 
@@ -108,11 +105,7 @@ TEST_P(FaultsWithCancel, WriteNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, FaultsWithCancel, testing::Values(Fault::Throws, Fault::Closes, Fault::AnswersNull),
-                         [](const testing::TestParamInfo<Fault>& each) {
-                           std::string name = NameOf(each.param);
-                           std::erase(name, ' ');
-                           return name;
-                         });
+                         TestNameOf);
 
 /// The figures of docs/quality.md.
 class FaultFigures : public Faults {};

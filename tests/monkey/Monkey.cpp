@@ -32,10 +32,11 @@ Monkey::Monkey(TestDesktop& screen, DialogHost& host, const DialogCase& dialog, 
       mUser(screen.Person()),
       mHost(host),
       mPlan(plan),
-      mScene{host, dialog, mUser, [this] { return Top(); },
-             [this] {
-               for (int i = 0; i < 3; ++i) DoNext();
-             }},
+      mScene(SceneOf(
+          host, dialog, mUser, [this] { return Top(); },
+          [this] {
+            for (int i = 0; i < 3; ++i) DoNext();
+          })),
       mActs(acts),
       mFiles(std::move(files)) {
 }

@@ -11,21 +11,15 @@ std::function<void()> HappeningOf(Fault fault, const FaultScene& scene) {
         if (Form* const top = scene.Top()) scene.Person.CloseBox(*top);
       };
     case Fault::LosesItsOwner:
-      return [&scene] {
-        const std::shared_ptr<Form> loading = scene.Host.Pages.Loading.lock();
-        if (Form* const top = scene.Top() ? scene.Top() : loading.get()) top->WindowLost();
-      };
+      return scene.LoseOwner;
     case Fault::Nests:
-      return [&scene] {
-        // Not without a service, which an earlier fault may have destroyed.
-        if (scene.Host.Service) scene.Dialog.Show(scene.Host);
-      };
+      return scene.OpenTheSame;
     case Fault::Removes:
-      return [&scene] { scene.Host.Remove(); };
+      return scene.Remove;
     case Fault::ActsAtRandom:
       return scene.ActAtRandom;
     case Fault::Destroys:
-      return [&scene] { scene.Host.Service.reset(); };
+      return scene.DestroyService;
     default:
       return nullptr;
   }
@@ -38,6 +32,31 @@ const char* NameOf(Fault fault) {
                                     "loses its owner", "opens the same", "removes",
                                     "answers null",    "acts at random", "destroys the service"};
   return kNames[static_cast<int>(fault)];
+}
+
+std::string TestNameOf(const testing::TestParamInfo<Fault>& each) {
+  std::string name = NameOf(each.param);
+  std::erase(name, ' ');
+  return name;
+}
+
+FaultScene SceneOf(DialogHost& host, const DialogCase& dialog, User& person, std::function<Form*()> top,
+                   std::function<void()> actAtRandom) {
+  const auto loseOwner = [&host, top] {
+    const std::shared_ptr<Form> loading = host.Pages.Loading.lock();
+    if (Form* const lost = top() ? top() : loading.get()) lost->WindowLost();
+  };
+  const auto openTheSame = [&host, &dialog] {
+    // Not without a service, which an earlier fault may have destroyed.
+    if (host.Service) dialog.Show(host);
+  };
+  return {person,
+          std::move(top),
+          std::move(actAtRandom),
+          loseOwner,
+          openTheSame,
+          [&host] { host.Remove(); },
+          [&host] { host.Service.reset(); }};
 }
 
 FaultPlan PlanOf(Fault fault, int at, const FaultScene& scene) {

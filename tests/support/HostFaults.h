@@ -1,8 +1,11 @@
 // What a host may do in a call that reaches it.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <functional>
+#include <string>
 
 #include "tests/support/DialogCases.h"
 #include "tests/support/Faults.h"
@@ -24,16 +27,25 @@ inline bool IsError(Fault fault) {
          fault == Fault::Removes;
 }
 
-/// Where faults happen.
+/// The name of a test for each fault.
+std::string TestNameOf(const testing::TestParamInfo<Fault>& each);
+
+/// Where faults happen, and what the host does for those that are more than a failing call.
 struct FaultScene {
-  DialogHost& Host;
-  const DialogCase& Dialog;
   User& Person;
   /// The dialog in front that the user can reach, null while there is none.
   std::function<Form*()> Top;
   /// The user does a few acts, whatever comes.
   std::function<void()> ActAtRandom;
+  std::function<void()> LoseOwner;
+  std::function<void()> OpenTheSame;
+  std::function<void()> Remove;
+  std::function<void()> DestroyService;
 };
+
+/// The scene of a dialog of that host. Both have to stay.
+FaultScene SceneOf(DialogHost& host, const DialogCase& dialog, User& person, std::function<Form*()> top,
+                   std::function<void()> actAtRandom);
 
 /// Has the fault happen in call number `at` from now on, from 0; never for -1. The scene has to stay.
 FaultPlan PlanOf(Fault fault, int at, const FaultScene& scene);

@@ -106,6 +106,59 @@ TEST_F(Win32Control, AToolTipIsGivenToThePlatform) {
   EXPECT_STREQ(L"The layer's name", text);
 }
 
+/// The tool tips of the thread's dialog.
+HWND Tips() {
+  return FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr);
+}
+
+class Win32ToolTips : public Win32Control {
+ protected:
+  /// Puts the mouse into the middle of a control and waits until a tool tip stands there, or has gone.
+  bool Shows(const Control& control, bool isExpected) {
+    Send(Tips(), TTM_SETDELAYTIME, TTDT_INITIAL, 1);
+    RECT place;
+    GetWindowRect(WindowOf(control), &place);
+    SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    const HWND taker = WindowFromPoint({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    // As the platform asks when the mouse has moved.
+    Send(taker, WM_SETCURSOR, reinterpret_cast<WPARAM>(taker), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    const DWORD end = GetTickCount() + 2000;
+    while (IsVisible() != isExpected && GetTickCount() < end) {
+      desktop().ProcessPendingEvents();
+      Sleep(1);
+    }
+    return IsVisible();
+  }
+  static bool IsVisible() { return IsWindowVisible(Tips()) != FALSE; }
+};
+
+TEST_F(Win32ToolTips, AreAlsoShownOverDisabledControls) {
+  ShowForm();
+  form->txtName.ToolTipText("The layer cannot be renamed");
+  form->txtName.Enabled(false);
+  ASSERT_TRUE(Tips());
+  EXPECT_TRUE(Shows(form->txtName, true));
+  EXPECT_EQ("The layer cannot be renamed", TextOf(Tips()));
+  EXPECT_FALSE(Shows(form->cmdOK, false));
+}
+
+TEST_F(Win32ToolTips, AreShownWhereAWholeFrameIsDisabled) {
+  ShowForm();
+  form->txtFirst.ToolTipText("Not read");
+  form->fraFirst.Enabled(false);
+  EXPECT_TRUE(Shows(form->txtFirst, true));
+  EXPECT_EQ("Not read", TextOf(Tips()));
+}
+
+TEST_F(Win32ToolTips, AreNotShownOverWhatHasNone) {
+  ShowForm();
+  form->txtSize.ToolTipText("Somewhere else");
+  form->txtSize.Enabled(false);
+  form->txtName.Enabled(false);
+  EXPECT_TRUE(Shows(form->txtSize, true));
+  EXPECT_FALSE(Shows(form->txtName, false));
+}
+
 TEST_F(Win32Notes, ALogShowsItsEndAndCannotBeTypedInto) {
   std::string lines;
   for (int line = 0; line < 50; ++line) lines += "line " + std::to_string(line) + "\n";

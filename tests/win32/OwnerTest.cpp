@@ -225,22 +225,30 @@ TEST_F(Win32Owner, WhatClosesAllWindowsFromOutsideClosesNoFormBehindAnother) {
   form->Show();
 }
 
-/// The windows below one that the system's news of colours has reached.
+/// The windows below one that the system's news has reached, and the message that brings it.
 int theTold = 0;
+UINT theNews = 0;
 LRESULT CALLBACK CountNews(int code, WPARAM wParam, LPARAM lParam) {
   const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
   const bool isChild = (GetWindowLongPtrW(sent.hwnd, GWL_STYLE) & WS_CHILD) != 0;
-  if (code == HC_ACTION && sent.message == WM_SYSCOLORCHANGE && isChild) ++theTold;
+  if (code == HC_ACTION && sent.message == theNews && isChild) ++theTold;
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-TEST_F(Win32Owner, TheControlsAreToldOfNewColors) {
+TEST_F(Win32Owner, TheControlsAreToldOfNewColorsThemesAndSettingsAndPaintedAgain) {
   ShowForm();
-  theTold = 0;
-  const HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, &CountNews, nullptr, GetCurrentThreadId());
-  Send(WindowOf(*form), WM_SYSCOLORCHANGE);
-  UnhookWindowsHookEx(hook);
-  EXPECT_GE(theTold, static_cast<int>(form->All().size()));
+  for (const UINT news : {WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_SETTINGCHANGE}) {
+    UpdateWindow(WindowOf(*form));
+    ASSERT_FALSE(GetUpdateRect(WindowOf(*form), nullptr, FALSE));
+    theTold = 0;
+    theNews = news;
+    const HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, &CountNews, nullptr, GetCurrentThreadId());
+    Send(WindowOf(*form), news);
+    UnhookWindowsHookEx(hook);
+    EXPECT_GE(theTold, static_cast<int>(form->All().size())) << news;
+    EXPECT_TRUE(GetUpdateRect(WindowOf(*form), nullptr, FALSE)) << news;
+    EXPECT_TRUE(GetUpdateRect(WindowOf(form->cmdOK), nullptr, FALSE)) << news;
+  }
 }
 
 }  // namespace

@@ -10,28 +10,9 @@
 #include "desktops/win32/Text.h"
 #include "desktops/win32/Win32Desktop.h"
 #include "tests/forms/SampleForm.h"
+#include "tests/support/HostWindow.h"
 
 namespace orx::test {
-
-/// A window of the host, as its dialogs know it.
-class HostWindow {
- public:
-  HostWindow()
-      : mWindow(CreateWindowExW(0, L"STATIC", L"Host", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100, nullptr, nullptr, nullptr,
-                                nullptr)) {}
-  ~HostWindow() {
-    if (mWindow) DestroyWindow(mWindow);
-  }
-  HostWindow(const HostWindow&) = delete;
-  HostWindow& operator=(const HostWindow&) = delete;
-
-  HWND Get() const { return mWindow; }
-  void Destroy() { DestroyWindow(std::exchange(mWindow, nullptr)); }
-  OwnerWindow AsOwner() const { return {nullptr, reinterpret_cast<std::uintptr_t>(mWindow)}; }
-
- private:
-  HWND mWindow;
-};
 
 class Win32FormsTest : public FormsTest {
  protected:

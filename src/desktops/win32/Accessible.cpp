@@ -23,18 +23,27 @@ std::unique_ptr<IAccPropServices, Releaser> Services() {
   return std::unique_ptr<IAccPropServices, Releaser>(services);
 }
 
-}  // namespace
-
-bool SetAccessibleName(HWND window, const std::string& name) {
-  if (name.empty()) return false;
-  const auto services = Services();
-  return services && SUCCEEDED(services->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
-                                                        PROPID_ACC_NAME, Widened(name).c_str()));
+MSAAPROPID Property(Spoken what) {
+  return what == Spoken::Name ? PROPID_ACC_NAME : PROPID_ACC_DESCRIPTION;
 }
 
-void ForgetAccessibleName(HWND window) {
+void Clear(HWND window, Spoken what) {
+  const MSAAPROPID property = Property(what);
   if (const auto services = Services())
-    services->ClearHwndProps(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &PROPID_ACC_NAME, 1);
+    services->ClearHwndProps(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, &property, 1);
+}
+
+}  // namespace
+
+bool SetAccessible(HWND window, Spoken what, const std::string& text) {
+  if (text.empty()) return Clear(window, what), false;
+  const auto services = Services();
+  return services && SUCCEEDED(services->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                                        Property(what), Widened(text).c_str()));
+}
+
+void ForgetAccessible(HWND window) {
+  for (const Spoken what : {Spoken::Name, Spoken::Description}) Clear(window, what);
 }
 
 }  // namespace orx::win32

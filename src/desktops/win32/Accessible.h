@@ -1,4 +1,4 @@
-// Names for assistive software, for windows where the platform finds none by itself.
+// Names and descriptions for assistive software, for windows where the platform finds none by itself.
 #pragma once
 
 #include <windows.h>
@@ -7,9 +7,12 @@
 
 namespace orx::win32 {
 
-/// Gives a window a name. Does nothing and returns false for an empty name, and where the system has no such service.
-bool SetAccessibleName(HWND window, const std::string& name);
-/// Removes the name; the platform would keep it beyond the life of the window.
-void ForgetAccessibleName(HWND window);
+enum class Spoken { Name, Description };
+
+/// Gives a window a name or a description; an empty one removes it. False where the system has no such service, and for
+/// an empty one.
+bool SetAccessible(HWND window, Spoken what, const std::string& text);
+/// Removes name and description; the platform would keep them beyond the life of the window.
+void ForgetAccessible(HWND window);
 
 }  // namespace orx::win32

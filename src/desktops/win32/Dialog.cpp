@@ -148,19 +148,7 @@ void Dialog::Hide() {
 }
 
 void Dialog::ToolTip(HWND tool, const std::string& text) {
-  if (!mToolTips && text.empty()) return;
-  if (!mToolTips)
-    mToolTips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
-                                0, 0, mWindow, nullptr, ThisModule(), nullptr);
-  std::wstring wide = Widened(text);
-  TTTOOLINFOW info = {};
-  info.cbSize = TTTOOLINFOW_V2_SIZE;
-  info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  info.hwnd = mWindow;
-  info.uId = reinterpret_cast<UINT_PTR>(tool);
-  info.lpszText = wide.data();
-  SendMessageW(mToolTips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&info));
-  if (!text.empty()) SendMessageW(mToolTips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+  mToolTips.Set(mWindow, tool, text);
 }
 
 void Dialog::Retire() {
@@ -250,10 +238,11 @@ void Dialog::ReportMouse() {
   Report([&] { Owner().UserMouseMove({static_cast<int>(at.x), static_cast<int>(at.y)}); });
 }
 
-bool Dialog::ShowPointer() {
+bool Dialog::ShowPointer(HWND over, UINT message) {
   // The platform asks here, whichever control the mouse is over.
   ReportMouse();
   if (IsRetired()) return true;
+  mToolTips.MouseIsIn(over, message);
   const HCURSOR pointer = CursorOf(Owner().OwnerDesktop().Pointer());
   if (pointer) SetCursor(pointer);
   return pointer != nullptr;
@@ -300,7 +289,7 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
       return 0;
     case WM_SETCURSOR:
-      if (ShowPointer()) return TRUE;
+      if (ShowPointer(reinterpret_cast<HWND>(wParam), HIWORD(lParam))) return TRUE;
       break;
     case WM_MOUSEWHEEL:
       mContent.Wheel(GET_WHEEL_DELTA_WPARAM(wParam));
@@ -311,6 +300,7 @@ LRESULT Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
       ColorsChanged(message, wParam, lParam);
       break;
     case kDeferredKey:

@@ -11,6 +11,7 @@
 #include "desktops/win32/Handles.h"
 #include "desktops/win32/Keys.h"
 #include "desktops/win32/ModalBarrier.h"
+#include "desktops/win32/ToolTips.h"
 #include "desktops/win32/WindowClasses.h"
 #include "forms/FormGate.h"
 #include "forms/FormWindow.h"
@@ -67,7 +68,7 @@ class Dialog final : public FormGate {
   static BOOL CALLBACK PassOn(HWND child, LPARAM message);
   void Sized();
   void Moved();
-  bool ShowPointer();
+  bool ShowPointer(HWND over, UINT message);
   void ReportMouse();
   /// Where only the height can be changed, only the lower edge can be dragged.
   LRESULT HitTest(WPARAM wParam, LPARAM lParam) const;
@@ -80,7 +81,7 @@ class Dialog final : public FormGate {
   GdiObject<HFONT> mFont;
   HWND mWindow = nullptr;
   ContentPane mContent;
-  HWND mToolTips = nullptr;
+  ToolTips mToolTips;
   HWND mActiveBefore = nullptr;
   HWND mLastFocus = nullptr;
   std::optional<ModalBarrier> mBarrier;

@@ -1,6 +1,5 @@
 #include "desktops/win32/Peer.h"
 
-#include "desktops/win32/Accessible.h"
 #include "desktops/win32/GuestScope.h"
 #include "desktops/win32/Text.h"
 #include "desktops/win32/WindowClasses.h"
@@ -28,7 +27,7 @@ Peer::Peer(Control& control, Dialog& dialog, HWND window, HWND focus)
 }
 
 Peer::~Peer() {
-  if (mIsAnnotated) ForgetAccessibleName(mFocus);
+  if (mIsAnnotated) ForgetAccessible(mFocus);
   RemovePropW(mWindow, kNameProperty);
   GlobalDeleteAtom(mName);
 }
@@ -143,7 +142,7 @@ void Peer::Mirror(Aspect aspect) {
     case Aspect::Enabled:
       return MirrorEnabled();
     case Aspect::ToolTip:
-      return mDialog.ToolTip(mFocus, mControl.ToolTipText());
+      return MirrorToolTip();
     case Aspect::Accessible:
       return MirrorName();
     default:
@@ -164,8 +163,18 @@ void Peer::MirrorEnabled() {
 
 void Peer::MirrorName() {
   // A caption is the window's text, which already is its name.
-  if (mControl.Caption().empty() || !mControl.ShowsCaption())
-    mIsAnnotated = SetAccessibleName(mFocus, mControl.AccessibleName());
+  if (mControl.Caption().empty() || !mControl.ShowsCaption()) Annotate(Spoken::Name, mControl.AccessibleName());
+}
+
+void Peer::MirrorToolTip() {
+  mDialog.ToolTip(mFocus, mControl.ToolTipText());
+  Annotate(Spoken::Description, mControl.ToolTipText());
+}
+
+void Peer::Annotate(Spoken what, const std::string& text) {
+  // Of what never was annotated there is nothing to remove.
+  if (text.empty() && !mIsAnnotated) return;
+  if (SetAccessible(mFocus, what, text)) mIsAnnotated = true;
 }
 
 void Peer::MirrorPlace() {

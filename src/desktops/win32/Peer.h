@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 
+#include "desktops/win32/Accessible.h"
 #include "desktops/win32/Dialog.h"
 #include "desktops/win32/Subclass.h"
 #include "forms/Control.h"
@@ -74,6 +75,8 @@ class Peer : public ControlPeer {
   void ArrangeContent();
   void MirrorEnabled();
   void MirrorName();
+  void MirrorToolTip();
+  void Annotate(Spoken what, const std::string& text);
   void KeepFocus() const;
 
   Control& mControl;

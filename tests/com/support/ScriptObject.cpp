@@ -3,6 +3,15 @@
 #include <iterator>
 
 namespace orx::com::test {
+namespace {
+
+HRESULT Raise(EXCEPINFO& error, std::int32_t number, const std::string& description) {
+  error.bstrDescription = Bstr(description).Detach();
+  error.scode = CodeOf(number);
+  return DISP_E_EXCEPTION;
+}
+
+}  // namespace
 
 ScriptObject::ScriptObject(std::map<std::string, Variant> fields, Naming naming)
     : mFields(std::move(fields)), mNaming(naming) {
@@ -34,6 +43,13 @@ HRESULT ScriptObject::GetTypeInfoCount(UINT* count) noexcept {
 
 HRESULT ScriptObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) noexcept {
   if (mNaming == Naming::ExtendedOnly) return E_NOTIMPL;
+  try {
+    if (Faults) Faults->Call("the number of " + Narrowed(names[0]));
+  } catch (const RunTimeError&) {
+    return E_FAIL;
+  } catch (int) {
+    return DISP_E_UNKNOWNNAME;
+  }
   ids[0] = NumberOf(Narrowed(names[0]));
   return ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
 }
@@ -47,14 +63,25 @@ HRESULT ScriptObject::Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS
                              EXCEPINFO* error, UINT*) noexcept {
   if (member < 1 || member > static_cast<DISPID>(mFields.size())) return DISP_E_MEMBERNOTFOUND;
   auto& [name, value] = *std::next(mFields.begin(), member - 1);
-  if (name == Broken) {
-    error->bstrDescription = Bstr(name + " is broken").Detach();
-    error->scode = CodeOf(kErrorFileFormat);
-    return DISP_E_EXCEPTION;
+  try {
+    if (name == Broken) throw RunTimeError(kErrorFileFormat, name + " is broken");
+    const bool isRead = (flags & DISPATCH_PROPERTYGET) != 0;
+    Variant none;
+    none.vt = value.vt == VT_DISPATCH ? VT_DISPATCH : VT_NULL;
+    if (Faults && !Faults->Answers(name) && isRead) return InvokeField(name, none, flags, *parameters, result);
+    return InvokeField(name, value, flags, *parameters, result);
+  } catch (const RunTimeError& failure) {
+    return Raise(*error, failure.Number(), failure.what());
+  } catch (int) {
+    return DISP_E_MEMBERNOTFOUND;
   }
+}
+
+HRESULT ScriptObject::InvokeField(const std::string& name, Variant& value, WORD flags, DISPPARAMS& parameters,
+                                  VARIANT* result) {
   if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
     Written.push_back(name);
-    return VariantCopyInd(&value, &parameters->rgvarg[0]);
+    return VariantCopyInd(&value, &parameters.rgvarg[0]);
   }
   if (!(flags & DISPATCH_PROPERTYGET)) return DISP_E_MEMBERNOTFOUND;
   Read.push_back(name);

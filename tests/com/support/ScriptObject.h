@@ -10,6 +10,7 @@
 
 #include "com/Counted.h"
 #include "hostobjects/RunTimeError.h"
+#include "tests/support/Faults.h"
 
 namespace orx::com::test {
 
@@ -53,12 +54,16 @@ class ScriptObject final : public Counted<IDispatchEx> {
   std::vector<std::string> Written;
   /// The field that raises kErrorFileFormat with the description "<field> is broken" whenever it is touched.
   std::string Broken;
+  /// Asked in every call, unless null: an error is raised with its description, a number is a bare error code, and null
+  /// gives Nothing for an object and Null for any other value.
+  orx::test::FaultPlan* Faults = nullptr;
 
  protected:
   void* Find(REFIID iid) noexcept override;
 
  private:
   DISPID NumberOf(const std::string& name) const;
+  HRESULT InvokeField(const std::string& name, Variant& value, WORD flags, DISPPARAMS& parameters, VARIANT* result);
 
   std::map<std::string, Variant> mFields;
   Naming mNaming;
