@@ -1,6 +1,7 @@
 #include "com/Arguments.h"
 
 #include "com/Conversion.h"
+#include "com/SafeArray.h"
 #include "com/TypeDescriptions.h"
 
 namespace orx::com {
@@ -43,6 +44,19 @@ VARTYPE UserType(ITypeInfo& info, HREFTYPE reference) {
 
 bool IsInterface(ITypeInfo& info, const TYPEDESC& type) {
   return type.vt == VT_USERDEFINED && UserType(info, type.hreftype) == VT_DISPATCH;
+}
+
+/// True when elements of the type `to` hold every value of the type `from`.
+bool Holds(VARTYPE to, VARTYPE from) {
+  if (to == from || to == VT_VARIANT || to == VT_BSTR) return true;
+  return from == VT_I4 && (to == VT_INT || to == VT_I8 || to == VT_R8 || to == VT_CY);
+}
+
+/// True when an array with such elements can be given to the caller's variable.
+bool TakesArray(const VARIANT& origin, VARTYPE element) {
+  if (!(origin.vt & VT_BYREF)) return !(origin.vt & VT_ARRAY) || !origin.parray || origin.parray->cLocks == 0;
+  if (!(origin.vt & VT_ARRAY)) return false;
+  return IsReplaceable(*origin.pparray) && Holds(static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), element);
 }
 
 }  // namespace
@@ -135,6 +149,12 @@ HRESULT Arguments::FillMissing(const Parameter& parameter, Variant& value) const
 }
 
 void Arguments::HandOver(Temporary& temporary) {
+  if (temporary.What.IsArray) {
+    temporary.Handed = temporary.Value.parray;
+    // A callee that would replace the array then refuses it before it does anything, as it does the caller's own.
+    if (temporary.Origin && !TakesArray(*temporary.Origin, temporary.What.Type))
+      temporary.Value.parray->fFeatures |= FADF_FIXEDSIZE;
+  }
   VARIANT fitted = temporary.Value;
   if (temporary.What.IsByReference) {
     fitted.vt = static_cast<VARTYPE>(VT_BYREF | temporary.Value.vt);
@@ -144,23 +164,39 @@ void Arguments::HandOver(Temporary& temporary) {
   mFitted.push_back(fitted);
 }
 
+Arguments::Temporary::~Temporary() {
+  // What marks the array for the callee must not keep it from being freed.
+  if ((Value.vt & VT_ARRAY) && Value.parray) Value.parray->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
+}
+
+HRESULT Arguments::WriteBackArray(Temporary& temporary) {
+  if (temporary.Value.parray == temporary.Handed) return S_OK;
+  VARIANT& origin = *temporary.Origin;
+  if (!TakesArray(origin, temporary.What.Type)) return DISP_E_ARRAYISLOCKED;
+  Variant result;
+  if (!(origin.vt & VT_BYREF)) {
+    // Script hosts can read arrays of variants only.
+    const HRESULT code = ToScriptArray(temporary.Value, result);
+    if (SUCCEEDED(code)) result.SwapWith(origin);
+    return code;
+  }
+  const HRESULT code = ConvertArray(temporary.Value, static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), mLocale, result);
+  if (SUCCEEDED(code)) std::swap(result.parray, *origin.pparray);
+  return code;
+}
+
 HRESULT Arguments::WriteBack() {
   for (const std::unique_ptr<Temporary>& temporary : mTemporaries) {
     if (!temporary->Origin || !temporary->What.IsByReference) continue;
     VARIANT& origin = *temporary->Origin;
-    Variant result;
     HRESULT code = S_OK;
     if (temporary->What.IsArray) {
-      // Script hosts can read arrays of variants only.
-      code = ToScriptArray(temporary->Value, result);
+      code = WriteBackArray(*temporary);
+    } else if (!(origin.vt & VT_BYREF)) {
+      temporary->Value.SwapWith(origin);
     } else {
-      result = std::move(temporary->Value);
-    }
-    if (SUCCEEDED(code) && !(origin.vt & VT_BYREF)) {
-      result.SwapWith(origin);
-    } else if (SUCCEEDED(code) && !(origin.vt & VT_ARRAY)) {
       Variant converted;
-      code = ConvertValue(result, static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), mLocale, converted);
+      code = ConvertValue(temporary->Value, static_cast<VARTYPE>(origin.vt & VT_TYPEMASK), mLocale, converted);
       if (SUCCEEDED(code)) code = StoreBehind(origin, converted);
     }
     if (FAILED(code)) return code;

@@ -40,16 +40,21 @@ class Arguments {
 
  private:
   struct Temporary {
+    ~Temporary();
+
     Parameter What;
     /// The caller's variable for the result; null when a value was passed.
     VARIANT* Origin = nullptr;
     Variant Value;
+    /// The array that the callee gets. It gives a result by another one in its place.
+    const SAFEARRAY* Handed = nullptr;
   };
 
   HRESULT FitOne(const Parameter& parameter, VARIANT* given);
   HRESULT FitVariant(const Parameter& parameter, VARIANT* given);
   HRESULT FillMissing(const Parameter& parameter, Variant& value) const;
   void HandOver(Temporary& temporary);
+  HRESULT WriteBackArray(Temporary& temporary);
 
   std::vector<VARIANT*> mGiven;
   LCID mLocale;

@@ -84,7 +84,9 @@ std::shared_ptr<orx::ILanguage> AdaptLanguage(IDispatch* language) {
 }
 
 std::shared_ptr<orx::IDialogCallBack> AdaptCallBack(IDispatch* callBack) {
-  return callBack ? std::make_shared<CallBackAdapter>(callBack) : nullptr;
+  const ComPtr<IDispatch> object(callBack);
+  const bool isOne = object.As<::IDialogCallBack>() || LateBound(callBack).Has("ApplyNotify");
+  return isOne ? std::make_shared<CallBackAdapter>(callBack) : nullptr;
 }
 
 IDispatch* AutomationOf(HostObject* object) {

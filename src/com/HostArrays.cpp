@@ -16,11 +16,17 @@ void RequireElements(SAFEARRAY* array, VARTYPE type, const std::string& descript
   if (!HasElements(array, type)) throw RunTimeError(kErrorTypeMismatch, description);
 }
 
-/// Throws for arrays that cannot be reallocated, and for those that are in use.
 void RequireReplaceable(const SAFEARRAY* array, const std::string& name) {
-  if (!array || (!(array->fFeatures & (FADF_STATIC | FADF_EMBEDDED | FADF_FIXEDSIZE)) && array->cLocks == 0)) return;
-  throw RunTimeError(kErrorFixedArray,
-                     name + " is an array of a fixed size or locked. Hand over one that can be resized.");
+  if (IsReplaceable(array)) return;
+  throw RunTimeError(kErrorFixedArray, name +
+                                           " cannot take the answer: it has a fixed size, is locked, or has elements "
+                                           "that cannot hold it. Hand over an array that can be resized.");
+}
+
+void RequireResult(SAFEARRAY* array, VARTYPE type, const std::string& name, const char* elements) {
+  if (!array) return;
+  RequireElements(array, type, name + " is no array of " + elements + " with one dimension.");
+  RequireReplaceable(array, name);
 }
 
 /// Replaces an array by one with these elements that counts from 1.
@@ -52,14 +58,16 @@ TextArray TextsIn(SAFEARRAY* array, const char* name) {
 std::vector<std::string> InitialNameIn(SAFEARRAY* files) {
   LONG index = 1;
   Bstr name;
-  if (!files || !HasElements(files, VT_BSTR) || FAILED(SafeArrayGetElement(files, &index, name.Out()))) return {};
+  if (!files || FAILED(SafeArrayGetElement(files, &index, name.Out()))) return {};
   return {name.Text()};
 }
 
 void RequireNumbers(SAFEARRAY* array, const char* name) {
-  if (!array) return;
-  RequireElements(array, VT_I4, std::string(name) + " is no array of 32-bit integers with one dimension.");
-  RequireReplaceable(array, name);
+  RequireResult(array, VT_I4, name, "32-bit integers");
+}
+
+void RequireTexts(SAFEARRAY* array, const char* name) {
+  RequireResult(array, VT_BSTR, name, "texts");
 }
 
 void PutTexts(const std::vector<std::string>& texts, SAFEARRAY*& array, const char* name) {

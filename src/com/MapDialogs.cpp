@@ -4,6 +4,7 @@
 
 #include "com/HostArrays.h"
 #include "com/OwnerArgument.h"
+#include "hostobjects/IMap.h"
 
 namespace orx::com {
 namespace {
@@ -16,7 +17,10 @@ struct MapDialogs::DialogCall {
   HostObject* Client;
   std::string Caption;
   ShowMode Mode;
-  OwnerWindow Owner;
+  const VARIANT* OwnerForm;
+
+  /// Asks the host for the window, which only the members that show a dialog above it may do.
+  OwnerWindow Owner() const { return OwnerOf(OwnerForm); }
 };
 
 MapDialogs::MapDialogs() : mContext(ThreadContext::OfThread()), mService(mContext->Screen(), mContext->Pages()) {
@@ -70,13 +74,13 @@ HRESULT MapDialogs::ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::F
     const std::shared_ptr<HostObject> client = AdaptHostObject(*mObj);
     const bool isModeless = mModal && *mModal == ::ShowModeless;
     *result = dialog(DialogCall{client.get(), mCaption ? TextOf(*mCaption) : std::string(),
-                                isModeless ? ShowMode::Modeless : ShowMode::Modal, OwnerOf(OwnerForm)});
+                                isModeless ? ShowMode::Modeless : ShowMode::Modal, OwnerForm});
   });
 }
 
 auto MapDialogs::Plain(DialogMember member) {
   return [this, member](const DialogCall& call) {
-    return (mService.*member)(call.Client, call.Caption, call.Mode, call.Owner);
+    return (mService.*member)(call.Client, call.Caption, call.Mode, call.Owner());
   };
 }
 
@@ -84,7 +88,7 @@ HRESULT MapDialogs::Show(IDispatch** mObj, long* mFlags, BSTR* mCaption, ::FormS
                          long* result) noexcept {
   if (!mFlags) return E_POINTER;
   return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.Show(call.Client, *mFlags, call.Caption, call.Mode, call.Owner);
+    return mService.Show(call.Client, *mFlags, call.Caption, call.Mode, call.Owner());
   });
 }
 
@@ -96,7 +100,7 @@ HRESULT MapDialogs::ShowDataProperties(IDispatch** mObj, BSTR* mCaption, ::FormS
 HRESULT MapDialogs::ShowLegends(IDispatch** mObj, long* Index, BSTR* mCaption, ::FormShowMode* mModal,
                                 VARIANT* OwnerForm, long* result) noexcept {
   return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
-    return mService.ShowLegends(call.Client, Index ? *Index : 0, call.Caption, call.Mode, call.Owner);
+    return mService.ShowLegends(call.Client, Index ? *Index : 0, call.Caption, call.Mode, call.Owner());
   });
 }
 
@@ -121,8 +125,8 @@ HRESULT MapDialogs::ShowDataClassify(IDispatch** mObj, double* mMinValue, double
   if (!mMinValue || !mMaxValue || !isDirty) return E_POINTER;
   return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
     bool changed = *isDirty != VARIANT_FALSE;
-    const std::int32_t answer = mService.ShowDataClassify(call.Client, *mMinValue, *mMaxValue, flags, changed,
-                                                          call.Caption, call.Mode, call.Owner);
+    const std::int32_t answer =
+        mService.ShowDataClassify(call.Client, *mMinValue, *mMaxValue, flags, changed, call.Caption, call.Mode, {});
     *isDirty = Given(changed);
     return answer;
   });
@@ -130,15 +134,19 @@ HRESULT MapDialogs::ShowDataClassify(IDispatch** mObj, double* mMinValue, double
 
 HRESULT MapDialogs::ShowDataOptions(IDispatch** mObj, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                     long* result) noexcept {
-  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, Plain(&orx::CCommonMapDialogs::ShowDataOptions));
+  return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    return mService.ShowDataOptions(call.Client, call.Caption, call.Mode, {});
+  });
 }
 
 HRESULT MapDialogs::ShowGeoReference(IDispatch** mObj, ::CheckState* mKeepRatio, BSTR* mFormat, BSTR* mCaption,
                                      VARIANT* OwnerForm, long* result) noexcept {
   return ShowDialog(mObj, mCaption, nullptr, OwnerForm, result, [&](const DialogCall& call) {
+    // Without a map nothing is shown, so there is nothing to own.
+    const OwnerWindow owner = QueryKind<orx::IMap>(call.Client) ? call.Owner() : OwnerWindow();
     const auto keepRatio = mKeepRatio ? static_cast<orx::CheckState>(*mKeepRatio) : orx::CheckState::Grayed;
     return mService.ShowGeoReference(call.Client, keepRatio, mFormat ? TextOf(*mFormat) : "0.0000", call.Caption,
-                                     call.Owner);
+                                     owner);
   });
 }
 
@@ -155,6 +163,8 @@ HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL mult
                                 VARIANT_BOOL* result) noexcept {
   if (!files || !result) return E_POINTER;
   return Kept(kDialogsSource, [&] {
+    // Fail before the user has chosen, not afterwards.
+    RequireTexts(*files, "Files");
     std::vector<std::string> chosen = InitialNameIn(*files);
     // Window handles of 64-bit programs fit 32 bits and are sign-extended.
     const auto owner = static_cast<std::uintptr_t>(static_cast<std::intptr_t>(hWnd));

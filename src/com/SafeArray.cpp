@@ -13,6 +13,10 @@ HRESULT BoundsOf(SAFEARRAY* array, ArrayBounds& bounds) {
   return SafeArrayGetLBound(array, 1, &bounds.First);
 }
 
+bool IsReplaceable(const SAFEARRAY* array) {
+  return !array || (!(array->fFeatures & (FADF_STATIC | FADF_EMBEDDED | FADF_FIXEDSIZE)) && array->cLocks == 0);
+}
+
 ArrayElements::ArrayElements(SAFEARRAY* array) : mArray(array) {
   Check(SafeArrayAccessData(array, &mFirst), "The elements of an array cannot be read");
 }

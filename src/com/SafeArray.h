@@ -14,6 +14,9 @@ struct ArrayBounds {
 /// The bounds of an array of one dimension; a null array has no elements. DISP_E_TYPEMISMATCH for several dimensions.
 HRESULT BoundsOf(SAFEARRAY* array, ArrayBounds& bounds);
 
+/// False for an array that its owner cannot have replaced by another: one of a fixed size, or locked. True for null.
+bool IsReplaceable(const SAFEARRAY* array);
+
 /// The elements of a host's array, which is locked for as long as this lives. Throws RunTimeError.
 class ArrayElements {
  public:

@@ -89,6 +89,8 @@ class Desktop {
   virtual Size MeasureCharacter(const Font& face, int code) const = 0;
   /// The separators of the user's locale.
   virtual numbers::Separators Separators() const = 0;
+  /// A UTF-8 text with small letters in place of capital ones, of all alphabets that the platform knows.
+  virtual std::string LowerCase(const std::string& text) const = 0;
   /// Where settings are kept between runs; lives as long as the desktop.
   virtual SettingsStore& Settings() = 0;
   /// Has pending paint and input events handled.

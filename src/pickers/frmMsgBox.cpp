@@ -4,7 +4,6 @@
 
 #include "forms/Desktop.h"
 #include "forms/TextBox.h"
-#include "text/AsciiCase.h"
 #include "text/CharacterCount.h"
 
 namespace orx {
@@ -96,7 +95,7 @@ void frmMsgBox::ShowMessageText() {
 }
 
 void frmMsgBox::cmdBrowse_Click() {
-  std::vector<std::string> files{AsciiLowerCase(mFileName)};
+  std::vector<std::string> files{OwnerDesktop().LowerCase(mFileName)};
   const bool chosen = modDialog::ChooseFiles({OwnerDesktop(), NativeHandle(), mKind, Language()}, false, files);
   // A prompt that was closed meanwhile has nobody left to be told.
   if (IsRetired()) return;

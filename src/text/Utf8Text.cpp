@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/CharacterText.h"
+
 namespace orx {
 namespace {
 
@@ -30,6 +32,23 @@ char32_t LowerCase(char32_t character) {
   const bool greekOrCyrillic = (c >= 0x391 && c <= 0x3A9) || (c >= 0x410 && c <= 0x42F);
   if (plain || greekOrCyrillic) return c + 32;
   return c >= 0x400 && c <= 0x40F ? c + 80 : c;
+}
+
+std::string LowerCase(std::string_view text) {
+  std::string lower;
+  while (!text.empty()) {
+    const std::size_t length = std::min(LengthOf(text), text.size());
+    const char32_t character = FirstCharacter(text);
+    const char32_t small = LowerCase(character);
+    // What has no small letter stays as it is, also what is no character.
+    if (small == character) {
+      lower += text.substr(0, length);
+    } else {
+      lower += CharacterText(static_cast<std::int32_t>(small));
+    }
+    text.remove_prefix(length);
+  }
+  return lower;
 }
 
 bool BeginsWith(std::string_view text, std::u32string_view start) {

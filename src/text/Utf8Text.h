@@ -12,6 +12,9 @@ char32_t FirstCharacter(std::string_view text);
 /// Lower case of the alphabets that dialog texts are written in: Latin, Greek, Cyrillic.
 char32_t LowerCase(char32_t character);
 
+/// The same for all characters of a UTF-8 text.
+std::string LowerCase(std::string_view text);
+
 /// True when the UTF-8 text begins with those characters, in whatever case.
 bool BeginsWith(std::string_view text, std::u32string_view start);
 

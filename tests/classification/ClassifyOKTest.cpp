@@ -67,6 +67,21 @@ TEST_F(ClassifyTest, ATypedNumberCountsAlsoWhereItReadsAsTheRoundedOneShown) {
   }
 }
 
+TEST_F(ClassifyTest, APastedNumberCountsAlsoWhereItIsTheTextThatWasThere) {
+  data.Format = "0";
+  data.Minimum = 0.4;
+  data.Maximum = 1234.4;
+  data.Counted = 9;
+  Classify([this] {
+    user.Paste(form->txtMin, "0");
+    user.Paste(form->txtMax, "1234");
+    user.Paste(form->cboClasses, Seen(form->cboClasses));
+  });
+  EXPECT_EQ(0, data.Minimum);
+  EXPECT_EQ(1234, data.Maximum);
+  EXPECT_EQ(9, data.Classes);
+}
+
 TEST_F(ClassifyTest, AFieldThatTheFocusOnlyPassesStaysExact) {
   data.Minimum = 1.0 / 3;
   const double minimum = data.Minimum;
@@ -151,6 +166,23 @@ TEST_F(ClassifyTest, PickingTheEntryThatIsShownIsAPick) {
     user.Choose(form->cboRangeFormat, 0);
     user.Choose(form->cboFormat, 0);
     user.Choose(form->cboClasses, 8);
+  });
+  EXPECT_EQ(classifymethod::kEqualIntervals, data.Method);
+  EXPECT_EQ(legendstyle::kByColor, data.Style);
+  EXPECT_EQ("General", data.Format);
+  EXPECT_EQ(9, data.Classes);
+}
+
+TEST_F(ClassifyTest, PickingTheEntryThatIsShownByTheMouseIsAPick) {
+  data.Method = 3;
+  data.Style = 9;
+  data.Format = "Currency";
+  data.Counted = 9;
+  Classify([this] {
+    user.Pick(form->cboMethod, 0);
+    user.Pick(form->cboRangeFormat, 0);
+    user.Pick(form->cboFormat, 0);
+    user.Pick(form->cboClasses, 8);
   });
   EXPECT_EQ(classifymethod::kEqualIntervals, data.Method);
   EXPECT_EQ(legendstyle::kByColor, data.Style);

@@ -115,17 +115,30 @@ TEST_F(InvokeArrays, ATypedArrayVariableTravelsAsItIs) {
   EXPECT_EQ(TextsOf(files.Get()), (std::vector<std::string>{"a.bil", "b.bil"}));
 }
 
-TEST_F(InvokeArrays, AnArrayThatCannotGrowIsLeftAsItWas) {
-  Variant fixed = VariantArray({"x", "y"});
+TEST_F(InvokeArrays, AnArrayVariableOfVariantsIsFilled) {
+  SafeArray array(VT_VARIANT, {0, 2});
   Variant reference;
-  reference.vt = VT_BYREF | VT_ARRAY | VT_VARIANT;
-  reference.pparray = &fixed.parray;
-  EXPECT_EQ(AddLayer(reference), "ShowAddLayer(0, True, [x y])");
-  ASSERT_EQ(fixed.vt, VT_ARRAY | VT_VARIANT);
+  static_cast<VARIANT&>(reference) = ReferenceTo(VT_ARRAY | VT_VARIANT, *array.InOut());
+  EXPECT_EQ(AddLayer(reference), "ShowAddLayer(0, True, [])");
+  LONG index = 1;
+  Variant element;
+  SafeArrayGetElement(array.Get(), &index, static_cast<VARIANT*>(&element));
+  ASSERT_EQ(element.vt, VT_BSTR);
+  EXPECT_EQ(TextOf(element.bstrVal), "a.bil");
+  VariantInit(&reference);
+}
+
+TEST_F(InvokeArrays, AnAnswerIsNeverLostInAnArrayThatCannotGrow) {
+  SafeArray array(VT_VARIANT, {0, 2});
+  array.Get()->fFeatures |= FADF_FIXEDSIZE;
+  Variant reference;
+  static_cast<VARIANT&>(reference) = ReferenceTo(VT_ARRAY | VT_VARIANT, *array.InOut());
+  EXPECT_EQ(AddLayer(reference, DISP_E_ARRAYISLOCKED), "ShowAddLayer(0, True, [])");
   LONG index = 0;
   Variant element;
-  SafeArrayGetElement(fixed.parray, &index, static_cast<VARIANT*>(&element));
-  EXPECT_EQ(TextOf(element.bstrVal), "x");
+  SafeArrayGetElement(array.Get(), &index, static_cast<VARIANT*>(&element));
+  EXPECT_EQ(element.vt, VT_EMPTY);
+  array.Get()->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
   VariantInit(&reference);
 }
 

@@ -3,6 +3,7 @@
 #include "forms/ListBox.h"
 #include "tests/com/support/MapDialogsTest.h"
 #include "tests/com/support/Recorder.h"
+#include "tests/com/support/ScriptCall.h"
 
 namespace orx::com::test {
 namespace {
@@ -48,6 +49,13 @@ class ListSelection : public MapDialogsTest {
     EXPECT_NE(TakenErrorText().find(argument), std::string::npos);
     EXPECT_TRUE(shown.empty());
     EXPECT_EQ(result, 0);
+  }
+
+  /// The call of a host that knows the names only, with an array variable of its own for the indexes.
+  HRESULT ChooseInto(VARTYPE elements, SafeArray& array, ScriptCall& call) {
+    call.Lent(ReferenceTo(VT_ARRAY | VT_BSTR, *entries.InOut())).Value(Variant(true)).Value(Variant(std::int32_t{0}));
+    call.Value(Variant("Select Layer")).Value(Variant(false)).Value(Variant("Sure?"));
+    return call.Lent(ReferenceTo(static_cast<VARTYPE>(VT_ARRAY | elements), *array.InOut())).Call();
   }
 
   SafeArray entries = ArrayOfTexts({"Roads", " Rivers ", ""}, 5);
@@ -203,6 +211,51 @@ TEST_F(ListSelection, LateBoundCallersGetTheirVariableBackAsAnArray) {
   SafeArrayGetElement(variables[6].parray, &second, static_cast<VARIANT*>(&element));
   ASSERT_EQ(element.vt, VT_I4);
   EXPECT_EQ(element.lVal, 7);
+}
+
+TEST_F(ListSelection, LateBoundCallersGetTheIndexesInTheTypeOfTheirArray) {
+  for (const VARTYPE type : {VT_VARIANT, VT_R8, VT_I8}) {
+    Answer({0, 2});
+    SafeArray array(type, {0, 1});
+    ScriptCall call(dialogs.Get(), "ShowListSelection");
+    ASSERT_EQ(ChooseInto(type, array, call), S_OK) << type;
+    VARTYPE found = VT_EMPTY;
+    SafeArrayGetVartype(array.Get(), &found);
+    EXPECT_EQ(found, type);
+    ArrayBounds bounds;
+    ASSERT_EQ(BoundsOf(array.Get(), bounds), S_OK);
+    ASSERT_EQ(bounds.Count, 2u);
+    VARIANT second = {};
+    second.vt = static_cast<VARTYPE>(VT_BYREF | type);
+    const ArrayElements elements(array.Get());
+    second.byref = elements.At(1);
+    Variant number;
+    ASSERT_EQ(VariantCopyInd(&number, &second), S_OK);
+    ASSERT_EQ(VariantChangeType(&number, &number, 0, VT_I4), S_OK);
+    EXPECT_EQ(number.lVal, 7) << type;
+  }
+}
+
+TEST_F(ListSelection, LateBoundCallersAreToldBeforehandThatTheirArrayCannotTakeTheIndexes) {
+  for (const VARTYPE type : {VT_I2, VT_UI1, VT_BOOL, VT_DISPATCH}) {
+    SafeArray array(type, {0, 1});
+    ScriptCall call(dialogs.Get(), "ShowListSelection");
+    EXPECT_TRUE(FAILED(ChooseInto(type, array, call))) << type;
+    EXPECT_TRUE(shown.empty()) << type;
+  }
+}
+
+TEST_F(ListSelection, LateBoundEntriesMayStandInAnArrayThatCannotChange) {
+  Answer({0});
+  SafeArray fixed(VT_VARIANT, {0, 2});
+  fixed.Get()->fFeatures |= FADF_FIXEDSIZE;
+  Variant chosen;
+  ScriptCall call(dialogs.Get(), "ShowListSelection");
+  call.Lent(ReferenceTo(VT_ARRAY | VT_VARIANT, *fixed.InOut())).Value(Variant(true)).Value(Variant(std::int32_t{0}));
+  call.Value(Variant("Select Layer")).Value(Variant(false)).Value(Variant("Sure?")).Variable(chosen);
+  EXPECT_EQ(call.Call(), S_OK);
+  EXPECT_EQ(call.Result.lVal, 1);
+  fixed.Get()->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
 }
 
 }  // namespace

@@ -275,5 +275,44 @@ TEST_F(MapDialogsTest, AnOwnerOfTheWrongKindShowsNothing) {
   EXPECT_EQ(result, 0);
 }
 
+TEST_F(MapDialogsTest, OwnersThatAMemberDoesNotUseAreNotAsked) {
+  const auto window = MakeCounted<ScriptObject>(std::map<std::string, Variant>{{"hWnd", Variant(std::int32_t{0})}});
+  for (Variant owner : {Variant(window.Get()), Variant("Main window")}) {
+    for (const auto& object :
+         {MakeCounted<ScriptObject>(),
+          MakeCounted<ScriptObject>(std::map<std::string, Variant>{{"ClassifyMethod", Variant(std::int32_t{1})}})}) {
+      IDispatch* given = object.Get();
+      double low = 0;
+      double high = 1;
+      VARIANT_BOOL isDirty = VARIANT_FALSE;
+      EXPECT_EQ(dialogs->ShowDataClassify(&given, &low, &high, ::ClassifyFlags(0), &isDirty, nullptr, nullptr, &owner,
+                                          &result),
+                S_OK);
+      EXPECT_EQ(dialogs->ShowDataOptions(&given, nullptr, nullptr, &owner, &result), S_OK);
+      EXPECT_EQ(dialogs->ShowGeoReference(&given, nullptr, nullptr, nullptr, &owner, &result), S_OK);
+      EXPECT_EQ(result, 0);
+    }
+  }
+  EXPECT_EQ(ShownNames(), (std::vector<std::string>{"frmDataClassify", "frmDataClassify"}));
+  EXPECT_TRUE(window->Read.empty());
+}
+
+TEST_F(MapDialogsTest, OnlyAnObjectThatCanBeToldOfApplyIsACallBack) {
+  std::vector<bool> applies;
+  answer = [&](Form& form) { applies.push_back(form.Find("cmdApply")->Visible()); };
+  const auto plain = MakeCounted<ScriptObject>();
+  const auto callBack = MakeCounted<ScriptObject>(
+      std::map<std::string, Variant>{{"ApplyNotify", Variant()}, {"RegisterNotify", Variant()}});
+  for (const auto& object : {plain, callBack}) {
+    IDispatch* given = object.Get();
+    ASSERT_EQ(dialogs->putref_CallBack(&given), S_OK);
+    ASSERT_EQ(ShowProperties(nullptr), S_OK);
+    ComPtr<IDispatch> got;
+    ASSERT_EQ(dialogs->get_CallBack(got.Out()), S_OK);
+    EXPECT_EQ(got.Get(), object.Get());
+  }
+  EXPECT_EQ(applies, (std::vector<bool>{false, true}));
+}
+
 }  // namespace
 }  // namespace orx::com::test

@@ -318,5 +318,20 @@ TEST_F(Isolines, TheLanguageTranslatesAndGivesTheHelpNumber) {
   });
 }
 
+TEST_F(Isolines, PickingTheLineStyleThatStandsInForAnotherIsAPick) {
+  constexpr std::int32_t kUnknown = 77;
+  lines.Pen.HeldStyle = kUnknown;
+  Edit([] {});
+  EXPECT_EQ(kUnknown, lines.Pen.HeldStyle);
+  for (const bool isByMouse : {true, false}) {
+    lines.Pen.HeldStyle = kUnknown;
+    EXPECT_TRUE(Edit([this, isByMouse] {
+      EXPECT_EQ("Solid", Seen(form->cmbLineStyle));
+      isByMouse ? user.Pick(form->cmbLineStyle, 0) : user.Choose(form->cmbLineStyle, 0);
+    }));
+    EXPECT_EQ(0, lines.Pen.HeldStyle) << isByMouse;
+  }
+}
+
 }  // namespace
 }  // namespace orx::test

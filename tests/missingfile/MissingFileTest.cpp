@@ -82,6 +82,16 @@ TEST_F(MissingFileTest, TheFileDialogOpensOnTheNameInSmallLetters) {
   Ask("ROADS.SHP");
 }
 
+TEST_F(MissingFileTest, LettersOfAllAlphabetsBecomeSmall) {
+  InPrompt([this](frmMsgBox& prompt) {
+    ExpectCancel();
+    user.Click(prompt.cmdBrowse);
+    EXPECT_EQ("\xC3\xA4rger-\xD0\xB6\xCF\x89\xE2\x82\xAC.shp", InitialName(seen));
+    user.Click(prompt.cmdCancel);
+  });
+  Ask("\xC3\x84RGER-\xD0\x96\xCE\xA9\xE2\x82\xAC.SHP");
+}
+
 TEST_F(MissingFileTest, ABrowseThatIsCancelledLeavesThePromptOpen) {
   InPrompt([this](frmMsgBox& prompt) {
     ExpectCancel();

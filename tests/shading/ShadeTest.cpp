@@ -353,6 +353,13 @@ TEST_F(Shading, UnknownCodesStayUntilAnEntryIsPickedBeItTheOneShown) {
   EXPECT_EQ(9, shade.HeldCombineColors);
   EXPECT_TRUE(Edit([this] { user.Choose(form->cmbCombine, 0); }));
   EXPECT_EQ(combinecolors::kNone, shade.HeldCombineColors);
+  for (const bool isByMouse : {true, false}) {
+    shade.HeldShadeVersion = 30;
+    EXPECT_TRUE(Edit([this, isByMouse] {
+      isByMouse ? user.Pick(form->cmbShadeVersion, 1) : user.Choose(form->cmbShadeVersion, 1);
+    }));
+    EXPECT_EQ(shadeversion::kSunAndShadow, shade.HeldShadeVersion) << isByMouse;
+  }
 }
 
 TEST_F(Shading, CancelAndTheCloseBoxReportNoChange) {

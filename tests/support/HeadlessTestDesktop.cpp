@@ -34,6 +34,10 @@ class HeadlessUser final : public User {
     if (box.HasFocus()) box.UserText(text);
   }
 
+  void Paste(TextBox& field, const std::string& text) override { Type(field, text); }
+  void Paste(ComboBox& box, const std::string& text) override { Type(box, text); }
+
+  void Pick(ComboBox& box, int index) override { Choose(box, index); }
   void Choose(ComboBox& box, int index) override {
     if (box.IsReachable()) box.UserPick(index);
   }

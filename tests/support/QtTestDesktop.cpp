@@ -3,6 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -119,6 +120,22 @@ class QtUser final : public User {
 
   void Type(TextBox& field, const std::string& text) override { ClickAndType(field, text); }
   void Type(ComboBox& box, const std::string& text) override { ClickAndType(box, text); }
+
+  void Paste(TextBox& field, const std::string& text) override { ClickAndPaste(field, text); }
+  void Paste(ComboBox& box, const std::string& text) override { ClickAndPaste(box, text); }
+
+  void Pick(ComboBox& box, int index) override {
+    if (!CanReach(box)) return;
+    QComboBox& combo = *As<QComboBox>(box);
+    MouseClick(combo, {combo.width() - 8, combo.height() / 2});
+    if (!combo.view()->isVisible()) return;
+    const QModelIndex entry = combo.model()->index(index, combo.modelColumn());
+    combo.view()->scrollTo(entry);
+    const QPoint place = combo.view()->visualRect(entry).center();
+    // A release right after the press that opened the list is taken for a choice only when the mouse has moved.
+    QTest::mouseMove(combo.view()->viewport(), place);
+    QTest::mouseClick(combo.view()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  }
 
   void Choose(ComboBox& box, int index) override {
     if (!CanReach(box)) return;
@@ -310,6 +327,14 @@ class QtUser final : public User {
     return view.visualRect(index);
   }
   static QWidget& WindowOf(Form& form) { return *QWidget::find(form.Window()->NativeHandle()); }
+
+  void ClickAndPaste(Control& control, const std::string& text) {
+    ClickInto(control);
+    if (!PeerOf(control) || !control.HasFocus()) return;
+    QGuiApplication::clipboard()->setText(ToQt(text));
+    QTest::keyClick(&PeerOf(control)->FocusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&PeerOf(control)->FocusWidget(), Qt::Key_V, Qt::ControlModifier);
+  }
 
   void ClickAndType(Control& control, const std::string& text) {
     ClickInto(control);

@@ -56,7 +56,13 @@ class User {
   /// Clicks into the field, selects all and types the text.
   virtual void Type(TextBox& field, const std::string& text) = 0;
   virtual void Type(ComboBox& box, const std::string& text) = 0;
+  /// Clicks into the field, selects all and pastes the text over it in one step.
+  virtual void Paste(TextBox& field, const std::string& text) = 0;
+  virtual void Paste(ComboBox& box, const std::string& text) = 0;
+  /// Opens the list and goes to an entry by keys.
   virtual void Choose(ComboBox& box, int index) = 0;
+  /// Opens the list and clicks on an entry.
+  virtual void Pick(ComboBox& box, int index) = 0;
   /// Goes to an entry by keys, from the first one on.
   virtual void Choose(ListBox& box, int index) = 0;
   /// Clicks on an entry that can be scrolled to, once or twice.

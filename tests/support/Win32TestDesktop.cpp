@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include <cstring>
 #include <utility>
 
 #include "desktops/win32/Peer.h"
@@ -55,6 +56,26 @@ class Win32User final : public User {
 
   void Type(TextBox& field, const std::string& text) override { ClickAndType(field, text); }
   void Type(ComboBox& box, const std::string& text) override { ClickAndType(box, text); }
+
+  void Paste(TextBox& field, const std::string& text) override { ClickAndPaste(field, text); }
+  void Paste(ComboBox& box, const std::string& text) override { ClickAndPaste(box, text); }
+
+  void Pick(ComboBox& box, int index) override {
+    if (!CanReach(box)) return;
+    const HWND combo = PeerOf(box)->Window();
+    RECT place;
+    GetClientRect(combo, &place);
+    MouseClickAt(combo, {place.right - 8, place.bottom / 2});
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof(parts);
+    if (!PeerOf(box) || !SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) || !GetComboBoxInfo(combo, &parts)) return;
+    SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&place));
+    const LPARAM at = MAKELPARAM(8, (place.top + place.bottom) / 2);
+    PostMessageW(parts.hwndList, WM_MOUSEMOVE, 0, at);
+    PostMessageW(parts.hwndList, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    PostMessageW(parts.hwndList, WM_LBUTTONUP, 0, at);
+    mDesktop.ProcessPendingEvents();
+  }
 
   void Choose(ComboBox& box, int index) override {
     if (!CanReach(box)) return;
@@ -329,6 +350,28 @@ class Win32User final : public User {
     GetKeyboardState(keys);
     keys[VK_SHIFT] = down ? 0x80 : 0;
     SetKeyboardState(keys);
+  }
+
+  void ClickAndPaste(Control& control, const std::string& text) {
+    ClickInto(control);
+    if (!PeerOf(control) || !control.HasFocus()) return;
+    const HWND field = PeerOf(control)->FocusWindow();
+    PutOnClipboard(field, Widened(text));
+    PostMessageW(field, WM_CHAR, 1, 1);  // Ctrl+A
+    PostMessageW(field, WM_PASTE, 0, 0);
+    mDesktop.ProcessPendingEvents();
+  }
+
+  static void PutOnClipboard(HWND owner, const std::wstring& text) {
+    ASSERT_TRUE(OpenClipboard(owner));
+    EmptyClipboard();
+    const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
+    // The clipboard owns the memory from then on.
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+    std::memcpy(GlobalLock(memory), text.c_str(), size);
+    GlobalUnlock(memory);
+    SetClipboardData(CF_UNICODETEXT, memory);
+    CloseClipboard();
   }
 
   void ClickAndType(Control& control, const std::string& text) {

@@ -137,6 +137,10 @@ numbers::Separators QtDesktop::LocaleSeparators() const {
   return {FromQt(locale.decimalPoint()), FromQt(locale.groupSeparator()), FromQt(locale.currencySymbol())};
 }
 
+std::string QtDesktop::LowerCase(const std::string& text) const {
+  return FromQt(ToQt(text).toLower());
+}
+
 SettingsStore& QtDesktop::Settings() {
   return mState->Settings;
 }

@@ -139,6 +139,12 @@ numbers::Separators Win32Desktop::LocaleSeparators() const {
   return {LocaleText(LOCALE_SDECIMAL), LocaleText(LOCALE_STHOUSAND), LocaleText(LOCALE_SCURRENCY)};
 }
 
+std::string Win32Desktop::LowerCase(const std::string& text) const {
+  std::wstring wide = Widened(text);
+  CharLowerBuffW(wide.data(), static_cast<DWORD>(wide.size()));
+  return Narrowed(wide);
+}
+
 SettingsStore& Win32Desktop::Settings() {
   return mState->Settings;
 }

@@ -23,6 +23,7 @@ class Win32Desktop final : public NativeDesktop {
   std::vector<std::string> ScreenFonts() const override;
   Color SystemColor(orx::SystemColor which) const override;
   Size MeasureCharacter(const Font& face, int code) const override;
+  std::string LowerCase(const std::string& text) const override;
   SettingsStore& Settings() override;
   bool SavePicture(const Form& form, const std::string& pngPath) const override;
   bool SaveMessagePicture(const std::string& pngPath) const override;
