@@ -8,9 +8,10 @@
 namespace orx::numbers {
 namespace {
 
+/// As many digits as the longest double has; with fewer, a digit that is not its own could decide how it is rounded.
+constexpr int kAllDigits = 767;
 /// Longer than any number with this many digits, its point and its exponent.
-using Buffer = std::array<char, 32>;
-constexpr int kManyDigits = 20;
+using Buffer = std::array<char, kAllDigits + 16>;
 
 /// Takes a text such as "1.25e+02" apart.
 Decimal FromScientific(std::string_view text) {
@@ -25,17 +26,17 @@ Decimal FromScientific(std::string_view text) {
 }  // namespace
 
 Decimal ShortestDecimal(double magnitude) {
-  Buffer buffer{};
+  Buffer buffer;
   const auto end =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific);
   return FromScientific({buffer.data(), end.ptr});
 }
 
 Decimal RoundedDecimal(double magnitude, int count) {
-  Buffer buffer{};
-  // The conversion itself takes halves to the even digit, so it is asked for more digits than are needed.
+  Buffer buffer;
+  // The conversion itself takes halves to the even digit, so it is asked for all digits.
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific,
-                                 kManyDigits - 1);
+                                 kAllDigits - 1);
   Decimal decimal = FromScientific({buffer.data(), end.ptr});
   RoundTo(decimal, count);
   return decimal;

@@ -137,7 +137,9 @@ TEST(NumbersFormatNumber, GeneralInAnyLetterCaseHasFifteenDigits) {
                  {0.09999999999999999, general, "0.1"},
                  {1.0 / 3, general, "0.333333333333333"},
                  {999999999999999.9, general, "1E+15"},
-                 {1e20, general, "1E+20"}});
+                 {1e20, general, "1E+20"},
+                 // The double is 1.00125711208421499996...E+294.
+                 {1.001257112084215e294, general, "1.00125711208421E+294"}});
   ExpectTexts({{1234.5, "General", "1234,5"}}, kGermanFormat);
 }
 

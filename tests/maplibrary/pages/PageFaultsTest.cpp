@@ -175,7 +175,7 @@ class FailingLanguage final : public languages::FormLanguage {
   std::int32_t EntryCount() override { return 1; }
   std::string TranslateText(const std::string& key) override {
     // Lists are translated before.
-    if (Fails && key == pagetexts::kNothingToEdit) throw std::runtime_error(key);
+    if (Fails && key == pages::pagetexts::kNothingToEdit) throw std::runtime_error(key);
     return key;
   }
   bool Fails = false;
