@@ -1,9 +1,9 @@
 #include "dialogframe/ColorBox.h"
 
 #include "dialogframe/FocusMark.h"
-#include "forms/ColorRequest.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
+#include "forms/Requests.h"
 
 namespace orx {
 namespace {

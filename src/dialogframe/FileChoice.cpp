@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "forms/Desktop.h"
-#include "forms/OpenFileRequest.h"
 #include "forms/ProcessWide.h"
+#include "forms/Requests.h"
 #include "hostobjects/ErrorTrap.h"
 #include "text/AsciiCase.h"
 #include "text/CharacterCount.h"

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
-#include "forms/ColorRequest.h"
 #include "forms/ErrorText.h"
 #include "forms/Form.h"
-#include "forms/OpenFileRequest.h"
 #include "forms/Pixels.h"
+#include "forms/Requests.h"
 
 namespace orx {
 namespace {

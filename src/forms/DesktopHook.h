@@ -3,15 +3,12 @@
 #pragma once
 
 #include "forms/Appearance.h"
-#include "forms/HelpRequest.h"
 #include "forms/Message.h"
+#include "forms/Requests.h"
 
 namespace orx {
 
 class Form;
-struct ColorRequest;
-struct FontRequest;
-struct OpenFileRequest;
 
 /// Something modal: a form, a message box or one of the dialogs for choosing files, a colour or a font; the other
 /// pointers are null.

@@ -8,7 +8,8 @@
 namespace orx {
 
 /// The members in the order that the interface has them. The library keeps a plain pointer to the call-back and never
-/// releases it. What a member throws ends the button press and reaches the service.
+/// releases it. What a member throws ends the button press and reaches the
+/// service; the hourglass that Apply and OK show then stays.
 class IDialogCallBack : public BorrowedObject {
  public:
   /// Apply was pressed and the page has written its values. `changed` tells whether the object differs from how it was

@@ -7,7 +7,8 @@
 
 namespace orx {
 
-/// A numbered error. `what()` is the description, UTF-8, fit to be shown to a user.
+/// A numbered error. `what()` is the description, fit to be shown to a user; UTF-8, but for the names of files that are
+/// none, which it quotes as they are.
 class RunTimeError : public std::runtime_error {
  public:
   /// `description` says what happened and what to do, naming the file, field or value.

@@ -11,7 +11,10 @@ class frmSettings final : public PageHostForm {
 
  protected:
   void Ready() override;
-  void Form_Resize() override { RefreshContents(); }
+  /// A dialog whose pages could not be made is shown without them.
+  void Form_Resize() override {
+    if (HasPages()) RefreshContents();
+  }
   /// Changes that were applied no longer count.
   void Apply() override;
 };

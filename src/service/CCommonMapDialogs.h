@@ -20,10 +20,10 @@ namespace orx {
 
 class PropertyDialog;
 
-/// Shows the dialogs. Its members throw WrongThread when they are called on another thread than the one that made the
-/// desktop, and nothing is shown. The objects given to it are used, not
-/// owned: the host keeps the desktop, the page factory, the language and the call-back alive for as long as it uses the
-/// service or has a modeless dialog open.
+/// Shows the dialogs. The members that show one, and the one that sets the language, throw WrongThread when they are
+/// called on another thread than the one that made the desktop, and nothing is shown. The objects given to it are used,
+/// not owned: the host keeps the desktop, the page factory, the language and the call-back alive for as long as it uses
+/// the service or has a modeless dialog open.
 ///
 /// The members that show property dialogs share their parameters and their result:
 /// - `mObj`: the object to edit. Null, and objects that the page cannot edit, show an empty page.
@@ -31,8 +31,11 @@ class PropertyDialog;
 /// - `mModal`: a modal call returns when the dialog has closed; a modeless one returns at once, and the dialog lives
 ///   until it is closed. While a modal dialog of the library is open nothing is shown modeless, and the result is 0.
 /// - `OwnerForm`: the window that the dialog belongs to; none by default.
-/// - result: -1 if the object was changed; 0 if it was not, or if the user cancelled or closed the window.
-/// On the right thread they never throw: failing steps are skipped, and a result is always returned.
+/// - result: -1 if the object was changed; 0 if it was not, or if the user cancelled or closed the window. The layer
+///   manager moves and removes layers at once, so that after that it is -1 also for a closed window.
+/// On the right thread they never throw: failing steps are skipped, and a result is always returned. What a page, the
+/// call-back or the language throws while a dialog is opened or a button works ends that step: a dialog that cannot be
+/// filled is not shown, and the hourglass of Apply and OK stays for the host to take away.
 ///
 /// In any call that reaches it the host may throw, close the dialog, open another one, or destroy this object; the call
 /// that shows the dialog returns all the same.
@@ -86,16 +89,18 @@ class CCommonMapDialogs {
   /// How the values of a data object (IData) are divided into classes. `mMinValue` and `mMaxValue` are the range of the
   /// data, kUnknownRangeEnd if not known; `flags` is kMayChangeClassCount or 0. `IsDirty` is set to the result. The
   /// dialog is always modal, without owner and with its own title, whatever the last three parameters say. For other
-  /// objects nothing is shown, and the result is 0. OK writes nothing unless a setting was changed: a field that nobody
-  /// has typed into, and a list in which nobody has picked an entry, stand for exactly what the object holds. With
-  /// equal steps a confirmed change also writes the upper end that is shown, which follows from step and number of
-  /// classes; where the settings have no number of classes, OK takes the one of IData.
+  /// objects nothing is shown, the result is 0, and `IsDirty` is left alone. OK writes nothing unless a setting was
+  /// changed: a field that nobody has typed into, and a list in which nobody has picked an entry, stand for exactly
+  /// what the object holds. With equal steps a confirmed change also writes the upper end that is shown, which follows
+  /// from step and number of classes; where the settings have no number of classes, OK takes the one of IData. A
+  /// property that cannot be read leaves its field as designed; when OK writes, it writes all properties, that one too.
   std::int32_t ShowDataClassify(HostObject* mObj, double mMinValue, double mMaxValue, std::int32_t flags, bool& IsDirty,
                                 const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                 OwnerWindow OwnerForm = {});
   /// How missing values, zeros and places without data of a data object (IData) are treated. Works like
   /// ShowDataClassify, but OK writes all values, and the range of zero always from -|x| to |x|, x being its lower
   /// bound: the one case in which OK can change an object that the user has not edited. The result does not count it.
+  /// Where one of the values cannot be read, nothing is shown, and the result is 0.
   std::int32_t ShowDataOptions(HostObject* mObj, const std::string& mCaption = {}, ShowMode mModal = ShowMode::Modal,
                                OwnerWindow OwnerForm = {});
 

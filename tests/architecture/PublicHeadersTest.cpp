@@ -22,9 +22,9 @@ const std::set<std::string> kPublicHeaders = {
     "ILanguage.h", "IMap.h", "PropertyPage.h", "RunTimeError.h", "TextArray.h",
     // Forms and controls, for pages, languages and hooks.
     "Appearance.h", "Button.h", "Canvas.h", "CheckBox.h", "ComboBox.h", "Container.h", "Control.h", "Desktop.h",
-    "DesktopHook.h", "Event.h", "Form.h", "FormWindow.h", "Frame.h", "Geometry.h", "Glyph.h", "HelpRequest.h",
-    "Image.h", "Keys.h", "Label.h", "ListBox.h", "ListControl.h", "Marks.h", "Message.h", "NativeDesktop.h", "Panel.h",
-    "PictureBox.h", "ProgressBar.h", "RowList.h", "SettingsStore.h", "TabControl.h", "TextBox.h", "TreeList.h",
+    "DesktopHook.h", "Event.h", "Form.h", "FormWindow.h", "Frame.h", "Geometry.h", "Glyph.h", "Image.h", "Keys.h",
+    "Label.h", "ListBox.h", "ListControl.h", "Marks.h", "Message.h", "NativeDesktop.h", "Panel.h", "PictureBox.h",
+    "ProgressBar.h", "Requests.h", "RowList.h", "SettingsStore.h", "TabControl.h", "TextBox.h", "TreeList.h",
     "Numbers.h",
     // The desktops.
     "HeadlessDesktop.h", "QtDesktop.h", "Win32Desktop.h",

@@ -1,5 +1,5 @@
 // The members that choose files, called through their slots with arrays and texts of the automation library.
-#include "forms/OpenFileRequest.h"
+#include "forms/Requests.h"
 #include "pickers/frmMsgBox.h"
 #include "service/modDialog.h"
 #include "tests/com/support/MapDialogsTest.h"

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "forms/OpenFileRequest.h"
+#include "forms/Requests.h"
 #include "service/modDialog.h"
 
 namespace {

@@ -245,6 +245,18 @@ TEST_F(SettingsDialog, TheDirtyStateIsSetOnAllPages) {
   EXPECT_FALSE(form->IsDirty());
 }
 
+TEST_F(SettingsDialog, IsShownWithoutPagesWhenOneCannotBeMade) {
+  pages.Created = [](Container&) { throw std::runtime_error("No page"); };
+  bool isShown = false;
+  EXPECT_EQ(0, Show([&](frmSettings& form) {
+              isShown = true;
+              form.ClientSize({form.ClientSize().Width + 150, form.ClientSize().Height});
+              EXPECT_FALSE(form.IsDirty());
+              user.CloseBox(form);
+            }));
+  EXPECT_TRUE(isShown);
+}
+
 TEST_F(SettingsDialog, AFailingPageEndsTheButtonAndTheHourglassStays) {
   for (const char* const button : {"cmdApply", "cmdOK"}) {
     SCOPED_TRACE(button);

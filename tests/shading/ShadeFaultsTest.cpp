@@ -1,8 +1,6 @@
 // Objects that fail in the middle of the dialog's work.
-#include "griddialogs/frmDataShade.h"
-#include "service/modMain.h"
+#include "tests/shading/ShadingDialog.h"
 #include "tests/support/EditFaults.h"
-#include "tests/support/RecordedGrid.h"
 
 namespace orx::test {
 namespace {
@@ -64,6 +62,34 @@ TEST_F(ShadeFaults, WhateverFailsWhileLoadingNothingTravels) {
       },
       CallStride());
   EXPECT_TRUE(WritesIn(shade.Log).empty());
+}
+
+const char* const kSettings[] = {"Altitude",         "Azimuth",        "CombineColors", "MinIntensity",
+                                 "NrOfShades",       "ScaleAutomatic", "ScaleFactor",   "ScaleMultiplier",
+                                 "ShadeVersion",     "MidIntensity",   "MaxIntensity",  "AltitudeDefault",
+                                 "MidIndexAutomatic"};
+
+TEST_F(Shading, ASettingThatCannotBeReadIsSkippedAndTheRestWorks) {
+  for (const std::string setting : kSettings) {
+    shade.Log.Failing = {setting};
+    shade.HeldScaleMultiplier = 2;
+    shade.HeldAzimuth = 315;
+    const std::string edited = setting == "Azimuth" ? "ScaleMultiplier=" : "Azimuth=";
+    EXPECT_TRUE(Edit([this, &edited] {
+      user.Type(edited == "Azimuth=" ? form->txtAzimuth : form->txtScaleMultiplier, "3");
+    })) << setting;
+    EXPECT_EQ(Calls{edited}, WritesBesidesCount()) << setting;
+  }
+}
+
+TEST_F(Shading, ASettingThatCannotBeWrittenIsPassedOver) {
+  for (const std::string setting : kSettings) {
+    PutBack();
+    shade.Log.Failing = {setting + "="};
+    EXPECT_TRUE(EditEverything()) << setting;
+    EXPECT_EQ(kAllWrites, WritesIn(shade.Log)) << setting;
+    EXPECT_EQ(setting == "ScaleMultiplier" ? 2 : 4, shade.HeldScaleMultiplier) << setting;
+  }
 }
 
 }  // namespace

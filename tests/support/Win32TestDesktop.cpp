@@ -4,7 +4,6 @@
 
 #include <commctrl.h>
 
-#include <cstring>
 #include <utility>
 
 #include "desktops/win32/Peer.h"
@@ -13,6 +12,7 @@
 #include "desktops/win32/Win32Desktop.h"
 #include "tests/support/User.h"
 #include "tests/support/Win32CommonDialogs.h"
+#include "tests/support/Win32Input.h"
 #include "tests/support/Win32Rows.h"
 #include "tests/win32/GdiObjects.h"
 
@@ -22,12 +22,6 @@ namespace {
 using win32::Narrowed;
 using win32::PeerOf;
 using win32::Widened;
-
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-  return text;
-}
 
 HWND WindowOf(Form& form) {
   return form.Window() ? reinterpret_cast<HWND>(form.Window()->NativeHandle()) : nullptr;
@@ -281,18 +275,6 @@ class Win32User final : public User {
 
   static constexpr LPARAM kAltDown = (LPARAM{1} << 29) | 1;
 
-  static LONG HeightOf(HWND window) {
-    RECT client;
-    GetClientRect(window, &client);
-    return client.bottom;
-  }
-
-  /// A window has to be active before it takes keys.
-  static void Activate(HWND window) {
-    const HWND root = GetAncestor(window, GA_ROOT);
-    if (GetActiveWindow() != root && IsWindowEnabled(root)) SetActiveWindow(root);
-  }
-
   /// True when the user finds the control on the screen; one that is scrolled away is brought into view.
   static bool CanReach(Control& control) {
     if (!PeerOf(control) || !IsWindowVisible(PeerOf(control)->Window())) return false;
@@ -323,33 +305,10 @@ class Win32User final : public User {
     mDesktop.ProcessPendingEvents();
   }
 
-  /// The innermost visible window at a point of `outer` that takes the mouse.
-  static HWND WindowAt(HWND outer, POINT place) {
-    const HWND inner = ChildWindowFromPointEx(outer, place, CWP_SKIPINVISIBLE);
-    if (!inner || inner == outer) return outer;
-    MapWindowPoints(outer, inner, &place, 1);
-    return WindowAt(inner, place);
-  }
-
-  static bool IsReallyEnabled(HWND window) {
-    for (HWND at = window; at; at = GetAncestor(at, GA_PARENT)) {
-      if (!IsWindowEnabled(at)) return false;
-      if (GetAncestor(at, GA_ROOT) == at) return true;
-    }
-    return true;
-  }
-
   void KeyTo(HWND window, WPARAM key) {
     PostMessageW(window, WM_KEYDOWN, key, 1);
     PostMessageW(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     mDesktop.ProcessPendingEvents();
-  }
-
-  static void HoldShift(bool down) {
-    BYTE keys[256] = {};
-    GetKeyboardState(keys);
-    keys[VK_SHIFT] = down ? 0x80 : 0;
-    SetKeyboardState(keys);
   }
 
   void ClickAndPaste(Control& control, const std::string& text) {
@@ -360,18 +319,6 @@ class Win32User final : public User {
     PostMessageW(field, WM_CHAR, 1, 1);  // Ctrl+A
     PostMessageW(field, WM_PASTE, 0, 0);
     mDesktop.ProcessPendingEvents();
-  }
-
-  static void PutOnClipboard(HWND owner, const std::wstring& text) {
-    ASSERT_TRUE(OpenClipboard(owner));
-    EmptyClipboard();
-    const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
-    // The clipboard owns the memory from then on.
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
-    std::memcpy(GlobalLock(memory), text.c_str(), size);
-    GlobalUnlock(memory);
-    SetClipboardData(CF_UNICODETEXT, memory);
-    CloseClipboard();
   }
 
   void ClickAndType(Control& control, const std::string& text) {

@@ -8,9 +8,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "forms/ColorRequest.h"
-#include "forms/FontRequest.h"
-#include "forms/OpenFileRequest.h"
+#include "forms/Requests.h"
 #include "tests/win32/Win32Test.h"
 
 namespace orx::test {

@@ -3,10 +3,9 @@
 #include <stdexcept>
 
 #include "desktops/headless/MemorySettings.h"
-#include "forms/ColorRequest.h"
-#include "forms/FontRequest.h"
 #include "forms/Form.h"
-#include "forms/OpenFileRequest.h"
+#include "forms/Requests.h"
+#include "text/Utf8Text.h"
 
 namespace orx::headless {
 namespace {
@@ -74,6 +73,10 @@ Color HeadlessDesktop::SystemColor(orx::SystemColor which) const {
       break;
   }
   return {0, 0, 0};
+}
+
+std::string HeadlessDesktop::LowerCase(const std::string& text) const {
+  return orx::LowerCase(text);
 }
 
 std::unique_ptr<FormWindow> HeadlessDesktop::OpenWindow(Form& form) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "forms/Desktop.h"
-#include "text/Utf8Text.h"
 
 namespace orx::headless {
 
@@ -21,7 +20,7 @@ class HeadlessDesktop final : public Desktop {
   Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
   numbers::Separators Separators() const override { return mSeparators; }
   /// Of the Latin, Greek and Cyrillic alphabets.
-  std::string LowerCase(const std::string& text) const override { return orx::LowerCase(text); }
+  std::string LowerCase(const std::string& text) const override;
   SettingsStore& Settings() override { return *mSettings; }
   /// Replaces the store, which is in memory at first. Never null.
   void Settings(std::unique_ptr<SettingsStore> value) { mSettings = std::move(value); }

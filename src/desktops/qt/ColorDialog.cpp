@@ -4,7 +4,7 @@
 #include <QColorDialog>
 
 #include "desktops/qt/PlatformDialog.h"
-#include "forms/ColorRequest.h"
+#include "forms/Requests.h"
 
 namespace orx::qt {
 

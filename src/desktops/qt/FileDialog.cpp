@@ -8,7 +8,7 @@
 
 #include "desktops/qt/PlatformDialog.h"
 #include "desktops/qt/Text.h"
-#include "forms/OpenFileRequest.h"
+#include "forms/Requests.h"
 
 namespace orx::qt {
 namespace {

@@ -9,7 +9,7 @@
 #include "desktops/qt/CanvasPainter.h"
 #include "desktops/qt/PlatformDialog.h"
 #include "desktops/qt/Text.h"
-#include "forms/FontRequest.h"
+#include "forms/Requests.h"
 
 namespace orx::qt {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
-#include "forms/ColorRequest.h"
 #include "forms/ProcessWide.h"
+#include "forms/Requests.h"
 
 namespace orx::win32 {
 namespace {

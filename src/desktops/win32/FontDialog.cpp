@@ -11,7 +11,7 @@
 #include "desktops/win32/Owners.h"
 #include "desktops/win32/PlatformDialog.h"
 #include "desktops/win32/Text.h"
-#include "forms/FontRequest.h"
+#include "forms/Requests.h"
 
 namespace orx::win32 {
 namespace {

@@ -1,10 +1,14 @@
-// A request to the platform's dialog for choosing files, and its answer.
+// The requests to the platform's dialogs for choosing files, a colour or a font, with their answers, and to its help
+// engine.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "forms/Appearance.h"
 
 namespace orx {
 
@@ -58,5 +62,51 @@ char SeparatorOf(const std::string& folder);
 /// Puts an answer into the buffer: a path when there is one name, else the folder and the names. Throws AnswerRefused,
 /// with the buffer as it was, when it has no room for them.
 void PutAnswer(OpenFileRequest& request, const std::string& folder, const std::vector<std::string>& names);
+
+/// The value of ColorRequest::Flags that has the dialog start from the given colour.
+inline constexpr std::uint32_t kStartFromColor = 1;
+
+/// A request with the meaning of the platform's CHOOSECOLOR on every desktop.
+struct ColorRequest {
+  /// The window that the dialog belongs to: HWND on Windows, WId on Qt; 0 for none.
+  std::uintptr_t OwnerHandle = 0;
+  std::uint32_t Flags = 0;
+  /// In: the colour to start from. Out: the one chosen; unchanged when none was.
+  orx::Color Color;
+  /// The hook's answer where the platform has no such dialog; without one, nothing is chosen.
+  std::optional<orx::Color> Answer = {};
+};
+
+/// The value of FontRequest::Flags that asks for the fonts of screen and printer.
+inline constexpr std::uint32_t kScreenAndPrinterFonts = 3;
+
+/// A font with its colour.
+struct ColoredFont {
+  Font Face;
+  orx::Color Color;
+  bool operator==(const ColoredFont&) const = default;
+};
+
+/// A request with the meaning of the platform's CHOOSEFONT on every desktop.
+struct FontRequest {
+  /// The window that the dialog belongs to: HWND on Windows, WId on Qt; 0 for none.
+  std::uintptr_t OwnerHandle = 0;
+  std::uint32_t Flags = kScreenAndPrinterFonts;
+  /// In: the font to start from. Out: the one chosen; unchanged when none was.
+  ColoredFont Chosen;
+  /// The hook's answer where the platform has no such dialog; without one, nothing is chosen.
+  std::optional<ColoredFont> Answer = {};
+};
+
+/// What the help engine is to show. `WindowHandle` is the native window that asks (0: none).
+struct HelpRequest {
+  std::uintptr_t WindowHandle = 0;
+  std::string FileName;
+  int Command = 0;
+  std::int32_t ContextId = 0;
+};
+
+/// The command that opens the Help Topics window.
+inline constexpr int kHelpFinder = 11;
 
 }  // namespace orx

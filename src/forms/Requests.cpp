@@ -1,4 +1,4 @@
-#include "forms/OpenFileRequest.h"
+#include "forms/Requests.h"
 
 #include <algorithm>
 
