@@ -26,6 +26,11 @@ class ListControl : public Control {
   /// Removes all entries and the selection, without an event.
   virtual void Clear();
 
+  /// True for a list whose entries are words of the dialog's own, which a language translates with the form. False, as
+  /// at first, for names, numbers and whatever else the entries stand for.
+  bool HasWords() const { return mHasWords; }
+  void HasWords(bool value) { mHasWords = value; }
+
   /// The index of the current entry, -1 when none is: the selected one, where not several can be selected.
   int ListIndex() const { return mListIndex; }
   /// Goes to an entry (-1: to none) and raises Click when it was not the current one. Throws std::out_of_range.
@@ -57,6 +62,7 @@ class ListControl : public Control {
 
   std::vector<Item> mItems;
   int mListIndex = -1;
+  bool mHasWords = false;
 };
 
 }  // namespace orx

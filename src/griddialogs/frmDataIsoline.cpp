@@ -24,6 +24,7 @@ frmDataIsoline::frmDataIsoline(Desktop& desktop)
                          .Client = {7140, 4815}}) {
   for (TextBox* const field : {&txtLineWidth, &txtLineMaxWidth})
     field->GotFocus = [field] { modMain::SelectAllText(*field); };
+  cmbLineStyle.HasWords(true);
   mSettings.Written = [this](Setting&) { IsDirty(true); };
   cmdFont.Click = [this] { cmdFont_Click(); };
 }

@@ -15,6 +15,8 @@ frmDataShade::frmDataShade(Desktop& desktop)
                          .Client = {7140, 6525}}) {
   cmbShadeVersion.Click = [this] { cmbShadeVersion_Click(); };
   cmbCombine.Click = [this] { cmbCombine_Click(); };
+  cmbShadeVersion.HasWords(true);
+  cmbCombine.HasWords(true);
   Couple(txtMinIntensity, txtIntensityMin);
   Couple(txtNrOfShades, txtNrOfShades2);
   for (Control* const control : All())

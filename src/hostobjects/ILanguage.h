@@ -18,8 +18,8 @@ class ILanguage : public BorrowedObject {
   /// The text for a key, UTF-8. A caption is its own key; a key without an entry gives the key for a caption, and an
   /// empty text for keys that start with an underscore (help file, help numbers).
   virtual std::string TranslateText(const std::string& key) = 0;
-  /// Translates captions, tool tips and tab captions of the form's controls (Form::All); the form's own caption is
-  /// translated by the form through TranslateText.
+  /// Translates captions, tool tips and tab captions of the form's controls (Form::All), and the entries of lists that
+  /// have words (ListControl::HasWords); the form's own caption is translated by the form through TranslateText.
   virtual void TranslateForm(Form& form) = 0;
 };
 

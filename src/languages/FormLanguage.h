@@ -5,9 +5,9 @@
 
 namespace orx::languages {
 
-/// Translates captions, tool tips and tab captions of all controls of a form. Texts that the user edits and the entries
-/// of lists are not touched. A translated form can be translated again, as long as no translation is the key of
-/// another.
+/// Translates captions, tool tips, accessible names and tab captions of all controls of a form, and the entries of
+/// lists that have words (ListControl::HasWords). Texts that the user edits and the entries of other lists are not
+/// touched. A translated form can be translated again, as long as no translation is the key of another.
 class FormLanguage : public ILanguage {
  public:
   void TranslateForm(Form& form) override;

@@ -1,7 +1,9 @@
 // Loops of hosts that tell their progress as fast as they can.
 #pragma once
 
+#include <algorithm>
 #include <chrono>
+#include <limits>
 #include <string>
 
 #include "forms/Desktop.h"
@@ -19,22 +21,31 @@ inline void JumpFor(std::chrono::milliseconds time, CCommonProgressDialog& progr
   }
 }
 
+/// The seconds that it takes to fill the bar from `from` to `to` in steps, with a repaint after each or without.
+inline double TimeToFill(CCommonProgressDialog& progress, int from, int to, int step, bool isRepainted) {
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = from + step; i <= to; i += step) {
+    progress.Value(i);
+    if (isRepainted) progress.Refresh();
+  }
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
 /// Fills the bar by a million values, and by far fewer with a repaint after each. What the million have cost of what
-/// they would have cost with repaints.
+/// they would have cost with repaints. Both in turn, of which the fastest counts: other programs run meanwhile.
 inline double CostOfAMillionValues(CCommonProgressDialog& progress) {
   constexpr int kValues = 1000000;
+  constexpr int kTurns = 20;
+  constexpr int kTurn = kValues / kTurns;
   constexpr int kStep = 2000;
   progress.Init(0, kValues, 0);
-  auto start = std::chrono::steady_clock::now();
-  for (int i = 1; i <= kValues; ++i) progress.Value(i);
-  const std::chrono::duration<double> plain = std::chrono::steady_clock::now() - start;
-  start = std::chrono::steady_clock::now();
-  for (int i = kStep; i <= kValues; i += kStep) {
-    progress.Value(i);
-    progress.Refresh();
+  double plain = std::numeric_limits<double>::infinity();
+  double repainted = plain;
+  for (int from = 0; from < kValues; from += kTurn) {
+    plain = std::min(plain, TimeToFill(progress, from, from + kTurn, 1, false));
+    repainted = std::min(repainted, TimeToFill(progress, from, from + kTurn, kStep, true));
   }
-  const std::chrono::duration<double> repainted = std::chrono::steady_clock::now() - start;
-  return plain.count() / (repainted.count() * kStep);
+  return plain / (repainted * kStep);
 }
 
 }  // namespace orx::test

@@ -11,6 +11,7 @@
 #include "maplibrary/model/SampleMap.h"
 #include "tests/maplibrary/pages/CheckedLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
+#include "tests/support/InstalledLanguages.h"
 
 namespace orx::test {
 namespace {
@@ -39,32 +40,36 @@ class MapLibraryLayerDialogs : public PagesTest {
 
   std::unique_ptr<maplibrary::Map> map = maplibrary::MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil");
   maplibrary::Layers layers{*map};
-  languages::TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
+  const InstalledLanguages installed = ReadInstalledLanguages();
 };
 
-TEST_F(MapLibraryLayerDialogs, EveryTextIsInTheGermanFile) {
-  CheckedLanguage checked(german);
-  OnEachTab(&checked, [] {});
-  // Tabs are looked up once more by the captions that the translated form has given them.
-  for (const char* const given : {"Beschriftung", "Daten", "Koordinaten"}) EXPECT_EQ(1U, checked.Missing.erase(given));
-  EXPECT_EQ(std::set<std::string>{}, checked.Missing);
+TEST_F(MapLibraryLayerDialogs, EveryTextIsInTheFileOfEachLanguage) {
+  for (const auto& [name, language] : installed) {
+    CheckedLanguage checked(*language);
+    OnEachTab(&checked, [] {});
+    // Tabs are looked up once more by the captions that the translated form has given them.
+    for (const char* const tab : {"Label", "Data", "Coordinates"}) checked.Missing.erase(language->TranslateText(tab));
+    EXPECT_EQ(std::set<std::string>{}, checked.Missing) << name;
+  }
 }
 
 TEST_F(MapLibraryLayerDialogs, MnemonicsAreUniqueOnEachTab) {
   languages::PseudoLanguage pseudo;
-  for (ILanguage* language : std::initializer_list<ILanguage*>{nullptr, &german, &pseudo})
-    OnEachTab(language, [this] {
+  std::map<std::string, ILanguage*> all{{"none", nullptr}, {"pseudo", &pseudo}};
+  for (const auto& [name, language] : installed) all[name] = language.get();
+  for (const auto& [name, language] : all)
+    OnEachTab(language, [&, name = name] {
       std::map<char32_t, std::string> owners;
       for (const Control* control : form->All()) {
         if (!control->Mnemonic() || !control->IsShown()) continue;
         const auto [owner, isFirst] = owners.emplace(control->Mnemonic(), control->Name());
-        EXPECT_TRUE(isFirst) << form->Name() << ": " << control->Name() << " and " << owner->second;
+        EXPECT_TRUE(isFirst) << name << ", " << form->Name() << ": " << control->Name() << " and " << owner->second;
       }
     });
 }
 
 TEST_F(MapLibraryLayerDialogs, EveryInputHasAName) {
-  OnEachTab(&german, [this] {
+  OnEachTab(installed.at("de").get(), [this] {
     for (Control* control : form->All())
       EXPECT_TRUE(!control->IsTabStop() || !control->AccessibleName().empty()) << control->Name();
   });

@@ -9,6 +9,7 @@
 #include "service/modMain.h"
 #include "tests/maplibrary/pages/CheckedLanguage.h"
 #include "tests/maplibrary/pages/PagesTest.h"
+#include "tests/support/InstalledLanguages.h"
 #include "tests/support/RecordedData.h"
 #include "tests/support/RecordedGrid.h"
 
@@ -92,46 +93,56 @@ class MapLibraryLanguagePages : public PagesTest, public testing::WithParamInter
   RecordedShade shade;
   RecordedIsolines isolines;
   RecordedMap map;
-  TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
+  const InstalledLanguages installed = ReadInstalledLanguages();
 };
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, MapLibraryLanguagePages, testing::ValuesIn(kDialogs),
                          [](const auto& dialog) { return dialog.param.Form; });
 
-TEST_P(MapLibraryLanguagePages, EveryTextIsInTheGermanFile) {
-  CheckedLanguage checked(german);
-  Look(&checked, [] {});
-  // It changes with each character and is never shown.
-  checked.Missing.erase("Selected character: 65");
-  EXPECT_EQ(std::set<std::string>{}, checked.Missing);
+TEST_P(MapLibraryLanguagePages, EveryTextIsInTheFileOfEachLanguage) {
+  for (const auto& [name, language] : installed) {
+    CheckedLanguage checked(*language);
+    Look(&checked, [] {});
+    // It changes with each character and is never shown.
+    checked.Missing.erase("Selected character: 65");
+    EXPECT_EQ(std::set<std::string>{}, checked.Missing) << name;
+  }
 }
 
-TEST_P(MapLibraryLanguagePages, MnemonicsAreUniqueInEnglishGermanAndPseudo) {
+TEST_P(MapLibraryLanguagePages, MnemonicsAreUniqueInEachLanguage) {
+  for (const auto& [name, language] : installed)
+    Look(language.get(), [&] { EXPECT_EQ("", DoubleMnemonics()) << name; });
   PseudoLanguage pseudo;
-  for (ILanguage* language : std::initializer_list<ILanguage*>{nullptr, &german, &pseudo})
-    Look(language, [this, language] {
-      // The designed texts of this one have two doubles, between which the key goes to and fro.
-      const bool hasDoubles = std::string_view(GetParam().Form) == "frmDataIsoline" && language != &german;
-      EXPECT_EQ(hasDoubles ? "co" : "", DoubleMnemonics());
+  // The designed texts of this one have two doubles, between which the key goes to and fro.
+  const char* const doubles = std::string_view(GetParam().Form) == "frmDataIsoline" ? "co" : "";
+  for (ILanguage* language : std::initializer_list<ILanguage*>{nullptr, &pseudo})
+    Look(language, [&] { EXPECT_EQ(doubles, DoubleMnemonics()); });
+}
+
+TEST_P(MapLibraryLanguagePages, EveryInputHasItsNameInEachLanguage) {
+  for (const auto& [name, language] : installed)
+    Look(language.get(), [&] {
+      for (Control* control : form->All())
+        EXPECT_TRUE(!control->IsTabStop() || !control->AccessibleName().empty()) << name << ": " << control->Name();
     });
 }
 
-TEST_P(MapLibraryLanguagePages, EveryInputHasItsNameInGerman) {
-  Look(&german, [this] {
-    for (Control* control : form->All())
-      EXPECT_TRUE(!control->IsTabStop() || !control->AccessibleName().empty()) << control->Name();
-  });
-}
-
 TEST_P(MapLibraryLanguagePages, TranslatingTwiceChangesNothing) {
+  const auto texts = [this] {
+    std::vector<std::string> all;
+    for (Control* control : form->All()) {
+      all.push_back(control->Caption());
+      if (auto* const list = dynamic_cast<ListControl*>(control); list && list->HasWords())
+        for (int entry = 0; entry < list->ListCount(); ++entry) all.push_back(list->List(entry));
+    }
+    return all;
+  };
   PseudoLanguage pseudo;
-  for (ILanguage* language : std::initializer_list<ILanguage*>{&german, &pseudo})
-    Look(language, [this, language] {
-      std::vector<std::string> before, after;
-      for (Control* control : form->All()) before.push_back(control->Caption());
+  for (ILanguage* language : std::initializer_list<ILanguage*>{installed.at("de").get(), &pseudo})
+    Look(language, [&] {
+      const std::vector<std::string> before = texts();
       language->TranslateForm(*form);
-      for (Control* control : form->All()) after.push_back(control->Caption());
-      EXPECT_EQ(before, after);
+      EXPECT_EQ(before, texts());
     });
 }
 
@@ -140,10 +151,27 @@ class MapLibraryLanguageGerman : public PagesTest {
   TextLanguage german{std::filesystem::path(ORX_DATA_DIR "/languages/de.txt")};
 };
 
-TEST_F(MapLibraryLanguageGerman, HasTheTextsOfAllMessages) {
-  for (const char* text : fieldtexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
-  for (const char* text : pages::pagetexts::kAll) EXPECT_TRUE(german.HasText(text)) << text;
-  EXPECT_TRUE(german.HasText("Unable to display Help. There is no Help associated with this project."));
+/// The file of a language.
+class MapLibraryLanguageFile : public testing::Test {
+ protected:
+  const InstalledLanguages installed = ReadInstalledLanguages();
+};
+
+TEST_F(MapLibraryLanguageFile, HasTheTextsOfAllMessages) {
+  for (const auto& [name, language] : installed) {
+    for (const char* text : fieldtexts::kAll) EXPECT_TRUE(language->HasText(text)) << name << ": " << text;
+    for (const char* text : pages::pagetexts::kAll) EXPECT_TRUE(language->HasText(text)) << name << ": " << text;
+    EXPECT_TRUE(language->HasText("Unable to display Help. There is no Help associated with this project.")) << name;
+  }
+}
+
+TEST_F(MapLibraryLanguageFile, HasTheTextsThatEachOtherLanguageHas) {
+  ASSERT_EQ(3U, installed.size());
+  for (const auto& [name, language] : installed)
+    for (const auto& [key, text] : installed.at("de")->Texts())
+      EXPECT_TRUE(language->HasText(key)) << name << ": " << key;
+  for (const auto& [name, language] : installed)
+    EXPECT_EQ(installed.at("de")->EntryCount(), language->EntryCount()) << name;
 }
 
 TEST_F(MapLibraryLanguageGerman, TheColorSchemesAndThePageOfTheDataAreTranslated) {
@@ -172,19 +200,45 @@ TEST_F(MapLibraryLanguageGerman, TheColorSchemesAndThePageOfTheDataAreTranslated
   }
 }
 
-TEST_F(MapLibraryLanguageGerman, KeepsThePlacesOfEachText) {
-  for (const auto& [key, text] : german.Texts())
-    for (const char* place : {"{1}", "{2}", "{3}", "{4}"})
-      EXPECT_EQ(key.find(place) != std::string::npos, text.find(place) != std::string::npos) << key;
+TEST_F(MapLibraryLanguageFile, KeepsThePlacesOfEachText) {
+  for (const auto& [name, language] : installed)
+    for (const auto& [key, text] : language->Texts())
+      for (const char* place : {"{1}", "{2}", "{3}", "{4}"})
+        EXPECT_EQ(key.find(place) != std::string::npos, text.find(place) != std::string::npos) << name << ": " << key;
 }
 
-TEST_F(MapLibraryLanguageGerman, HasAMnemonicWhereTheEnglishTextHasOne) {
-  for (const auto& [key, text] : german.Texts())
-    EXPECT_EQ(key.find('&') != std::string::npos, text.find('&') != std::string::npos) << key;
+TEST_F(MapLibraryLanguageFile, HasAMnemonicWhereTheEnglishTextHasOne) {
+  for (const auto& [name, language] : installed)
+    for (const auto& [key, text] : language->Texts())
+      EXPECT_EQ(key.find('&') != std::string::npos, text.find('&') != std::string::npos) << name << ": " << key;
 }
 
-TEST_F(MapLibraryLanguageGerman, NoTranslationIsTheKeyOfAnother) {
-  for (const auto& [key, text] : german.Texts()) EXPECT_EQ(text, german.TranslateText(text)) << key;
+TEST_F(MapLibraryLanguageFile, HasNoTranslationThatIsTheKeyOfAnother) {
+  for (const auto& [name, language] : installed)
+    for (const auto& [key, text] : language->Texts())
+      EXPECT_EQ(text, language->TranslateText(text)) << name << ": " << key;
+}
+
+TEST_F(MapLibraryLanguageGerman, TheListsOfShadingAndIsolinesAreTranslatedAndTheirCodesStay) {
+  RecordedShade shade;
+  RecordedIsolines isolines;
+  bool changed = false;
+  shade.HeldCombineColors = 2;
+  InDialog("frmDataShade", [this] {
+    EXPECT_EQ("Schatten und Gerät", Seen("cmbCombine"));
+    EXPECT_EQ("Sonne und Schatten", Seen("cmbShadeVersion"));
+    user.Choose(Get<ComboBox>("cmbCombine"), 1);
+    EXPECT_EQ("Schatten und Farben", Seen("cmbCombine"));
+  });
+  EXPECT_TRUE(modMain::ShowShadeDialog(desktop(), &shade, changed, &german));
+  EXPECT_EQ(1, shade.HeldCombineColors);
+  InDialog("frmDataIsoline", [this] {
+    user.Choose(Get<ComboBox>("cmbLineStyle"), 1);
+    EXPECT_EQ("Gestrichelt", Seen("cmbLineStyle"));
+    // Numbers are no words.
+    EXPECT_EQ("0.1", Get<ComboBox>("cmbLabelDistance").List(0));
+  });
+  EXPECT_TRUE(modMain::ShowIsolineDialog(desktop(), &isolines, changed, &german));
 }
 
 TEST_F(MapLibraryLanguageGerman, ListsAndMessagesAreTranslated) {
