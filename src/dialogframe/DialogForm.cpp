@@ -61,6 +61,12 @@ void DialogForm::Hold(const BorrowedObject* lent) {
   if (lifetime && std::ranges::find(mHeld, lifetime) == mHeld.end()) mHeld.push_back(std::move(lifetime));
 }
 
+bool DialogForm::Form_Help() {
+  if (HelpContextId() == 0) return false;
+  ShowHelp();
+  return true;
+}
+
 void DialogForm::ShowHelp() {
   modMain::ShowHelpFinder(*this, modMain::HelpFile(), HelpContextId());
 }

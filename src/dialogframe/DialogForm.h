@@ -41,6 +41,9 @@ class DialogForm : public Form {
   void Form_Unload() override;
   void Form_Release() override;
 
+  /// F1 opens the topic of the dialog, if it has one.
+  bool Form_Help() override;
+
   /// Puts the form where it is to open.
   virtual void Arrange() { Center(); }
   /// Takes the help context number from an active language: the number under the help key, rounded. A text that is not

@@ -117,6 +117,8 @@ class Control {
 
   /// What the mnemonic of the caption does; by default the focus comes here, or to the next control for a label.
   virtual void UserMnemonic();
+  /// True for a control whose keys, F1 among them, have a handler of the form's.
+  virtual bool HandlesKeys() const { return false; }
   /// False where the caption stands for a mnemonic only.
   virtual bool ShowsCaption() const { return true; }
   /// The children when the control is a container, else null.

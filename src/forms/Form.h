@@ -129,7 +129,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void RunAsHost(const std::function<void()>& act);
   /// The native focus has come to a control by mouse or by the platform.
   void UserFocus(Control& control);
-  /// A key was pressed. True when it was a dialog key (Tab, Enter, Escape, Alt with a mnemonic) and has been handled.
+  /// A key was pressed. True when it was a dialog key (see KeyStroke) and has been handled. A mnemonic that several
+  /// controls have only moves the focus among them.
   bool UserKey(const KeyStroke& stroke);
   /// The close box was pressed: the form unloads unless Form_QueryUnload keeps it, and no button handler runs. A form
   /// that the user cannot reach, because a box or another form is modal above it, stays.
@@ -166,6 +167,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   virtual void Form_Release() {}
   /// Runs when the close box was pressed; false keeps the form.
   virtual bool Form_QueryUnload() { return true; }
+  /// Runs when F1 was pressed, unless the control with the focus handles keys itself. True when help was shown.
+  virtual bool Form_Help() { return false; }
   /// Run as the mouse moves over the window, also to a place outside its client area, and when its button is pressed
   /// where no control is. In pixels from the upper left corner of the client area.
   virtual void Form_MouseMove(Point) {}
@@ -198,6 +201,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void TabAway(bool backwards);
   bool PressByKey(Button* button);
   bool PressMnemonic(char32_t letter);
+  bool TurnTab(bool backwards);
 
   Desktop& mDesktop;
   std::string mName;

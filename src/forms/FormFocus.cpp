@@ -3,6 +3,7 @@
 
 #include "forms/Button.h"
 #include "forms/Form.h"
+#include "forms/TabControl.h"
 
 namespace orx {
 namespace {
@@ -99,9 +100,25 @@ bool Form::PressMnemonic(char32_t letter) {
     return control != mActive && (!control->IsReachable() || control->Mnemonic() != letter);
   });
   Control* const found = Neighbour(order, mActive, false);
-  if (!found || !found->IsReachable() || found->Mnemonic() != letter) return false;
-  found->UserMnemonic();
+  const auto hasLetter = [letter](const Control* control) {
+    return control->IsReachable() && control->Mnemonic() == letter;
+  };
+  if (!found || !hasLetter(found)) return false;
+  if (std::ranges::count_if(order, hasLetter) == 1)
+    found->UserMnemonic();
+  else
+    found->Control::UserMnemonic();
   return true;
+}
+
+bool Form::TurnTab(bool backwards) {
+  for (Control* const control : All()) {
+    auto* const tabs = dynamic_cast<TabControl*>(control);
+    if (!tabs || !tabs->IsReachable() || tabs->TabCount() < 2) continue;
+    tabs->UserSelect((tabs->Tab() + (backwards ? tabs->TabCount() - 1 : 1)) % tabs->TabCount());
+    return true;
+  }
+  return false;
 }
 
 bool Form::UserKey(const KeyStroke& stroke) {
@@ -120,6 +137,13 @@ bool Form::UserKey(const KeyStroke& stroke) {
       }
       case Key::Escape:
         handled = PressByKey(ButtonFor(ButtonRole::Cancel));
+        break;
+      case Key::Help:
+        handled = (!mActive || !mActive->HandlesKeys()) && Form_Help();
+        break;
+      case Key::NextTab:
+      case Key::PreviousTab:
+        handled = TurnTab(stroke.Key == Key::PreviousTab);
         break;
       case Key::Character:
         handled = stroke.Alt && PressMnemonic(stroke.Character);

@@ -3,8 +3,9 @@
 
 namespace orx {
 
-/// The key; Character stands for any letter or digit.
-enum class Key { Tab, Enter, Escape, Character };
+/// The key: F1 is Help, Ctrl with Page Down or Page Up goes to the next or the previous tab, and Character stands for
+/// any letter or digit.
+enum class Key { Tab, Enter, Escape, Help, NextTab, PreviousTab, Character };
 
 /// One key press. `Character` holds the letter when the key is Key::Character.
 struct KeyStroke {
@@ -25,6 +26,7 @@ inline constexpr int kKeyCodeLeft = 37;
 inline constexpr int kKeyCodeUp = 38;
 inline constexpr int kKeyCodeRight = 39;
 inline constexpr int kKeyCodeDown = 40;
+inline constexpr int kKeyCodeDelete = 46;
 inline constexpr int kKeyCodePlus = 107;
 inline constexpr int kKeyCodeMinus = 109;
 inline constexpr int kKeyCodeF1 = 112;

@@ -48,6 +48,7 @@ class PictureBox final : public Control {
   /// Raised when the user presses a key there, with the key's code. Keys that belong to the dialog (Tab, Enter, Escape,
   /// all with Alt) do not come here.
   Event<int> KeyDown;
+  bool HandlesKeys() const override { return KeyDown.HasHandler(); }
 
   bool TakesFocus() const override { return mUse == PictureUse::Input; }
   /// For desktops and test users: the user presses the mouse at a pixel, for the second time of a double click, and

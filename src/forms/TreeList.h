@@ -83,6 +83,7 @@ class TreeList final : public Control, public RowList {
   /// another one, without a Click. Keys that belong to the dialog (Tab, Enter, Escape, all with Alt) do not come here;
   /// typed characters that have found a row come with the code 0.
   Event<int> KeyDown;
+  bool HandlesKeys() const override { return KeyDown.HasHandler(); }
 
   /// For desktops and test users: the user clicks on a row, or folds one by mouse.
   void UserClick(int row);

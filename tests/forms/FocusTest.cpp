@@ -1,5 +1,7 @@
 // Focus and keys: who gets and loses the focus in which order, what Tab, Enter, Escape and the mnemonics do, and that
 // no press gets past a field that refuses its entry.
+#include <algorithm>
+
 #include "tests/forms/SampleForm.h"
 
 namespace orx::test {
@@ -114,6 +116,42 @@ TEST_F(FormsFocus, MnemonicsPressTickAndLead) {
   events.clear();
   user.Press(*form, AltKey(U'c'));
   EXPECT_EQ((Events{"txtFirst_LostFocus", "cmdCancel_GotFocus", "cmdCancel_Click"}), NewEvents());
+}
+
+TEST_F(FormsFocus, AMnemonicOfSeveralControlsMovesTheFocusAmongThemAndPressesNone) {
+  form->chkShow.Caption("&Check");
+  ShowForm();
+  events.clear();
+  for (int round = 0; round < 2; ++round) {
+    user.Press(*form, AltKey(U'c'));
+    EXPECT_TRUE(user.See(form->chkShow).Focused) << round;
+    user.Press(*form, AltKey(U'c'));
+    EXPECT_TRUE(user.See(form->cmdCancel).Focused) << round;
+  }
+  EXPECT_FALSE(form->chkShow.IsChecked());
+  EXPECT_EQ(0, std::ranges::count(events, "cmdCancel_Click"));
+  // Where the others cannot be reached, it is the letter of one.
+  form->chkShow.Enabled(false);
+  user.Press(*form, AltKey(U'c'));
+  EXPECT_EQ(1, std::ranges::count(events, "cmdCancel_Click"));
+}
+
+TEST_F(FormsFocus, CtrlPageDownAndPageUpTurnTheTabsFromWhereverTheFocusIs) {
+  ShowForm();
+  user.ClickInto(form->txtSize);
+  for (const auto& [key, tab] : {std::pair{Key::NextTab, 1}, {Key::NextTab, 0}, {Key::PreviousTab, 1}}) {
+    user.Press(*form, {key});
+    EXPECT_EQ(tab, user.See(form->ssTab).Value);
+    // As when the tab is clicked.
+    EXPECT_TRUE(user.See(form->ssTab).Focused);
+  }
+  user.ClickInto(form->txtSecond);
+  user.Press(*form, {Key::NextTab});
+  EXPECT_EQ(0, form->ssTab.Tab());
+  EXPECT_TRUE(user.See(form->ssTab).Focused);
+  form->ssTab.Enabled(false);
+  user.Press(*form, {Key::NextTab});
+  EXPECT_EQ(0, form->ssTab.Tab());
 }
 
 TEST_F(FormsFocus, MnemonicsOfHiddenAndDisabledControlsDoNothing) {

@@ -1,8 +1,10 @@
 // The frame of the dialogs: the order of loading, what OK and Cancel do, refusals, colour boxes and busy scopes.
+#include <limits>
 #include <stdexcept>
 
 #include "dialogframe/ColorBox.h"
 #include "dialogframe/EditForm.h"
+#include "dialogframe/Help.h"
 #include "forms/BusyScope.h"
 #include "forms/PictureBox.h"
 #include "forms/Requests.h"
@@ -102,6 +104,29 @@ TEST_F(DialogFrame, LoadingGoesInItsOrder) {
                    "Language.TranslateForm(frmFrame)", "Language.TranslateText(Frame)", "Ready"}),
             NewCalls());
   EXPECT_EQ("<Frame>", form->Caption());
+}
+
+TEST_F(DialogFrame, F1OpensTheTopicOfTheDialogFromAnyFieldThatHasNoUseForIt) {
+  modMain::HelpFile("maps.hlp");
+  Show([this] {
+    user.ClickInto(form->txtValue);
+    user.Press(*form, {Key::Help});
+    EXPECT_EQ(0U, script.Helps.size());
+    for (const std::int32_t number : {12, std::numeric_limits<std::int32_t>::min()}) {
+      form->HelpContextId(number);
+      user.Press(*form, {Key::Help});
+      EXPECT_EQ(number, script.Helps.at(0).ContextId);
+      EXPECT_EQ("maps.hlp", script.Helps.at(0).FileName);
+      script.Helps.clear();
+    }
+    // A colour box takes any key for a click.
+    int clicks = 0;
+    form->pctColor.KeyDown = [&clicks](int) { ++clicks; };
+    form->pctColor.SetFocus();
+    user.PressKey(*form, kKeyCodeF1);
+    EXPECT_EQ(1, clicks);
+    EXPECT_EQ(0U, script.Helps.size());
+  });
 }
 
 TEST_F(DialogFrame, AFormThatUnloadsItselfAsItIsFilledSkipsTheRest) {

@@ -85,6 +85,21 @@ TEST_F(LayerManagerMoves, RemovingSelectsTheRowBefore) {
   }));
 }
 
+TEST_F(LayerManagerMoves, TheDeleteKeyRemovesTheSelectedLayerAndNothingElse) {
+  Fill({"Roads", "Rivers", "Terrain"});
+  EXPECT_EQ(-1, ShowLayers([&](frmMapSettings& form) {
+    user.Click(form.sftLayers, 3);
+    user.PressKey(form, kKeyCodeDelete);
+    EXPECT_EQ((Texts{"Roads", "Rivers"}), map.Names());
+    EXPECT_EQ(2, Selected(form));
+    // The row of the collection is no layer.
+    user.Click(form.sftLayers, 0);
+    user.PressKey(form, kKeyCodeDelete);
+    EXPECT_EQ((Texts{"Roads", "Rivers"}), map.Names());
+    Press(form, "cmdOK");
+  }));
+}
+
 TEST_F(LayerManagerMoves, RemovingTheFirstLayerSelectsTheRootRow) {
   Fill({"Roads", "Rivers"});
   ShowLayers([&](frmMapSettings& form) {

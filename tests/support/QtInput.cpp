@@ -33,6 +33,12 @@ Qt::Key NativeKey(const KeyStroke& stroke) {
       return Qt::Key_Return;
     case Key::Escape:
       return Qt::Key_Escape;
+    case Key::Help:
+      return Qt::Key_F1;
+    case Key::NextTab:
+      return Qt::Key_PageDown;
+    case Key::PreviousTab:
+      return Qt::Key_PageUp;
     case Key::Character:
       break;
   }
@@ -41,10 +47,11 @@ Qt::Key NativeKey(const KeyStroke& stroke) {
 
 Qt::Key NativeKey(int keyCode) {
   static const std::map<int, Qt::Key> kKeys = {
-      {kKeyCodeShift, Qt::Key_Shift}, {kKeyCodePageUp, Qt::Key_PageUp}, {kKeyCodePageDown, Qt::Key_PageDown},
-      {kKeyCodeEnd, Qt::Key_End},     {kKeyCodeHome, Qt::Key_Home},     {kKeyCodeLeft, Qt::Key_Left},
-      {kKeyCodeUp, Qt::Key_Up},       {kKeyCodeRight, Qt::Key_Right},   {kKeyCodeDown, Qt::Key_Down},
-      {kKeyCodePlus, Qt::Key_Plus},   {kKeyCodeMinus, Qt::Key_Minus},   {kKeyCodeF1, Qt::Key_F1}};
+      {kKeyCodeShift, Qt::Key_Shift},   {kKeyCodePageUp, Qt::Key_PageUp}, {kKeyCodePageDown, Qt::Key_PageDown},
+      {kKeyCodeEnd, Qt::Key_End},       {kKeyCodeHome, Qt::Key_Home},     {kKeyCodeLeft, Qt::Key_Left},
+      {kKeyCodeUp, Qt::Key_Up},         {kKeyCodeRight, Qt::Key_Right},   {kKeyCodeDown, Qt::Key_Down},
+      {kKeyCodeDelete, Qt::Key_Delete}, {kKeyCodePlus, Qt::Key_Plus},     {kKeyCodeMinus, Qt::Key_Minus},
+      {kKeyCodeF1, Qt::Key_F1}};
   const auto found = kKeys.find(keyCode);
   // Letters, digits and the space have the same numbers on both sides.
   return found == kKeys.end() ? static_cast<Qt::Key>(keyCode) : found->second;

@@ -199,6 +199,7 @@ class QtUser final : public User {
     Qt::KeyboardModifiers modifiers;
     modifiers.setFlag(Qt::AltModifier, stroke.Alt);
     modifiers.setFlag(Qt::ShiftModifier, stroke.Shift);
+    modifiers.setFlag(Qt::ControlModifier, stroke.Key == Key::NextTab || stroke.Key == Key::PreviousTab);
     QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, NativeKey(stroke), modifiers);
   }
 

@@ -38,10 +38,10 @@ bool IsReallyEnabled(HWND window) {
   return true;
 }
 
-void HoldShift(bool down) {
+void Hold(int key, bool down) {
   BYTE keys[256] = {};
   GetKeyboardState(keys);
-  keys[VK_SHIFT] = down ? 0x80 : 0;
+  keys[key] = down ? 0x80 : 0;
   SetKeyboardState(keys);
 }
 

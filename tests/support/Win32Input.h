@@ -17,8 +17,8 @@ void Activate(HWND window);
 HWND WindowAt(HWND outer, POINT place);
 /// False as well for what stands in a disabled window.
 bool IsReallyEnabled(HWND window);
-/// Presses the Shift key for what comes, or releases it.
-void HoldShift(bool down);
+/// Presses a key such as VK_SHIFT for what comes, or releases it.
+void Hold(int key, bool down);
 /// Leaves a text on the clipboard, in the name of that window.
 void PutOnClipboard(HWND owner, const std::wstring& text);
 

@@ -170,7 +170,9 @@ class Win32User final : public User {
     Activate(WindowOf(form));
     HWND focus = GetFocus();
     if (!focus || GetAncestor(focus, GA_ROOT) != WindowOf(form)) focus = WindowOf(form);
-    if (stroke.Shift) HoldShift(true);
+    const bool isTurn = stroke.Key == Key::NextTab || stroke.Key == Key::PreviousTab;
+    if (stroke.Shift) Hold(VK_SHIFT, true);
+    if (isTurn) Hold(VK_CONTROL, true);
     switch (stroke.Key) {
       case Key::Tab:
         KeyTo(focus, VK_TAB);
@@ -181,13 +183,23 @@ class Win32User final : public User {
       case Key::Escape:
         KeyTo(focus, VK_ESCAPE);
         break;
+      case Key::Help:
+        KeyTo(focus, VK_F1);
+        break;
+      case Key::NextTab:
+        KeyTo(focus, VK_NEXT);
+        break;
+      case Key::PreviousTab:
+        KeyTo(focus, VK_PRIOR);
+        break;
       case Key::Character:
         PostMessageW(focus, stroke.Alt ? WM_SYSCHAR : WM_CHAR, static_cast<WPARAM>(stroke.Character),
                      stroke.Alt ? kAltDown : 1);
         break;
     }
     mDesktop.ProcessPendingEvents();
-    if (stroke.Shift) HoldShift(false);
+    if (isTurn) Hold(VK_CONTROL, false);
+    if (stroke.Shift) Hold(VK_SHIFT, false);
   }
 
   void CloseBox(Form& form) override {

@@ -56,8 +56,12 @@ std::optional<KeyStroke> StrokeOf(const QKeyEvent& event) {
     if (letter == 0) return std::nullopt;
     return KeyStroke{Key::Character, letter, shift, true};
   }
+  if (modifiers == Qt::ControlModifier && event.key() == Qt::Key_PageDown) return KeyStroke{Key::NextTab};
+  if (modifiers == Qt::ControlModifier && event.key() == Qt::Key_PageUp) return KeyStroke{Key::PreviousTab};
   if (modifiers != Qt::NoModifier) return std::nullopt;
   switch (event.key()) {
+    case Qt::Key_F1:
+      return KeyStroke{Key::Help};
     case Qt::Key_Tab:
       return KeyStroke{Key::Tab, 0, shift, false};
     case Qt::Key_Backtab:

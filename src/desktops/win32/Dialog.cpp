@@ -71,7 +71,8 @@ bool Dialog::ReportKey(const MSG& message) {
   bool handled = false;
   Report([&] { handled = Owner().UserKey(*stroke); });
   // For a dialog key that does nothing in a field of one line, the platform would beep.
-  return handled || (stroke->Key != Key::Character && !(peer && peer->TakesReturn()));
+  const bool wouldBeep = stroke->Key == Key::Tab || stroke->Key == Key::Enter || stroke->Key == Key::Escape;
+  return handled || (wouldBeep && !(peer && peer->TakesReturn()));
 }
 
 bool Dialog::NoticeFocus() {

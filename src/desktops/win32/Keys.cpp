@@ -38,8 +38,15 @@ std::optional<KeyStroke> StrokeOf(const MSG& message) {
     CharLowerBuffW(&letter, 1);
     return KeyStroke{Key::Character, letter, shift, true};
   }
-  if (message.message != WM_KEYDOWN || IsDown(VK_CONTROL)) return std::nullopt;
+  if (message.message != WM_KEYDOWN) return std::nullopt;
+  if (IsDown(VK_CONTROL)) {
+    if (message.wParam == VK_NEXT) return KeyStroke{Key::NextTab};
+    if (message.wParam == VK_PRIOR) return KeyStroke{Key::PreviousTab};
+    return std::nullopt;
+  }
   switch (message.wParam) {
+    case VK_F1:
+      return KeyStroke{Key::Help};
     case VK_TAB:
       return KeyStroke{Key::Tab, 0, shift, false};
     case VK_RETURN:
