@@ -39,7 +39,7 @@ const std::string kTexts[] = {"",
 
 constexpr int kKeyCodes[] = {kKeyCodeShift, kKeyCodeSpace, kKeyCodePageUp, kKeyCodePageDown, kKeyCodeEnd,
                              kKeyCodeHome,  kKeyCodeLeft,  kKeyCodeUp,     kKeyCodeRight,    kKeyCodeDown,
-                             kKeyCodePlus,  kKeyCodeMinus, kKeyCodeF1};
+                             kKeyCodePlus,  kKeyCodeMinus, kKeyCodeF1,     kKeyCodeDelete};
 
 /// Decimal and group separators, also such that no number can be read with.
 const numbers::Separators kLocales[] = {
@@ -182,7 +182,7 @@ void Monkey::WorkOn(PictureBox& box, const Act& act) {
 }
 
 void Monkey::PressDialogKey(Form& form, const Act& act) {
-  constexpr int kKinds = 9;
+  constexpr int kKinds = 12;
   const int kind = act.AnyHow(kKinds);
   if (kind == 0) {
     Say("presses Enter");
@@ -194,6 +194,11 @@ void Monkey::PressDialogKey(Form& form, const Act& act) {
     Say("presses Escape");
     Pressing(form.ButtonFor(ButtonRole::Cancel));
     return mUser.Press(form, kEscape);
+  }
+  constexpr Key kOthers[] = {Key::Help, Key::NextTab, Key::PreviousTab};
+  if (kind >= kKinds - static_cast<int>(std::size(kOthers))) {
+    Say("presses F1, Ctrl+Page Down or Ctrl+Page Up");
+    return mUser.Press(form, {kOthers[kKinds - 1 - kind]});
   }
   Say("presses Tab");
   mUser.Press(form, kind % 2 == 0 ? kTab : kShiftTab);
@@ -216,6 +221,8 @@ void Monkey::PressKey(Form& form, const Act& act) {
   const int key = kKeyCodes[act.How % std::size(kKeyCodes)];
   Say("presses key " + std::to_string(key));
   if (key == kKeyCodeSpace) Pressing(form.ActiveControl());
+  // In the layer list it is as good as the button.
+  if (key == kKeyCodeDelete) Pressing(form.Find("cmdRemove"));
   mUser.PressKey(form, key);
 }
 
