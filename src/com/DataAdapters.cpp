@@ -1,5 +1,7 @@
 #include "com/DataAdapters.h"
 
+#include <OrvexMapDialogs2.h>
+
 #include "com/Colors.h"
 
 namespace orx::com {
@@ -13,9 +15,7 @@ void SpecialValueAdapter::Color(orx::Color value) {
 }
 
 ISpecialValue& DataOptionsAdapter::Special(const char* member) {
-  std::unique_ptr<SpecialValueAdapter>& known = mSpecial[member];
-  known = std::make_unique<SpecialValueAdapter>(mOwner, mObject.RequireObject(member));
-  return *known;
+  return mSpecial.Of(mOwner, Members::Of<::ISpecialValue>(mObject.RequireObject(member).Get()));
 }
 
 }  // namespace orx::com

@@ -1,8 +1,6 @@
 // The interfaces of a data object over the members of automation objects.
 #pragma once
 
-#include <map>
-#include <memory>
 #include <string>
 
 #include "com/AutomationObject.h"
@@ -85,8 +83,7 @@ class DataOptionsAdapter final : public AdapterOf<IDataOptions> {
  private:
   ISpecialValue& Special(const char* member);
 
-  /// One for each member, over the object that the host returned last.
-  std::map<std::string, std::unique_ptr<SpecialValueAdapter>> mSpecial;
+  AdaptedParts<SpecialValueAdapter> mSpecial;
 };
 
 }  // namespace orx::com

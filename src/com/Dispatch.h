@@ -28,25 +28,26 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
     if (!info) return E_POINTER;
     *info = nullptr;
     if (index != 0) return DISP_E_BADINDEX;
-    return Give("Object", info, [&] { return ComPtr<ITypeInfo>(Description()); });
+    return Give("Object", info, [] { return TypeInfoOf(__uuidof(Interface)); });
   }
 
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
                                           DISPID* members) noexcept override {
     if (!names || !members) return E_POINTER;
     HRESULT found = S_OK;
-    const HRESULT result = Guarded("Object", [&] { found = DispGetIDsOfNames(Description(), names, count, members); });
+    const HRESULT result =
+        Guarded("Object", [&] { found = TypeInfoOf(__uuidof(Interface))->GetIDsOfNames(names, count, members); });
     return FAILED(result) ? result : found;
   }
 
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID locale, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* error, UINT* wrongArgument) noexcept override {
     if (!parameters) return E_POINTER;
-    // The host may release the object from within the call, which then still needs the description.
+    // The host may release the object from within the call.
     const ComPtr<Interface> keep(this);
     HRESULT invoked = S_OK;
     const HRESULT done = Guarded("Object", [&] {
-      invoked = InvokeMember(*Description(), static_cast<Interface*>(this),
+      invoked = InvokeMember(*TypeInfoOf(__uuidof(Interface)).Get(), static_cast<Interface*>(this),
                              {member, locale, flags, parameters, result, error, wrongArgument});
     });
     return FAILED(done) ? done : invoked;
@@ -63,14 +64,7 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   }
 
  private:
-  /// The type library's description of the interface, loaded on first use.
-  ITypeInfo* Description() {
-    if (!mDescription) mDescription = TypeInfoOf(__uuidof(Interface));
-    return mDescription.Get();
-  }
-
   ModuleUse mUse;
-  ComPtr<ITypeInfo> mDescription;
 };
 
 /// A creatable class with that default interface.

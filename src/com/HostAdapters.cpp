@@ -6,7 +6,7 @@
 #include "com/Conversion.h"
 #include "com/Errors.h"
 #include "com/FormObjects.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
 
 namespace orx::com {
 namespace {
@@ -18,11 +18,7 @@ class RawObject {
   explicit RawObject(IDispatch* object) : mObject(object) {}
 
   IDispatch* Automation() const { return mObject; }
-  LateBound Members() const {
-    const ComPtr<IDispatch> object(mObject);
-    if (const auto published = object.template As<Published>()) return LateBound(published.Get());
-    return LateBound(mObject);
-  }
+  Members Held() const { return Members::Of<Published>(mObject); }
 
  private:
   IDispatch* mObject;
@@ -33,18 +29,18 @@ class LanguageAdapter final : public orx::ILanguage, public std::enable_shared_f
   explicit LanguageAdapter(IDispatch* language) : mLanguage(language) {}
 
   IDispatch* Automation() const { return mLanguage.Automation(); }
-  std::int32_t EntryCount() override { return mLanguage.Members().GetLong("EntryCount"); }
+  std::int32_t EntryCount() override { return mLanguage.Held().GetLong("EntryCount"); }
 
   std::string TranslateText(const std::string& key) override {
     Variant text;
-    Check(ConvertValue(mLanguage.Members().Call("TranslateText", Variant(key)), VT_BSTR, LOCALE_USER_DEFAULT, text),
+    Check(ConvertValue(mLanguage.Held().Call("TranslateText", Variant(key)), VT_BSTR, LOCALE_USER_DEFAULT, text),
           "TranslateText");
     return TextOf(text.bstrVal);
   }
 
   void TranslateForm(Form& form) override {
     const LentForm lent(form);
-    mLanguage.Members().Call("TranslateForm", Variant(lent.Automation()));
+    mLanguage.Held().Call("TranslateForm", Variant(lent.Automation()));
   }
 
   std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
@@ -57,13 +53,13 @@ class CallBackAdapter final : public orx::IDialogCallBack, public std::enable_sh
  public:
   explicit CallBackAdapter(IDispatch* callBack) : mCallBack(callBack) {}
 
-  void ApplyNotify(bool changed) override { mCallBack.Members().Call("ApplyNotify", Variant(changed)); }
-  void CancelNotify(bool changed) override { mCallBack.Members().Call("CancelNotify", Variant(changed)); }
-  void OKNotify(bool changed) override { mCallBack.Members().Call("OKNotify", Variant(changed)); }
+  void ApplyNotify(bool changed) override { mCallBack.Held().Call("ApplyNotify", Variant(changed)); }
+  void CancelNotify(bool changed) override { mCallBack.Held().Call("CancelNotify", Variant(changed)); }
+  void OKNotify(bool changed) override { mCallBack.Held().Call("OKNotify", Variant(changed)); }
 
   std::int32_t RegisterNotify() override {
     // The dialogs ignore the result, so it need not be a number.
-    mCallBack.Members().Call("RegisterNotify");
+    mCallBack.Held().Call("RegisterNotify");
     return 0;
   }
 
@@ -84,9 +80,8 @@ std::shared_ptr<orx::ILanguage> AdaptLanguage(IDispatch* language) {
 }
 
 std::shared_ptr<orx::IDialogCallBack> AdaptCallBack(IDispatch* callBack) {
-  const ComPtr<IDispatch> object(callBack);
-  const bool isOne = object.As<::IDialogCallBack>() || LateBound(callBack).Has("ApplyNotify");
-  return isOne ? std::make_shared<CallBackAdapter>(callBack) : nullptr;
+  return Members::Of<::IDialogCallBack>(callBack).Has("ApplyNotify") ? std::make_shared<CallBackAdapter>(callBack)
+                                                                     : nullptr;
 }
 
 IDispatch* AutomationOf(HostObject* object) {

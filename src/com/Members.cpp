@@ -1,4 +1,4 @@
-#include "com/LateBound.h"
+#include "com/Members.h"
 
 #include <dispex.h>
 
@@ -7,6 +7,8 @@
 
 #include "com/Conversion.h"
 #include "com/Errors.h"
+#include "com/Invoke.h"
+#include "com/TypeLibrary.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
@@ -25,48 +27,67 @@ std::vector<VARIANT> Numbers(std::initializer_list<std::int32_t> arguments) {
 
 }  // namespace
 
-DISPID LateBound::Find(const std::string& name) const {
-  if (!mObject) return kNone;
-  const auto known = mMembers.find(name);
-  if (known != mMembers.end()) return known->second;
+Members::Members(IDispatch* object, const IID& published) : mObject(ComPtr<IDispatch>::From(object, published)) {
+  if (mObject)
+    mDescription = TypeInfoOf(published);
+  else
+    mObject = ComPtr<IDispatch>(object);
+}
+
+DISPID Members::LookUp(const std::string& name) const {
   std::wstring wide = Widened(name);
   LPOLESTR text = wide.data();
   DISPID member = kNone;
-  const HRESULT result = mObject->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &member);
+  const HRESULT result = mDescription ? mDescription->GetIDsOfNames(&text, 1, &member)
+                                      : mObject->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &member);
+  if (SUCCEEDED(result)) return member;
   // Some script objects implement only IDispatchEx.
   const auto extended = result == E_NOTIMPL ? mObject.As<IDispatchEx>() : ComPtr<IDispatchEx>();
-  if (extended) {
-    if (FAILED(extended->GetDispID(Bstr(name).Get(), fdexNameCaseInsensitive, &member))) member = kNone;
-  } else if (FAILED(result)) {
-    member = kNone;
-  }
-  mMembers[name] = member;
-  return member;
+  const bool isFound = extended && SUCCEEDED(extended->GetDispID(Bstr(name).Get(), fdexNameCaseInsensitive, &member));
+  return isFound ? member : kNone;
 }
 
-bool LateBound::Has(const std::string& name) const {
+DISPID Members::Find(const std::string& name) const {
+  if (!mObject) return kNone;
+  const auto known = mMembers.find(name);
+  if (known != mMembers.end()) return known->second;
+  return mMembers[name] = LookUp(name);
+}
+
+bool Members::Has(const std::string& name) const {
   return Find(name) != kNone;
 }
 
-DISPID LateBound::Require(const std::string& name) const {
+DISPID Members::Require(const std::string& name) const {
   const DISPID member = Find(name);
   if (member == kNone) throw RunTimeError(kErrorNoSuchMember, "The object has no member \"" + name + "\".");
   return member;
 }
 
-HRESULT LateBound::TryInvoke(DISPID member, WORD flags, DISPPARAMS& parameters, Variant* result,
-                             std::string& description) const {
-  ExceptionInfo error;
+HRESULT Members::Invoke(DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result, EXCEPINFO& error) const {
+  // What an earlier call has left is no description of an error of this one.
+  SetErrorInfo(0, nullptr);
   UINT wrong = 0;
-  const HRESULT code = mObject->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
-                                       result ? result->Out() : nullptr, &error, &wrong);
+  if (mDescription)
+    // Methods may have variables for results, which have to be made fit for their parameters.
+    return flags == DISPATCH_METHOD
+               ? InvokeMember(*mDescription.Get(), mObject.Get(),
+                              {member, LOCALE_USER_DEFAULT, flags, &parameters, result, &error, &wrong})
+               : mDescription->Invoke(mObject.Get(), member, flags, &parameters, result, &error, &wrong);
+  return mObject->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, &error, &wrong);
+}
+
+HRESULT Members::TryInvoke(DISPID member, WORD flags, DISPPARAMS& parameters, Variant* result,
+                           std::string& description) const {
+  ExceptionInfo error;
+  const HRESULT code = Invoke(member, flags, parameters, result ? result->Out() : nullptr, error);
   if (code != DISP_E_EXCEPTION) return code;
   const HRESULT raised = error.Code();
   description = TextOf(error.bstrDescription);
   return raised;
 }
 
-Variant LateBound::Get(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
+Variant Members::Get(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
   const DISPID member = Require(name);
   std::vector<VARIANT> given = Numbers(arguments);
   DISPPARAMS parameters = {given.data(), nullptr, static_cast<UINT>(given.size()), 0};
@@ -74,7 +95,7 @@ Variant LateBound::Get(const std::string& name, std::initializer_list<std::int32
   std::string description;
   // Functions take both flags together; the fields of some script objects take only the one for properties.
   HRESULT code = TryInvoke(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, parameters, &result, description);
-  if (FAILED(code) && description.empty()) {
+  if (FAILED(code) && description.empty() && !mDescription) {
     std::string second;
     const HRESULT again = TryInvoke(member, DISPATCH_PROPERTYGET, parameters, &result, second);
     if (SUCCEEDED(again) || !second.empty()) {
@@ -87,39 +108,39 @@ Variant LateBound::Get(const std::string& name, std::initializer_list<std::int32
   return result;
 }
 
-Variant LateBound::Converted(const Variant& value, VARTYPE type, const std::string& name) const {
+Variant Members::Converted(const Variant& value, VARTYPE type, const std::string& name) const {
   Variant converted;
   Check(ConvertValue(value, type, LOCALE_USER_DEFAULT, converted), name);
   return converted;
 }
 
-std::int32_t LateBound::GetLong(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
+std::int32_t Members::GetLong(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
   return Converted(Get(name, arguments), VT_I4, name).lVal;
 }
 
-double LateBound::GetDouble(const std::string& name) const {
+double Members::GetDouble(const std::string& name) const {
   return Converted(Get(name), VT_R8, name).dblVal;
 }
 
-bool LateBound::GetBool(const std::string& name) const {
+bool Members::GetBool(const std::string& name) const {
   return Converted(Get(name), VT_BOOL, name).boolVal != VARIANT_FALSE;
 }
 
-std::string LateBound::GetText(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
+std::string Members::GetText(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
   return TextOf(Converted(Get(name, arguments), VT_BSTR, name).bstrVal);
 }
 
-ComPtr<IDispatch> LateBound::GetObject(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
+ComPtr<IDispatch> Members::GetObject(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
   return ComPtr<IDispatch>(Converted(Get(name, arguments), VT_DISPATCH, name).pdispVal);
 }
 
-ComPtr<IDispatch> LateBound::RequireObject(const std::string& name) const {
+ComPtr<IDispatch> Members::RequireObject(const std::string& name) const {
   ComPtr<IDispatch> object = GetObject(name);
   if (!object) throw RunTimeError(kErrorNotLoaded, name + " is Nothing.");
   return object;
 }
 
-void LateBound::Put(const std::string& name, Variant value) const {
+void Members::Put(const std::string& name, Variant value) const {
   const DISPID member = Require(name);
   DISPID put = DISPID_PROPERTYPUT;
   DISPPARAMS parameters = {&value, &put, 1, 1};
@@ -128,13 +149,13 @@ void LateBound::Put(const std::string& name, Variant value) const {
   HRESULT code =
       TryInvoke(member, isObject ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, parameters, nullptr, description);
   // Fields of script objects can be set in one way only, whatever the value.
-  if (FAILED(code) && isObject && description.empty())
+  if (FAILED(code) && isObject && description.empty() && !mDescription)
     code = TryInvoke(member, DISPATCH_PROPERTYPUT, parameters, nullptr, description);
   if (FAILED(code) && !description.empty()) ThrowError(code, description);
   Check(code, name);
 }
 
-Variant LateBound::Call(const std::string& name, VARIANT* arguments, UINT count) const {
+Variant Members::Call(const std::string& name, VARIANT* arguments, UINT count) const {
   const DISPID member = Require(name);
   // The caller keeps ownership of the arguments.
   std::vector<VARIANT> reversed(arguments, arguments + count);
