@@ -136,6 +136,7 @@ HRESULT CopyBehind(const VARIANT& given, Variant& to) {
 }
 
 bool IsMissing(const VARIANT& given) {
+  if (given.vt == (VT_BYREF | VT_ERROR)) return given.pscode && *given.pscode == DISP_E_PARAMNOTFOUND;
   return given.vt == VT_ERROR && given.scode == DISP_E_PARAMNOTFOUND;
 }
 

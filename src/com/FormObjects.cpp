@@ -126,10 +126,10 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
       : mControls(const_cast<ControlsObject*>(&controls)), mCount(count), mNext(next) {}
 
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
-    if (!values) return E_POINTER;
     if (fetched) *fetched = 0;
     std::vector<ComPtr<IDispatch>> found;
     const HRESULT result = Guarded(kFormSource, [&] {
+      RequirePlaces({{"The elements", values}});
       while (found.size() < count && mNext + found.size() < mCount)
         found.push_back(mControls->ByNumber(static_cast<long>(mNext + found.size())));
     });

@@ -12,7 +12,7 @@ namespace {
 
 Members MembersOf(const HostedControl& control) {
   const auto object = ComPtr<IDispatch>::From(&control.Object());
-  if (!object) ThrowError(E_NOINTERFACE, "The control has no automation members.");
+  if (!object) throw RunTimeError(E_NOINTERFACE, "The control has no automation members.");
   return Members::Of<::IMapPropertyPage>(object.Get());
 }
 
@@ -63,7 +63,8 @@ void HostedPage::Open(HWND area) {
 void HostedPage::Client(HostObject* value) {
   IDispatch* const object = AutomationOf(value);
   if (value && !object)
-    ThrowError(E_NOINTERFACE, "The page control " + mProgId + " cannot edit this object: it is no automation object.");
+    throw RunTimeError(E_NOINTERFACE,
+                       "The page control " + mProgId + " cannot edit this object: it is no automation object.");
   mMembers.Put("Client", object);
   mClient = value;
 }

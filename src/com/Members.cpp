@@ -6,10 +6,8 @@
 #include <vector>
 
 #include "com/Conversion.h"
-#include "com/Errors.h"
 #include "com/Invoke.h"
 #include "com/TypeLibrary.h"
-#include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
 namespace {
@@ -78,13 +76,13 @@ HRESULT Members::Invoke(DISPID member, WORD flags, DISPPARAMS& parameters, VARIA
 }
 
 HRESULT Members::TryInvoke(DISPID member, WORD flags, DISPPARAMS& parameters, Variant* result,
-                           std::string& description) const {
+                           ErrorTexts& raised) const {
   ExceptionInfo error;
   const HRESULT code = Invoke(member, flags, parameters, result ? result->Out() : nullptr, error);
   if (code != DISP_E_EXCEPTION) return code;
-  const HRESULT raised = error.Code();
-  description = TextOf(error.bstrDescription);
-  return raised;
+  const HRESULT number = error.Code();
+  raised = {TextOf(error.bstrDescription), TextOf(error.bstrSource)};
+  return number;
 }
 
 Variant Members::Get(const std::string& name, std::initializer_list<std::int32_t> arguments) const {
@@ -92,19 +90,18 @@ Variant Members::Get(const std::string& name, std::initializer_list<std::int32_t
   std::vector<VARIANT> given = Numbers(arguments);
   DISPPARAMS parameters = {given.data(), nullptr, static_cast<UINT>(given.size()), 0};
   Variant result;
-  std::string description;
+  ErrorTexts raised;
   // Functions take both flags together; the fields of some script objects take only the one for properties.
-  HRESULT code = TryInvoke(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, parameters, &result, description);
-  if (FAILED(code) && description.empty() && !mDescription) {
-    std::string second;
+  HRESULT code = TryInvoke(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, parameters, &result, raised);
+  if (FAILED(code) && raised.Description.empty() && !mDescription) {
+    ErrorTexts second;
     const HRESULT again = TryInvoke(member, DISPATCH_PROPERTYGET, parameters, &result, second);
-    if (SUCCEEDED(again) || !second.empty()) {
+    if (SUCCEEDED(again) || !second.Description.empty()) {
       code = again;
-      description = second;
+      raised = second;
     }
   }
-  if (FAILED(code) && !description.empty()) ThrowError(code, description);
-  Check(code, name);
+  Check(code, name, raised);
   return result;
 }
 
@@ -144,15 +141,14 @@ void Members::Put(const std::string& name, Variant value) const {
   const DISPID member = Require(name);
   DISPID put = DISPID_PROPERTYPUT;
   DISPPARAMS parameters = {&value, &put, 1, 1};
-  std::string description;
+  ErrorTexts raised;
   const bool isObject = value.vt == VT_DISPATCH;
   HRESULT code =
-      TryInvoke(member, isObject ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, parameters, nullptr, description);
+      TryInvoke(member, isObject ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, parameters, nullptr, raised);
   // Fields of script objects can be set in one way only, whatever the value.
-  if (FAILED(code) && isObject && description.empty() && !mDescription)
-    code = TryInvoke(member, DISPATCH_PROPERTYPUT, parameters, nullptr, description);
-  if (FAILED(code) && !description.empty()) ThrowError(code, description);
-  Check(code, name);
+  if (FAILED(code) && isObject && raised.Description.empty() && !mDescription)
+    code = TryInvoke(member, DISPATCH_PROPERTYPUT, parameters, nullptr, raised);
+  Check(code, name, raised);
 }
 
 Variant Members::Call(const std::string& name, VARIANT* arguments, UINT count) const {
@@ -162,13 +158,12 @@ Variant Members::Call(const std::string& name, VARIANT* arguments, UINT count) c
   std::reverse(reversed.begin(), reversed.end());
   DISPPARAMS parameters = {reversed.data(), nullptr, count, 0};
   Variant result;
-  std::string description;
-  HRESULT code = TryInvoke(member, DISPATCH_METHOD, parameters, &result, description);
+  ErrorTexts raised;
+  HRESULT code = TryInvoke(member, DISPATCH_METHOD, parameters, &result, raised);
   // Some languages expect functions to be called with both flags. Nothing has run when they report this.
   if (code == DISP_E_MEMBERNOTFOUND)
-    code = TryInvoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, &result, description);
-  if (FAILED(code) && !description.empty()) ThrowError(code, description);
-  Check(code, name);
+    code = TryInvoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters, &result, raised);
+  Check(code, name, raised);
   return result;
 }
 

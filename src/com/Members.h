@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "com/Errors.h"
 #include "com/Handles.h"
 
 namespace orx::com {
@@ -60,7 +61,7 @@ class Members {
   DISPID LookUp(const std::string& name) const;
   DISPID Require(const std::string& name) const;
   HRESULT Invoke(DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result, EXCEPINFO& error) const;
-  HRESULT TryInvoke(DISPID member, WORD flags, DISPPARAMS& parameters, Variant* result, std::string& description) const;
+  HRESULT TryInvoke(DISPID member, WORD flags, DISPPARAMS& parameters, Variant* result, ErrorTexts& raised) const;
   Variant Converted(const Variant& value, VARTYPE type, const std::string& name) const;
 
   ComPtr<IDispatch> mObject;

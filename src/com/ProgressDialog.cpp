@@ -13,8 +13,10 @@ ProgressDialog::ProgressDialog() : mContext(ThreadContext::OfThread()), mService
 }
 
 HRESULT ProgressDialog::Init(long* min, long* max, long* value) noexcept {
-  if (!min || !max || !value) return E_POINTER;
-  return Guarded(kProgressSource, [&] { mService.Init(*min, *max, *value); });
+  return Guarded(kProgressSource, [&] {
+    RequirePlaces({{"Min", min}, {"Max", max}, {"Value", value}});
+    mService.Init(*min, *max, *value);
+  });
 }
 
 HRESULT ProgressDialog::get_CancelAction(VARIANT_BOOL* value) noexcept {

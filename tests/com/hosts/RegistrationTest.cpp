@@ -94,6 +94,13 @@ TEST_F(Registration, CanBeForTheUserAlone) {
   EXPECT_EQ(ClassKeys(HKEY_CURRENT_USER), user);
 }
 
+TEST_F(Registration, TakesTheWordForTheUserInLettersOfAnyCase) {
+  for (const wchar_t* const word : {L"User", L"USER", L"user"}) {
+    EXPECT_EQ(server.Install(true, word), S_OK);
+    EXPECT_EQ(server.Install(false, word), S_OK);
+  }
+}
+
 TEST_F(Registration, RefusesToInstallForAnythingElse) {
   EXPECT_EQ(server.Install(true, L"everybody"), E_INVALIDARG);
   EXPECT_EQ(ClassKeys(HKEY_LOCAL_MACHINE), allUsers);
