@@ -46,8 +46,8 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* error, UINT* wrongArgument) noexcept override {
     if (!IsEqualIID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
-    // The host may release the object from within the call.
-    const ComPtr<Interface> keep(this);
+    // The host may release the object from within the call, which keeps what it still needs.
+    const ModuleUse use;
     HRESULT invoked = S_OK;
     const HRESULT done = Guarded("Object", [&] {
       RequirePlaces({{"The list of arguments", parameters}});
