@@ -71,6 +71,8 @@ const Adaption kAdaptions[] = {
        return ViewOf<::ILegends>(it, {"LegendCount", "Legend"});
      }},
     {typeid(IData), Adapted<DataAdapter>, DataOf},
+    {typeid(IFileCheck), Adapted<FileCheckAdapter>,
+     [](const Object& it) { return ViewOf<::IFileCheck>(it, {"CanOpen"}); }},
     {typeid(IClassification), Adapted<ClassificationAdapter>,
      [](const Object& it) { return PartOf<::IClassification>(it, {"ClassifyMethod"}, "Classification"); }},
     {typeid(IDataOptions), Adapted<DataOptionsAdapter>,

@@ -5,6 +5,7 @@
 
 #include "com/AutomationObject.h"
 #include "hostobjects/IData.h"
+#include "hostobjects/IFileCheck.h"
 
 namespace orx::com {
 
@@ -50,6 +51,13 @@ class ClassificationAdapter final : public AdapterOf<IClassification> {
   void FirstClassSize(double value) override { mObject.Put("FirstClassSize", value); }
   double LastClassSize() const override { return mObject.GetDouble("LastClassSize"); }
   void LastClassSize(double value) override { mObject.Put("LastClassSize", value); }
+};
+
+class FileCheckAdapter final : public AdapterOf<IFileCheck> {
+ public:
+  using AdapterOf::AdapterOf;
+
+  bool CanOpen(const std::string& path) override;
 };
 
 class SpecialValueAdapter final : public AdapterOf<ISpecialValue> {

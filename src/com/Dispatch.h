@@ -20,23 +20,21 @@ template <class Interface, class... Others>
 class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
  public:
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
-    return Guarded("Object", [&] {
+    return Guarded(ObjectPlace(), [&] {
       RequirePlaces({{"The number of descriptions", count}});
       *count = 1;
     });
   }
 
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override {
-    if (info) *info = nullptr;
-    if (info && index != 0) return DISP_E_BADINDEX;
-    return Give("Object", info, [] { return TypeInfoOf(__uuidof(Interface)); });
+    return Describe(__uuidof(Interface), index, info);
   }
 
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID,
                                           DISPID* members) noexcept override {
     if (!IsEqualIID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     HRESULT found = S_OK;
-    const HRESULT result = Guarded("Object", [&] {
+    const HRESULT result = Guarded(ObjectPlace(), [&] {
       RequirePlaces({{"The names", names}, {"The numbers", members}});
       found = TypeInfoOf(__uuidof(Interface))->GetIDsOfNames(names, count, members);
     });
@@ -49,7 +47,7 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
     // The host may release the object from within the call, which keeps what it still needs.
     const ModuleUse use;
     HRESULT invoked = S_OK;
-    const HRESULT done = Guarded("Object", [&] {
+    const HRESULT done = Guarded(ObjectPlace(), [&] {
       RequirePlaces({{"The list of arguments", parameters}});
       invoked = InvokeMember(*TypeInfoOf(__uuidof(Interface)).Get(), static_cast<Interface*>(this),
                              {member, locale, flags, parameters, result, error, wrongArgument});
@@ -62,15 +60,13 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   }
 
  protected:
-  /// As those of Errors.h, for members of this interface.
-  template <class Body>
-  static HRESULT Guarded(const char* name, Body&& body) noexcept {
-    return com::Guarded({name, __uuidof(Interface)}, body);
+  /// For GetTypeInfo.
+  static HRESULT Describe(const IID& described, UINT index, ITypeInfo** info) noexcept {
+    if (info) *info = nullptr;
+    if (info && index != 0) return DISP_E_BADINDEX;
+    return Give(ObjectPlace(), info, [&] { return TypeInfoOf(described); });
   }
-  template <class Place, class Read>
-  static HRESULT Give(const char* name, Place* place, Read&& read) noexcept {
-    return com::Give({name, __uuidof(Interface)}, place, read);
-  }
+  static ErrorPlace ObjectPlace() { return {"Object", __uuidof(Interface)}; }
 
   void* Find(REFIID iid) noexcept override {
     if (IsEqualIID(iid, IID_IDispatch)) return static_cast<IDispatch*>(static_cast<Interface*>(this));
@@ -81,20 +77,35 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   ModuleUse mUse;
 };
 
-/// A creatable class with that default interface.
-template <class Class, class Interface>
-class ClassObject : public DispatchObject<Interface, IProvideClassInfo> {
+/// A creatable class with that default interface, and one derived from it that has what was added later. By name all
+/// members can be called.
+template <class Class, class Default, class Newest = Default>
+class ClassObject : public DispatchObject<Newest, IProvideClassInfo> {
+  using Base = DispatchObject<Newest, IProvideClassInfo>;
+
  public:
+  /// Describes the default interface, by which hosts know the class.
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override {
+    return this->Describe(__uuidof(Default), index, info);
+  }
   HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override {
-    return this->Give("Object", info, [] { return TypeInfoOf(__uuidof(Class)); });
+    return Give(this->ObjectPlace(), info, [] { return TypeInfoOf(__uuidof(Class)); });
+  }
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override {
+    return IsEqualIID(iid, __uuidof(Default)) ? S_OK : Base::InterfaceSupportsErrorInfo(iid);
   }
 
  protected:
   /// Runs the body of a method that handles events: the host may release the object from within one.
   template <class Body>
-  HRESULT Kept(const char* name, Body&& body) noexcept {
-    const ComPtr<Interface> keep(this);
-    return this->Guarded(name, body);
+  HRESULT Kept(const ErrorPlace& place, Body&& body) noexcept {
+    const ComPtr<Default> keep(this);
+    return Guarded(place, body);
+  }
+
+  void* Find(REFIID iid) noexcept override {
+    if (IsEqualIID(iid, __uuidof(Default))) return static_cast<Default*>(this);
+    return Base::Find(iid);
   }
 };
 

@@ -7,6 +7,7 @@
 #include "com/Errors.h"
 #include "com/FormObjects.h"
 #include "com/Members.h"
+#include "forms/Desktop.h"
 
 namespace orx::com {
 namespace {
@@ -69,7 +70,37 @@ class CallBackAdapter final : public orx::IDialogCallBack, public std::enable_sh
   RawObject<::IDialogCallBack> mCallBack;
 };
 
+class FileCheckOfThread final : public orx::IFileCheck, public std::enable_shared_from_this<FileCheckOfThread> {
+ public:
+  FileCheckOfThread(std::shared_ptr<HostObject> object, orx::IFileCheck& check)
+      : mObject(std::move(object)), mCheck(check) {}
+
+  IDispatch* Automation() const {
+    if (GetCurrentThreadId() != mThread) throw WrongThread();
+    return AutomationOf(mObject.get());
+  }
+  bool CanOpen(const std::string& path) override {
+    if (GetCurrentThreadId() != mThread) throw WrongThread();
+    // The host may set another check in the call.
+    const auto keep = shared_from_this();
+    return mCheck.CanOpen(path);
+  }
+
+ private:
+  const DWORD mThread = GetCurrentThreadId();
+  std::shared_ptr<HostObject> mObject;
+  orx::IFileCheck& mCheck;
+};
+
 }  // namespace
+
+std::shared_ptr<orx::IFileCheck> AdaptFileCheck(IDispatch* check) {
+  std::shared_ptr<HostObject> object = AdaptHostObject(check);
+  if (!object) return nullptr;
+  auto* const adapter = QueryKind<orx::IFileCheck>(object.get());
+  if (!adapter) throw RunTimeError(kErrorTypeMismatch, "FileCheck is no object with a member CanOpen.");
+  return std::make_shared<FileCheckOfThread>(std::move(object), *adapter);
+}
 
 std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object) {
   return object ? std::make_shared<AutomationObject>(object) : nullptr;
@@ -91,6 +122,11 @@ IDispatch* AutomationOf(HostObject* object) {
 
 IDispatch* AutomationOf(orx::ILanguage* language) {
   const auto* const adapter = dynamic_cast<LanguageAdapter*>(language);
+  return adapter ? adapter->Automation() : nullptr;
+}
+
+IDispatch* AutomationOf(orx::IFileCheck* check) {
+  const auto* const adapter = dynamic_cast<FileCheckOfThread*>(check);
   return adapter ? adapter->Automation() : nullptr;
 }
 

@@ -9,7 +9,8 @@
 namespace orx::com {
 namespace {
 
-constexpr char kDialogsSource[] = "CCommonMapDialogs";
+const ErrorPlace kDialogsPlace{"CCommonMapDialogs", __uuidof(::_CCommonMapDialogs)};
+const ErrorPlace kNewerPlace{"CCommonMapDialogs", __uuidof(::ICommonMapDialogs2)};
 
 }  // namespace
 
@@ -26,23 +27,27 @@ struct MapDialogs::DialogCall {
 MapDialogs::MapDialogs() : mContext(ThreadContext::OfThread()), mService(mContext->Screen(), mContext->Pages()) {
 }
 
+MapDialogs::~MapDialogs() {
+  if (mFileCheck && orx::CCommonMapDialogs::FileCheck() == mFileCheck.get()) orx::CCommonMapDialogs::FileCheck(nullptr);
+}
+
 HRESULT MapDialogs::get_RegistryKey(BSTR* value) noexcept {
-  return Give(kDialogsSource, value, [&] { return mService.RegistryKey(); });
+  return Give(kDialogsPlace, value, [&] { return mService.RegistryKey(); });
 }
 
 HRESULT MapDialogs::put_RegistryKey(BSTR* value) noexcept {
-  return Guarded(kDialogsSource, [&] {
+  return Guarded(kDialogsPlace, [&] {
     RequirePlaces({{"RegistryKey", value}});
     mService.RegistryKey(TextOf(*value));
   });
 }
 
 HRESULT MapDialogs::get_CallBack(IDispatch** value) noexcept {
-  return Give(kDialogsSource, value, [&] { return ComPtr<IDispatch>(mCallBack); });
+  return Give(kDialogsPlace, value, [&] { return ComPtr<IDispatch>(mCallBack); });
 }
 
 HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     IDispatch* const callBack = value ? *value : nullptr;
     auto adapter = AdaptCallBack(callBack);
     mService.CallBack(adapter.get());
@@ -52,11 +57,11 @@ HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
 }
 
 HRESULT MapDialogs::get_Language(IDispatch** value) noexcept {
-  return Give(kDialogsSource, value, [&] { return ComPtr<IDispatch>(mLanguage); });
+  return Give(kDialogsPlace, value, [&] { return ComPtr<IDispatch>(mLanguage); });
 }
 
 HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     IDispatch* const language = value ? *value : nullptr;
     // Both adapters live until the service has the new one: the new language may throw when it is set, or set another
     // one itself.
@@ -67,10 +72,22 @@ HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
   });
 }
 
+HRESULT MapDialogs::get_FileCheck(IDispatch** value) noexcept {
+  return Give(kNewerPlace, value, [] { return ComPtr<IDispatch>(AutomationOf(orx::CCommonMapDialogs::FileCheck())); });
+}
+
+HRESULT MapDialogs::putref_FileCheck(IDispatch* value) noexcept {
+  return Kept(kNewerPlace, [&] {
+    auto check = AdaptFileCheck(value);
+    orx::CCommonMapDialogs::FileCheck(check.get());
+    mFileCheck = std::move(check);
+  });
+}
+
 template <class Dialog>
 HRESULT MapDialogs::ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::FormShowMode* mModal,
                                const VARIANT* OwnerForm, long* result, Dialog&& dialog) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     RequirePlaces({{"mObj", mObj}, {"The result", result}});
     *result = 0;
     const std::shared_ptr<HostObject> client = AdaptHostObject(*mObj);
@@ -163,7 +180,7 @@ HRESULT MapDialogs::ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY**
 
 HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                 VARIANT_BOOL* result) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     RequirePlaces({{"Files", files}, {"The result", result}});
     // Fail before the user has chosen, not afterwards.
     RequireTexts(*files, "Files");
@@ -188,7 +205,7 @@ HRESULT MapDialogs::ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIA
 
 HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                VARIANT_BOOL* result) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     RequirePlaces({{"NewFileName", newFileName}, {"CancelAll", cancelAll}, {"The result", result}});
     std::string chosen = TextOf(*newFileName);
     bool isCanceled = *cancelAll != VARIANT_FALSE;
@@ -201,7 +218,7 @@ HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFil
 
 HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, double* mRotation, VARIANT_BOOL* mChanged,
                                            BSTR* mCaption, VARIANT* OwnerForm, long* result) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     RequirePlaces({{"mFontName", mFontName},
                    {"mCharacter", mCharacter},
                    {"mRotation", mRotation},
@@ -225,7 +242,7 @@ HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, do
 HRESULT MapDialogs::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMultiselect, long* mListIndex,
                                       BSTR* mCaption, VARIANT_BOOL* mAskConfirmation, BSTR* mConfirmationQuestion,
                                       SAFEARRAY** mSelected, long* result) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     RequirePlaces({{"mSelection", mSelection},
                    {"mMultiselect", mMultiselect},
                    {"mListIndex", mListIndex},
