@@ -103,9 +103,11 @@ HRESULT Arguments::FitOne(const Parameter& parameter, VARIANT* given) {
   }
   auto& temporary = *mTemporaries.emplace_back(std::make_unique<Temporary>());
   temporary.What = parameter;
-  if (value && (isVariable || (value->vt & VT_BYREF))) temporary.Origin = value;
+  const bool isMissing = !value || IsMissing(*value);
+  // A variable in which the caller hands on that it was given nothing keeps telling so.
+  if (!isMissing && (isVariable || (value->vt & VT_BYREF))) temporary.Origin = value;
   HRESULT result = S_OK;
-  if (!value || IsMissing(*value)) {
+  if (isMissing) {
     result = FillMissing(parameter, temporary.Value);
   } else if (parameter.IsArray) {
     result = ConvertArray(parameter.IsOut ? Variant() : *value, parameter.Type, mLocale, temporary.Value);

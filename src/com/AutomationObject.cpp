@@ -11,48 +11,46 @@
 namespace orx::com {
 namespace {
 
-/// The published interface of the object if it has it, or the object itself if it has the members that identify the
-/// kind. Empty when it is not of that kind.
+using Object = ComPtr<IDispatch>;
+
+/// The members of the object, if it has the published interface or the members that identify the kind. Empty when it is
+/// not of that kind.
 template <class Published>
-ComPtr<IDispatch> ViewOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
-                         const char* unlike = nullptr) {
-  if (const auto published = object.As<Published>()) return ComPtr<IDispatch>(published.Get());
-  const LateBound named(object.Get());
+Members ViewOf(const Object& object, std::initializer_list<const char*> members, const char* unlike = nullptr) {
+  const auto named = Members::Of<Published>(object.Get());
+  if (named.IsPublished()) return named;
   for (const char* const member : members)
-    if (!named.Has(member)) return {};
-  return unlike && named.Has(unlike) ? ComPtr<IDispatch>() : object;
+    if (!named.Has(member)) return Members();
+  return unlike && named.Has(unlike) ? Members() : named;
 }
 
 /// A view of a data object: the object itself, or what its member `giver` returns.
 template <class Published>
-ComPtr<IDispatch> PartOf(const ComPtr<IDispatch>& object, std::initializer_list<const char*> members,
-                         const char* giver) {
-  if (ComPtr<IDispatch> view = ViewOf<Published>(object, members)) return view;
-  const auto data = object.As<::IData>();
-  const LateBound named(data ? data.Get() : object.Get());
-  if (!named.Has(giver)) return {};
-  const ComPtr<IDispatch> given = named.GetObject(giver);
-  return given ? ViewOf<Published>(given, members) : ComPtr<IDispatch>();
+Members PartOf(const Object& object, std::initializer_list<const char*> members, const char* giver) {
+  if (Members view = ViewOf<Published>(object, members)) return view;
+  const auto data = Members::Of<::IData>(object.Get());
+  if (!data.Has(giver)) return Members();
+  const Object given = data.GetObject(giver);
+  return given ? ViewOf<Published>(given, members) : Members();
 }
 
 /// An object is a data object when it has a classification, itself or as a view.
-ComPtr<IDispatch> DataOf(const ComPtr<IDispatch>& object) {
-  if (ComPtr<IDispatch> data = ViewOf<::IData>(object, {"ClassifyMethod"})) return data;
-  return LateBound(object.Get()).Has("Classification") ? object : ComPtr<IDispatch>();
+Members DataOf(const Object& object) {
+  if (Members data = ViewOf<::IData>(object, {"ClassifyMethod"})) return data;
+  const Members named(object.Get());
+  return named.Has("Classification") ? named : Members();
 }
 
-using Object = ComPtr<IDispatch>;
-
 template <class Adapter>
-std::shared_ptr<HostInterface> Adapted(AutomationObject& owner, const Object& view) {
-  return std::make_shared<Adapter>(owner, view);
+std::shared_ptr<HostInterface> Adapted(AutomationObject& owner, Members view) {
+  return std::make_shared<Adapter>(owner, std::move(view));
 }
 
 /// How an object becomes an interface: what of it is of that kind, if anything, and the adapter of that.
 struct Adaption {
   const std::type_info& Wanted;
-  std::shared_ptr<HostInterface> (*Adapt)(AutomationObject& owner, const Object& view);
-  Object (*Find)(const Object& object);
+  std::shared_ptr<HostInterface> (*Adapt)(AutomationObject& owner, Members view);
+  Members (*Find)(const Object& object);
 };
 
 const Adaption kAdaptions[] = {
@@ -73,6 +71,8 @@ const Adaption kAdaptions[] = {
        return ViewOf<::ILegends>(it, {"LegendCount", "Legend"});
      }},
     {typeid(IData), Adapted<DataAdapter>, DataOf},
+    {typeid(IFileCheck), Adapted<FileCheckAdapter>,
+     [](const Object& it) { return ViewOf<::IFileCheck>(it, {"CanOpen"}); }},
     {typeid(IClassification), Adapted<ClassificationAdapter>,
      [](const Object& it) { return PartOf<::IClassification>(it, {"ClassifyMethod"}, "Classification"); }},
     {typeid(IDataOptions), Adapted<DataOptionsAdapter>,
@@ -90,8 +90,8 @@ const Adaption kAdaptions[] = {
 std::shared_ptr<HostInterface> AutomationObject::MakeView(const std::type_info& wanted) {
   for (const Adaption& adaption : kAdaptions) {
     if (adaption.Wanted != wanted) continue;
-    const Object view = adaption.Find(mObject);
-    return view ? adaption.Adapt(*this, view) : nullptr;
+    Members view = adaption.Find(mObject);
+    return view ? adaption.Adapt(*this, std::move(view)) : nullptr;
   }
   return nullptr;
 }

@@ -4,9 +4,10 @@
 #include <map>
 #include <memory>
 #include <typeindex>
+#include <utility>
 
 #include "com/Handles.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
 #include "hostobjects/HostObject.h"
 
 namespace orx::com {
@@ -38,11 +39,27 @@ template <class Interface>
 class AdapterOf : public Interface {
  public:
   /// `owner` keeps the objects that the members give, and must outlive the adapter.
-  AdapterOf(AutomationObject& owner, const ComPtr<IDispatch>& object) : mOwner(owner), mObject(object.Get()) {}
+  AdapterOf(AutomationObject& owner, Members object) : mOwner(owner), mObject(std::move(object)) {}
 
  protected:
   AutomationObject& mOwner;
-  LateBound mObject;
+  Members mObject;
+};
+
+/// The adapters of the parts that an object gives, one for each part. They stay, because host code can have the same
+/// part asked for again while one of its members is called.
+template <class Adapter>
+class AdaptedParts {
+ public:
+  Adapter& Of(AutomationObject& owner, Members part) {
+    // The identity of an object is its IUnknown; the adapter's reference keeps the address from being used again.
+    std::unique_ptr<Adapter>& known = mAdapters[part.Identity().Get()];
+    if (!known) known = std::make_unique<Adapter>(owner, std::move(part));
+    return *known;
+  }
+
+ private:
+  std::map<IUnknown*, std::unique_ptr<Adapter>> mAdapters;
 };
 
 }  // namespace orx::com

@@ -18,11 +18,11 @@ std::int32_t OleColorOf(Color color) {
   return static_cast<std::int32_t>(RGB(color.Red, color.Green, color.Blue));
 }
 
-Color ColorMember(const LateBound& object) {
+Color ColorMember(const Members& object) {
   return ColorOf(object.Get("Color"));
 }
 
-void ColorMember(const LateBound& object, Color value) {
+void ColorMember(const Members& object, Color value) {
   Variant held = object.Get("Color");
   object.Put("Color", ColorOf(held) == value ? std::move(held) : Variant(OleColorOf(value)));
 }

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "com/Handles.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
 #include "forms/Appearance.h"
 
 namespace orx::com {
@@ -16,7 +16,7 @@ Color ColorOf(const VARIANT& value);
 std::int32_t OleColorOf(Color color);
 
 /// The property "Color" of an object. A system colour stays a system colour as long as the same colour is written back.
-Color ColorMember(const LateBound& object);
-void ColorMember(const LateBound& object, Color value);
+Color ColorMember(const Members& object);
+void ColorMember(const Members& object, Color value);
 
 }  // namespace orx::com

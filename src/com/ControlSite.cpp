@@ -139,8 +139,9 @@ HRESULT ControlSite::GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexc
   return DISP_E_UNKNOWNNAME;
 }
 
-HRESULT ControlSite::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+HRESULT ControlSite::Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                             UINT*) noexcept {
+  if (!IsEqualIID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
   if (!(flags & DISPATCH_PROPERTYGET)) return DISP_E_MEMBERNOTFOUND;
   Variant value = Ambient(id);
   if (value.vt == VT_EMPTY) return DISP_E_MEMBERNOTFOUND;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "com/LateBound.h"
+#include "com/Members.h"
 #include "com/SafeArray.h"
 
 namespace orx::com {
@@ -107,7 +107,7 @@ constexpr std::int32_t kLongestScriptArray = 10'000'000;
 
 /// The arrays of some script languages are objects with the members "length", "0", "1", ...
 HRESULT FromScriptObject(IDispatch* from, VARTYPE element, LCID locale, Variant& to) {
-  const LateBound object(from);
+  const Members object(from);
   if (!object.Has("length")) return DISP_E_TYPEMISMATCH;
   const std::int32_t count = object.GetLong("length");
   if (count < 0) return DISP_E_TYPEMISMATCH;
@@ -136,6 +136,7 @@ HRESULT CopyBehind(const VARIANT& given, Variant& to) {
 }
 
 bool IsMissing(const VARIANT& given) {
+  if (given.vt == (VT_BYREF | VT_ERROR)) return given.pscode && *given.pscode == DISP_E_PARAMNOTFOUND;
   return given.vt == VT_ERROR && given.scode == DISP_E_PARAMNOTFOUND;
 }
 

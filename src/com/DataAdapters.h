@@ -1,12 +1,11 @@
 // The interfaces of a data object over the members of automation objects.
 #pragma once
 
-#include <map>
-#include <memory>
 #include <string>
 
 #include "com/AutomationObject.h"
 #include "hostobjects/IData.h"
+#include "hostobjects/IFileCheck.h"
 
 namespace orx::com {
 
@@ -54,6 +53,13 @@ class ClassificationAdapter final : public AdapterOf<IClassification> {
   void LastClassSize(double value) override { mObject.Put("LastClassSize", value); }
 };
 
+class FileCheckAdapter final : public AdapterOf<IFileCheck> {
+ public:
+  using AdapterOf::AdapterOf;
+
+  bool CanOpen(const std::string& path) override;
+};
+
 class SpecialValueAdapter final : public AdapterOf<ISpecialValue> {
  public:
   using AdapterOf::AdapterOf;
@@ -85,8 +91,7 @@ class DataOptionsAdapter final : public AdapterOf<IDataOptions> {
  private:
   ISpecialValue& Special(const char* member);
 
-  /// One for each member, over the object that the host returned last.
-  std::map<std::string, std::unique_ptr<SpecialValueAdapter>> mSpecial;
+  AdaptedParts<SpecialValueAdapter> mSpecial;
 };
 
 }  // namespace orx::com

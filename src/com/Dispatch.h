@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <cguid.h>
 #include <ocidl.h>
 
 #include "com/Counted.h"
@@ -19,34 +20,36 @@ template <class Interface, class... Others>
 class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
  public:
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
-    if (!count) return E_POINTER;
-    *count = 1;
-    return S_OK;
+    return Guarded(ObjectPlace(), [&] {
+      RequirePlaces({{"The number of descriptions", count}});
+      *count = 1;
+    });
   }
 
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override {
-    if (!info) return E_POINTER;
-    *info = nullptr;
-    if (index != 0) return DISP_E_BADINDEX;
-    return Give("Object", info, [&] { return ComPtr<ITypeInfo>(Description()); });
+    return Describe(__uuidof(Interface), index, info);
   }
 
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID,
                                           DISPID* members) noexcept override {
-    if (!names || !members) return E_POINTER;
+    if (!IsEqualIID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     HRESULT found = S_OK;
-    const HRESULT result = Guarded("Object", [&] { found = DispGetIDsOfNames(Description(), names, count, members); });
+    const HRESULT result = Guarded(ObjectPlace(), [&] {
+      RequirePlaces({{"The names", names}, {"The numbers", members}});
+      found = TypeInfoOf(__uuidof(Interface))->GetIDsOfNames(names, count, members);
+    });
     return FAILED(result) ? result : found;
   }
 
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID locale, WORD flags, DISPPARAMS* parameters,
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* error, UINT* wrongArgument) noexcept override {
-    if (!parameters) return E_POINTER;
-    // The host may release the object from within the call, which then still needs the description.
-    const ComPtr<Interface> keep(this);
+    if (!IsEqualIID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
+    // The host may release the object from within the call, which keeps what it still needs.
+    const ModuleUse use;
     HRESULT invoked = S_OK;
-    const HRESULT done = Guarded("Object", [&] {
-      invoked = InvokeMember(*Description(), static_cast<Interface*>(this),
+    const HRESULT done = Guarded(ObjectPlace(), [&] {
+      RequirePlaces({{"The list of arguments", parameters}});
+      invoked = InvokeMember(*TypeInfoOf(__uuidof(Interface)).Get(), static_cast<Interface*>(this),
                              {member, locale, flags, parameters, result, error, wrongArgument});
     });
     return FAILED(done) ? done : invoked;
@@ -57,36 +60,52 @@ class DispatchObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   }
 
  protected:
+  /// For GetTypeInfo.
+  static HRESULT Describe(const IID& described, UINT index, ITypeInfo** info) noexcept {
+    if (info) *info = nullptr;
+    if (info && index != 0) return DISP_E_BADINDEX;
+    return Give(ObjectPlace(), info, [&] { return TypeInfoOf(described); });
+  }
+  static ErrorPlace ObjectPlace() { return {"Object", __uuidof(Interface)}; }
+
   void* Find(REFIID iid) noexcept override {
     if (IsEqualIID(iid, IID_IDispatch)) return static_cast<IDispatch*>(static_cast<Interface*>(this));
     return Counted<Interface, ISupportErrorInfo, Others...>::Find(iid);
   }
 
  private:
-  /// The type library's description of the interface, loaded on first use.
-  ITypeInfo* Description() {
-    if (!mDescription) mDescription = TypeInfoOf(__uuidof(Interface));
-    return mDescription.Get();
-  }
-
   ModuleUse mUse;
-  ComPtr<ITypeInfo> mDescription;
 };
 
-/// A creatable class with that default interface.
-template <class Class, class Interface>
-class ClassObject : public DispatchObject<Interface, IProvideClassInfo> {
+/// A creatable class with that default interface, and one derived from it that has what was added later. By name all
+/// members can be called.
+template <class Class, class Default, class Newest = Default>
+class ClassObject : public DispatchObject<Newest, IProvideClassInfo> {
+  using Base = DispatchObject<Newest, IProvideClassInfo>;
+
  public:
+  /// Describes the default interface, by which hosts know the class.
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override {
+    return this->Describe(__uuidof(Default), index, info);
+  }
   HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override {
-    return Give("Object", info, [] { return TypeInfoOf(__uuidof(Class)); });
+    return Give(this->ObjectPlace(), info, [] { return TypeInfoOf(__uuidof(Class)); });
+  }
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override {
+    return IsEqualIID(iid, __uuidof(Default)) ? S_OK : Base::InterfaceSupportsErrorInfo(iid);
   }
 
  protected:
   /// Runs the body of a method that handles events: the host may release the object from within one.
   template <class Body>
-  HRESULT Kept(const char* source, Body&& body) noexcept {
-    const ComPtr<Interface> keep(this);
-    return Guarded(source, body);
+  HRESULT Kept(const ErrorPlace& place, Body&& body) noexcept {
+    const ComPtr<Default> keep(this);
+    return Guarded(place, body);
+  }
+
+  void* Find(REFIID iid) noexcept override {
+    if (IsEqualIID(iid, __uuidof(Default))) return static_cast<Default*>(this);
+    return Base::Find(iid);
   }
 };
 

@@ -3,7 +3,6 @@
 #include <new>
 
 #include "forms/Desktop.h"
-#include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
 namespace {
@@ -21,11 +20,12 @@ std::int32_t NumberOf(HRESULT code) {
   return (code & ~kGreatestNumber) == kAutomationErrors ? code & kGreatestNumber : code;
 }
 
-void LeaveErrorInfo(const char* source, const std::string& description) {
+void LeaveErrorInfo(const IID& interfaceId, const ErrorTexts& texts) {
   ComPtr<ICreateErrorInfo> made;
   if (FAILED(CreateErrorInfo(made.Out()))) return;
-  made->SetDescription(Widened(description).data());
-  made->SetSource(Widened(std::string("OrvexMapDialogs2.") + source).data());
+  made->SetGUID(interfaceId);
+  made->SetDescription(Widened(texts.Description).data());
+  made->SetSource(Widened(texts.Source).data());
   SetErrorInfo(0, made.As<IErrorInfo>().Get());
 }
 
@@ -40,11 +40,13 @@ std::string SystemText(HRESULT code) {
   return narrow;
 }
 
-std::string TakeErrorInfo() {
+ErrorTexts TakeErrorInfo() {
   ComPtr<IErrorInfo> info;
   Bstr description;
+  Bstr source;
   if (GetErrorInfo(0, info.Out()) != S_OK || FAILED(info->GetDescription(description.Out()))) return {};
-  return description.Text();
+  info->GetSource(source.Out());
+  return {description.Text(), source.Text()};
 }
 
 std::string Hex(HRESULT code) {
@@ -56,12 +58,17 @@ std::string Hex(HRESULT code) {
 
 }  // namespace
 
-HRESULT ReturnError(const char* source) noexcept {
+HRESULT ReturnError(const ErrorPlace& place) noexcept {
   HRESULT code = E_FAIL;
   try {
-    std::string description;
+    ErrorTexts texts{"Unknown error.", std::string("OrvexMapDialogs2.") + place.Name};
+    std::string& description = texts.Description;
     try {
       throw;
+    } catch (const HostError& error) {
+      code = CodeOf(error.Number());
+      description = error.what();
+      if (!error.Source().empty()) texts.Source = error.Source();
     } catch (const RunTimeError& error) {
       code = CodeOf(error.Number());
       description = error.what();
@@ -74,9 +81,9 @@ HRESULT ReturnError(const char* source) noexcept {
     } catch (const std::exception& error) {
       description = error.what();
     } catch (...) {
-      description = "Unknown error.";
+      // Nothing is known of it.
     }
-    LeaveErrorInfo(source, description);
+    LeaveErrorInfo(place.Interface, texts);
   } catch (...) {
     // There was no memory for the description, so only the code is returned.
     SetErrorInfo(0, nullptr);
@@ -84,15 +91,16 @@ HRESULT ReturnError(const char* source) noexcept {
   return code;
 }
 
-void Check(HRESULT result, const std::string& what) {
+void Check(HRESULT result, const std::string& what, ErrorTexts told) {
   if (SUCCEEDED(result)) return;
-  std::string description = TakeErrorInfo();
-  if (description.empty()) description = what + ": " + SystemText(result) + " (" + Hex(result) + ")";
-  ThrowError(result, description);
+  if (told.Description.empty()) told = TakeErrorInfo();
+  if (told.Description.empty()) told.Description = what + ": " + SystemText(result) + " (" + Hex(result) + ")";
+  throw HostError(NumberOf(result), told);
 }
 
-void ThrowError(HRESULT result, const std::string& description) {
-  throw RunTimeError(NumberOf(result), description);
+void RequirePlaces(std::initializer_list<NamedPlace> places) {
+  for (const NamedPlace& place : places)
+    if (!place.Place) throw RunTimeError(E_POINTER, std::string(place.Name) + " is a null pointer.");
 }
 
 }  // namespace orx::com

@@ -15,7 +15,7 @@ Variant Converted(VARIANT& value, VARTYPE type) {
 }  // namespace
 
 EventArguments::EventArguments(const DISPPARAMS& given, UINT needed) : mGiven(given) {
-  if (given.cArgs < needed) ThrowError(DISP_E_BADPARAMCOUNT, "An event has too few arguments.");
+  if (given.cArgs < needed) throw RunTimeError(DISP_E_BADPARAMCOUNT, "An event has too few arguments.");
 }
 
 Variant EventArguments::Read(UINT position, VARTYPE type) const {

@@ -15,6 +15,9 @@ namespace orx::com {
 namespace {
 
 constexpr char kFormSource[] = "DialogForm";
+const ErrorPlace kControlPlace{kFormSource, __uuidof(::IDialogControl)};
+const ErrorPlace kControlsPlace{kFormSource, __uuidof(::IDialogControls)};
+const ErrorPlace kFormPlace{kFormSource, __uuidof(::IDialogForm)};
 
 }  // namespace
 
@@ -32,31 +35,31 @@ class ControlObject final : public DispatchObject<::IDialogControl> {
   ControlObject(std::shared_ptr<LentForm::Loan> loan, Control& control) : mLoan(std::move(loan)), mControl(control) {}
 
   HRESULT STDMETHODCALLTYPE get_Name(BSTR* value) noexcept override {
-    return Give(kFormSource, value, [this] { return Get().Name(); });
+    return Give(kControlPlace, value, [this] { return Get().Name(); });
   }
   HRESULT STDMETHODCALLTYPE get_Caption(BSTR* value) noexcept override {
-    return Give(kFormSource, value, [this] { return Get().Caption(); });
+    return Give(kControlPlace, value, [this] { return Get().Caption(); });
   }
   HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override {
-    return Guarded(kFormSource, [&] { Get().Caption(TextOf(value)); });
+    return Guarded(kControlPlace, [&] { Get().Caption(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_ToolTipText(BSTR* value) noexcept override {
-    return Give(kFormSource, value, [this] { return Get().ToolTipText(); });
+    return Give(kControlPlace, value, [this] { return Get().ToolTipText(); });
   }
   HRESULT STDMETHODCALLTYPE put_ToolTipText(BSTR value) noexcept override {
-    return Guarded(kFormSource, [&] { Get().ToolTipText(TextOf(value)); });
+    return Guarded(kControlPlace, [&] { Get().ToolTipText(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_TabCount(long* value) noexcept override {
-    return Give(kFormSource, value, [this] {
+    return Give(kControlPlace, value, [this] {
       const auto* const tabs = dynamic_cast<TabControl*>(&Get());
       return tabs ? tabs->TabCount() : 0;
     });
   }
   HRESULT STDMETHODCALLTYPE get_TabCaption(long index, BSTR* value) noexcept override {
-    return Give(kFormSource, value, [&] { return Tabs(index).TabCaption(index); });
+    return Give(kControlPlace, value, [&] { return Tabs(index).TabCaption(index); });
   }
   HRESULT STDMETHODCALLTYPE put_TabCaption(long index, BSTR value) noexcept override {
-    return Guarded(kFormSource, [&] { Tabs(index).TabCaption(index, TextOf(value)); });
+    return Guarded(kControlPlace, [&] { Tabs(index).TabCaption(index, TextOf(value)); });
   }
 
  private:
@@ -80,11 +83,11 @@ class ControlsObject final : public DispatchObject<::IDialogControls> {
   explicit ControlsObject(std::shared_ptr<LentForm::Loan> loan) : mLoan(std::move(loan)) {}
 
   HRESULT STDMETHODCALLTYPE get_Count(long* value) noexcept override {
-    return Give(kFormSource, value, [this] { return static_cast<int>(mLoan->Get().All().size()); });
+    return Give(kControlsPlace, value, [this] { return static_cast<int>(mLoan->Get().All().size()); });
   }
 
   HRESULT STDMETHODCALLTYPE get_Item(VARIANT index, IDispatch** value) noexcept override {
-    return Give(kFormSource, value, [&] { return Item(index); });
+    return Give(kControlsPlace, value, [&] { return Item(index); });
   }
 
   HRESULT STDMETHODCALLTYPE get__NewEnum(IUnknown** value) noexcept override;
@@ -126,10 +129,10 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
       : mControls(const_cast<ControlsObject*>(&controls)), mCount(count), mNext(next) {}
 
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
-    if (!values) return E_POINTER;
     if (fetched) *fetched = 0;
     std::vector<ComPtr<IDispatch>> found;
-    const HRESULT result = Guarded(kFormSource, [&] {
+    const HRESULT result = Guarded(kControlsPlace, [&] {
+      RequirePlaces({{"The elements", values}});
       while (found.size() < count && mNext + found.size() < mCount)
         found.push_back(mControls->ByNumber(static_cast<long>(mNext + found.size())));
     });
@@ -150,7 +153,7 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) noexcept override {
-    return Give(kFormSource, copy, [&] { return MakeCounted<ControlsEnumerator>(*mControls.Get(), mCount, mNext); });
+    return Give(kControlsPlace, copy, [&] { return MakeCounted<ControlsEnumerator>(*mControls.Get(), mCount, mNext); });
   }
 
  private:
@@ -160,7 +163,7 @@ class ControlsEnumerator final : public Counted<IEnumVARIANT> {
 };
 
 HRESULT ControlsObject::get__NewEnum(IUnknown** value) noexcept {
-  return Give(kFormSource, value, [&] {
+  return Give(kControlsPlace, value, [&] {
     const auto count = static_cast<ULONG>(mLoan->Get().All().size());
     return MakeCounted<ControlsEnumerator>(*this, count, 0U);
   });
@@ -171,16 +174,16 @@ class FormObject final : public DispatchObject<::IDialogForm> {
   explicit FormObject(std::shared_ptr<LentForm::Loan> loan) : mLoan(std::move(loan)) {}
 
   HRESULT STDMETHODCALLTYPE get_Name(BSTR* value) noexcept override {
-    return Give(kFormSource, value, [this] { return mLoan->Get().Name(); });
+    return Give(kFormPlace, value, [this] { return mLoan->Get().Name(); });
   }
   HRESULT STDMETHODCALLTYPE get_Caption(BSTR* value) noexcept override {
-    return Give(kFormSource, value, [this] { return mLoan->Get().Caption(); });
+    return Give(kFormPlace, value, [this] { return mLoan->Get().Caption(); });
   }
   HRESULT STDMETHODCALLTYPE put_Caption(BSTR value) noexcept override {
-    return Guarded(kFormSource, [&] { mLoan->Get().Caption(TextOf(value)); });
+    return Guarded(kFormPlace, [&] { mLoan->Get().Caption(TextOf(value)); });
   }
   HRESULT STDMETHODCALLTYPE get_Controls(IDispatch** value) noexcept override {
-    return Give(kFormSource, value, [&] {
+    return Give(kFormPlace, value, [&] {
       mLoan->Get();
       return MakeCounted<ControlsObject>(mLoan);
     });

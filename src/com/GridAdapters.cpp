@@ -19,13 +19,6 @@ VARIANT ReferenceTo(VARIANT& variable) {
 }  // namespace
 
 bool ShadeAdapter::SuggestScaleFactor(double& value) {
-  if (const auto published = ComPtr<::ShadeSettings>::From(mObject.Object())) {
-    VARIANT_BOOL success = VARIANT_FALSE;
-    double suggested = 0;
-    Check(published->SuggestScaleFactor(&suggested, &success), "SuggestScaleFactor");
-    if (success != VARIANT_FALSE) value = suggested;
-    return success != VARIANT_FALSE;
-  }
   // Variables of scripts are untyped.
   Variant suggested(0.0);
   Variant success(false);
@@ -56,13 +49,11 @@ void LabelFontAdapter::Color(orx::Color value) {
 }
 
 orx::ILineStyle& IsolinesAdapter::Line() {
-  mLine = std::make_unique<LineStyleAdapter>(mOwner, mObject.RequireObject("Line"));
-  return *mLine;
+  return mLines.Of(mOwner, Members::Of<::ILineStyle>(mObject.RequireObject("Line").Get()));
 }
 
 orx::ILabelFont& IsolinesAdapter::LabelFont() {
-  mFont = std::make_unique<LabelFontAdapter>(mOwner, mObject.RequireObject("LabelFont"));
-  return *mFont;
+  return mFonts.Of(mOwner, Members::Of<::ILabelFont>(mObject.RequireObject("LabelFont").Get()));
 }
 
 }  // namespace orx::com

@@ -1,8 +1,6 @@
 // The interfaces of a grid's shading and contour lines over the members of automation objects.
 #pragma once
 
-#include <memory>
-
 #include "com/AutomationObject.h"
 #include "hostobjects/IGridSettings.h"
 
@@ -97,13 +95,13 @@ class IsolinesAdapter final : public AdapterOf<orx::IIsolines> {
   void RangeStep(std::int32_t value) override { mObject.Put("RangeStep", value); }
   bool LabelAllIsolines() const override { return mObject.GetBool("LabelAllIsolines"); }
   void LabelAllIsolines(bool value) override { mObject.Put("LabelAllIsolines", value); }
-  /// The objects that the host returned last. They throw RunTimeError when it returns Nothing.
+  /// These throw RunTimeError when the host returns Nothing.
   orx::ILineStyle& Line() override;
   orx::ILabelFont& LabelFont() override;
 
  private:
-  std::unique_ptr<LineStyleAdapter> mLine;
-  std::unique_ptr<LabelFontAdapter> mFont;
+  AdaptedParts<LineStyleAdapter> mLines;
+  AdaptedParts<LabelFontAdapter> mFonts;
 };
 
 }  // namespace orx::com

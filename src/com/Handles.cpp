@@ -1,5 +1,7 @@
 #include "com/Handles.h"
 
+#include <limits>
+
 namespace orx::com {
 
 Bstr::Bstr(std::string_view text) {
@@ -22,8 +24,11 @@ ExceptionInfo::~ExceptionInfo() {
 
 HRESULT ExceptionInfo::Code() {
   if (pfnDeferredFillIn) pfnDeferredFillIn(this);
-  if (scode != 0) return scode;
-  return wCode != 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, wCode) : DISP_E_EXCEPTION;
+  if (scode < 0) return scode;
+  // A positive code would be taken for success. Some hosts put the number of the error there.
+  const LONG number = wCode != 0 ? wCode : scode;
+  const bool isNumber = number > 0 && number <= std::numeric_limits<WORD>::max();
+  return isNumber ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number) : DISP_E_EXCEPTION;
 }
 
 }  // namespace orx::com

@@ -115,6 +115,10 @@ class Variant : public VARIANT {
     vt = VT_I4;
     lVal = value;
   }
+  explicit Variant(std::int16_t value) : Variant() {
+    vt = VT_I2;
+    iVal = value;
+  }
   explicit Variant(double value) : Variant() {
     vt = VT_R8;
     dblVal = value;

@@ -6,7 +6,8 @@
 #include "com/Conversion.h"
 #include "com/Errors.h"
 #include "com/FormObjects.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
+#include "forms/Desktop.h"
 
 namespace orx::com {
 namespace {
@@ -18,11 +19,7 @@ class RawObject {
   explicit RawObject(IDispatch* object) : mObject(object) {}
 
   IDispatch* Automation() const { return mObject; }
-  LateBound Members() const {
-    const ComPtr<IDispatch> object(mObject);
-    if (const auto published = object.template As<Published>()) return LateBound(published.Get());
-    return LateBound(mObject);
-  }
+  Members Held() const { return Members::Of<Published>(mObject); }
 
  private:
   IDispatch* mObject;
@@ -33,18 +30,18 @@ class LanguageAdapter final : public orx::ILanguage, public std::enable_shared_f
   explicit LanguageAdapter(IDispatch* language) : mLanguage(language) {}
 
   IDispatch* Automation() const { return mLanguage.Automation(); }
-  std::int32_t EntryCount() override { return mLanguage.Members().GetLong("EntryCount"); }
+  std::int32_t EntryCount() override { return mLanguage.Held().GetLong("EntryCount"); }
 
   std::string TranslateText(const std::string& key) override {
     Variant text;
-    Check(ConvertValue(mLanguage.Members().Call("TranslateText", Variant(key)), VT_BSTR, LOCALE_USER_DEFAULT, text),
+    Check(ConvertValue(mLanguage.Held().Call("TranslateText", Variant(key)), VT_BSTR, LOCALE_USER_DEFAULT, text),
           "TranslateText");
     return TextOf(text.bstrVal);
   }
 
   void TranslateForm(Form& form) override {
     const LentForm lent(form);
-    mLanguage.Members().Call("TranslateForm", Variant(lent.Automation()));
+    mLanguage.Held().Call("TranslateForm", Variant(lent.Automation()));
   }
 
   std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
@@ -57,13 +54,13 @@ class CallBackAdapter final : public orx::IDialogCallBack, public std::enable_sh
  public:
   explicit CallBackAdapter(IDispatch* callBack) : mCallBack(callBack) {}
 
-  void ApplyNotify(bool changed) override { mCallBack.Members().Call("ApplyNotify", Variant(changed)); }
-  void CancelNotify(bool changed) override { mCallBack.Members().Call("CancelNotify", Variant(changed)); }
-  void OKNotify(bool changed) override { mCallBack.Members().Call("OKNotify", Variant(changed)); }
+  void ApplyNotify(bool changed) override { mCallBack.Held().Call("ApplyNotify", Variant(changed)); }
+  void CancelNotify(bool changed) override { mCallBack.Held().Call("CancelNotify", Variant(changed)); }
+  void OKNotify(bool changed) override { mCallBack.Held().Call("OKNotify", Variant(changed)); }
 
   std::int32_t RegisterNotify() override {
     // The dialogs ignore the result, so it need not be a number.
-    mCallBack.Members().Call("RegisterNotify");
+    mCallBack.Held().Call("RegisterNotify");
     return 0;
   }
 
@@ -73,7 +70,37 @@ class CallBackAdapter final : public orx::IDialogCallBack, public std::enable_sh
   RawObject<::IDialogCallBack> mCallBack;
 };
 
+class FileCheckOfThread final : public orx::IFileCheck, public std::enable_shared_from_this<FileCheckOfThread> {
+ public:
+  FileCheckOfThread(std::shared_ptr<HostObject> object, orx::IFileCheck& check)
+      : mObject(std::move(object)), mCheck(check) {}
+
+  IDispatch* Automation() const {
+    if (GetCurrentThreadId() != mThread) throw WrongThread();
+    return AutomationOf(mObject.get());
+  }
+  bool CanOpen(const std::string& path) override {
+    if (GetCurrentThreadId() != mThread) throw WrongThread();
+    // The host may set another check in the call.
+    const auto keep = shared_from_this();
+    return mCheck.CanOpen(path);
+  }
+
+ private:
+  const DWORD mThread = GetCurrentThreadId();
+  std::shared_ptr<HostObject> mObject;
+  orx::IFileCheck& mCheck;
+};
+
 }  // namespace
+
+std::shared_ptr<orx::IFileCheck> AdaptFileCheck(IDispatch* check) {
+  std::shared_ptr<HostObject> object = AdaptHostObject(check);
+  if (!object) return nullptr;
+  auto* const adapter = QueryKind<orx::IFileCheck>(object.get());
+  if (!adapter) throw RunTimeError(kErrorTypeMismatch, "FileCheck is no object with a member CanOpen.");
+  return std::make_shared<FileCheckOfThread>(std::move(object), *adapter);
+}
 
 std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object) {
   return object ? std::make_shared<AutomationObject>(object) : nullptr;
@@ -84,9 +111,8 @@ std::shared_ptr<orx::ILanguage> AdaptLanguage(IDispatch* language) {
 }
 
 std::shared_ptr<orx::IDialogCallBack> AdaptCallBack(IDispatch* callBack) {
-  const ComPtr<IDispatch> object(callBack);
-  const bool isOne = object.As<::IDialogCallBack>() || LateBound(callBack).Has("ApplyNotify");
-  return isOne ? std::make_shared<CallBackAdapter>(callBack) : nullptr;
+  return Members::Of<::IDialogCallBack>(callBack).Has("ApplyNotify") ? std::make_shared<CallBackAdapter>(callBack)
+                                                                     : nullptr;
 }
 
 IDispatch* AutomationOf(HostObject* object) {
@@ -96,6 +122,11 @@ IDispatch* AutomationOf(HostObject* object) {
 
 IDispatch* AutomationOf(orx::ILanguage* language) {
   const auto* const adapter = dynamic_cast<LanguageAdapter*>(language);
+  return adapter ? adapter->Automation() : nullptr;
+}
+
+IDispatch* AutomationOf(orx::IFileCheck* check) {
+  const auto* const adapter = dynamic_cast<FileCheckOfThread*>(check);
   return adapter ? adapter->Automation() : nullptr;
 }
 

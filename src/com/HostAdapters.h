@@ -6,6 +6,7 @@
 #include "com/Handles.h"
 #include "hostobjects/HostObject.h"
 #include "hostobjects/IDialogCallBack.h"
+#include "hostobjects/IFileCheck.h"
 #include "hostobjects/ILanguage.h"
 
 namespace orx::com {
@@ -20,8 +21,14 @@ std::shared_ptr<HostObject> AdaptHostObject(IDispatch* object);
 std::shared_ptr<ILanguage> AdaptLanguage(IDispatch* language);
 std::shared_ptr<IDialogCallBack> AdaptCallBack(IDispatch* callBack);
 
+/// Adapts the check of data files, which is asked on the calling thread alone; on others it throws WrongThread. Holds a
+/// reference. Null for null; throws RunTimeError (kErrorTypeMismatch) for an object that is none.
+std::shared_ptr<IFileCheck> AdaptFileCheck(IDispatch* check);
+
 /// The host's own object behind an adapter, without a reference; null when the object is not an adapter.
 IDispatch* AutomationOf(HostObject* object);
 IDispatch* AutomationOf(ILanguage* language);
+/// On the thread of the check only.
+IDispatch* AutomationOf(IFileCheck* check);
 
 }  // namespace orx::com

@@ -31,7 +31,7 @@ HostedControl::HostedControl(const CLSID& control) : mSite(MakeCounted<ControlSi
   Check(CoCreateInstance(control, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, mControl.OutVoid()),
         "The control cannot be made");
   try {
-    if (!mControl.As<IOleInPlaceObject>()) ThrowError(E_NOINTERFACE, "The control has no window to show.");
+    if (!mControl.As<IOleInPlaceObject>()) throw RunTimeError(E_NOINTERFACE, "The control has no window to show.");
     Begin(*mControl.Get(), mSite.Get());
   } catch (...) {
     mSite->Leave();

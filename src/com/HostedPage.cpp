@@ -1,5 +1,7 @@
 #include "com/HostedPage.h"
 
+#include <OrvexMapDialogs2.h>
+
 #include "com/Errors.h"
 #include "com/HostAdapters.h"
 #include "forms/Form.h"
@@ -8,10 +10,10 @@
 namespace orx::com {
 namespace {
 
-ComPtr<IDispatch> MembersOf(const HostedControl& control) {
-  auto members = ComPtr<IDispatch>::From(&control.Object());
-  if (!members) ThrowError(E_NOINTERFACE, "The control has no automation members.");
-  return members;
+Members MembersOf(const HostedControl& control) {
+  const auto object = ComPtr<IDispatch>::From(&control.Object());
+  if (!object) throw RunTimeError(E_NOINTERFACE, "The control has no automation members.");
+  return Members::Of<::IMapPropertyPage>(object.Get());
 }
 
 /// Shows the reason where the page would be.
@@ -28,7 +30,7 @@ void ShowReason(HWND area, const std::string& reason) {
 HostedPage::HostedPage(const PageSite& site, const std::string& progId, const CLSID& control)
     : mProgId(progId),
       mControl(control),
-      mMembers(MembersOf(mControl).Get()),
+      mMembers(MembersOf(mControl)),
       mArea(site.Parent, site.Name, {.Place = site.Place}) {
   HandleArea();
   // Last, because nobody would disconnect the events of a page whose constructor throws.
@@ -61,7 +63,8 @@ void HostedPage::Open(HWND area) {
 void HostedPage::Client(HostObject* value) {
   IDispatch* const object = AutomationOf(value);
   if (value && !object)
-    ThrowError(E_NOINTERFACE, "The page control " + mProgId + " cannot edit this object: it is no automation object.");
+    throw RunTimeError(E_NOINTERFACE,
+                       "The page control " + mProgId + " cannot edit this object: it is no automation object.");
   mMembers.Put("Client", object);
   mClient = value;
 }

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "com/HostedControl.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
 #include "com/PageEvents.h"
 #include "forms/NativeArea.h"
 #include "hostobjects/PropertyPage.h"
@@ -47,7 +47,7 @@ class HostedPage final : public PropertyPage {
 
   std::string mProgId;
   HostedControl mControl;
-  LateBound mMembers;
+  Members mMembers;
   NativeArea mArea;
   ComPtr<PageEvents> mEvents;
   HostObject* mClient = nullptr;

@@ -1,5 +1,7 @@
 #include "com/MapAdapters.h"
 
+#include <OrvexMapDialogs2.h>
+
 #include "com/Colors.h"
 #include "com/Conversion.h"
 #include "com/Errors.h"
@@ -10,7 +12,7 @@ namespace {
 
 /// A value of an enumeration that starts at 0 and ends with `last`.
 template <class Enumeration>
-Enumeration EnumOf(const LateBound& object, const char* member, Enumeration last) {
+Enumeration EnumOf(const Members& object, const char* member, Enumeration last) {
   const std::int32_t value = object.GetLong(member);
   if (value < 0 || value > static_cast<std::int32_t>(last))
     throw RunTimeError(kErrorInvalidValue, std::string(member) + " is " + std::to_string(value) +
@@ -43,8 +45,12 @@ LabelPosition LabelsAdapter::Position() const {
   return EnumOf(mObject, "Position", LabelPosition::Right);
 }
 
+Members LabelsAdapter::Face() const {
+  return Members::Of<::ILabelFont>(mObject.GetObject("LabelFont").Get());
+}
+
 Font LabelsAdapter::LabelFont() const {
-  const LateBound face = Face();
+  const Members face = Face();
   return {.Name = face.GetText("Name"),
           .Size = face.GetDouble("Size"),
           .Bold = face.GetBool("Bold"),
@@ -54,7 +60,7 @@ Font LabelsAdapter::LabelFont() const {
 }
 
 void LabelsAdapter::LabelFont(const Font& value) {
-  const LateBound face = Face();
+  const Members face = Face();
   const Font before = LabelFont();
   if (value.Name != before.Name) face.Put("Name", value.Name);
   if (value.Size != before.Size) face.Put("Size", value.Size);
@@ -79,11 +85,7 @@ LegendCorner LegendAdapter::Corner() const {
 ILegend& LegendsAdapter::Legend(std::int32_t index) {
   const ComPtr<IDispatch> legend = mObject.GetObject("Legend", {index});
   if (!legend) throw RunTimeError(kErrorNotLoaded, "There is no legend " + std::to_string(index) + ".");
-  // The identity of an object is its IUnknown.
-  const ComPtr<IUnknown> identity = legend.As<IUnknown>();
-  std::unique_ptr<LegendAdapter>& known = mLegends[identity.Get()];
-  if (!known) known = std::make_unique<LegendAdapter>(mOwner, legend);
-  return *known;
+  return mLegends.Of(mOwner, Members::Of<::ILegend>(legend.Get()));
 }
 
 }  // namespace orx::com

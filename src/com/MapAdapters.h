@@ -1,9 +1,6 @@
 // The interfaces of maps, their layers and legends over the members of automation objects.
 #pragma once
 
-#include <map>
-#include <memory>
-
 #include "com/AutomationObject.h"
 #include "hostobjects/IMap.h"
 
@@ -87,7 +84,7 @@ class LabelsAdapter final : public AdapterOf<ILabels> {
   void LabelRotation(double value) override { mObject.Put("LabelRotation", value); }
 
  private:
-  LateBound Face() const { return LateBound(mObject.GetObject("LabelFont").Get()); }
+  Members Face() const;
 };
 
 class LegendAdapter final : public AdapterOf<ILegend> {
@@ -114,8 +111,7 @@ class LegendsAdapter final : public AdapterOf<ILegends> {
   ILegend& Legend(std::int32_t index) override;
 
  private:
-  /// One for each legend object, so that a legend keeps its address while it is edited.
-  std::map<IUnknown*, std::unique_ptr<LegendAdapter>> mLegends;
+  AdaptedParts<LegendAdapter> mLegends;
 };
 
 }  // namespace orx::com

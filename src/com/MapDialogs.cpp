@@ -9,7 +9,8 @@
 namespace orx::com {
 namespace {
 
-constexpr char kDialogsSource[] = "CCommonMapDialogs";
+const ErrorPlace kDialogsPlace{"CCommonMapDialogs", __uuidof(::_CCommonMapDialogs)};
+const ErrorPlace kNewerPlace{"CCommonMapDialogs", __uuidof(::ICommonMapDialogs2)};
 
 }  // namespace
 
@@ -26,21 +27,27 @@ struct MapDialogs::DialogCall {
 MapDialogs::MapDialogs() : mContext(ThreadContext::OfThread()), mService(mContext->Screen(), mContext->Pages()) {
 }
 
+MapDialogs::~MapDialogs() {
+  if (mFileCheck && orx::CCommonMapDialogs::FileCheck() == mFileCheck.get()) orx::CCommonMapDialogs::FileCheck(nullptr);
+}
+
 HRESULT MapDialogs::get_RegistryKey(BSTR* value) noexcept {
-  return Give(kDialogsSource, value, [&] { return mService.RegistryKey(); });
+  return Give(kDialogsPlace, value, [&] { return mService.RegistryKey(); });
 }
 
 HRESULT MapDialogs::put_RegistryKey(BSTR* value) noexcept {
-  if (!value) return E_POINTER;
-  return Guarded(kDialogsSource, [&] { mService.RegistryKey(TextOf(*value)); });
+  return Guarded(kDialogsPlace, [&] {
+    RequirePlaces({{"RegistryKey", value}});
+    mService.RegistryKey(TextOf(*value));
+  });
 }
 
 HRESULT MapDialogs::get_CallBack(IDispatch** value) noexcept {
-  return Give(kDialogsSource, value, [&] { return ComPtr<IDispatch>(mCallBack); });
+  return Give(kDialogsPlace, value, [&] { return ComPtr<IDispatch>(mCallBack); });
 }
 
 HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
-  return Guarded(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     IDispatch* const callBack = value ? *value : nullptr;
     auto adapter = AdaptCallBack(callBack);
     mService.CallBack(adapter.get());
@@ -50,11 +57,11 @@ HRESULT MapDialogs::putref_CallBack(IDispatch** value) noexcept {
 }
 
 HRESULT MapDialogs::get_Language(IDispatch** value) noexcept {
-  return Give(kDialogsSource, value, [&] { return ComPtr<IDispatch>(mLanguage); });
+  return Give(kDialogsPlace, value, [&] { return ComPtr<IDispatch>(mLanguage); });
 }
 
 HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
     IDispatch* const language = value ? *value : nullptr;
     // Both adapters live until the service has the new one: the new language may throw when it is set, or set another
     // one itself.
@@ -65,12 +72,24 @@ HRESULT MapDialogs::putref_Language(IDispatch** value) noexcept {
   });
 }
 
+HRESULT MapDialogs::get_FileCheck(IDispatch** value) noexcept {
+  return Give(kNewerPlace, value, [] { return ComPtr<IDispatch>(AutomationOf(orx::CCommonMapDialogs::FileCheck())); });
+}
+
+HRESULT MapDialogs::putref_FileCheck(IDispatch* value) noexcept {
+  return Kept(kNewerPlace, [&] {
+    auto check = AdaptFileCheck(value);
+    orx::CCommonMapDialogs::FileCheck(check.get());
+    mFileCheck = std::move(check);
+  });
+}
+
 template <class Dialog>
 HRESULT MapDialogs::ShowDialog(IDispatch** mObj, const BSTR* mCaption, const ::FormShowMode* mModal,
                                const VARIANT* OwnerForm, long* result, Dialog&& dialog) noexcept {
-  if (!mObj || !result) return E_POINTER;
-  *result = 0;
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
+    RequirePlaces({{"mObj", mObj}, {"The result", result}});
+    *result = 0;
     const std::shared_ptr<HostObject> client = AdaptHostObject(*mObj);
     const bool isModeless = mModal && *mModal == ::ShowModeless;
     *result = dialog(DialogCall{client.get(), mCaption ? TextOf(*mCaption) : std::string(),
@@ -86,8 +105,8 @@ auto MapDialogs::Plain(DialogMember member) {
 
 HRESULT MapDialogs::Show(IDispatch** mObj, long* mFlags, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                          long* result) noexcept {
-  if (!mFlags) return E_POINTER;
   return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    RequirePlaces({{"mFlags", mFlags}});
     return mService.Show(call.Client, *mFlags, call.Caption, call.Mode, call.Owner());
   });
 }
@@ -122,8 +141,8 @@ HRESULT MapDialogs::ShowCoordinates(IDispatch** mObj, BSTR* mCaption, ::FormShow
 HRESULT MapDialogs::ShowDataClassify(IDispatch** mObj, double* mMinValue, double* mMaxValue, ::ClassifyFlags flags,
                                      VARIANT_BOOL* isDirty, BSTR* mCaption, ::FormShowMode* mModal, VARIANT* OwnerForm,
                                      long* result) noexcept {
-  if (!mMinValue || !mMaxValue || !isDirty) return E_POINTER;
   return ShowDialog(mObj, mCaption, mModal, OwnerForm, result, [&](const DialogCall& call) {
+    RequirePlaces({{"mMinValue", mMinValue}, {"mMaxValue", mMaxValue}, {"IsDirty", isDirty}});
     bool changed = *isDirty != VARIANT_FALSE;
     const std::int32_t answer =
         mService.ShowDataClassify(call.Client, *mMinValue, *mMaxValue, flags, changed, call.Caption, call.Mode, {});
@@ -161,8 +180,8 @@ HRESULT MapDialogs::ShowAddData(long hWnd, VARIANT_BOOL multiselect, SAFEARRAY**
 
 HRESULT MapDialogs::ChooseFiles(FilesMember member, long hWnd, VARIANT_BOOL multiselect, SAFEARRAY** files,
                                 VARIANT_BOOL* result) noexcept {
-  if (!files || !result) return E_POINTER;
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
+    RequirePlaces({{"Files", files}, {"The result", result}});
     // Fail before the user has chosen, not afterwards.
     RequireTexts(*files, "Files");
     std::vector<std::string> chosen = InitialNameIn(*files);
@@ -186,8 +205,8 @@ HRESULT MapDialogs::ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIA
 
 HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                VARIANT_BOOL* result) noexcept {
-  if (!newFileName || !cancelAll || !result) return E_POINTER;
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
+    RequirePlaces({{"NewFileName", newFileName}, {"CancelAll", cancelAll}, {"The result", result}});
     std::string chosen = TextOf(*newFileName);
     bool isCanceled = *cancelAll != VARIANT_FALSE;
     const bool answer = (mService.*member)(TextOf(fileName), chosen, isCanceled);
@@ -199,9 +218,13 @@ HRESULT MapDialogs::AskForFile(MissingMember member, BSTR fileName, BSTR* newFil
 
 HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, double* mRotation, VARIANT_BOOL* mChanged,
                                            BSTR* mCaption, VARIANT* OwnerForm, long* result) noexcept {
-  if (!mFontName || !mCharacter || !mRotation || !mChanged || !result) return E_POINTER;
-  *result = 0;
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
+    RequirePlaces({{"mFontName", mFontName},
+                   {"mCharacter", mCharacter},
+                   {"mRotation", mRotation},
+                   {"mChanged", mChanged},
+                   {"The result", result}});
+    *result = 0;
     std::string font = TextOf(*mFontName);
     std::int32_t character = *mCharacter;
     double rotation = *mRotation;
@@ -219,11 +242,16 @@ HRESULT MapDialogs::ShowCharacterSelection(BSTR* mFontName, long* mCharacter, do
 HRESULT MapDialogs::ShowListSelection(SAFEARRAY** mSelection, VARIANT_BOOL* mMultiselect, long* mListIndex,
                                       BSTR* mCaption, VARIANT_BOOL* mAskConfirmation, BSTR* mConfirmationQuestion,
                                       SAFEARRAY** mSelected, long* result) noexcept {
-  if (!mSelection || !mMultiselect || !mListIndex || !mCaption || !mAskConfirmation || !mConfirmationQuestion ||
-      !mSelected || !result)
-    return E_POINTER;
-  *result = 0;
-  return Kept(kDialogsSource, [&] {
+  return Kept(kDialogsPlace, [&] {
+    RequirePlaces({{"mSelection", mSelection},
+                   {"mMultiselect", mMultiselect},
+                   {"mListIndex", mListIndex},
+                   {"mCaption", mCaption},
+                   {"mAskConfirmation", mAskConfirmation},
+                   {"mConfirmationQuestion", mConfirmationQuestion},
+                   {"mSelected", mSelected},
+                   {"The result", result}});
+    *result = 0;
     const TextArray entries = TextsIn(*mSelection, "mSelection");
     // Fail before the user has chosen, not afterwards.
     RequireNumbers(*mSelected, "mSelected");

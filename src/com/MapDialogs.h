@@ -1,4 +1,4 @@
-// The creatable class CCommonMapDialogs: the service class behind its dual interface.
+// The creatable class CCommonMapDialogs: the service class behind its dual interfaces.
 #pragma once
 
 // This header comes first: its interfaces are global, and the library has others of the same names.
@@ -13,9 +13,10 @@
 
 namespace orx::com {
 
-class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDialogs> {
+class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDialogs, ::ICommonMapDialogs2> {
  public:
   MapDialogs();
+  ~MapDialogs() override;
 
   HRESULT STDMETHODCALLTYPE get_RegistryKey(BSTR* value) noexcept override;
   HRESULT STDMETHODCALLTYPE put_RegistryKey(BSTR* value) noexcept override;
@@ -58,6 +59,8 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
                                              VARIANT_BOOL* result) noexcept override;
   HRESULT STDMETHODCALLTYPE ShowDataFileNotFound(BSTR fileName, BSTR* newFileName, VARIANT_BOOL* cancelAll,
                                                  VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_FileCheck(IDispatch** value) noexcept override;
+  HRESULT STDMETHODCALLTYPE putref_FileCheck(IDispatch* value) noexcept override;
 
  private:
   using FilesMember = bool (orx::CCommonMapDialogs::*)(std::uintptr_t, bool, std::vector<std::string>&);
@@ -85,6 +88,8 @@ class MapDialogs final : public ClassObject<::CCommonMapDialogs, ::_CCommonMapDi
   IDispatch* mCallBack = nullptr;
   std::shared_ptr<orx::ILanguage> mLanguageAdapter;
   std::shared_ptr<orx::IDialogCallBack> mCallBackAdapter;
+  /// The check that was set through this object, with a reference to the host's object.
+  std::shared_ptr<orx::IFileCheck> mFileCheck;
 };
 
 }  // namespace orx::com

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "com/Conversion.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
 #include "hostobjects/RunTimeError.h"
 
 namespace orx::com {
@@ -39,7 +39,7 @@ OwnerWindow OwnerOf(const VARIANT* owner) {
     return {nullptr, HandleOf(value)};
   }
   if (!value.punkVal) return {};
-  const LateBound form(ComPtr<IDispatch>::From(value.punkVal).Get());
+  const Members form(ComPtr<IDispatch>::From(value.punkVal).Get());
   if (!form.Has("hWnd")) throw RunTimeError(kErrorTypeMismatch, kExplanation);
   return {nullptr, HandleOf(form.Get("hWnd"))};
 }

@@ -150,8 +150,9 @@ HRESULT PageEvents::GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexce
   return DISP_E_UNKNOWNNAME;
 }
 
-HRESULT PageEvents::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT*, EXCEPINFO* exception,
+HRESULT PageEvents::Invoke(DISPID id, REFIID reserved, LCID, WORD, DISPPARAMS* given, VARIANT*, EXCEPINFO* exception,
                            UINT*) noexcept {
+  if (!IsEqualIID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
   const PageEvent* const event = EventOf(id);
   if (!event) return DISP_E_MEMBERNOTFOUND;
   if (!given) return E_POINTER;

@@ -31,7 +31,7 @@ class ProgressDialog final : public ClassObject<::CCommonProgressDialog, ::_CCom
  private:
   // Outlives the service, which uses it.
   std::shared_ptr<ThreadContext> mContext;
-  orx::CCommonProgressDialog mService;
+  std::shared_ptr<orx::CCommonProgressDialog> mService;
 };
 
 }  // namespace orx::com

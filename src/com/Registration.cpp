@@ -2,18 +2,20 @@
 
 #include <OrvexMapDialogs2.h>
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "com/Errors.h"
 #include "com/TypeDescriptions.h"
 #include "com/TypeLibrary.h"
-#include "desktops/win32/Handles.h"
 
 namespace orx::com {
 namespace {
 
 constexpr char kRegistrationSource[] = "Registration";
+constexpr wchar_t kVersion[] = L"2.0";
 
 struct CreatableClass {
   CLSID Id;
@@ -55,54 +57,10 @@ std::vector<Entry> EntriesOf(const CreatableClass& made) {
       {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
       {key + L"\\ProgID", L"", progId},
       {key + L"\\TypeLib", L"", TextOfGuid(LIBID_OrvexMapDialogs2)},
-      {key + L"\\Version", L"", L"2.0"},
+      {key + L"\\Version", L"", kVersion},
       {key + L"\\Programmable", L"", L""},
   };
 }
-
-/// The registry's classes, of all users or of the current one.
-class ClassesKey {
- public:
-  explicit ClassesKey(RegisteredFor whom) {
-    const HKEY root = whom == RegisteredFor::AllUsers ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-    // HRESULT_FROM_WIN32 evaluates its argument twice.
-    const LSTATUS status =
-        RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, mKey.Out(), nullptr);
-    Check(HRESULT_FROM_WIN32(status), "The registry's classes cannot be opened");
-  }
-
-  void Write(const Entry& entry) const {
-    const auto bytes = static_cast<DWORD>((entry.Text.size() + 1) * sizeof(wchar_t));
-    const LSTATUS status =
-        RegSetKeyValueW(mKey.Get(), entry.Key.c_str(), entry.Name.empty() ? nullptr : entry.Name.c_str(), REG_SZ,
-                        entry.Text.c_str(), bytes);
-    Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(entry.Key) + "\" cannot be written");
-  }
-
-  void Remove(const std::wstring& key) const {
-    const LSTATUS status = RegDeleteTreeW(mKey.Get(), key.c_str());
-    if (status != ERROR_FILE_NOT_FOUND)
-      Check(HRESULT_FROM_WIN32(status), "The registry key \"" + Narrowed(key) + "\" cannot be removed");
-  }
-
-  /// Removes a key that is empty now: it was not there before, unless the user had registered something else.
-  void RemoveEmpty(const wchar_t* key) const {
-    if (IsEmpty(key)) RegDeleteKeyW(mKey.Get(), key);
-  }
-
- private:
-  bool IsEmpty(const wchar_t* key) const {
-    win32::RegistryKey opened;
-    DWORD keys = 0;
-    DWORD values = 0;
-    return RegOpenKeyExW(mKey.Get(), key, 0, KEY_READ, opened.Out()) == ERROR_SUCCESS &&
-           RegQueryInfoKeyW(opened.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
-                            nullptr, nullptr) == ERROR_SUCCESS &&
-           keys == 0 && values == 0;
-  }
-
-  win32::RegistryKey mKey;
-};
 
 /// The automation library's own proxies, which marshal an interface by its type library.
 constexpr wchar_t kDualProxy[] = L"{00020424-0000-0000-C000-000000000046}";
@@ -112,14 +70,26 @@ std::wstring LibraryKey() {
   return L"TypeLib\\" + TextOfGuid(LIBID_OrvexMapDialogs2);
 }
 
+std::wstring VersionKey() {
+  return LibraryKey() + L"\\" + kVersion;
+}
+
+/// The type library for all languages, with a key for each bitness.
+std::wstring NeutralKey() {
+  return VersionKey() + L"\\0";
+}
+
+std::wstring BitnessKey() {
+  return NeutralKey() + (sizeof(void*) == 8 ? L"\\win64" : L"\\win32");
+}
+
 std::vector<Entry> LibraryEntries() {
-  const std::wstring version = LibraryKey() + L"\\2.0";
   const std::wstring path = ModulePath();
   return {
-      {version, L"", L"Orvex Map Dialogs 2"},
-      {version + (sizeof(void*) == 8 ? L"\\0\\win64" : L"\\0\\win32"), L"", path},
-      {version + L"\\FLAGS", L"", L"0"},
-      {version + L"\\HELPDIR", L"", path.substr(0, path.find_last_of(L'\\'))},
+      {VersionKey(), L"", L"Orvex Map Dialogs 2"},
+      {BitnessKey(), L"", path},
+      {VersionKey() + L"\\FLAGS", L"", L"0"},
+      {VersionKey() + L"\\HELPDIR", L"", path.substr(0, path.find_last_of(L'\\'))},
   };
 }
 
@@ -154,7 +124,7 @@ std::vector<Entry> EntriesOf(const PublishedInterface& published) {
       {published.Key, L"", published.Name},
       {published.Key + L"\\ProxyStubClsid32", L"", published.IsDual ? kDualProxy : kDispatchProxy},
       {published.Key + L"\\TypeLib", L"", library},
-      {published.Key + L"\\TypeLib", L"Version", L"2.0"},
+      {published.Key + L"\\TypeLib", L"Version", kVersion},
   };
 }
 
@@ -163,7 +133,43 @@ bool IsDenied(HRESULT result) {
 }
 
 void WriteAll(const ClassesKey& classes, const std::vector<Entry>& entries) {
-  for (const Entry& entry : entries) classes.Write(entry);
+  for (const Entry& entry : entries)
+    classes.Write(entry.Key, entry.Name.empty() ? nullptr : entry.Name.c_str(), entry.Text);
+}
+
+/// True when nothing is written there, or this text in letters of any case.
+bool IsFreeOr(const std::wstring& written, const std::wstring& text) {
+  return written.empty() || CompareStringOrdinal(written.c_str(), -1, text.c_str(), -1, TRUE) == CSTR_EQUAL;
+}
+
+void RemoveLibrary(const ClassesKey& classes) {
+  if (IsFreeOr(classes.Text(BitnessKey()), ModulePath())) classes.Remove(BitnessKey());
+  classes.RemoveEmpty(NeutralKey());
+  const std::vector<std::wstring> left = classes.KeysOf(VersionKey());
+  const auto isNote = [](const std::wstring& key) { return key == L"FLAGS" || key == L"HELPDIR"; };
+  if (std::all_of(left.begin(), left.end(), isNote)) classes.Remove(VersionKey());
+  classes.RemoveEmpty(LibraryKey());
+}
+
+void RemoveClass(const ClassesKey& classes, const CreatableClass& made) {
+  const std::wstring key = ClassKey(made);
+  if (IsFreeOr(classes.Text(key + L"\\InprocServer32"), ModulePath())) classes.Remove(key);
+  const auto isThere = [&](REGSAM view) { return classes.Has(key, view); };
+  if (std::any_of(std::begin(kViews), std::end(kViews), isThere)) return;
+  const std::wstring progId = made.ProgId;
+  for (const REGSAM view : kViews)
+    if (IsFreeOr(classes.Text(progId + L"\\CLSID", nullptr, view), TextOfGuid(made.Id))) classes.Remove(progId, view);
+}
+
+/// Programs of either bitness pass interfaces to each other, so these go together.
+void RemoveInterfaces(const ClassesKey& classes) {
+  for (const PublishedInterface& published : PublishedInterfaces()) {
+    const std::wstring library = published.Key + L"\\TypeLib";
+    for (const REGSAM view : kViews)
+      if (IsFreeOr(classes.Text(library, nullptr, view), TextOfGuid(LIBID_OrvexMapDialogs2)) &&
+          IsFreeOr(classes.Text(library, L"Version", view), kVersion))
+        classes.Remove(published.Key, view);
+  }
 }
 
 }  // namespace
@@ -189,13 +195,10 @@ void Register(RegisteredFor whom) {
 
 void Unregister(RegisteredFor whom) {
   const ClassesKey classes(whom);
-  classes.Remove(LibraryKey());
-  for (const CreatableClass& made : kClasses) {
-    classes.Remove(made.ProgId);
-    classes.Remove(ClassKey(made));
-  }
+  RemoveLibrary(classes);
+  for (const CreatableClass& made : kClasses) RemoveClass(classes, made);
   // Last, because it needs the type library, which may be damaged.
-  for (const PublishedInterface& published : PublishedInterfaces()) classes.Remove(published.Key);
+  if (!classes.Has(VersionKey())) RemoveInterfaces(classes);
   for (const wchar_t* const folder : {L"CLSID", L"Interface", L"TypeLib"}) classes.RemoveEmpty(folder);
 }
 

@@ -5,10 +5,9 @@
 
 #include <functional>
 
-namespace orx::com {
+#include "com/ClassesKey.h"
 
-/// Whom the component is registered for.
-enum class RegisteredFor { AllUsers, User };
+namespace orx::com {
 
 /// Writes everything that hosts need to create the classes of this module. Throws RunTimeError, naming the key that
 /// could not be written, and removes what was written before.
@@ -18,7 +17,9 @@ void Register(RegisteredFor whom);
 /// error code with a description.
 HRESULT ForAllOrUser(const std::function<void(RegisteredFor)>& action) noexcept;
 
-/// Removes everything that Register has written. Missing keys are not an error.
+/// Removes what Register has written for this module and no other one needs: what belongs to a module in another file
+/// or to another version stays, and what both bitnesses share goes with the last of them. Missing keys are not an
+/// error.
 void Unregister(RegisteredFor whom);
 
 }  // namespace orx::com

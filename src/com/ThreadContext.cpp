@@ -2,10 +2,13 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <map>
 #include <mutex>
+#include <utility>
 
 #include "com/PageControlFactory.h"
+#include "desktops/win32/Handles.h"
 #include "desktops/win32/Win32Desktop.h"
 #include "pages/PageFactory.h"
 
@@ -34,40 +37,49 @@ class DialogContext final : public ThreadContext {
 /// One entry for each thread with service objects or open dialogs.
 class Threads {
  public:
-  std::shared_ptr<ThreadContext> Find() {
-    const std::lock_guard lock(mMutex);
-    Entry& entry = mEntries[GetCurrentThreadId()];
-    if (std::shared_ptr<ThreadContext> known = entry.Lingering ? entry.Lingering : entry.Known.lock())
-      return Shared(std::move(known));
-    return Shared(std::make_shared<DialogContext>());
-  }
-
-  /// The last service object of a thread has released its context.
-  void Released(std::shared_ptr<ThreadContext> context) {
-    const std::lock_guard lock(mMutex);
-    Entry& entry = mEntries[GetCurrentThreadId()];
-    if (entry.Known.expired() && !context->Screen().OpenForms().empty()) entry.Lingering = std::move(context);
-    if (entry.Known.expired() && !entry.Lingering) mEntries.erase(GetCurrentThreadId());
-  }
+  /// The context of the calling thread, for a service object to hold.
+  std::shared_ptr<ThreadContext> Find();
 
   bool StillOpen() {
+    // Destroyed without the lock: it may be the last of many things.
+    const std::unique_ptr<ThreadContext> closed = TakeUnused(GetCurrentThreadId(), nullptr);
     const std::lock_guard lock(mMutex);
-    const auto own = mEntries.find(GetCurrentThreadId());
-    if (own != mEntries.end() && own->second.Lingering && own->second.Lingering->Screen().OpenForms().empty())
-      own->second.Lingering.reset();
-    for (const auto& [thread, entry] : mEntries)
-      if (entry.Lingering) return true;
-    return false;
+    ForgetEnded();
+    return std::any_of(mEntries.begin(), mEntries.end(), [](const auto& entry) { return entry.second.Held.expired(); });
   }
+
+  /// The last service object of that thread has let go of the context.
+  void Released(DWORD thread, const ThreadContext& context) { TakeUnused(thread, &context); }
 
  private:
   struct Entry {
-    std::weak_ptr<ThreadContext> Known;
-    std::shared_ptr<ThreadContext> Lingering;
+    win32::KernelHandle Thread;
+    std::unique_ptr<ThreadContext> Context;
+    /// What the service objects hold.
+    std::weak_ptr<ThreadContext> Held;
   };
 
-  /// What service objects hold. It reports when the last of them is gone.
-  std::shared_ptr<ThreadContext> Shared(std::shared_ptr<ThreadContext> context);
+  /// Takes the context of a thread out of the list when neither service objects nor open dialogs need it; any context,
+  /// or only that one when it is given.
+  std::unique_ptr<ThreadContext> TakeUnused(DWORD thread, const ThreadContext* only) {
+    const std::lock_guard lock(mMutex);
+    const auto found = mEntries.find(thread);
+    if (found == mEntries.end()) return nullptr;
+    Entry& entry = found->second;
+    if ((only && entry.Context.get() != only) || !entry.Held.expired() || !entry.Context->Screen().OpenForms().empty())
+      return nullptr;
+    std::unique_ptr<ThreadContext> unused = std::move(entry.Context);
+    mEntries.erase(found);
+    return unused;
+  }
+
+  /// Forgets threads that are no more, whose numbers the system gives to later ones. What they have left open is left
+  /// to itself: its windows are gone, and the objects of hosts that it holds belonged to the thread.
+  void ForgetEnded() {
+    for (auto& [thread, entry] : mEntries)
+      if (WaitForSingleObject(entry.Thread.get(), 0) == WAIT_OBJECT_0) static_cast<void>(entry.Context.release());
+    std::erase_if(mEntries, [](const auto& entry) { return !entry.second.Context; });
+  }
 
   std::mutex mMutex;
   std::map<DWORD, Entry> mEntries;
@@ -78,14 +90,20 @@ Threads& AllThreads() {
   return threads;
 }
 
-std::shared_ptr<ThreadContext> Threads::Shared(std::shared_ptr<ThreadContext> context) {
-  Entry& entry = mEntries[GetCurrentThreadId()];
-  entry.Lingering.reset();
-  if (std::shared_ptr<ThreadContext> held = entry.Known.lock()) return held;
-  ThreadContext* const pointer = context.get();
-  std::shared_ptr<ThreadContext> held(pointer,
-                                      [kept = std::move(context)](ThreadContext*) { AllThreads().Released(kept); });
-  entry.Known = held;
+std::shared_ptr<ThreadContext> Threads::Find() {
+  const std::lock_guard lock(mMutex);
+  ForgetEnded();
+  const DWORD thread = GetCurrentThreadId();
+  auto found = mEntries.find(thread);
+  if (found == mEntries.end()) {
+    win32::KernelHandle handle(OpenThread(SYNCHRONIZE, FALSE, thread));
+    found = mEntries.emplace(thread, Entry{std::move(handle), std::make_unique<DialogContext>(), {}}).first;
+  }
+  Entry& entry = found->second;
+  if (std::shared_ptr<ThreadContext> held = entry.Held.lock()) return held;
+  const std::shared_ptr<ThreadContext> held(
+      entry.Context.get(), [thread](const ThreadContext* context) { AllThreads().Released(thread, *context); });
+  entry.Held = held;
   return held;
 }
 

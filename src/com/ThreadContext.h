@@ -17,10 +17,11 @@ class ThreadContext {
   virtual Desktop& Screen() = 0;
   virtual IPageFactory& Pages() = 0;
 
-  /// The context of the calling thread, created when there is none.
+  /// The context of the calling thread, created when there is none. A thread that has ended leaves nothing to a later
+  /// one with its number.
   static std::shared_ptr<ThreadContext> OfThread();
   /// Releases the calling thread's context if it only waited for dialogs that have been closed since. True while any
-  /// thread has a context with open dialogs.
+  /// thread that has not ended has a context with open dialogs.
   static bool StillOpen();
 
   /// For tests: `maker` gives the desktops from now on, shared with whom it likes; an empty function restores the

@@ -1,15 +1,32 @@
 #include "com/TypeLibrary.h"
 
+#include <mutex>
+#include <utility>
+#include <vector>
+
 #include "com/Errors.h"
 #include "desktops/win32/Handles.h"
 
 namespace orx::com {
 namespace {
 
-std::wstring& ReplacedPath() {
-  static std::wstring path;
-  return path;
-}
+/// The descriptions that have been read. To read one takes a thousand times as long as a call by it.
+class KnownTypes {
+ public:
+  ComPtr<ITypeInfo> Find(const GUID& guid) {
+    const std::lock_guard lock(mMutex);
+    for (const auto& [known, info] : mTypes)
+      if (IsEqualGUID(known, guid)) return info;
+    ComPtr<ITypeInfo> info;
+    Check(LoadTypeLibrary()->GetTypeInfoOfGuid(guid, info.Out()), "The type library lacks an interface");
+    mTypes.emplace_back(guid, info);
+    return info;
+  }
+
+ private:
+  std::mutex mMutex;
+  std::vector<std::pair<GUID, ComPtr<ITypeInfo>>> mTypes;
+};
 
 }  // namespace
 
@@ -25,12 +42,8 @@ std::wstring ModulePath() {
   }
 }
 
-void TypeLibraryPath(const std::wstring& path) {
-  ReplacedPath() = path;
-}
-
 ComPtr<ITypeLib> LoadTypeLibrary(const std::wstring& path) {
-  const std::wstring file = !path.empty() ? path : !ReplacedPath().empty() ? ReplacedPath() : ModulePath();
+  const std::wstring file = path.empty() ? ModulePath() : path;
   ComPtr<ITypeLib> library;
   Check(LoadTypeLibEx(file.c_str(), REGKIND_NONE, library.Out()),
         "The type library in \"" + Narrowed(file) + "\" cannot be loaded");
@@ -38,9 +51,8 @@ ComPtr<ITypeLib> LoadTypeLibrary(const std::wstring& path) {
 }
 
 ComPtr<ITypeInfo> TypeInfoOf(const GUID& guid) {
-  ComPtr<ITypeInfo> info;
-  Check(LoadTypeLibrary()->GetTypeInfoOfGuid(guid, info.Out()), "The type library lacks an interface");
-  return info;
+  static KnownTypes types;
+  return types.Find(guid);
 }
 
 }  // namespace orx::com

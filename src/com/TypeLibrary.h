@@ -11,13 +11,11 @@ namespace orx::com {
 /// path and the reason.
 ComPtr<ITypeLib> LoadTypeLibrary(const std::wstring& path = {});
 
-/// The description of an interface or class of the type library. Throws as LoadTypeLibrary.
+/// The description of an interface or class of the type library, which is read once and kept. Throws as
+/// LoadTypeLibrary.
 ComPtr<ITypeInfo> TypeInfoOf(const GUID& guid);
 
 /// The path of the module that this code is in.
 std::wstring ModulePath();
-
-/// For tests: a file that replaces the module's type library; an empty path restores the module's own.
-void TypeLibraryPath(const std::wstring& path);
 
 }  // namespace orx::com

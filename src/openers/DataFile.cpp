@@ -5,13 +5,14 @@
 
 #include "dialogframe/FileChoice.h"
 #include "forms/ErrorText.h"
+#include "forms/ProcessWide.h"
 #include "hostobjects/ErrorTrap.h"
 #include "hostobjects/InputFile.h"
 
 namespace orx::modMain {
 namespace {
 
-IFileCheck* theFileCheck = nullptr;
+ProcessWide<IFileCheck*> theFileCheck;
 
 class ReadableFile final : public IFileCheck {
  public:
@@ -28,11 +29,11 @@ std::optional<std::string> RefusalOf(const std::string& path, IFileCheck& check)
 }  // namespace
 
 IFileCheck* FileCheck() {
-  return theFileCheck;
+  return theFileCheck.Get();
 }
 
 void FileCheck(IFileCheck* check) {
-  theFileCheck = check;
+  theFileCheck.Set(check);
 }
 
 void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* language,
@@ -42,11 +43,12 @@ void BrowseDataFile(Desktop& desktop, std::uintptr_t ownerHandle, ILanguage* lan
   std::vector<std::string> files;
   if (!modDialog::ChooseFiles({desktop, ownerHandle, modDialog::FileKind::Data, language}, false, files)) return;
   ReadableFile readable;
+  IFileCheck* const forAll = FileCheck();
   IFileCheck* const own = request.Check ? request.Check : &readable;
   ErrorTrap trap;
   trap.Step([&] {
     request.FileName = files.front();
-    request.Refusal = RefusalOf(request.FileName, theFileCheck ? *theFileCheck : *own);
+    request.Refusal = RefusalOf(request.FileName, forAll ? *forAll : *own);
     request.Cancel = request.Refusal.has_value();
   });
 }

@@ -30,7 +30,10 @@ class PropertyDialog;
 /// - `mCaption`: the title of the dialog; a blank one keeps the dialog's own.
 /// - `mModal`: a modal call returns when the dialog has closed; a modeless one returns at once, and the dialog lives
 ///   until it is closed. While a modal dialog of the library is open nothing is shown modeless, and the result is 0.
-/// - `OwnerForm`: the window that the dialog belongs to; none by default.
+/// - `OwnerForm`: the window that the dialog belongs to. None by default: a modeless dialog then belongs to no window,
+/// so
+///   that it outlives those of the host; on Windows a modal one belongs to the host's foremost window, behind which it
+///   would be lost otherwise.
 /// - result: -1 if the object was changed; 0 if it was not, or if the user cancelled or closed the window. The layer
 ///   manager moves and removes layers at once, so that after that it is -1 also for a closed window.
 /// On the right thread they never throw: failing steps are skipped, and a result is always returned. What a page, the

@@ -45,7 +45,8 @@ class CCommonProgressDialog {
   std::string Message() const;
   void Message(const std::string& value);
 
-  /// Shows the window and returns at once. While a modal form of this library is open, the window is modal as well, and
+  /// Shows the window and returns at once. Without `OwnerForm` it belongs to no window and outlives those of the host.
+  /// While a modal form of this library is open, the window is modal as well, and
   /// this returns when it has closed: by Hide, or by its close box once Cancel was pressed. Does nothing if the window
   /// is already shown. Lets pending events be handled. Never throws what goes wrong in showing.
   void Show(OwnerWindow OwnerForm = {});

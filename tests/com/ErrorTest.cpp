@@ -29,5 +29,26 @@ TEST(Errors, NumbersOfFailedCallsStayTheirCodes) {
   EXPECT_EQ(Guarded("Errors", [] { throw RunTimeError(0x10000, "No number of theirs."); }), E_FAIL);
 }
 
+TEST(Errors, WhatALateBoundMemberRaisesIsAnErrorWhateverItsNumber) {
+  const struct {
+    SCODE Code;
+    WORD Number;
+    unsigned Expected;
+  } raised[] = {
+      {STG_E_ACCESSDENIED, 0, 0x80030005},
+      {0, 13, 0x800A000D},
+      {13, 0, 0x800A000D},
+      {1, 13, 0x800A000D},
+      {0x10000, 0, 0x80020009},
+      {0, 0, 0x80020009},
+  };
+  for (const auto& one : raised) {
+    ExceptionInfo error;
+    error.scode = one.Code;
+    error.wCode = one.Number;
+    EXPECT_EQ(error.Code(), static_cast<HRESULT>(one.Expected)) << one.Code << " " << one.Number;
+  }
+}
+
 }  // namespace
 }  // namespace orx::com::test

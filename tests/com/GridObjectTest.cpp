@@ -88,6 +88,7 @@ TEST(GridAdapter, EveryShadeSettingIsWrittenToItsMember) {
   shade.ShadeVersion(10);
   EXPECT_EQ(object->Written.size(), 15u);
   EXPECT_EQ(object->Field("ShadeCount").lVal, 77);
+  EXPECT_EQ(object->Field("CombineColors").vt, VT_I2);
   EXPECT_EQ(shade.CombineColors(), 2);
   EXPECT_EQ(shade.Azimuth(), 315);
   EXPECT_TRUE(shade.MidIndexAutomatic());

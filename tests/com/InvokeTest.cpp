@@ -110,6 +110,19 @@ TEST_F(Invoke, ArgumentsLeftOutAtTheEndTakeTheirDefaults) {
   EXPECT_EQ(Last(), "ShowGeoReference(object, 2, \"\", \"\", missing)");
 }
 
+TEST_F(Invoke, AVariableThatHandsOnAnArgumentLeftOutKeepsTellingSo) {
+  Variant omitted;
+  omitted.vt = VT_ERROR;
+  omitted.scode = DISP_E_PARAMNOTFOUND;
+  ASSERT_EQ(Call("ShowLegends").Value(Variant(object.Get())).Variable(omitted).Call(), S_OK);
+  EXPECT_EQ(Last(), "ShowLegends(object, 0, \"\", 1, missing)");
+  EXPECT_EQ(omitted.vt, VT_ERROR);
+  EXPECT_EQ(omitted.scode, DISP_E_PARAMNOTFOUND);
+  SCODE typed = DISP_E_PARAMNOTFOUND;
+  ASSERT_EQ(Call("ShowLegends").Value(Variant(object.Get())).Lent(ReferenceTo(VT_ERROR, typed)).Call(), S_OK);
+  EXPECT_EQ(typed, DISP_E_PARAMNOTFOUND);
+}
+
 TEST_F(Invoke, ArgumentsLeftOutInBetweenTakeTheirDefaults) {
   ScriptCall call = Call("ShowLegends");
   call.Value(Variant(object.Get())).Missing().Value(Variant("A")).Missing().Value(Variant(std::int32_t{7}));

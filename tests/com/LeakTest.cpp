@@ -3,7 +3,7 @@
 
 #include "com/Conversion.h"
 #include "com/HostArrays.h"
-#include "com/LateBound.h"
+#include "com/Members.h"
 #include "com/SafeArray.h"
 #include "com/SourceInterface.h"
 #include "com/TypeDescriptions.h"
@@ -71,7 +71,7 @@ TEST(Leaks, ConvertedArraysLeaveNothingBehind) {
 
 TEST(Leaks, AnErrorThatAMemberRaisesLeavesNothingBehind) {
   const auto object = MakeCounted<ScriptObject>(std::map<std::string, Variant>{{"Name", Variant("Relief")}});
-  const LateBound member(object.Get());
+  const Members member(object.Get());
   EXPECT_EQ(member.GetText("Name"), "Relief");
   object->Broken = "Name";
   AllocationSpy spy;

@@ -1,5 +1,8 @@
 // The members of CCommonMapDialogs, called through the slots as compiled hosts do.
 #include "tests/com/support/MapDialogsTest.h"
+
+#include <thread>
+
 #include "forms/TreeList.h"
 #include "service/modMain.h"
 
@@ -256,6 +259,39 @@ TEST_F(MapDialogsTest, AServiceMadeLaterFindsTheDialogsThatAreStillOpen) {
   desktop->CloseOpenForms();
   EXPECT_EQ(ShowProperties(nullptr), S_OK);
   EXPECT_EQ(shown.size(), 1u);
+}
+
+/// Shows a modeless dialog in a thread that ends without closing it, and returns its number.
+DWORD LeaveDialogOpen() {
+  DWORD number = 0;
+  std::thread([&] {
+    number = GetCurrentThreadId();
+    IDispatch* object = nullptr;
+    const auto service = MakeCounted<MapDialogs>();
+    auto mode = ::ShowModeless;
+    long answer = 0;
+    EXPECT_EQ(service->ShowProperties(&object, nullptr, &mode, nullptr, &answer), S_OK);
+    EXPECT_EQ(ThreadContext::OfThread()->Screen().OpenForms().size(), 1u);
+  }).join();
+  return number;
+}
+
+TEST_F(MapDialogsTest, WhatAThreadLeavesOpenWhenItEndsDoesNotKeepTheModule) {
+  LeaveDialogOpen();
+  EXPECT_FALSE(ThreadContext::StillOpen());
+}
+
+TEST_F(MapDialogsTest, AThreadInheritsNothingFromAnEarlierOneWithItsNumber) {
+  const DWORD number = LeaveDialogOpen();
+  // From here on the system may give the number again, which takes some hundred threads.
+  ThreadContext::StillOpen();
+  bool isSame = false;
+  for (int thread = 0; thread < 5000 && !isSame; ++thread)
+    std::thread([&] {
+      isSame = GetCurrentThreadId() == number;
+      EXPECT_TRUE(!isSame || ThreadContext::OfThread()->Screen().OpenForms().empty());
+    }).join();
+  EXPECT_TRUE(isSame);
 }
 
 TEST_F(MapDialogsTest, AServiceThatIsLetGoFromItsOwnDialogLivesToTheEndOfTheCall) {

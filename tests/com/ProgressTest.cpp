@@ -148,19 +148,54 @@ TEST_F(Progress, IsModalAboveAModalDialog) {
   EXPECT_EQ(ShownNames(), (std::vector<std::string>{"frmProperties", "frmProgress"}));
 }
 
-TEST_F(Progress, MayBeLetGoOfWhileItIsModal) {
+TEST_F(Progress, ClosesWhenItIsLetGoOfWhileItIsModal) {
+  const std::function<HRESULT()> shows[] = {[this] { return progress->Show(nullptr); },
+                                            [this] { return ScriptCall(progress.Get(), "Show").Call(); }};
+  for (const auto& show : shows) {
+    bool wasOpen = false;
+    answer = [&](Form& form) {
+      if (dynamic_cast<frmProgress*>(&form)) {
+        wasOpen = form.Visible();
+        progress.Reset();
+        EXPECT_FALSE(form.Visible());
+        return;
+      }
+      EXPECT_EQ(show(), S_OK);
+      form.UserClose();
+    };
+    EXPECT_EQ(ShowProperties(nullptr), S_OK);
+    EXPECT_TRUE(wasOpen);
+    progress = ComPtr<::_CCommonProgressDialog>(MakeCounted<ProgressDialog>().Get());
+  }
+}
+
+/// An owner that lets go of somebody when it is asked for its window.
+class ParentThatLetsGo final : public Counted<IDispatch> {
+ public:
+  explicit ParentThatLetsGo(std::function<void()> act) : mAct(std::move(act)) {}
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID* id) noexcept override {
+    *id = 1;
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                                   UINT*) noexcept override {
+    mAct();
+    *result = Variant(std::int32_t{0}).Detach();
+    return S_OK;
+  }
+
+ private:
+  std::function<void()> mAct;
+};
+
+TEST_F(Progress, IsNotShownWhenItIsLetGoOfBeforehand) {
   ::_CCommonProgressDialog* const plain = progress.Get();
-  answer = [&](Form& form) {
-    if (dynamic_cast<frmProgress*>(&form)) {
-      progress.Reset();
-      form.Hide();
-      return;
-    }
-    EXPECT_EQ(plain->Show(nullptr), S_OK);
-    form.UserClose();
-  };
-  EXPECT_EQ(ShowProperties(nullptr), S_OK);
-  EXPECT_EQ(shown.size(), 2u);
+  Variant owner(MakeCounted<ParentThatLetsGo>([this] { progress.Reset(); }).Get());
+  EXPECT_EQ(plain->Show(&owner), S_OK);
+  EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(Progress, AnOwnerOfTheWrongKindShowsNothingAndSaysSo) {

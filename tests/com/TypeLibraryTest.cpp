@@ -79,8 +79,13 @@ constexpr Promise kMapDialogs[] = {
      "As Boolean"},
 };
 
+constexpr Promise kNewerMapDialogs[] = {
+    {19, "Property Get FileCheck() As Object"},
+    {19, "Property Set FileCheck(ByVal Value As Object)"},
+};
+
 template <std::size_t Count>
-void ExpectMembers(const std::string& name, const Promise (&promises)[Count]) {
+void ExpectMembers(const std::string& name, const Promise (&promises)[Count], int firstSlot = 0) {
   const ComPtr<ITypeLib> library = LoadTypeLibrary();
   const ComPtr<ITypeInfo> info = FindType(*library.Get(), name);
   ASSERT_TRUE(info);
@@ -89,7 +94,7 @@ void ExpectMembers(const std::string& name, const Promise (&promises)[Count]) {
   for (std::size_t i = 0; i < Count; ++i) {
     EXPECT_EQ(members[i].Declaration, promises[i].Declaration);
     EXPECT_EQ(members[i].Id, promises[i].Id) << promises[i].Declaration;
-    EXPECT_EQ(members[i].Slot, static_cast<int>(i)) << promises[i].Declaration;
+    EXPECT_EQ(members[i].Slot, firstSlot + static_cast<int>(i)) << promises[i].Declaration;
     EXPECT_FALSE(members[i].Help.empty()) << promises[i].Declaration;
   }
 }
@@ -167,6 +172,10 @@ TEST(TypeLibrary, TheProgressDialogHasItsMembersInTheirSlots) {
 
 TEST(TypeLibrary, TheMapDialogsHaveTheirMembersInTheirSlots) {
   ExpectMembers("_CCommonMapDialogs", kMapDialogs);
+}
+
+TEST(TypeLibrary, WhatWasAddedToTheMapDialogsFollowsTheSlotsOfTheFirstVersion) {
+  ExpectMembers("ICommonMapDialogs2", kNewerMapDialogs, static_cast<int>(std::size(kMapDialogs)));
 }
 
 TEST(TypeLibrary, AFileThatIsNoTypeLibraryIsNamedInTheError) {

@@ -36,6 +36,19 @@ class Win32Progress : public Win32FormsTest {
   CCommonProgressDialog progress{desktop()};
 };
 
+TEST_F(Win32Progress, OutlivesAWindowOfTheHostThatWasActiveWhenItCame) {
+  progress.Hide();
+  {
+    HostWindow splash;
+    SetActiveWindow(splash.Get());
+    progress.Show();
+  }
+  desktop().ProcessPendingEvents();
+  ASSERT_EQ(desktop().OpenForms().size(), 1u);
+  EXPECT_TRUE(IsWindowVisible(WindowOf(Window())));
+  EXPECT_FALSE(progress.CancelAction());
+}
+
 TEST_F(Win32Progress, IsPaintedWithoutMessages) {
   const Paints paints(WindowOf(Window().prgBar));
   progress.Value(50);

@@ -3,8 +3,6 @@
 
 #include <olectl.h>
 
-#include <string_view>
-
 #include "com/ClassFactory.h"
 #include "com/Errors.h"
 #include "com/ModuleUse.h"
@@ -32,9 +30,9 @@ STDAPI DllUnregisterServer() {
 }
 
 STDAPI DllInstall(BOOL install, LPCWSTR whom) {
-  const std::wstring_view words = whom ? whom : L"";
-  if (!words.empty() && words != L"user") return E_INVALIDARG;
-  if (words.empty()) return install ? DllRegisterServer() : DllUnregisterServer();
+  const bool isForAll = !whom || !*whom;
+  if (!isForAll && CompareStringOrdinal(whom, -1, L"user", -1, TRUE) != CSTR_EQUAL) return E_INVALIDARG;
+  if (isForAll) return install ? DllRegisterServer() : DllUnregisterServer();
   return Guarded(
       kSource, [&] { install ? orx::com::Register(RegisteredFor::User) : orx::com::Unregister(RegisteredFor::User); });
 }

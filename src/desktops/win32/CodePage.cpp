@@ -39,14 +39,16 @@ bool FitsCodePage(const std::wstring& text) {
   return FromCodePage(ToCodePage(text)) == text;
 }
 
-std::optional<std::wstring> TrueName(const std::wstring& folder, const std::string& name) {
-  std::optional<std::wstring> found;
+FolderNames::FolderNames(const std::wstring& folder) {
   for (const std::wstring& entry : NamesIn(folder)) {
-    if (ToCodePage(entry) != name) continue;
-    if (found) return std::nullopt;
-    found = entry;
+    const auto [place, isNew] = mEntries.emplace(ToCodePage(entry), entry);
+    if (!isNew) place->second.reset();
   }
-  if (found) return found;
+}
+
+std::optional<std::wstring> FolderNames::TrueName(const std::string& name) const {
+  const auto found = mEntries.find(name);
+  if (found != mEntries.end()) return found->second;
   // No file name contains this character: it stands for one that was lost.
   return name.find('?') == std::string::npos ? std::optional(FromCodePage(name)) : std::nullopt;
 }

@@ -1,6 +1,7 @@
 // Texts for the platform's 8-bit interfaces, and the true names of the files that such texts stand for.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -14,8 +15,18 @@ std::wstring FromCodePage(const std::string& text);
 /// True when the code page has all characters of the text.
 bool FitsCodePage(const std::wstring& text);
 
-/// The entry of a folder that the 8-bit name stands for: the one whose name becomes it. A name that no entry has stands
-/// for itself, provided that no character of it was lost. None when it is ambiguous.
-std::optional<std::wstring> TrueName(const std::wstring& folder, const std::string& name);
+/// The entries of a folder, which is read once, by their 8-bit names.
+class FolderNames {
+ public:
+  explicit FolderNames(const std::wstring& folder);
+
+  /// The entry that the 8-bit name stands for: the one whose name becomes it. A name that no entry has stands for
+  /// itself, provided that no character of it was lost. None when it is ambiguous.
+  std::optional<std::wstring> TrueName(const std::string& name) const;
+
+ private:
+  /// None for the names that several entries become.
+  std::map<std::string, std::optional<std::wstring>> mEntries;
+};
 
 }  // namespace orx::win32

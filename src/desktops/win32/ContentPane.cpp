@@ -30,6 +30,8 @@ LRESULT CALLBACK ContentPane::PaneProc(HWND window, UINT message, WPARAM wParam,
                                        DWORD_PTR pane) {
   const GuestScope guest;
   auto& self = *reinterpret_cast<ContentPane*>(pane);
+  // Once the window is gone, the platform no longer finds what it has kept for the subclass.
+  if (message == WM_NCDESTROY) self.mSubclass.reset();
   if (self.mIsComplete) {
     if (message == WM_VSCROLL) self.ScrollBy(SB_VERT, LOWORD(wParam));
     if (message == WM_HSCROLL) self.ScrollBy(SB_HORZ, LOWORD(wParam));

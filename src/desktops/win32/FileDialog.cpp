@@ -107,7 +107,7 @@ std::wstring TrueFolder(const std::string& folder) {
   while (end != std::string::npos) {
     const std::size_t start = end + 1;
     end = folder.find('\\', start);
-    const std::optional<std::wstring> name = TrueName(path, folder.substr(start, end - start));
+    const std::optional<std::wstring> name = FolderNames(path).TrueName(folder.substr(start, end - start));
     if (!name) RefuseName(folder);
     path += L'\\' + *name;
   }
@@ -139,9 +139,10 @@ void TakeAnswer(const NarrowRequest& narrow, OpenFileRequest& request) {
     if (parts.front().ends_with(':')) parts.front() += '\\';
   }
   const std::wstring folder = TrueFolder(parts.front());
+  const FolderNames entries(folder);
   std::vector<std::string> names;
   for (std::size_t i = 1; i < parts.size(); ++i) {
-    const std::optional<std::wstring> name = TrueName(folder, parts[i]);
+    const std::optional<std::wstring> name = entries.TrueName(parts[i]);
     if (!name) RefuseName(parts[i]);
     names.push_back(Narrowed(*name));
   }

@@ -69,6 +69,13 @@ class WindowContext {
   HDC mContext;
 };
 
+/// Closes handles of threads and of other objects of the system's kernel.
+struct KernelDeleter {
+  void operator()(HANDLE object) const { CloseHandle(object); }
+};
+
+using KernelHandle = std::unique_ptr<void, KernelDeleter>;
+
 /// A key of the registry, open as long as this lives.
 class RegistryKey {
  public:

@@ -27,6 +27,8 @@ void Register(const wchar_t* name, WNDPROC proc, UINT style = 0) {
   made.hInstance = ThisModule();
   made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   made.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  // A module that stood here before may have left its own, when a thread had ended in the middle of a dialog.
+  UnregisterClassW(name, ThisModule());
   RegisterClassExW(&made);
 }
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <optional>
 
 #include "com/Errors.h"
 #include "com/Registration.h"
@@ -92,6 +93,13 @@ TEST_F(Registration, CanBeForTheUserAlone) {
   ExpectClass(Written(HKEY_CURRENT_USER), kClass, L"OrvexMapDialogs2.CCommonMapDialogs");
   ASSERT_EQ(server.Install(false, L"user"), S_OK);
   EXPECT_EQ(ClassKeys(HKEY_CURRENT_USER), user);
+}
+
+TEST_F(Registration, TakesTheWordForTheUserInLettersOfAnyCase) {
+  for (const wchar_t* const word : {L"User", L"USER", L"user"}) {
+    EXPECT_EQ(server.Install(true, word), S_OK);
+    EXPECT_EQ(server.Install(false, word), S_OK);
+  }
 }
 
 TEST_F(Registration, RefusesToInstallForAnythingElse) {
@@ -198,6 +206,125 @@ TEST_F(Registration, OfADllWhoseTypeLibraryIsBrokenFailsAndWritesNothing) {
   const Server copied(copy.Path());
   EXPECT_TRUE(FAILED(copied.RegisterServer()));
   EXPECT_EQ(ClassKeys(HKEY_LOCAL_MACHINE), allUsers);
+}
+
+/// The registry's keys of classes as all users have them; the other bitness may see others.
+class AllClasses {
+ public:
+  explicit AllClasses(REGSAM view = 0) : mView(view) {}
+
+  void Write(const std::wstring& key, const wchar_t* name, const std::wstring& text) const {
+    win32::RegistryKey made;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, PathOfKey(key).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | mView,
+                              nullptr, made.Out(), nullptr),
+              ERROR_SUCCESS);
+    const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    ASSERT_EQ(RegSetKeyValueW(made.Get(), nullptr, name, REG_SZ, text.c_str(), bytes), ERROR_SUCCESS);
+  }
+  /// "missing" when there is no such text.
+  std::wstring Text(const std::wstring& key, const wchar_t* name = nullptr) const {
+    win32::RegistryKey opened;
+    wchar_t text[1000] = L"missing";
+    DWORD bytes = sizeof(text);
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, PathOfKey(key).c_str(), 0, KEY_READ | mView, opened.Out()) == ERROR_SUCCESS)
+      RegGetValueW(opened.Get(), nullptr, name, RRF_RT_REG_SZ, nullptr, text, &bytes);
+    return text;
+  }
+  void Remove(const std::wstring& folder, const std::wstring& key) const {
+    win32::RegistryKey opened;
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, PathOfKey(folder).c_str(), 0, KEY_ALL_ACCESS | mView, opened.Out()) ==
+        ERROR_SUCCESS)
+      RegDeleteTreeW(opened.Get(), key.c_str());
+  }
+
+ private:
+  static std::wstring PathOfKey(const std::wstring& key) { return L"Software\\Classes\\" + key; }
+
+  REGSAM mView;
+};
+
+constexpr bool kIs64Bit = sizeof(void*) == 8;
+constexpr wchar_t kLibrary[] = L"TypeLib\\{47EAA099-2CB6-416D-86DC-283CF0480FF9}";
+constexpr wchar_t kLayer[] = L"Interface\\{C0290103-855D-4F55-99EC-8712E8E3574F}";
+constexpr wchar_t kProgId[] = L"OrvexMapDialogs2.CCommonMapDialogs";
+constexpr wchar_t kOtherPath[] = L"C:\\other\\orxMDlg.dll";
+
+/// The component of the other bitness, as far as it shares keys with this one.
+class OtherBitness {
+ public:
+  OtherBitness() {
+    mView.Write(Class(), nullptr, kOtherPath);
+    mView.Write(kProgId + std::wstring(L"\\CLSID"), nullptr, std::wstring(kClass).substr(6));
+    mView.Write(Library(), nullptr, kOtherPath);
+  }
+  ~OtherBitness() { Remove(); }
+  void Remove() const {
+    mView.Remove(L"CLSID", std::wstring(kClass).substr(6));
+    mView.Remove(kLibrary, kIs64Bit ? L"2.0\\0\\win32" : L"2.0\\0\\win64");
+  }
+  void ExpectWhole() const {
+    EXPECT_EQ(mView.Text(Class()), kOtherPath);
+    EXPECT_EQ(mView.Text(kProgId + std::wstring(L"\\CLSID")), std::wstring(kClass).substr(6));
+    EXPECT_EQ(mView.Text(Library()), kOtherPath);
+  }
+
+ private:
+  static std::wstring Class() { return kClass + std::wstring(L"\\InprocServer32"); }
+  static std::wstring Library() { return kLibrary + std::wstring(kIs64Bit ? L"\\2.0\\0\\win32" : L"\\2.0\\0\\win64"); }
+
+  const AllClasses mView{kIs64Bit ? KEY_WOW64_32KEY : KEY_WOW64_64KEY};
+};
+
+TEST_F(Registration, TakenBackLeavesTheOtherBitnessWhateverTheOrder) {
+  const std::wstring own = kLibrary + std::wstring(kIs64Bit ? L"\\2.0\\0\\win64" : L"\\2.0\\0\\win32");
+  const AllClasses classes;
+  BOOL isBeside64Bit = FALSE;
+  IsWow64Process(GetCurrentProcess(), &isBeside64Bit);
+  for (const bool isFirst : {true, false}) {
+    // On a system with one bitness the keys of classes are shared too, and the last one has them.
+    if (isFirst && !kIs64Bit && !isBeside64Bit) continue;
+    std::optional<OtherBitness> other;
+    if (isFirst) other.emplace();
+    ASSERT_EQ(server.RegisterServer(), S_OK);
+    if (!isFirst) other.emplace();
+    ASSERT_EQ(server.UnregisterServer(), S_OK);
+    other->ExpectWhole();
+    EXPECT_EQ(classes.Text(own), L"missing");
+    EXPECT_EQ(classes.Text(kLayer), L"ILayer") << "Programs of both kinds pass it to each other.";
+    other->Remove();
+    // The last of them takes the rest.
+    ASSERT_EQ(server.UnregisterServer(), S_OK);
+    EXPECT_EQ(ClassKeys(HKEY_LOCAL_MACHINE), allUsers);
+  }
+}
+
+TEST_F(Registration, TakenBackLeavesAnotherFileThatHasBeenRegisteredSince) {
+  const Copy copy;
+  const Server copied(copy.Path());
+  ASSERT_EQ(server.RegisterServer(), S_OK);
+  ASSERT_EQ(copied.RegisterServer(), S_OK);
+  const RegistryImage whole = Written(HKEY_LOCAL_MACHINE);
+  ASSERT_EQ(server.UnregisterServer(), S_OK);
+  EXPECT_EQ(Written(HKEY_LOCAL_MACHINE), whole);
+  ASSERT_EQ(copied.UnregisterServer(), S_OK);
+  EXPECT_EQ(ClassKeys(HKEY_LOCAL_MACHINE), allUsers);
+}
+
+TEST_F(Registration, TakenBackLeavesOtherVersions) {
+  const AllClasses classes;
+  const std::wstring later = kLibrary + std::wstring(L"\\3.0\\0\\win64");
+  ASSERT_EQ(server.RegisterServer(), S_OK);
+  classes.Write(later, nullptr, kOtherPath);
+  classes.Write(kLayer + std::wstring(L"\\TypeLib"), L"Version", L"3.0");
+  classes.Write(kProgId + std::wstring(L"\\CLSID"), nullptr, L"{00000000-0000-0000-0000-000000000003}");
+  ASSERT_EQ(server.UnregisterServer(), S_OK);
+  EXPECT_EQ(classes.Text(later), kOtherPath);
+  EXPECT_EQ(classes.Text(kLayer), L"ILayer");
+  EXPECT_EQ(classes.Text(kProgId), L"Dialogs for maps, layers and data");
+  EXPECT_EQ(classes.Text(kLibrary + std::wstring(L"\\2.0")), L"missing");
+  classes.Remove(L"TypeLib", std::wstring(kLibrary).substr(8));
+  classes.Remove(L"Interface", std::wstring(kLayer).substr(10));
+  classes.Remove(L"", kProgId);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // Class factories of the DLL, and how long it stays loaded.
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "com/TypeDescriptions.h"
 #include "tests/com/support/Server.h"
 
@@ -124,6 +126,25 @@ TEST(Unloading, LeavesNothingOfTheDllInTheProcess) {
   // A second life in the same process is as good as the first.
   const Server again;
   EXPECT_TRUE(again.Create<::_CCommonMapDialogs>(__uuidof(::CCommonMapDialogs)));
+}
+
+TEST(Unloading, IsPossibleAfterAThreadHasEndedWithADialogOpen) {
+  const Apartment apartment;
+  for (int round = 0; round < 3; ++round) {
+    {
+      const Server server;
+      std::thread([&] {
+        const Apartment own;
+        const auto dialogs = server.Create<::_CCommonMapDialogs>(__uuidof(::CCommonMapDialogs));
+        IDispatch* none = nullptr;
+        auto mode = ::ShowModeless;
+        long result = 77;
+        EXPECT_EQ(dialogs->ShowProperties(&none, nullptr, &mode, nullptr, &result), S_OK);
+      }).join();
+      EXPECT_EQ(server.CanUnloadNow(), S_OK);
+    }
+    EXPECT_FALSE(IsServerLoaded());
+  }
 }
 
 }  // namespace

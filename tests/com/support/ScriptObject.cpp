@@ -7,6 +7,7 @@ namespace {
 
 HRESULT Raise(EXCEPINFO& error, std::int32_t number, const std::string& description) {
   error.bstrDescription = Bstr(description).Detach();
+  error.bstrSource = Bstr("ScriptObject").Detach();
   error.scode = CodeOf(number);
   return DISP_E_EXCEPTION;
 }
