@@ -1,6 +1,7 @@
 #include "forms/Glyph.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace orx {
 namespace {
@@ -8,7 +9,7 @@ namespace {
 /// The number of sample points along each side of a pixel.
 constexpr int kSamples = 4;
 
-bool Holds(const std::vector<GlyphPoint>& outline, GlyphPoint at) {
+bool Holds(const GlyphOutline& outline, GlyphPoint at) {
   bool inside = false;
   for (std::size_t i = 0, before = outline.size() - 1; i < outline.size(); before = i++) {
     const GlyphPoint& a = outline[i];
@@ -18,56 +19,30 @@ bool Holds(const std::vector<GlyphPoint>& outline, GlyphPoint at) {
   return inside;
 }
 
-/// The part of a pixel that the shape covers, from 0 to 1.
-double CoverOf(const GlyphShape& shape, int x, int y, double unit) {
+bool IsInk(const Glyph& glyph, GlyphPoint at) {
+  bool ink = false;
+  for (const GlyphOutline& outline : glyph.Outlines) ink ^= Holds(outline, at);
+  return ink;
+}
+
+/// How much of a pixel is ink, from 0 to 255.
+std::uint8_t CoverOf(const Glyph& glyph, int x, int y, double unit) {
   int hits = 0;
   for (int i = 0; i < kSamples; ++i)
     for (int j = 0; j < kSamples; ++j)
-      hits += Holds(shape.Outline, {(x + (i + 0.5) / kSamples) * unit, (y + (j + 0.5) / kSamples) * unit});
-  return static_cast<double>(hits) / (kSamples * kSamples);
-}
-
-/// A colour with alpha; parts are from 0 to 1 and not premultiplied.
-struct Tint {
-  double Red = 0;
-  double Green = 0;
-  double Blue = 0;
-  double Alpha = 0;
-
-  void Lay(Color color, double cover) {
-    if (cover <= 0) return;
-    const double alpha = cover + Alpha * (1 - cover);
-    const auto mix = [&](double& below, std::uint8_t above) {
-      below = (above / 255.0 * cover + below * Alpha * (1 - cover)) / alpha;
-    };
-    mix(Red, color.Red);
-    mix(Green, color.Green);
-    mix(Blue, color.Blue);
-    Alpha = alpha;
-  }
-  void Fade() {
-    Red = Green = Blue = 0.3 * Red + 0.59 * Green + 0.11 * Blue;
-    Alpha *= 0.4;
-  }
-};
-
-std::uint8_t Byte(double share) {
-  return static_cast<std::uint8_t>(std::lround(share * 255));
+      hits += IsInk(glyph, {(x + (i + 0.5) / kSamples) * unit, (y + (j + 0.5) / kSamples) * unit});
+  return static_cast<std::uint8_t>(std::lround(255.0 * hits / (kSamples * kSamples)));
 }
 
 }  // namespace
 
-Image DrawGlyph(const Glyph& glyph, int pixels, bool faded) {
+Image DrawGlyph(const Glyph& glyph, int pixels, Color ink) {
   Image image{pixels, pixels, {}};
   const double unit = static_cast<double>(kGlyphGrid) / pixels;
-  for (int y = 0; y < pixels; ++y) {
-    for (int x = 0; x < pixels; ++x) {
-      Tint tint;
-      for (const GlyphShape& shape : glyph.Shapes) tint.Lay(shape.Fill, CoverOf(shape, x, y, unit));
-      if (faded) tint.Fade();
-      for (const double part : {tint.Red, tint.Green, tint.Blue, tint.Alpha}) image.Pixels.push_back(Byte(part));
-    }
-  }
+  for (int y = 0; y < pixels; ++y)
+    for (int x = 0; x < pixels; ++x)
+      for (const std::uint8_t part : {ink.Red, ink.Green, ink.Blue, CoverOf(glyph, x, y, unit)})
+        image.Pixels.push_back(part);
   return image;
 }
 

@@ -1,4 +1,5 @@
-// Small pictures for buttons, made of shapes so that they are sharp at every resolution.
+// Small pictures for buttons, made of outlines so that they are sharp at every resolution. They have no colours of
+// their own: a desktop draws them in the ink of its buttons.
 #pragma once
 
 #include <vector>
@@ -17,18 +18,15 @@ struct GlyphPoint {
 /// The length of the square's sides: one unit is a pixel at 96 dpi.
 inline constexpr int kGlyphGrid = 16;
 
-/// A filled outline; where it crosses itself, inside and outside alternate.
-struct GlyphShape {
-  Color Fill;
-  std::vector<GlyphPoint> Outline;
-};
+/// The corners of an area.
+using GlyphOutline = std::vector<GlyphPoint>;
 
-/// Shapes in drawing order.
+/// What lies inside of an odd number of outlines is ink: an outline in another one cuts a hole.
 struct Glyph {
-  std::vector<GlyphShape> Shapes;
+  std::vector<GlyphOutline> Outlines;
 };
 
-/// The glyph as an image of `pixels` x `pixels`, transparent around the shapes. Disabled buttons show a faded one.
-Image DrawGlyph(const Glyph& glyph, int pixels, bool faded);
+/// The glyph as an image of `pixels` x `pixels` in one colour, transparent where there is no ink.
+Image DrawGlyph(const Glyph& glyph, int pixels, Color ink);
 
 }  // namespace orx

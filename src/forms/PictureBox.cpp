@@ -15,9 +15,9 @@ void PictureBox::BackColor(Color value) {
 
 Color PictureBox::ShownBackColor() const {
   if (!TakesFocus() || IsReachable()) return mBackColor;
-  constexpr int kFace = 240;
-  const auto paled = [](std::uint8_t part) { return static_cast<std::uint8_t>((part + 2 * kFace) / 3); };
-  return {paled(mBackColor.Red), paled(mBackColor.Green), paled(mBackColor.Blue)};
+  const Color face = OwnerForm().OwnerDesktop().SystemColor(SystemColor::DialogFace);
+  const auto paled = [](int part, int ground) { return static_cast<std::uint8_t>((part + 2 * ground) / 3); };
+  return {paled(mBackColor.Red, face.Red), paled(mBackColor.Green, face.Green), paled(mBackColor.Blue, face.Blue)};
 }
 
 void PictureBox::UserMouseDown(Point at) {

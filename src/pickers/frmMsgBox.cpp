@@ -80,6 +80,7 @@ void frmMsgBox::Fill() {
 }
 
 void frmMsgBox::Ready() {
+  imgIcon.BackColor(OwnerDesktop().SystemColor(SystemColor::DialogFace));
   DrawSign(imgIcon);
 }
 

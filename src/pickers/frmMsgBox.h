@@ -33,7 +33,7 @@ class frmMsgBox final : public DialogForm {
   modDialog::FileKind Kind() const { return mKind; }
   void Kind(modDialog::FileKind value) { mKind = value; }
 
-  PictureBox imgIcon{*this, "imgIcon", {.Place = {180, 180, 480, 480}}, kGround};
+  PictureBox imgIcon{*this, "imgIcon", {.Place = {180, 180, 480, 480}}};
   Label lblMsg{*this, "lblMsg", {.Caption = "Message...", .Place = {840, 180, 5640, 1020}}, Alignment::Left, true};
   Button cmdBrowse{
       *this, "cmdBrowse", {.Caption = "&Browse...", .Place = {1770, 1320, 1500, 375}}, ButtonRole::Default};
@@ -46,8 +46,6 @@ class frmMsgBox final : public DialogForm {
   void Ready() override;
 
  private:
-  static constexpr Color kGround{240, 240, 240};
-
   void ShowMessageText();
   void cmdBrowse_Click();
 

@@ -6,7 +6,7 @@
 namespace orx::test {
 namespace {
 
-const Glyph kSquare{{{{200, 0, 0}, {{4, 4}, {12, 4}, {12, 12}, {4, 12}}}}};
+const Glyph kSquare{{{{4, 4}, {12, 4}, {12, 12}, {4, 12}}}};
 
 struct MoreForm final : Form {
   explicit MoreForm(Desktop& desktop, Events& log)
@@ -150,7 +150,7 @@ TEST_F(FormsMore, ANumberFieldIsExactUntilItIsTypedInto) {
 
 TEST(FormsGlyph, CoversItsPixelsAtEverySize) {
   for (const int pixels : {16, 24, 32}) {
-    const Image image = DrawGlyph(kSquare, pixels, false);
+    const Image image = DrawGlyph(kSquare, pixels, {200, 0, 0});
     const auto alphaAt = [&](double share) {
       const auto at = static_cast<std::size_t>(share * pixels);
       return image.Pixels[(at * static_cast<std::size_t>(pixels) + at) * 4 + 3];
@@ -161,16 +161,18 @@ TEST(FormsGlyph, CoversItsPixelsAtEverySize) {
   }
 }
 
-TEST(FormsGlyph, FadedIsGrayAndThin) {
-  const Image image = DrawGlyph(kSquare, 16, true);
-  const std::uint8_t* const middle = &image.Pixels[(8 * 16 + 8) * 4];
-  EXPECT_EQ(middle[0], middle[1]);
-  EXPECT_EQ(middle[1], middle[2]);
-  EXPECT_LT(middle[3], 128);
+TEST(FormsGlyph, IsDrawnInTheInkThatIsGivenAndAnOutlineInAnotherOneIsAHole) {
+  const Image image = DrawGlyph({{kSquare.Outlines[0], {{6, 6}, {10, 6}, {10, 10}, {6, 10}}}}, 16, {200, 10, 30});
+  const auto pixel = [&](std::size_t at) {
+    const std::uint8_t* const parts = &image.Pixels[(at * 16 + at) * 4];
+    return std::vector<int>(parts, parts + 4);
+  };
+  EXPECT_EQ((std::vector<int>{200, 10, 30, 255}), pixel(5));
+  EXPECT_EQ(0, pixel(8)[3]);
 }
 
 TEST(FormsGlyph, EdgesAreSmoothWhereTheyCutPixels) {
-  const Image image = DrawGlyph({{{{0, 0, 0}, {{0.5, 0}, {16, 0}, {16, 16}, {0.5, 16}}}}}, 16, false);
+  const Image image = DrawGlyph({{{{0.5, 0}, {16, 0}, {16, 16}, {0.5, 16}}}}, 16, {});
   EXPECT_EQ(128, image.Pixels[3]);
   EXPECT_EQ(255, image.Pixels[7]);
 }

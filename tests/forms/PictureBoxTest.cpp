@@ -91,6 +91,15 @@ TEST_F(FormsPictureBox, ABoxToLookAtAndADisabledOneTellNothing) {
   EXPECT_EQ(Events{}, form->Log);
 }
 
+TEST_F(FormsPictureBox, ADisabledBoxPalesTowardsTheGroundOfItsDialog) {
+  const Color face = desktop().SystemColor(SystemColor::DialogFace);
+  const auto mixed = [](int part, int ground) { return static_cast<std::uint8_t>((part + 2 * ground) / 3); };
+  form->picGrid.BackColor({200, 100, 0});
+  EXPECT_EQ((Color{200, 100, 0}), form->picGrid.ShownBackColor());
+  form->picGrid.Enabled(false);
+  EXPECT_EQ((Color{mixed(200, face.Red), mixed(100, face.Green), mixed(0, face.Blue)}), form->picGrid.ShownBackColor());
+}
+
 TEST_F(FormsPictureBox, ItIsNamedByTheLabelInFrontAsItIsNow) {
   EXPECT_EQ("Grid", form->picGrid.AccessibleName());
   form->lblGrid.Caption("Other");
@@ -120,6 +129,7 @@ TEST_F(FormsPictureBox, TextStandsOutFromItsGround) {
   EXPECT_NE(desktop().SystemColor(SystemColor::Window), desktop().SystemColor(SystemColor::WindowText));
   EXPECT_NE(desktop().SystemColor(SystemColor::Highlight), desktop().SystemColor(SystemColor::HighlightText));
   EXPECT_NE(desktop().SystemColor(SystemColor::Highlight), desktop().SystemColor(SystemColor::Window));
+  EXPECT_NE(desktop().SystemColor(SystemColor::GrayText), desktop().SystemColor(SystemColor::DialogFace));
 }
 
 TEST(FormsLetters, TextsAreEqualInAnyCase) {

@@ -78,7 +78,9 @@ TEST_F(Win32Characters, TheColorsAreThoseOfTheSystem) {
   for (const auto& [which, index] : {std::pair{SystemColor::Window, COLOR_WINDOW},
                                      {SystemColor::WindowText, COLOR_WINDOWTEXT},
                                      {SystemColor::Highlight, COLOR_HIGHLIGHT},
-                                     {SystemColor::HighlightText, COLOR_HIGHLIGHTTEXT}}) {
+                                     {SystemColor::HighlightText, COLOR_HIGHLIGHTTEXT},
+                                     {SystemColor::DialogFace, COLOR_BTNFACE},
+                                     {SystemColor::GrayText, COLOR_GRAYTEXT}}) {
     const Color color = desktop().SystemColor(which);
     EXPECT_EQ(GetSysColor(index), RGB(color.Red, color.Green, color.Blue));
   }

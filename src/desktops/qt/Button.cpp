@@ -4,8 +4,10 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include "desktops/qt/Colors.h"
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/Text.h"
+#include "forms/Contrast.h"
 #include "forms/Desktop.h"
 #include "forms/Form.h"
 
@@ -20,23 +22,28 @@ class ButtonPeer final : public Peer {
     mNative.setDefault(control.Role() == ButtonRole::Default);
     // A press of the mouse must not move the focus by itself: the field that loses it may refuse to let go.
     mNative.setFocusPolicy(Qt::TabFocus);
-    if (control.Picture()) ShowPicture(*control.Picture());
+    ShowPicture();
     connect(&mNative, &QPushButton::clicked, this, [this] { Report([this] { mControl.UserPress(); }); });
   }
 
  private:
-  void ShowPicture(const Glyph& picture) {
+  void ShowPicture() {
+    if (!mControl.Picture()) return;
     const int size = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
     // Widgets measure in points of the window, each of which is several pixels on a high-resolution screen.
     const double density = mNative.devicePixelRatioF();
+    const int pixels = static_cast<int>(std::lround(size * density));
+    const auto pixmap = [&](Color color) {
+      const Image image = DrawGlyph(*mControl.Picture(), pixels, color);
+      QPixmap made = QPixmap::fromImage(QImage(image.Pixels.data(), pixels, pixels, QImage::Format_RGBA8888).copy());
+      made.setDevicePixelRatio(density);
+      return made;
+    };
+    const QPalette palette = mNative.palette();
+    const Color ink = FromQt(palette.color(QPalette::Active, QPalette::ButtonText));
     QIcon icon;
-    for (const bool faded : {false, true}) {
-      const int pixels = static_cast<int>(std::lround(size * density));
-      const Image image = DrawGlyph(picture, pixels, faded);
-      QPixmap pixmap = QPixmap::fromImage(QImage(image.Pixels.data(), pixels, pixels, QImage::Format_RGBA8888).copy());
-      pixmap.setDevicePixelRatio(density);
-      icon.addPixmap(pixmap, faded ? QIcon::Disabled : QIcon::Normal);
-    }
+    icon.addPixmap(pixmap(ink), QIcon::Normal);
+    icon.addPixmap(pixmap(FadedInk(ink, FromQt(palette.color(QPalette::Active, QPalette::Button)))), QIcon::Disabled);
     mNative.setIcon(icon);
     mNative.setIconSize({size, size});
   }
@@ -44,6 +51,11 @@ class ButtonPeer final : public Peer {
   void Mirror(Aspect aspect) override {
     if (aspect == Aspect::Text && mControl.ShowsCaption()) mNative.setText(ToQt(mControl.Caption()));
     Peer::Mirror(aspect);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) ShowPicture();
+    return Peer::eventFilter(watched, event);
   }
 
   Button& mControl;

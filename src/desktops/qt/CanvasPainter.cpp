@@ -6,14 +6,12 @@
 #include <optional>
 
 #include "desktops/qt/Characters.h"
+#include "desktops/qt/Colors.h"
 #include "desktops/qt/Text.h"
 
 namespace orx::qt {
 namespace {
 
-QColor ColorOf(Color color) {
-  return {color.Red, color.Green, color.Blue};
-}
 QRect RectOf(const Rect& place) {
   return {place.Left, place.Top, place.Width, place.Height};
 }
@@ -23,20 +21,20 @@ class MarkPainter {
  public:
   MarkPainter(QPainter& painter, const QFont& dialogFont) : mPainter(painter), mDialogFont(dialogFont) {}
 
-  void operator()(const FillMark& mark) { mPainter.fillRect(RectOf(mark.Place), ColorOf(mark.Fill)); }
+  void operator()(const FillMark& mark) { mPainter.fillRect(RectOf(mark.Place), ToQt(mark.Fill)); }
 
   void operator()(const LineMark& mark) {
     // An odd width is sharp only when the line runs through the middle of the pixels.
     const double middle = mark.Width % 2 ? 0.5 : 0;
     QPolygonF points;
     for (const Point& point : mark.Points) points << QPointF(point.X + middle, point.Y + middle);
-    mPainter.setPen(QPen(ColorOf(mark.Pen), mark.Width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+    mPainter.setPen(QPen(ToQt(mark.Pen), mark.Width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
     mPainter.drawPolyline(points);
   }
 
   void operator()(const TextMark& mark) {
     mPainter.setFont(FontOf(mark.Face, mDialogFont));
-    mPainter.setPen(ColorOf(mark.Pen));
+    mPainter.setPen(ToQt(mark.Pen));
     mPainter.translate(mark.Center.X, mark.Center.Y);
     mPainter.rotate(-mark.Rotation);
     mPainter.drawText(QRectF(), Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine, ToQt(mark.Text));
@@ -58,8 +56,8 @@ class MarkPainter {
   void operator()(const CharacterMark& mark) {
     // Characters come by the hundred, all in the same font.
     if (!mCharacters || mCharacters->Face() != mark.Face) mCharacters.emplace(mark.Face, mDialogFont);
-    if (mark.Cell.Width > 0) mPainter.fillRect(RectOf(mark.Cell), ColorOf(mark.Ground));
-    mPainter.setPen(ColorOf(mark.Ink));
+    if (mark.Cell.Width > 0) mPainter.fillRect(RectOf(mark.Cell), ToQt(mark.Ground));
+    mPainter.setPen(ToQt(mark.Ink));
     mCharacters->Draw(mPainter, mark.Place, mark.Code);
   }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColorDialog>
 
+#include "desktops/qt/Colors.h"
 #include "desktops/qt/PlatformDialog.h"
 #include "forms/Requests.h"
 
@@ -10,12 +11,9 @@ namespace orx::qt {
 
 bool RunColorDialog(ColorRequest& request, const std::function<void()>& running) {
   QColorDialog dialog;
-  if (request.Flags & kStartFromColor)
-    dialog.setCurrentColor({request.Color.Red, request.Color.Green, request.Color.Blue});
+  if (request.Flags & kStartFromColor) dialog.setCurrentColor(ToQt(request.Color));
   if (!RunPlatformDialog(dialog, request.OwnerHandle, running)) return false;
-  const QColor chosen = dialog.currentColor();
-  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-  request.Color = {part(chosen.red()), part(chosen.green()), part(chosen.blue())};
+  request.Color = FromQt(dialog.currentColor());
   return true;
 }
 

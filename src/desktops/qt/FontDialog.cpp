@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "desktops/qt/CanvasPainter.h"
+#include "desktops/qt/Colors.h"
 #include "desktops/qt/PlatformDialog.h"
 #include "desktops/qt/Text.h"
 #include "forms/Requests.h"
@@ -35,14 +36,13 @@ ColoredFontDialog::ColoredFontDialog() {
 void ColoredFontDialog::ChosenColor(orx::Color value) {
   mColor = value;
   QPixmap swatch(16, 16);
-  swatch.fill({value.Red, value.Green, value.Blue});
+  swatch.fill(ToQt(value));
   mButton->setIcon(swatch);
 }
 
 void ColoredFontDialog::AskForColor() {
-  const QColor chosen = QColorDialog::getColor({mColor.Red, mColor.Green, mColor.Blue}, this);
-  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-  if (chosen.isValid()) ChosenColor({part(chosen.red()), part(chosen.green()), part(chosen.blue())});
+  const QColor chosen = QColorDialog::getColor(ToQt(mColor), this);
+  if (chosen.isValid()) ChosenColor(FromQt(chosen));
 }
 
 bool RunFontDialog(FontRequest& request, const std::function<void()>& running) {

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "desktops/qt/CanvasPainter.h"
+#include "desktops/qt/Colors.h"
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/Text.h"
 #include "forms/Desktop.h"
@@ -76,8 +77,7 @@ class PicturePeer final : public Peer {
 
  private:
   void Paint(QPainter& painter) const {
-    const Color back = mControl.ShownBackColor();
-    painter.fillRect(mNative.rect(), QColor(back.Red, back.Green, back.Blue));
+    painter.fillRect(mNative.rect(), ToQt(mControl.ShownBackColor()));
     if (mControl.AutoRedraw()) PaintCanvas(painter, mControl.Drawing(), mNative.font());
   }
 

@@ -17,6 +17,7 @@
 #include "desktops/qt/Application.h"
 #include "desktops/qt/Characters.h"
 #include "desktops/qt/ColorDialog.h"
+#include "desktops/qt/Colors.h"
 #include "desktops/qt/DialogWindow.h"
 #include "desktops/qt/FileDialog.h"
 #include "desktops/qt/FileSettings.h"
@@ -52,7 +53,10 @@ QPalette::ColorRole RoleOf(SystemColor which) {
       return QPalette::Highlight;
     case SystemColor::HighlightText:
       return QPalette::HighlightedText;
+    case SystemColor::DialogFace:
+      return QPalette::Window;
     case SystemColor::WindowText:
+    case SystemColor::GrayText:
       break;
   }
   return QPalette::Text;
@@ -123,9 +127,8 @@ std::vector<std::string> QtDesktop::ScreenFonts() const {
 }
 
 Color QtDesktop::SystemColor(orx::SystemColor which) const {
-  const QColor color = QApplication::palette().color(QPalette::Active, RoleOf(which));
-  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-  return {part(color.red()), part(color.green()), part(color.blue())};
+  const bool isGray = which == orx::SystemColor::GrayText;
+  return FromQt(QApplication::palette().color(isGray ? QPalette::Disabled : QPalette::Active, RoleOf(which)));
 }
 
 Size QtDesktop::MeasureCharacter(const Font& face, int code) const {

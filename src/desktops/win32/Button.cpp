@@ -54,7 +54,7 @@ class Icon {
 class ButtonPeer final : public Peer {
  public:
   ButtonPeer(Button& control, Dialog& dialog, HWND window) : Peer(control, dialog, window), mControl(control) {
-    if (control.Picture()) ShowPicture(*control.Picture());
+    ShowPicture();
   }
 
  private:
@@ -63,11 +63,15 @@ class ButtonPeer final : public Peer {
     Peer::Mirror(aspect);
   }
 
-  void ShowPicture(const Glyph& picture) {
+  void ShowPicture() {
+    if (!mControl.Picture()) return;
     // The platform would draw it differently while the button is disabled.
     const int pixels = mControl.OwnerForm().OwnerDesktop().ToPixels(kGlyphGrid * kTwipsPerPixel);
-    mIcon = std::make_unique<Icon>(DrawGlyph(picture, pixels, false));
-    SendMessageW(Window(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(mIcon->Get()));
+    const COLORREF ink = GetSysColor(COLOR_BTNTEXT);
+    auto icon = std::make_unique<Icon>(
+        DrawGlyph(*mControl.Picture(), pixels, {GetRValue(ink), GetGValue(ink), GetBValue(ink)}));
+    SendMessageW(Window(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon->Get()));
+    mIcon = std::move(icon);
   }
 
   bool LeavesArrowKeys() const override { return true; }
@@ -81,6 +85,7 @@ class ButtonPeer final : public Peer {
     // Enter presses the button that has the focus, so it carries the mark of the default button while it has it.
     if (message == WM_SETFOCUS) MarkDefault(window);
     if (message == WM_KILLFOCUS) MarkDefault(nullptr);
+    if (message == WM_SYSCOLORCHANGE) ShowPicture();
     return Peer::OnMessage(window, message, wParam, lParam);
   }
 

@@ -1,0 +1,15 @@
+// How well two colours can be told apart.
+#pragma once
+
+#include "forms/Appearance.h"
+
+namespace orx {
+
+/// The ratio of what two colours give off, as the eye weighs it: from 1 for equal ones to 21 for black and white.
+double Contrast(Color one, Color other);
+
+/// The ink of a picture that is disabled: paler than `ink`, but on `ground` it can still be told apart, by a contrast
+/// of at least 3 if the ink has that.
+Color FadedInk(Color ink, Color ground);
+
+}  // namespace orx
