@@ -11,7 +11,7 @@ frmDataOptions::frmDataOptions(Desktop& desktop)
     : EditForm(desktop, {.Name = "frmDataOptions",
                          .Caption = "Data Options",
                          .HelpKey = "_HelpLayerDataOptions",
-                         .Client = {6690, 5865}}) {
+                         .Client = {6690, 5205}}) {
   for (int i = 0; i < kSpecialKinds; ++i) HandleEvents(i);
   cmdDefault.Click = [this] { cmdDefault_Click(); };
 }

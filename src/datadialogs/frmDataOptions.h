@@ -26,9 +26,9 @@ class frmDataOptions final : public EditForm {
   HostObject* Data() const { return Subject(); }
   void Data(HostObject* value) { Subject(value); }
 
-  Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 90, 6450, 1650}}};
-  Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1830, 6450, 1650}}};
-  Frame fraNoData{*this, "fraNoData", {.Place = {120, 3570, 6450, 1650}}};
+  Frame fraMissVal{*this, "fraMissVal", {.Place = {120, 120, 6450, 1410}}};
+  Frame fraZeroVal{*this, "fraZeroVal", {.Place = {120, 1650, 6450, 1410}}};
+  Frame fraNoData{*this, "fraNoData", {.Place = {120, 3180, 6450, 1410}}};
 
   CheckBox chkEnabled[kSpecialKinds]{
       {fraMissVal, "chkEnabled(0)", {.Caption = "Missing Value", .Place = kTitle}},
@@ -76,7 +76,7 @@ class frmDataOptions final : public EditForm {
       {fraZeroVal, "chkTransparent(1)", {.Caption = "Transparent", .Place = kTransparent}},
       {fraNoData, "chkTransparent(2)", {.Caption = "Transparent", .Place = kTransparent}},
   };
-  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 5370, 1500, 375}, .Pinned = true}};
+  Button cmdDefault{*this, "cmdDefault", {.Caption = "&Default", .Place = {120, 4710, 1500, 375}, .Pinned = true}};
   OKButton cmdOK{*this};
   CancelButton cmdCancel{*this};
 
@@ -89,16 +89,16 @@ class frmDataOptions final : public EditForm {
   bool Save() override;
 
  private:
-  // Places in each of the three frames.
-  static constexpr Rect kTitle{150, 150, 6150, 300};
-  static constexpr Rect kMinLabel{420, 570, 1680, 240};
-  static constexpr Rect kMinField{2160, 510, 1320, 330};
-  static constexpr Rect kMaxLabel{420, 1020, 1680, 240};
-  static constexpr Rect kMaxField{2160, 960, 1320, 330};
-  static constexpr Rect kColorLabel{3720, 1170, 1050, 240};
-  static constexpr Rect kColorBox{4830, 1110, 1380, 360};
-  static constexpr Rect kInLegend{3720, 450, 2580, 300};
-  static constexpr Rect kTransparent{3720, 780, 2580, 300};
+  // Places in each of the three frames, in three rows.
+  static constexpr Rect kTitle{150, 150, 3330, 300};
+  static constexpr Rect kInLegend{3720, 150, 2580, 300};
+  static constexpr Rect kMinLabel{420, 585, 1680, 240};
+  static constexpr Rect kMinField{2160, 525, 1320, 330};
+  static constexpr Rect kTransparent{3720, 540, 2580, 300};
+  static constexpr Rect kMaxLabel{420, 990, 1680, 240};
+  static constexpr Rect kMaxField{2160, 930, 1320, 330};
+  static constexpr Rect kColorLabel{3720, 990, 1050, 240};
+  static constexpr Rect kColorBox{4830, 930, 1380, 330};
 
   /// The fields of one kind and its record.
   struct Fields {

@@ -9,17 +9,18 @@
 namespace orx {
 namespace {
 
-int PinnedTop(const Form& form) {
-  int top = form.ClientSize().Height;
+int PinnedTop(const Form& form, const FrameRoom& frames) {
+  int top = form.ClientSize().Height + frames.Growth();
   for (const Control* const control : form.Children())
-    if (control->Pinned() && control->Visible()) top = std::min(top, control->Top() - kScrollMargin);
+    if (control->Pinned() && control->Visible()) top = std::min(top, frames.PlaceOf(*control).Top - kScrollMargin);
   return top;
 }
 
-int BodyBottom(const Form& form) {
+int BodyBottom(const Form& form, const FrameRoom& frames) {
   int bottom = 0;
   for (const Control* const control : form.Children())
-    if (!control->Pinned() && control->Visible()) bottom = std::max(bottom, control->Place().Bottom() + kScrollMargin);
+    if (!control->Pinned() && control->Visible())
+      bottom = std::max(bottom, frames.PlaceOf(*control).Bottom() + kScrollMargin);
   return bottom;
 }
 
@@ -69,13 +70,16 @@ Arrangement Arrange(const Form& form, Size scrollBars) {
   const Desktop& desktop = form.OwnerDesktop();
   const Size shown = form.ShownClientSize();
   const ScreenMetrics screen = desktop.Metrics(form.Border());
-  return Arrange({.Client = form.ClientSize(),
-                  .Shown = shown,
-                  .SpareWidth = screen.WorkArea.Width - screen.Frame.Width - shown.Width,
-                  .PinnedTop = PinnedTop(form),
-                  .BodyBottom = BodyBottom(form),
-                  .Scale = desktop.Scale(),
-                  .ScrollBars = scrollBars});
+  const FrameRoom frames(form);
+  Arrangement result = Arrange({.Client = {form.ClientSize().Width, form.ClientSize().Height + frames.Growth()},
+                                .Shown = shown,
+                                .SpareWidth = screen.WorkArea.Width - screen.Frame.Width - shown.Width,
+                                .PinnedTop = PinnedTop(form, frames),
+                                .BodyBottom = BodyBottom(form, frames),
+                                .Scale = desktop.Scale(),
+                                .ScrollBars = scrollBars});
+  result.Frames = frames;
+  return result;
 }
 
 bool StandsPinned(const Control& control) {
@@ -83,7 +87,7 @@ bool StandsPinned(const Control& control) {
 }
 
 Rect PixelPlace(const Control& control, const Arrangement& arrangement) {
-  Rect place = TwipsToPixels(control.Place(), arrangement.Scale);
+  Rect place = TwipsToPixels(arrangement.Frames.PlaceOf(control), arrangement.Scale);
   if (StandsPinned(control)) {
     place.Left = std::max(0, place.Left - arrangement.Missing.Width);
     place.Top -= arrangement.Missing.Height;

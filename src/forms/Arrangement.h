@@ -3,6 +3,7 @@
 // desktops carry out what is worked out here.
 #pragma once
 
+#include "forms/FrameRoom.h"
 #include "forms/Geometry.h"
 
 namespace orx {
@@ -18,7 +19,7 @@ inline constexpr int kScrollStep = 300;
 
 /// What an arrangement follows from.
 struct ArrangementInput {
-  /// The client area as designed, and the part of it that the screen has room for, in twips.
+  /// The client area with the room for its frames, and the part of it that the screen has room for, in twips.
   Size Client;
   Size Shown;
   /// How much wider than the shown part the screen lets the window be, in twips.
@@ -50,7 +51,9 @@ struct ScrollRange {
 struct Arrangement {
   /// Pixels in 15 twips.
   double Scale = 1;
-  /// What of the designed client area the window has no room for.
+  /// How the frames move the controls.
+  FrameRoom Frames;
+  /// What of the client area the window has no room for.
   Size Missing;
   /// The width that the window has beyond the shown part of the form, for the scroll bar, so that the controls lose
   /// none of theirs.

@@ -4,6 +4,7 @@
 
 #include "forms/ErrorText.h"
 #include "forms/Form.h"
+#include "forms/Frame.h"
 #include "forms/Pixels.h"
 #include "forms/Requests.h"
 
@@ -42,6 +43,10 @@ int Desktop::ToPixels(int twips) const {
 
 int Desktop::ToTwips(int pixels) const {
   return PixelsToTwips(pixels, Scale());
+}
+
+int Desktop::FrameLine(bool hasCaption) const {
+  return hasCaption ? kFrameLine : 0;
 }
 
 template <class Run>

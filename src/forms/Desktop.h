@@ -80,6 +80,8 @@ class Desktop {
   /// Lengths converted by the scale, rounded to the nearest.
   int ToPixels(int twips) const;
   int ToTwips(int pixels) const;
+  /// How far below the upper edge of a frame its line runs, with a caption and without one, in twips.
+  virtual int FrameLine(bool hasCaption) const;
   /// The face names of the fonts for the screen, in the system's order. The first is the system's own, which no list
   /// offers; it may have no name.
   virtual std::vector<std::string> ScreenFonts() const = 0;

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "forms/FrameRoom.h"
 #include "forms/ScreenUpdates.h"
 
 namespace orx {
@@ -53,7 +54,7 @@ void Form::ClientSize(Size value) {
 Size Form::ShownClientSize() const {
   const ScreenMetrics screen = mDesktop.Metrics(mDesign.Border);
   return {std::min(mDesign.Client.Width, screen.WorkArea.Width - screen.Frame.Width),
-          std::min(mDesign.Client.Height, screen.WorkArea.Height - screen.Frame.Height)};
+          std::min(mDesign.Client.Height + FrameRoom(*this).Growth(), screen.WorkArea.Height - screen.Frame.Height)};
 }
 
 void Form::Center() {
@@ -235,6 +236,7 @@ void Form::WindowLost() {
 
 void Form::UserResize(Size client) {
   UserAct([&] {
+    client.Height -= FrameRoom(*this).Growth();
     if (client == mDesign.Client) return;
     mDesign.Client = client;
     if (mVisible) Form_Resize();

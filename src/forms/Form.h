@@ -54,10 +54,12 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void Move(int left, int top);
   int Width() const;
   int Height() const;
-  /// The client area, in twips. Setting it raises Form_Resize while the form is shown.
+  /// The client area in which the controls have their places, in twips. Setting it raises Form_Resize while the form is
+  /// shown.
   Size ClientSize() const { return mDesign.Client; }
   void ClientSize(Size value);
-  /// The part of the client area that the screen has room for; the rest is reached by scrolling.
+  /// What the window shows of the client area and of the room that it gives to frames beyond their design (see
+  /// FrameRoom): as much as the screen has room for; the rest is reached by scrolling.
   Size ShownClientSize() const;
   /// Puts the window into the middle of the screen.
   void Center();
@@ -137,7 +139,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void UserClose();
   /// The platform has taken the window away, or the program is about to end: the form unloads.
   void WindowLost();
-  /// The user has sized or moved the window.
+  /// The user has sized the window, to a client area that has the room for its frames in it, or moved it.
   void UserResize(Size client);
   void UserMove(int left, int top);
   /// The mouse was moved over the window or its button was pressed beside the controls; in pixels of the client area.

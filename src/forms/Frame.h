@@ -6,6 +6,10 @@
 
 namespace orx {
 
+/// How far below the upper edge of a frame with a caption its line is designed to run, in twips. Without a caption it
+/// is the edge itself. Where a desktop draws it lower (Desktop::FrameLine), the contents move down and the frame grows.
+inline constexpr int kFrameLine = 105;
+
 /// Takes no focus itself; disabling it puts all its controls out of reach.
 class Frame final : public Control, public Container {
  public:

@@ -33,7 +33,7 @@ class frmDataShade final : public EditForm {
   Frame fraColors{*this, "Frame1(0)", {.Caption = "Colors", .Place = {120, 120, 6900, 3120}}};
   Label lblMethod{fraColors, "Label1(0)", {.Caption = "Shading method:", .Place = {150, 360, 2370, 240}}};
   ComboBox cmbShadeVersion{fraColors, "cmbShadeVersion", {.Place = {2610, 300, 4050, 330}}};
-  Frame fraIntensity2{fraColors, "fraIntensity2", {.Caption = "Color Intensity (%)"}};
+  Frame fraIntensity2{fraColors, "fraIntensity2", {.Caption = "Color Intensity (%)", .Place = {150, 810, 6510, 1620}}};
   Label lblShades2{fraIntensity2, "Label1", {.Caption = "Number of shades:", .Place = {150, 330, 2430, 240}}};
   TextBox txtNrOfShades2{fraIntensity2, "txtNrOfShades2", {.Place = {2640, 270, 780, 330}}};
   CheckBox chkMidIndexAutomatic{

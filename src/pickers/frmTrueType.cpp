@@ -27,7 +27,7 @@ bool IsRotation(double degrees) {
 frmTrueType::frmTrueType(Desktop& desktop)
     : OkCancelForm(
           desktop,
-          {.Name = "frmTrueType", .Caption = "Pick True Type", .HelpKey = "_HelpMapTrueType", .Client = {6210, 5640}}) {
+          {.Name = "frmTrueType", .Caption = "Pick True Type", .HelpKey = "_HelpMapTrueType", .Client = {6210, 5520}}) {
   txtRot.GotFocus = [this] { txtRot_GotFocus(); };
   txtRot.LostFocus = [this] { txtRot_LostFocus(); };
   picFont.GotFocus = [this] { picFont_GotFocus(); };

@@ -28,9 +28,9 @@ struct PropertyLayout {
 };
 
 /// The layout of the dialogs for a layer.
-inline constexpr PropertyLayout kLayerLayout{.Client = {6465, 5670},
-                                             .Tab = {120, 120, 6255, 4995},
-                                             .ButtonTop = 5220,
+inline constexpr PropertyLayout kLayerLayout{.Client = {6465, 5220},
+                                             .Tab = {120, 120, 6255, 4545},
+                                             .ButtonTop = 4770,
                                              .HelpLeft = 120,
                                              .OKLeft = 2340,
                                              .CancelLeft = 3720,

@@ -12,9 +12,9 @@
 namespace orx {
 namespace {
 
-constexpr PropertyLayout kMapLayout{.Client = {9420, 5670},
-                                    .Tab = {3075, 120, 6255, 4995},
-                                    .ButtonTop = 5220,
+constexpr PropertyLayout kMapLayout{.Client = {9420, 5220},
+                                    .Tab = {3075, 120, 6255, 4545},
+                                    .ButtonTop = 4770,
                                     .HelpLeft = 120,
                                     .OKLeft = 5295,
                                     .CancelLeft = 6675,

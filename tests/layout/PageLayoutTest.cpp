@@ -1,4 +1,5 @@
 // The dialogs of the map library's pages show all their text, in every language and at every resolution.
+#include "forms/FrameRoom.h"
 #include "languages/PseudoLanguage.h"
 #include "maplibrary/model/SampleMap.h"
 #include "pickers/frmProgress.h"
@@ -111,6 +112,32 @@ TEST_F(PageLayout, NothingIsCutOffInAnyLanguage) {
 TEST_F(PageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
   languages::PseudoLanguage pseudo;
   ExpectAllTextShown(&pseudo);
+}
+
+TEST_F(PageLayout, DialogsFitAScreenOf1280By800PixelsAtTwiceTheSize) {
+  // In twips, with the room that the frames take in the style of the desktop, whatever screen there is.
+  const auto fits = [this](Form& shown) {
+    const Size frame = desktop().Metrics(shown.Border()).Frame;
+    EXPECT_LE(shown.ClientSize().Width + frame.Width, 640 * kTwipsPerPixel) << shown.Name();
+    EXPECT_LE(shown.ClientSize().Height + FrameRoom(shown).Growth() + frame.Height, 400 * kTwipsPerPixel)
+        << shown.Name();
+    user.CloseBox(shown);
+  };
+  for (const char* const name : {"frmProperties", "frmLabels", "frmCoordinates", "frmSettings", "frmMapSettings",
+                                 "frmDataDialog", "frmDataOptions", "frmDataIsoline", "frmTrueType"})
+    script.ExpectForm(name, fits);
+  layer.Behind = &data;
+  service.ShowProperties(&layer);
+  service.ShowLabels(&layer);
+  service.ShowCoordinates(&layer);
+  service.Show(&layer, 0);
+  service.Show(maplibrary::MakeSampleMap(ORX_DATA_DIR "/jacksboro.bil").get(), 0);
+  service.ShowDataProperties(&layer);
+  service.ShowDataOptions(&data);
+  bool changed = false;
+  modMain::ShowIsolineDialog(desktop(), &isolines, changed, nullptr);
+  CharacterRequest choice{"Arial", 65, 0};
+  modMain::ShowCharacterDialog(desktop(), choice, nullptr);
 }
 
 TEST_F(PageLayout, NothingIsCutOffWithTheChoiceOfASymbol) {

@@ -23,14 +23,14 @@ struct HostCase {
 class PageHostDesigns : public PageHostTest {
  protected:
   std::vector<HostCase> Hosts() {
-    const Size large{6465, 5670};
-    const Rect tab{120, 120, 6255, 4995};
+    const Size large{6465, 5220};
+    const Rect tab{120, 120, 6255, 4545};
     const std::vector<int> lefts{120, 2340, 3720, 5100};
-    return {{"frmProperties", "Layer Properties", "Properties", "Properties, Properties1", large, tab, 5220, lefts,
+    return {{"frmProperties", "Layer Properties", "Properties", "Properties, Properties1", large, tab, 4770, lefts,
              std::make_shared<frmProperties>(desktop(), pages)},
-            {"frmCoordinates", "Properties", "Coordinates", "Coordinates, Coordinates1", large, tab, 5220, lefts,
+            {"frmCoordinates", "Properties", "Coordinates", "Coordinates, Coordinates1", large, tab, 4770, lefts,
              std::make_shared<frmCoordinates>(desktop(), pages)},
-            {"frmLabels", "Properties", "Labels", "LabelProperties, LabelProperties1", large, tab, 5220, lefts,
+            {"frmLabels", "Properties", "Labels", "LabelProperties, LabelProperties1", large, tab, 4770, lefts,
              std::make_shared<frmLabels>(desktop(), pages)},
             {"frmLegend",
              "Map Annotation Properties",

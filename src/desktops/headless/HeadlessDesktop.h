@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/Desktop.h"
+#include "forms/Frame.h"
 
 namespace orx::headless {
 
@@ -32,6 +33,12 @@ class HeadlessDesktop final : public Desktop {
   void Separators(const numbers::Separators& value) { mSeparators = value; }
   /// Pixels in 15 twips; 1 unless set.
   void Scale(double value) { mScale = value; }
+  int FrameLine(bool hasCaption) const override { return hasCaption ? mCaptionLine : mPlainLine; }
+  /// Sets where the lines of frames with a caption and without one run, which is as designed unless set.
+  void FrameLines(int withCaption, int withoutCaption) {
+    mCaptionLine = withCaption;
+    mPlainLine = withoutCaption;
+  }
   /// Replaces the screen's fonts, which are a handful of well-known ones at first.
   void ScreenFonts(std::vector<std::string> value) { mScreenFonts = std::move(value); }
 
@@ -52,6 +59,8 @@ class HeadlessDesktop final : public Desktop {
   std::vector<Rect> mFurtherScreens;
   std::vector<std::string> mScreenFonts{"System", "Courier", "Arial", "Courier New", "Symbol", "Times New Roman"};
   double mScale = 1;
+  int mCaptionLine = kFrameLine;
+  int mPlainLine = 0;
   Size mScreen{1920 * kTwipsPerPixel, 1080 * kTwipsPerPixel};
 };
 

@@ -5,12 +5,14 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QGroupBox>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPalette>
 #include <QPixmap>
 #include <QScreen>
 #include <QStyle>
+#include <QStyleOption>
 #include <QUrl>
 #include <algorithm>
 
@@ -62,6 +64,27 @@ QPalette::ColorRole RoleOf(SystemColor which) {
   return QPalette::Text;
 }
 
+/// How far below the upper edge of a group box its line runs, in pixels.
+int LineOfFrame(const QStyle& style, bool hasCaption) {
+  QGroupBox box;
+  box.setFont(DialogFont());
+  QStyleOptionGroupBox option;
+  option.initFrom(&box);
+  option.rect = {0, 0, 1000, 1000};
+  option.lineWidth = 1;
+  option.subControls = QStyle::SC_GroupBoxFrame;
+  if (hasCaption) {
+    option.text = "X";
+    option.subControls |= QStyle::SC_GroupBoxLabel;
+  }
+  const QRect frame = style.subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxFrame, &box);
+  if (frame.top() > 0) return frame.top();
+  // A style that writes the caption above the line counts both as the frame; its contents are as far from the line at
+  // the top as at the side.
+  const QRect contents = style.subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, &box);
+  return std::max(0, contents.top() - contents.left());
+}
+
 Rect InTwips(const Desktop& desktop, const QRect& place) {
   return {desktop.ToTwips(place.x()), desktop.ToTwips(place.y()), desktop.ToTwips(place.width()),
           desktop.ToTwips(place.height())};
@@ -76,6 +99,10 @@ struct QtDesktop::State {
   double Scale = 1;
   double Dots = 0;
   QFont MeasuredFont;
+  /// The lines of frames without and with a caption, in twips, and what they were measured in.
+  int FrameLines[2] = {0, 0};
+  QString FrameStyle;
+  QFont FrameFont;
 };
 
 QtDesktop::QtDesktop() : mState(std::make_unique<State>()) {
@@ -117,6 +144,17 @@ double QtDesktop::Scale() const {
     mState->MeasuredFont = font;
   }
   return mState->Scale;
+}
+
+int QtDesktop::FrameLine(bool hasCaption) const {
+  const QStyle& style = *QApplication::style();
+  const QFont font = DialogFont();
+  if (style.name() != mState->FrameStyle || font != mState->FrameFont) {
+    for (const bool captioned : {false, true}) mState->FrameLines[captioned] = ToTwips(LineOfFrame(style, captioned));
+    mState->FrameStyle = style.name();
+    mState->FrameFont = font;
+  }
+  return mState->FrameLines[hasCaption];
 }
 
 std::vector<std::string> QtDesktop::ScreenFonts() const {

@@ -20,6 +20,7 @@ class QtDesktop final : public NativeDesktop {
   ~QtDesktop() override;
 
   double Scale() const override;
+  int FrameLine(bool hasCaption) const override;
   std::vector<std::string> ScreenFonts() const override;
   Color SystemColor(orx::SystemColor which) const override;
   Size MeasureCharacter(const Font& face, int code) const override;
