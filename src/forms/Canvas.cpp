@@ -19,12 +19,4 @@ void Canvas::ToggleFocus(const Rect& place) {
   }
 }
 
-void Canvas::Redraw(const CharacterMark& character) {
-  std::erase_if(mMarks, [&](const Mark& mark) {
-    const auto* const drawn = std::get_if<CharacterMark>(&mark);
-    return drawn && drawn->Place == character.Place;
-  });
-  mMarks.push_back(character);
-}
-
 }  // namespace orx

@@ -17,8 +17,6 @@ class Canvas {
   void Draw(Mark mark);
   /// Draws the focus rectangle, or takes it away again when it stands at that place already.
   void ToggleFocus(const Rect& place);
-  /// Draws a character on top, in place of the one that was drawn at that place before.
-  void Redraw(const CharacterMark& character);
 
  private:
   std::vector<Mark> mMarks;

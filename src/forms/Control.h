@@ -106,6 +106,8 @@ class Control {
   bool IsTabStop() const;
   /// True when the control can take the keyboard focus at all; labels, frames and panels cannot.
   virtual bool TakesFocus() const { return true; }
+  /// False where the focus does not start when a form is shown, as long as another control can have it.
+  virtual bool StartsFocus() const { return true; }
   /// Moves the focus here. Does nothing on a control that is not reachable while the form is shown.
   void SetFocus();
   /// True when the focus is here. The form need not be the active window.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/Appearance.h"
+#include "forms/CharacterCodes.h"
 #include "forms/DesktopHook.h"
 #include "forms/FormWindow.h"
 #include "forms/Geometry.h"
@@ -87,8 +88,8 @@ class Desktop {
   virtual std::vector<std::string> ScreenFonts() const = 0;
   /// A colour of the user's scheme.
   virtual Color SystemColor(orx::SystemColor which) const = 0;
-  /// The width and height in pixels that a CharacterMark with this font and code takes.
-  virtual Size MeasureCharacter(const Font& face, int code) const = 0;
+  /// The codes for which a font has characters of its own.
+  virtual CharacterCodes CharactersOf(const Font& face) const = 0;
   /// The separators of the user's locale.
   virtual numbers::Separators Separators() const = 0;
   /// A UTF-8 text with small letters in place of capital ones, of all alphabets that the platform knows.

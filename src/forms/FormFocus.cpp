@@ -72,7 +72,8 @@ void Form::FocusFirst() {
   mActive = nullptr;
   if (!first || !first->IsReachable()) {
     const std::vector<Control*> order = TabOrder();
-    first = order.empty() ? nullptr : order.front();
+    const auto found = std::ranges::find_if(order, [](const Control* control) { return control->StartsFocus(); });
+    first = order.empty() ? nullptr : found == order.end() ? order.front() : *found;
   }
   if (first) MoveFocus(*first);
 }

@@ -50,18 +50,15 @@ struct FocusMark {
   bool operator==(const FocusMark&) const = default;
 };
 
-/// One character of a font by its single-byte code, from 0 to 255, in the cell behind it.
+/// One character of a font by its single-byte code, from 0 to 255, in the middle of its cell. One that would not fit is
+/// drawn smaller, so that it leaves a pixel free at the edges.
 struct CharacterMark {
-  /// The upper left corner of the character.
-  Point Place;
+  Rect Cell;
   int Code = 0;
   /// A face name that is longer than kLongestFaceName names no font: the character has the one that the painter starts
   /// with.
   Font Face;
   Color Ink;
-  /// Filled before the character is drawn; a cell without width is not.
-  Rect Cell = {};
-  Color Ground = {};
   bool operator==(const CharacterMark&) const = default;
 };
 

@@ -25,6 +25,8 @@ class TextBox final : public Control {
   /// True when the user may read and copy the text but not change it.
   bool Locked() const { return mLocked; }
 
+  bool StartsFocus() const override { return !mLocked; }
+
   /// Start and length of the selection in characters (code points). Values outside the text are cut to it.
   int SelStart() const { return mSelStart; }
   void SelStart(int value);

@@ -10,16 +10,13 @@ namespace orx {
 /// The codes 0 to 255 in rows of 20, designed for 96 dpi and scaled to the screen.
 class CharacterGrid {
  public:
-  static constexpr int kCodes = 256;
   static constexpr int kColumns = 20;
 
   /// `scale` is what Desktop::Scale returns.
   explicit CharacterGrid(double scale = 1);
 
-  /// The upper left corner of a character.
-  Point PlaceOf(int code) const;
-  /// The background rectangle of a character of that size.
-  Rect CellOf(int code, const Size& character) const;
+  /// The cell of a character. Cells meet, and every pixel of one is its code.
+  Rect CellOf(int code) const;
   /// The code at a pixel; none in the top and left margins and past the last code. The right margin counts as the start
   /// of the row below, where the next code is.
   std::optional<int> CodeAt(const Point& at) const;
@@ -31,9 +28,6 @@ class CharacterGrid {
  private:
   int mStep;
   int mMargin;
-  int mFrame;
-  int mLeastWidth;
-  int mNarrowWidth;
 };
 
 }  // namespace orx

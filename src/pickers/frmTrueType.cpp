@@ -11,7 +11,10 @@ namespace orx {
 namespace {
 
 constexpr char kFontWithoutName[] = "arial";
+constexpr char kNotInstalled[] = "not installed";
 constexpr double kGridPoints = 12;
+/// Three digits fit in a cell.
+constexpr double kNumberPoints = 6.5;
 constexpr std::int32_t kFullTurn = 360;
 
 Font GridFont(const std::string& name) {
@@ -30,8 +33,8 @@ frmTrueType::frmTrueType(Desktop& desktop)
           {.Name = "frmTrueType", .Caption = "Pick True Type", .HelpKey = "_HelpMapTrueType", .Client = {6210, 5520}}) {
   txtRot.GotFocus = [this] { txtRot_GotFocus(); };
   txtRot.LostFocus = [this] { txtRot_LostFocus(); };
-  picFont.GotFocus = [this] { picFont_GotFocus(); };
-  picFont.LostFocus = [this] { picFont_LostFocus(); };
+  picFont.GotFocus = [this] { FocusGrid(true); };
+  picFont.LostFocus = [this] { FocusGrid(false); };
   picFont.KeyDown = [this](int keyCode) { picFont_KeyDown(keyCode); };
   picFont.MouseDown = [this](Point at) { picFont_MouseDown(at); };
   picFont.DblClick = [this] { PressOK(); };
@@ -39,7 +42,7 @@ frmTrueType::frmTrueType(Desktop& desktop)
 }
 
 void frmTrueType::SelCharacter(std::int32_t value) {
-  mPicked.Character = mGiven.Character = std::clamp(value, 0, CharacterGrid::kCodes - 1);
+  mPicked.Character = mGiven.Character = std::clamp(value, 0, kCharacterCodes - 1);
 }
 
 void frmTrueType::SelRotation(std::int32_t value) {
@@ -58,71 +61,75 @@ void frmTrueType::FillFonts() {
   // The first one is the system's own font, which is not offered for symbols.
   for (std::size_t i = 1; i < fonts.size(); ++i)
     if (!fonts[i].empty()) cboFont.AddItem(fonts[i]);
-  // The first entry is not compared.
+  mMissing.clear();
+  if (const int entry = EntryOf(mPicked.Font); entry >= 0) return cboFont.ListIndex(entry);
+  if (mPicked.Font.empty()) mPicked.Font = kFontWithoutName;
+  if (EntryOf(mPicked.Font) >= 0) return ShowFont();
+  mMissing = mPicked.Font;
+  cboFont.AddItem(mMissing + " (" + Translated(Language(), kNotInstalled) + ")");
+  cboFont.ListIndex(cboFont.ListCount() - 1);
+}
+
+int frmTrueType::EntryOf(const std::string& font) const {
+  // The first entry only counts when no other one has the name.
   for (int i = 1; i < cboFont.ListCount(); ++i)
-    if (EqualInAnyCase(cboFont.List(i), mPicked.Font)) return cboFont.ListIndex(i);
-  ShowFont();
+    if (EqualInAnyCase(cboFont.List(i), font)) return i;
+  return cboFont.ListCount() > 0 && EqualInAnyCase(cboFont.List(0), font) ? 0 : -1;
 }
 
 void frmTrueType::ShowFont() {
-  if (cboFont.ListIndex() >= 0) mPicked.Font = cboFont.Text();
-  if (mPicked.Font.empty()) mPicked.Font = kFontWithoutName;
+  if (cboFont.ListIndex() >= 0) mPicked.Font = IsMissing() ? mMissing : cboFont.Text();
+  // What the platform takes for a font that it does not have are other characters.
+  mCodes = IsMissing() ? CharacterCodes() : OwnerDesktop().CharactersOf(GridFont(mPicked.Font));
   mGrid = CharacterGrid(OwnerDesktop().Scale());
   picFont.AutoRedraw(true);
-  Canvas& drawing = picFont.Drawing();
-  drawing.Clear();
-  const Font font = GridFont(mPicked.Font);
-  const Color ink = OwnerDesktop().SystemColor(SystemColor::WindowText);
-  for (int code = 0; code < CharacterGrid::kCodes; ++code)
-    drawing.Draw(CharacterMark{mGrid.PlaceOf(code), code, font, ink});
   Select(mPicked.Character);
 }
 
-void frmTrueType::DrawCell(int code, CellState state) {
-  const Desktop& desktop = OwnerDesktop();
-  const bool isSelected = state == CellState::Selected;
+void frmTrueType::DrawGrid() {
   Canvas& drawing = picFont.Drawing();
-  if (!isSelected && mGridHasFocus) drawing.ToggleFocus(mCell);
-  const Font font = GridFont(mPicked.Font);
-  mCell = mGrid.CellOf(code, desktop.MeasureCharacter(font, code));
-  drawing.Redraw({mGrid.PlaceOf(code), code, font,
-                  desktop.SystemColor(isSelected ? SystemColor::HighlightText : SystemColor::WindowText), mCell,
-                  desktop.SystemColor(isSelected ? SystemColor::Highlight : SystemColor::Window)});
-  if (isSelected && mGridHasFocus) drawing.ToggleFocus(mCell);
+  drawing.Clear();
+  for (int code = 0; code < kCharacterCodes; ++code) DrawCell(code);
+  if (mGridHasFocus) drawing.ToggleFocus(mGrid.CellOf(mPicked.Character));
+  picFont.Refresh();
+}
+
+void frmTrueType::DrawCell(int code) {
+  const Desktop& desktop = OwnerDesktop();
+  Canvas& drawing = picFont.Drawing();
+  const Rect cell = mGrid.CellOf(code);
+  const bool isSelected = code == mPicked.Character;
+  const auto ink = [&](SystemColor otherwise) {
+    return desktop.SystemColor(isSelected ? SystemColor::HighlightText : otherwise);
+  };
+  if (isSelected) drawing.Draw(FillMark{cell, desktop.SystemColor(SystemColor::Highlight)});
+  if (mCodes.test(static_cast<std::size_t>(code)))
+    return drawing.Draw(CharacterMark{cell, code, GridFont(mPicked.Font), ink(SystemColor::WindowText)});
+  drawing.Draw(TextMark{{cell.Left + cell.Width / 2, cell.Top + cell.Height / 2},
+                        std::to_string(code),
+                        {.Size = kNumberPoints},
+                        ink(SystemColor::GrayText)});
 }
 
 void frmTrueType::Select(int code) {
   mPicked.Character = code;
   lblHlp[1].Caption("Selected character: " + std::to_string(code));
-  DrawCell(code, CellState::Selected);
-  picFont.Refresh();
+  DrawGrid();
 }
 
-void frmTrueType::GoTo(int code) {
-  DrawCell(mPicked.Character, CellState::Normal);
-  Select(code);
-}
-
-void frmTrueType::picFont_GotFocus() {
-  mGridHasFocus = true;
-  picFont.Drawing().ToggleFocus(mCell);
-  picFont.Refresh();
-}
-
-void frmTrueType::picFont_LostFocus() {
-  mGridHasFocus = false;
-  picFont.Drawing().ToggleFocus(mCell);
-  picFont.Refresh();
+void frmTrueType::FocusGrid(bool hasFocus) {
+  mGridHasFocus = hasFocus;
+  DrawGrid();
 }
 
 void frmTrueType::picFont_KeyDown(int keyCode) {
   const std::optional<int> code = CharacterGrid::Neighbour(mPicked.Character, keyCode);
   if (!code) return OwnerDesktop().Beep();
-  GoTo(*code);
+  Select(*code);
 }
 
 void frmTrueType::picFont_MouseDown(const Point& at) {
-  if (const std::optional<int> code = mGrid.CodeAt(at)) GoTo(*code);
+  if (const std::optional<int> code = mGrid.CodeAt(at)) Select(*code);
 }
 
 void frmTrueType::txtRot_GotFocus() {

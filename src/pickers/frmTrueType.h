@@ -5,6 +5,7 @@
 #include <string>
 
 #include "dialogframe/OkCancelForm.h"
+#include "forms/CharacterCodes.h"
 #include "forms/ComboBox.h"
 #include "forms/Label.h"
 #include "forms/Panel.h"
@@ -14,8 +15,9 @@
 
 namespace orx {
 
-/// Shows the single-byte codes of a font as a grid. OK or a double click on the grid keeps what was picked; Cancel and
-/// the close box restore what was given.
+/// Shows the single-byte codes of a font as a grid: the character, or the number of a code that the font has none for.
+/// A font that is not installed is in the list all the same, as long as the dialog is open. OK or a double click on the
+/// grid keeps what was picked; Cancel and the close box restore what was given.
 class frmTrueType final : public OkCancelForm {
  public:
   explicit frmTrueType(Desktop& desktop);
@@ -57,27 +59,29 @@ class frmTrueType final : public OkCancelForm {
     std::int32_t Rotation = 0;
   };
 
-  enum class CellState { Normal, Selected };
-
   void FillFonts();
+  /// The entry of a font in the list, -1 when it is not there.
+  int EntryOf(const std::string& font) const;
+  /// True while the entry of a font that the screen does not have is selected.
+  bool IsMissing() const { return !mMissing.empty() && cboFont.ListIndex() == cboFont.ListCount() - 1; }
   /// Draws the grid in the font selected in the list or, if none is, in the font that was given.
   void ShowFont();
-  void DrawCell(int code, CellState state);
+  void DrawGrid();
+  void DrawCell(int code);
   void Select(int code);
-  /// Moves the selection to another character, or draws the same one again.
-  void GoTo(int code);
   void txtRot_GotFocus();
   void txtRot_LostFocus();
-  void picFont_GotFocus();
-  void picFont_LostFocus();
+  void FocusGrid(bool hasFocus);
   void picFont_KeyDown(int keyCode);
   void picFont_MouseDown(const Point& at);
 
   Choice mPicked;
   Choice mGiven;
   CharacterGrid mGrid;
-  /// The cell drawn last, which carries the focus mark while the grid has the focus.
-  Rect mCell;
+  /// The codes that the shown font has characters for.
+  CharacterCodes mCodes;
+  /// The font of the last entry when it is one that the screen does not have.
+  std::string mMissing;
   bool mGridHasFocus = false;
   /// The text that the field had when it got the focus.
   std::string mRotationOnEntry;

@@ -1,4 +1,5 @@
 // The geometry of the grid and the ways through it, without a dialog.
+#include "forms/CharacterCodes.h"
 #include "forms/Keys.h"
 #include "pickers/CharacterGrid.h"
 #include "tests/support/User.h"
@@ -12,28 +13,26 @@ constexpr double kScales[] = {1, 1.25, 1.5, 1.75, 2, 1.0333};
 
 TEST(CharacterGrid, CellsAreNineteenPixelsApartTwentyToARow) {
   const CharacterGrid grid;
-  EXPECT_EQ((Point{9, 9}), grid.PlaceOf(0));
-  EXPECT_EQ((Point{370, 9}), grid.PlaceOf(19));
-  EXPECT_EQ((Point{9, 28}), grid.PlaceOf(20));
-  EXPECT_EQ((Point{104, 66}), grid.PlaceOf(65));
-  EXPECT_EQ((Point{294, 237}), grid.PlaceOf(255));
+  EXPECT_EQ((Rect{9, 9, 19, 19}), grid.CellOf(0));
+  EXPECT_EQ((Rect{370, 9, 19, 19}), grid.CellOf(19));
+  EXPECT_EQ((Rect{9, 28, 19, 19}), grid.CellOf(20));
+  EXPECT_EQ((Rect{104, 66, 19, 19}), grid.CellOf(65));
+  EXPECT_EQ((Rect{294, 237, 19, 19}), grid.CellOf(255));
 }
 
 TEST(CharacterGrid, PixelsOfTheScreenAreRoundedWithHalvesToTheEvenOne) {
-  EXPECT_EQ((Point{14 + 28, 14}), CharacterGrid(1.5).PlaceOf(1));
-  EXPECT_EQ((Point{18 + 38, 18}), CharacterGrid(2).PlaceOf(1));
-  EXPECT_EQ((Point{11 + 24, 11}), CharacterGrid(1.25).PlaceOf(1));
+  EXPECT_EQ((Rect{14 + 28, 14, 28, 28}), CharacterGrid(1.5).CellOf(1));
+  EXPECT_EQ((Rect{18 + 38, 18, 38, 38}), CharacterGrid(2).CellOf(1));
+  EXPECT_EQ((Rect{11 + 24, 11, 24, 24}), CharacterGrid(1.25).CellOf(1));
 }
 
 TEST(CharacterGrid, EveryPixelOfACellIsItsCode) {
   for (const double scale : kScales) {
     const CharacterGrid grid(scale);
-    const int step = grid.PlaceOf(1).X - grid.PlaceOf(0).X;
-    for (int code = 0; code < CharacterGrid::kCodes; ++code) {
-      const Point first = grid.PlaceOf(code);
-      const Point last{first.X + step - 1, first.Y + step - 1};
-      EXPECT_EQ(code, grid.CodeAt(first)) << scale;
-      EXPECT_EQ(code, grid.CodeAt(last)) << scale;
+    for (int code = 0; code < kCharacterCodes; ++code) {
+      const Rect cell = grid.CellOf(code);
+      EXPECT_EQ(code, grid.CodeAt({cell.Left, cell.Top})) << scale;
+      EXPECT_EQ(code, grid.CodeAt({cell.Right() - 1, cell.Bottom() - 1})) << scale;
     }
   }
 }
@@ -41,9 +40,9 @@ TEST(CharacterGrid, EveryPixelOfACellIsItsCode) {
 TEST(CharacterGrid, TheMarginsAboveAndToTheLeftAreNoCode) {
   for (const double scale : kScales) {
     const CharacterGrid grid(scale);
-    const Point first = grid.PlaceOf(0);
-    EXPECT_EQ(std::nullopt, grid.CodeAt({first.X - 1, first.Y + 30}));
-    EXPECT_EQ(std::nullopt, grid.CodeAt({first.X + 30, first.Y - 1}));
+    const Rect first = grid.CellOf(0);
+    EXPECT_EQ(std::nullopt, grid.CodeAt({first.Left - 1, first.Top + 30}));
+    EXPECT_EQ(std::nullopt, grid.CodeAt({first.Left + 30, first.Top - 1}));
     EXPECT_EQ(std::nullopt, grid.CodeAt({0, 0}));
     EXPECT_EQ(std::nullopt, grid.CodeAt({-50, -50}));
   }
@@ -59,16 +58,6 @@ TEST(CharacterGrid, BehindTheLastCodeThereIsNone) {
   EXPECT_EQ(255, grid.CodeAt({312, 255}));
   EXPECT_EQ(std::nullopt, grid.CodeAt({313, 255}));
   EXPECT_EQ(std::nullopt, grid.CodeAt({9, 256}));
-}
-
-TEST(CharacterGrid, ACellIsOnePixelWiderThanItsCharacterOnEachSideAndNeverTooNarrow) {
-  const CharacterGrid grid;
-  EXPECT_EQ((Rect{8, 9, 14, 19}), grid.CellOf(0, {12, 19}));
-  EXPECT_EQ((Rect{8, 9, 11, 19}), grid.CellOf(0, {9, 19}));
-  EXPECT_EQ((Rect{8, 9, 10, 19}), grid.CellOf(0, {8, 19}));
-  EXPECT_EQ((Rect{8, 9, 10, 19}), grid.CellOf(0, {0, 19}));
-  EXPECT_EQ((Rect{16, 18, 20, 38}), CharacterGrid(2).CellOf(0, {17, 38}));
-  EXPECT_EQ((Rect{16, 18, 22, 38}), CharacterGrid(2).CellOf(0, {18, 38}));
 }
 
 TEST(CharacterGrid, LeftAndRightGoAroundTheEnds) {

@@ -23,7 +23,8 @@ class CharactersRequest : public PagesTest {
     result = service.Show(&layer, 0);
   }
   void PickOn(frmTrueType& picker, int code) {
-    user.ClickAt(picker.picFont, CharacterGrid(desktop().Scale()).PlaceOf(code));
+    const Rect cell = CharacterGrid(desktop().Scale()).CellOf(code);
+    user.ClickAt(picker.picFont, {cell.Left, cell.Top});
   }
 
   std::int32_t result = 77;

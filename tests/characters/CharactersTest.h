@@ -57,12 +57,29 @@ class CharactersTest : public DesktopTest {
   void Cancel() { user.Click(form->cmdCancel); }
 
   const std::vector<Mark>& Marks() { return form->picFont.Drawing().Marks(); }
-  /// The character as it is drawn now.
-  CharacterMark Drawn(int code) {
+  /// The character of a code as it is drawn now, if one is.
+  std::optional<CharacterMark> Drawn(int code) {
     for (const Mark& mark : Marks())
       if (const auto* drawn = std::get_if<CharacterMark>(&mark); drawn && drawn->Code == code) return *drawn;
-    ADD_FAILURE() << "no character " << code;
-    return {};
+    return std::nullopt;
+  }
+  /// The number that stands in its place otherwise.
+  std::optional<TextMark> Number(int code) {
+    for (const Mark& mark : Marks())
+      if (const auto* number = std::get_if<TextMark>(&mark); number && number->Text == std::to_string(code))
+        return *number;
+    return std::nullopt;
+  }
+  std::string DrawnFont(int code = 65) {
+    const std::optional<CharacterMark> drawn = Drawn(code);
+    return drawn ? drawn->Face.Name : std::string();
+  }
+  /// The grounds of cells, which the selected one has alone.
+  std::vector<FillMark> Grounds() {
+    std::vector<FillMark> grounds;
+    for (const Mark& mark : Marks())
+      if (const auto* ground = std::get_if<FillMark>(&mark)) grounds.push_back(*ground);
+    return grounds;
   }
   /// The places of the focus rectangles, which there is one of at most.
   std::vector<Rect> FocusRects() {
@@ -71,25 +88,25 @@ class CharactersTest : public DesktopTest {
       if (const auto* focus = std::get_if<FocusMark>(&mark)) places.push_back(focus->Place);
     return places;
   }
-  Rect CellOf(int code) {
-    const Size size = desktop().MeasureCharacter(Drawn(code).Face, code);
-    const int left = PlaceOf(code).X - Scaled(1);
-    int right = PlaceOf(code).X + size.Width + Scaled(1);
-    if (right - left < Scaled(11)) right = PlaceOf(code).X + Scaled(9);
-    return {left, PlaceOf(code).Y, right - left, size.Height};
-  }
-  void ExpectCell(int code, SystemColor ground, SystemColor ink) {
-    const CharacterMark drawn = Drawn(code);
-    EXPECT_EQ(CellOf(code), drawn.Cell) << code;
-    EXPECT_EQ(desktop().SystemColor(ground), drawn.Ground) << code;
-    EXPECT_EQ(desktop().SystemColor(ink), drawn.Ink) << code;
+  Rect CellOf(int code) { return {PlaceOf(code).X, PlaceOf(code).Y, Scaled(19), Scaled(19)}; }
+  /// Whatever stands in a cell, the character or its number, is in its middle and has one of two inks.
+  void ExpectInk(int code, SystemColor character, SystemColor number) {
+    const std::optional<CharacterMark> drawn = Drawn(code);
+    const std::optional<TextMark> text = Number(code);
+    ASSERT_NE(drawn.has_value(), text.has_value()) << code;
+    EXPECT_EQ(desktop().SystemColor(drawn ? character : number), drawn ? drawn->Ink : text->Pen) << code;
+    const Rect cell = CellOf(code);
+    const Point middle{cell.Left + cell.Width / 2, cell.Top + cell.Height / 2};
+    EXPECT_EQ(cell, drawn ? drawn->Cell : cell) << code;
+    EXPECT_EQ(middle, text ? text->Center : middle) << code;
   }
   void ExpectSelected(int code) {
     EXPECT_EQ(code, form->SelCharacter());
     EXPECT_EQ("Selected character: " + std::to_string(code), form->lblHlp[1].Caption());
-    ExpectCell(code, SystemColor::Highlight, SystemColor::HighlightText);
+    EXPECT_EQ((std::vector<FillMark>{{CellOf(code), desktop().SystemColor(SystemColor::Highlight)}}), Grounds());
+    ExpectInk(code, SystemColor::HighlightText, SystemColor::HighlightText);
   }
-  void ExpectNormal(int code) { ExpectCell(code, SystemColor::Window, SystemColor::WindowText); }
+  void ExpectNormal(int code) { ExpectInk(code, SystemColor::WindowText, SystemColor::GrayText); }
   void ExpectRotationRefused(const std::string& text) {
     const std::string before = user.See(form->txtRot).Text;
     user.Type(form->txtRot, text);

@@ -6,16 +6,15 @@ namespace {
 
 using CharactersGrid = CharactersTest;
 
-TEST_F(CharactersGrid, EveryCodeIsDrawnOnceAtItsPlace) {
+TEST_F(CharactersGrid, EveryCodeIsDrawnOnceInItsCell) {
   Pick([this] {
-    EXPECT_EQ(256U, Marks().size());
+    const Font font{.Name = ListedFont(1), .Size = 12};
+    const CharacterCodes codes = desktop().CharactersOf(font);
+    EXPECT_EQ(257U, Marks().size());
     for (int code = 0; code < 256; ++code) {
-      const CharacterMark drawn = Drawn(code);
-      EXPECT_EQ(PlaceOf(code), drawn.Place) << code;
-      EXPECT_EQ((Font{.Name = ListedFont(1), .Size = 12}), drawn.Face) << code;
-      if (code == 65) continue;
-      EXPECT_EQ(desktop().SystemColor(SystemColor::WindowText), drawn.Ink) << code;
-      EXPECT_EQ(Rect{}, drawn.Cell) << code;
+      EXPECT_EQ(codes.test(static_cast<std::size_t>(code)), Drawn(code).has_value()) << code;
+      EXPECT_EQ(Drawn(code) ? font.Name : "", DrawnFont(code)) << code;
+      if (code != 65) ExpectNormal(code);
     }
     ExpectSelected(65);
     EXPECT_EQ(desktop().SystemColor(SystemColor::Window), form->picFont.BackColor());
@@ -24,15 +23,25 @@ TEST_F(CharactersGrid, EveryCodeIsDrawnOnceAtItsPlace) {
   });
 }
 
-TEST_F(CharactersGrid, AMoveDrawsTheOldCellNormalAndThenTheNewOneSelected) {
+TEST_F(CharactersGrid, CodesThatTheFontHasNoCharacterForAreNumbers) {
+  Pick([this] {
+    const CharacterCodes codes = desktop().CharactersOf({.Name = ListedFont(1), .Size = 12});
+    ASSERT_FALSE(codes.test(1));
+    ASSERT_TRUE(Number(1));
+    EXPECT_EQ("1", Number(1)->Text);
+    EXPECT_EQ(desktop().SystemColor(SystemColor::GrayText), Number(1)->Pen);
+    ClickOn(1);
+    ExpectSelected(1);
+    Cancel();
+  });
+}
+
+TEST_F(CharactersGrid, AMoveDrawsTheOldCellNormalAndTheNewOneSelected) {
   Pick([this] {
     ClickOn(66);
     ExpectNormal(65);
     ExpectSelected(66);
-    ASSERT_EQ(257U, Marks().size());
-    EXPECT_EQ(Mark(Drawn(65)), Marks()[254]);
-    EXPECT_EQ(Mark(Drawn(66)), Marks()[255]);
-    EXPECT_EQ(Mark(FocusMark{CellOf(66)}), Marks()[256]);
+    EXPECT_EQ(Mark(FocusMark{CellOf(66)}), Marks().back());
     Cancel();
   });
 }
@@ -123,7 +132,7 @@ TEST_F(CharactersGrid, AllCodesByTheMouse) {
     for (int code = 0; code < 256; ++code) {
       ClickOn(code);
       ASSERT_EQ(code, form->SelCharacter());
-      ASSERT_EQ(257U, Marks().size());
+      ASSERT_EQ(258U, Marks().size());
     }
     for (int code = 0; code < 255; ++code) ExpectNormal(code);
     ExpectSelected(255);
@@ -139,7 +148,7 @@ TEST_F(CharactersGrid, AllCodesByTheKeys) {
     for (int code = 1; code < 256; ++code) {
       Key(kKeyCodeRight);
       ASSERT_EQ(code, form->SelCharacter());
-      ASSERT_EQ(257U, Marks().size());
+      ASSERT_EQ(258U, Marks().size());
     }
     ExpectSelected(255);
     for (int code = 0; code < 255; ++code) ExpectNormal(code);

@@ -59,9 +59,7 @@ TEST_F(Characters, AnotherFontIsDrawnAtOnce) {
     ClickOn(70);
     user.Choose(form->cboFont, 2);
     EXPECT_EQ(ListedFont(2), form->SelFont());
-    EXPECT_EQ(ListedFont(2), Drawn(0).Face.Name);
-    EXPECT_EQ(256U, Marks().size());
-    EXPECT_EQ(Rect{}, Drawn(65).Cell);
+    EXPECT_EQ(desktop().CharactersOf({.Name = ListedFont(2)}).test(65) ? ListedFont(2) : "", DrawnFont());
     ExpectSelected(70);
   });
   ExpectChoice(ListedFont(2), 70, 0, true);
@@ -79,33 +77,46 @@ TEST_F(Characters, CancelBringsTheLetterCaseBack) {
   ExpectChoice(UpperCase(ListedFont(1)), 65, 0, false);
 }
 
-TEST_F(Characters, TheFirstEntryIsNotLookedAt) {
+TEST_F(Characters, TheFirstEntryIsFoundAsWell) {
   choice.FontName = ListedFont(0);
   Pick([this] {
-    EXPECT_EQ(-1, user.See(form->cboFont).Value);
-    EXPECT_EQ(ListedFont(0), Drawn(65).Face.Name);
+    EXPECT_EQ(0, user.See(form->cboFont).Value);
+    EXPECT_EQ(ListedFont(0), user.See(form->cboFont).Text);
     ExpectSelected(65);
   });
   ExpectChoice(ListedFont(0), 65, 0, false);
 }
 
-TEST_F(Characters, AFontThatIsNotListedIsDrawnAndStays) {
+TEST_F(Characters, AFontThatIsNotInstalledIsListedAsSuchAndStays) {
   choice.FontName = "No Such Font";
   Pick([this] {
-    EXPECT_EQ(-1, user.See(form->cboFont).Value);
-    EXPECT_EQ("", user.See(form->cboFont).Text);
-    EXPECT_EQ("No Such Font", Drawn(65).Face.Name);
+    EXPECT_EQ(static_cast<int>(Listed().size()), user.See(form->cboFont).Value);
+    EXPECT_EQ("No Such Font (not installed)", user.See(form->cboFont).Text);
+    EXPECT_EQ("No Such Font", form->SelFont());
     ClickOn(66);
   });
   ExpectChoice("No Such Font", 66, 0, true);
 }
 
-TEST_F(Characters, AFontThatIsNotListedGivesWayToOneThatIsPicked) {
+TEST_F(Characters, OfAFontThatIsNotInstalledOnlyTheNumbersAreKnown) {
   choice.FontName = "No Such Font";
   Pick([this] {
-    user.Choose(form->cboFont, 0);
-    if (form->SelFont() == "No Such Font") user.Choose(form->cboFont, 1);
-    EXPECT_NE("No Such Font", Drawn(65).Face.Name);
+    for (int code = 0; code < 256; ++code) EXPECT_TRUE(Number(code) && !Drawn(code)) << code;
+    ExpectSelected(65);
+    ExpectNormal(66);
+    Cancel();
+  });
+}
+
+TEST_F(Characters, AFontThatIsNotInstalledGivesWayToOneThatIsPickedAndCanBePickedAgain) {
+  choice.FontName = "No Such Font";
+  Pick([this] {
+    user.Choose(form->cboFont, 2);
+    EXPECT_EQ(ListedFont(2), form->SelFont());
+    EXPECT_FALSE(Number(65) && Number(66) && Number(97));
+    user.Choose(form->cboFont, form->cboFont.ListCount() - 1);
+    EXPECT_EQ("No Such Font", form->SelFont());
+    EXPECT_TRUE(Number(65));
     user.Choose(form->cboFont, 2);
   });
   ExpectChoice(ListedFont(2), 65, 0, true);
@@ -114,8 +125,10 @@ TEST_F(Characters, AFontThatIsNotListedGivesWayToOneThatIsPicked) {
 TEST_F(Characters, AFontWithoutNameIsArial) {
   choice.FontName = "";
   Pick([this] {
-    EXPECT_EQ(-1, user.See(form->cboFont).Value);
-    EXPECT_EQ("arial", Drawn(65).Face.Name);
+    EXPECT_EQ("arial", form->SelFont());
+    const bool isInstalled = user.See(form->cboFont).Value < 0;
+    EXPECT_EQ(isInstalled ? "" : "arial (not installed)", user.See(form->cboFont).Text);
+    EXPECT_EQ(isInstalled ? "arial" : "", DrawnFont());
   });
   ExpectChoice("arial", 65, 0, true);
   choice = {"", 65, 0};
@@ -123,19 +136,16 @@ TEST_F(Characters, AFontWithoutNameIsArial) {
   ExpectChoice("", 65, 0, false);
 }
 
-TEST_F(Characters, AFontWhoseNameIsTooLongIsDrawnInTheFontAtHand) {
-  const std::string longest(31, 'x');
+TEST_F(Characters, AFontWhoseNameIsTooLongIsNotInstalled) {
   const std::string tooLong(32, 'x');
   choice.FontName = tooLong;
   Pick([&] {
-    EXPECT_EQ(tooLong, Drawn(65).Face.Name);
-    ExpectSelected(65);
+    EXPECT_EQ(tooLong + " (not installed)", user.See(form->cboFont).Text);
     ClickOn(66);
     ExpectSelected(66);
   });
   ExpectChoice(tooLong, 66, 0, true);
-  EXPECT_GT(desktop().MeasureCharacter({.Name = longest, .Size = 12}, 'W').Height, 0);
-  EXPECT_GT(desktop().MeasureCharacter({.Name = tooLong, .Size = 12}, 'W').Height, 0);
+  EXPECT_TRUE(desktop().CharactersOf({.Name = tooLong, .Size = 12}).any());
 }
 
 TEST_F(Characters, CodesOutsideOfTheGridBecomeTheNearest) {
@@ -275,6 +285,11 @@ TEST_F(Characters, TheLanguageTranslatesAndGivesTheHelpNumber) {
     EXPECT_EQ("<Rotation>", user.See(form->lblHlp[2]).Text);
     EXPECT_EQ("<Font>", user.See(form->lblHlp[0]).Text);
     EXPECT_EQ("<Font>", form->cboFont.AccessibleName());
+    Cancel();
+  });
+  choice.FontName = "No Such Font";
+  Pick([this] {
+    EXPECT_EQ("No Such Font (<not installed>)", user.See(form->cboFont).Text);
     Cancel();
   });
 }

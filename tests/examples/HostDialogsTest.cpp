@@ -192,7 +192,8 @@ TEST_F(ExamplesHost, TheSymbolOfTheChosenLayerIsPickedAndDrawn) {
   EXPECT_EQ(before, Serialise(*map));
   const std::vector<Mark> drawn = Drawn();
   script.ExpectForm("frmTrueType", [&](Form& shown) {
-    user.DoubleClickAt(Get<PictureBox>(shown, "picFont"), CharacterGrid(desktop().Scale()).PlaceOf(0xA4));
+    const Rect cell = CharacterGrid(desktop().Scale()).CellOf(0xA4);
+    user.DoubleClickAt(Get<PictureBox>(shown, "picFont"), {cell.Left, cell.Top});
   });
   Press(user, *window, "cmdSymbol");
   EXPECT_EQ("Symbol of Terrain: changed (-1)", LastLine());

@@ -39,6 +39,26 @@ TEST_F(FormsFocus, ShowingGivesTheFocusToTheFirstTabStop) {
   EXPECT_TRUE(user.See(form->txtName).Focused);
 }
 
+/// A form that begins with what can only be read.
+struct LockedForm final : Form {
+  explicit LockedForm(Desktop& desktop) : Form(desktop, "frmLocked", {.Client = {3000, 3000}}) {}
+  TextBox txtLocked{*this, "txtLocked", {.Place = {120, 120, 1200, 330}}, TextLines::Single, true};
+  TextBox txtOpen{*this, "txtOpen", {.Place = {120, 570, 1200, 330}}};
+};
+
+TEST_F(FormsFocus, ShowingGivesTheFocusToNoLockedFieldUnlessThereIsNothingElse) {
+  const auto locked = std::make_shared<LockedForm>(desktop());
+  locked->Show(ShowMode::Modeless);
+  EXPECT_TRUE(user.See(locked->txtOpen).Focused);
+  user.Press(*locked, kTab);
+  EXPECT_TRUE(user.See(locked->txtLocked).Focused);
+  locked->Unload();
+  locked->txtOpen.Enabled(false);
+  locked->Show(ShowMode::Modeless);
+  EXPECT_TRUE(user.See(locked->txtLocked).Focused);
+  locked->Unload();
+}
+
 TEST_F(FormsFocus, FocusSetBeforeShowingIsKept) {
   form->cboKind.SetFocus();
   form->Show(ShowMode::Modeless);

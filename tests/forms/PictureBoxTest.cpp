@@ -106,18 +106,6 @@ TEST_F(FormsPictureBox, ItIsNamedByTheLabelInFrontAsItIsNow) {
   EXPECT_EQ("Other", form->picGrid.AccessibleName());
 }
 
-TEST_F(FormsPictureBox, ACharacterIsDrawnAgainOnTopInPlaceOfTheOneBefore) {
-  Canvas canvas;
-  const CharacterMark first{{1, 1}, 'A', {.Name = "F"}, {}};
-  const CharacterMark second{{9, 1}, 'B', {.Name = "F"}, {}};
-  canvas.Draw(first);
-  canvas.Draw(second);
-  CharacterMark marked = first;
-  marked.Cell = {0, 0, 8, 8};
-  canvas.Redraw(marked);
-  EXPECT_EQ((std::vector<Mark>{second, marked}), canvas.Marks());
-}
-
 TEST_F(FormsPictureBox, TheScreenHasFontsEachOfThemOnce) {
   const std::vector<std::string> fonts = desktop().ScreenFonts();
   EXPECT_GE(fonts.size(), 3U);

@@ -1,5 +1,6 @@
 // Single characters of fonts as Qt paints them: what the pixels of the picker's grid show.
 #include <QFontDatabase>
+#include <QPainter>
 #include <set>
 
 #include "desktops/qt/Characters.h"
@@ -18,22 +19,28 @@ class QtCharacters : public QtFormsTest {
   ~QtCharacters() override { picker->Unload(); }
 
   QImage Grid() { return Native<QWidget>(picker->picFont).grab().toImage(); }
-  /// The pixels of a cell as far as no neighbour reaches into it.
+  /// The pixels of a cell.
   QImage Cell(const QImage& grid, int code) {
-    const CharacterGrid places(desktop().Scale());
-    const Point at = places.PlaceOf(code);
-    const int side = places.PlaceOf(1).X - places.PlaceOf(0).X - 2;
+    const Rect cell = CharacterGrid(desktop().Scale()).CellOf(code);
     const double ratio = grid.devicePixelRatio();
-    return grid.copy(QRectF(at.X * ratio, at.Y * ratio, side * ratio, side * ratio).toRect());
+    return grid.copy(QRectF(cell.Left * ratio, cell.Top * ratio, cell.Width * ratio, cell.Height * ratio).toRect());
   }
-  QColor PixelIn(int code) {
-    const QImage grid = Grid();
-    const Point at = CharacterGrid(desktop().Scale()).PlaceOf(code);
-    return grid.pixelColor((QPointF(at.X, at.Y + 2) * grid.devicePixelRatio()).toPoint());
+  /// The part of a cell that is not of its ground, in its own pixels.
+  static QRect InkIn(const QImage& cell, QColor ground) {
+    QRect ink;
+    for (int y = 0; y < cell.height(); ++y)
+      for (int x = 0; x < cell.width(); ++x)
+        if (cell.pixelColor(x, y) != ground) ink |= QRect(x, y, 1, 1);
+    return ink;
   }
   QColor Known(SystemColor which) {
     const Color color = desktop().SystemColor(which);
     return {color.Red, color.Green, color.Blue};
+  }
+
+  void Pick(int code) {
+    const Rect cell = CharacterGrid(desktop().Scale()).CellOf(code);
+    picker->picFont.UserMouseDown({cell.Left, cell.Top});
   }
 
   std::shared_ptr<frmTrueType> picker = std::make_shared<frmTrueType>(desktop());
@@ -63,29 +70,65 @@ TEST_F(QtCharacters, EachLetterLooksDifferent) {
 
 TEST_F(QtCharacters, TheSelectedCellHasTheColorOfSelections) {
   picker->Show(ShowMode::Modeless);
-  EXPECT_EQ(Known(SystemColor::Highlight), PixelIn('A'));
-  EXPECT_EQ(Known(SystemColor::Window), PixelIn('V'));
-  picker->picFont.UserMouseDown(CharacterGrid(desktop().Scale()).PlaceOf('L'));
-  EXPECT_EQ(Known(SystemColor::Window), PixelIn('A'));
+  const QImage selected = Cell(Grid(), 'A');
+  // At a scale with a fraction the very edge is shared with the neighbours.
+  const QRect filled = selected.rect().adjusted(1, 1, -1, -1);
+  for (const QPoint corner : {filled.topLeft(), filled.topRight(), filled.bottomLeft(), filled.bottomRight()})
+    EXPECT_EQ(Known(SystemColor::Highlight), selected.pixelColor(corner));
+  EXPECT_EQ(Known(SystemColor::Window), Cell(Grid(), 'V').pixelColor(1, 1));
+  Pick('L');
+  EXPECT_EQ(Known(SystemColor::Window), Cell(Grid(), 'A').pixelColor(1, 1));
+}
+
+TEST_F(QtCharacters, CharactersStandInTheMiddleOfTheirCellsAndTouchNoNeighbour) {
+  picker->Show(ShowMode::Modeless);
+  const QImage grid = Grid();
+  for (int code = 0; code < 256; ++code) {
+    if (code == picker->SelCharacter()) continue;
+    const QImage cell = Cell(grid, code);
+    const QRect ink = InkIn(cell, Known(SystemColor::Window));
+    if (ink.isEmpty()) continue;
+    EXPECT_TRUE(cell.rect().adjusted(1, 1, -1, -1).contains(ink)) << code;
+    EXPECT_NEAR(cell.width() - 1, ink.left() + ink.right(), 3 * grid.devicePixelRatio()) << code;
+  }
+}
+
+TEST_F(QtCharacters, EvenTheWidestCharactersOfALargeFontStayInTheirCells) {
+  for (const int code : {0x57, 0x4D, 0x40, 0x89, 0xC6}) {
+    QImage drawn(40, 40, QImage::Format_RGB32);
+    drawn.fill(Qt::white);
+    QPainter painter(&drawn);
+    painter.setRenderHint(QPainter::Antialiasing);
+    qt::CharacterFont({.Size = 60}, QApplication::font()).Draw(painter, QRectF(10, 10, 20, 20), code);
+    painter.end();
+    const QRect ink = InkIn(drawn, Qt::white);
+    EXPECT_TRUE(QRect(11, 11, 18, 18).contains(ink)) << code;
+    EXPECT_GE(std::max(ink.width(), ink.height()), 14) << code;
+  }
+}
+
+TEST_F(QtCharacters, CodesWithoutACharacterShowTheirNumbersInGray) {
+  picker->Show(ShowMode::Modeless);
+  const QImage grid = Grid();
+  ASSERT_FALSE(desktop().CharactersOf({.Name = picker->SelFont()}).test(0x81));
+  const QImage cell = Cell(grid, 0x81);
+  EXPECT_FALSE(InkIn(cell, Known(SystemColor::Window)).isEmpty());
+  const QColor gray = Known(SystemColor::GrayText);
+  for (int y = 0; y < cell.height(); ++y)
+    for (int x = 0; x < cell.width(); ++x) EXPECT_GE(cell.pixelColor(x, y).lightness(), gray.lightness() - 2);
 }
 
 TEST_F(QtCharacters, AssistiveSoftwareReadsTheSelectedCharacter) {
   picker->Show(ShowMode::Modeless);
   EXPECT_EQ("Selected character: 65", Native<QWidget>(picker->picFont).accessibleName());
-  picker->picFont.UserMouseDown(CharacterGrid(desktop().Scale()).PlaceOf('L'));
+  Pick('L');
   EXPECT_EQ("Selected character: 76", Native<QWidget>(picker->picFont).accessibleName());
 }
 
 TEST_F(QtCharacters, LettersStandUnderTheirCodesAndSpacesShowNothing) {
   picker->Show(ShowMode::Modeless);
   const QImage grid = Grid();
-  const auto isBlank = [&](int code) {
-    const QImage cell = Cell(grid, code);
-    for (int y = 0; y < cell.height(); ++y)
-      for (int x = 0; x < cell.width(); ++x)
-        if (cell.pixelColor(x, y) != Known(SystemColor::Window)) return false;
-    return true;
-  };
+  const auto isBlank = [&](int code) { return InkIn(Cell(grid, code), Known(SystemColor::Window)).isEmpty(); };
   EXPECT_TRUE(isBlank(' '));
   EXPECT_TRUE(isBlank(0xA0));
   for (const int code : {0x30, 0x80, 0x99, 0xB0, 0xE4, 0xFF}) EXPECT_FALSE(isBlank(code)) << code;
@@ -94,16 +137,7 @@ TEST_F(QtCharacters, LettersStandUnderTheirCodesAndSpacesShowNothing) {
 TEST_F(QtCharacters, AFontWithTooLongANameIsThatOfTheDialog) {
   const std::string tooLong(32, 'x');
   const Font own{.Name = QApplication::font().family().toStdString(), .Size = QApplication::font().pointSizeF()};
-  EXPECT_EQ(qt::CharacterFont(own, QApplication::font()).Measure('W'),
-            qt::CharacterFont({.Name = tooLong, .Size = 40}, QApplication::font()).Measure('W'));
-}
-
-TEST_F(QtCharacters, WidthsAreThoseOfTheCharactersAndHeightsThoseOfTheFont) {
-  const Font font{.Name = QApplication::font().family().toStdString(), .Size = 12};
-  EXPECT_GT(desktop().MeasureCharacter(font, 'W').Width, desktop().MeasureCharacter(font, 'i').Width);
-  EXPECT_EQ(desktop().MeasureCharacter(font, 'W').Height, desktop().MeasureCharacter(font, 'i').Height);
-  EXPECT_GE(desktop().MeasureCharacter({.Name = font.Name, .Size = 24}, 'W').Width,
-            2 * desktop().MeasureCharacter(font, 'W').Width - 2);
+  EXPECT_EQ(desktop().CharactersOf(own), desktop().CharactersOf({.Name = tooLong}));
 }
 
 TEST(QtCharacterFor, TheLetterComesBeforeTheSign) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <set>
 
+#include "desktops/win32/Characters.h"
 #include "desktops/win32/Handles.h"
 #include "pickers/frmTrueType.h"
 #include "tests/win32/Win32Test.h"
@@ -22,17 +23,17 @@ class Win32Characters : public Win32FormsTest {
     UpdateWindow(WindowOf(picker->picFont));
     return GetPixel(win32::WindowContext(WindowOf(picker->picFont)).Get(), x, y);
   }
-  /// The pixels of a cell as far as no neighbour reaches into it.
+  /// The pixels of a cell, row by row.
   std::vector<COLORREF> Cell(int code) {
     UpdateWindow(WindowOf(picker->picFont));
     const win32::WindowContext context(WindowOf(picker->picFont));
-    const Point at = Grid().PlaceOf(code);
-    const int side = Grid().PlaceOf(1).X - Grid().PlaceOf(0).X - 2;
+    const Rect cell = Grid().CellOf(code);
     std::vector<COLORREF> pixels;
-    for (int y = 0; y < side; ++y)
-      for (int x = 0; x < side; ++x) pixels.push_back(GetPixel(context.Get(), at.X + x, at.Y + y));
+    for (int y = cell.Top; y < cell.Bottom(); ++y)
+      for (int x = cell.Left; x < cell.Right(); ++x) pixels.push_back(GetPixel(context.Get(), x, y));
     return pixels;
   }
+  void Pick(int code) { picker->picFont.UserMouseDown({Grid().CellOf(code).Left, Grid().CellOf(code).Top}); }
   CharacterGrid Grid() { return CharacterGrid(desktop().Scale()); }
 
   std::shared_ptr<frmTrueType> picker = std::make_shared<frmTrueType>(desktop());
@@ -45,24 +46,40 @@ TEST_F(Win32Characters, EachLetterLooksDifferent) {
 }
 
 TEST_F(Win32Characters, TheSelectedCellHasTheColorOfSelections) {
-  const Point selected = Grid().PlaceOf('A');
-  EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), PixelAt(selected.X - 1, selected.Y));
-  picker->picFont.UserMouseDown(Grid().PlaceOf('L'));
-  EXPECT_EQ(GetSysColor(COLOR_WINDOW), PixelAt(selected.X - 1, selected.Y));
+  for (const std::size_t corner : {std::size_t{0}, Cell('A').size() - 1}) {
+    EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), Cell('A')[corner]);
+    EXPECT_EQ(GetSysColor(COLOR_WINDOW), Cell('V')[corner]);
+  }
+  Pick('L');
+  EXPECT_EQ(GetSysColor(COLOR_WINDOW), Cell('A').front());
 }
 
 TEST_F(Win32Characters, TheFocusIsMarkedOnTheEdgeOfTheSelectedCell) {
-  const Point selected = Grid().PlaceOf('A');
-  const auto edge = [&] {
-    std::vector<COLORREF> pixels;
-    for (int x = 0; x < 8; ++x) pixels.push_back(PixelAt(selected.X - 1 + x, selected.Y));
-    return pixels;
-  };
-  const std::vector<COLORREF> before = edge();
+  const std::vector<COLORREF> before = Cell('A');
   picker->picFont.SetFocus();
-  EXPECT_NE(before, edge());
+  EXPECT_NE(before, Cell('A'));
   picker->txtRot.SetFocus();
-  EXPECT_EQ(before, edge());
+  EXPECT_EQ(before, Cell('A'));
+}
+
+TEST_F(Win32Characters, CharactersStandInTheMiddleOfTheirCellsAndTouchNoNeighbour) {
+  const int side = Grid().CellOf(0).Width;
+  for (int code = 0; code < 256; ++code) {
+    if (code == picker->SelCharacter()) continue;
+    const std::vector<COLORREF> pixels = Cell(code);
+    int left = side;
+    int right = -1;
+    for (int i = 0; i < side * side; ++i) {
+      if (pixels[static_cast<std::size_t>(i)] == GetSysColor(COLOR_WINDOW)) continue;
+      left = std::min(left, i % side);
+      right = std::max(right, i % side);
+      EXPECT_TRUE(i / side > 0 && i / side < side - 1) << code;
+    }
+    if (right < 0) continue;
+    EXPECT_GT(left, 0) << code;
+    EXPECT_LT(right, side - 1) << code;
+    EXPECT_NEAR(side - 1, left + right, 3 * desktop().Scale()) << code;
+  }
 }
 
 TEST_F(Win32Characters, SpacesShowNothingAndLettersSomething) {
@@ -88,12 +105,9 @@ TEST_F(Win32Characters, TheColorsAreThoseOfTheSystem) {
 
 TEST_F(Win32Characters, ATooLongNameTakesTheFontOfTheDevice) {
   const win32::WindowContext screen(nullptr);
-  SIZE size = {};
-  GetTextExtentPoint32A(screen.Get(), "W", 1, &size);
-  const std::string tooLong(32, 'x');
-  EXPECT_EQ((Size{size.cx, size.cy}), desktop().MeasureCharacter({.Name = tooLong, .Size = 40}, 'W'));
-  const std::string longest(31, 'x');
-  EXPECT_NE((Size{size.cx, size.cy}), desktop().MeasureCharacter({.Name = longest, .Size = 40}, 'W'));
+  EXPECT_FALSE(win32::MakeCharacterFont(screen.Get(), {.Name = std::string(32, 'x'), .Size = 40}));
+  EXPECT_TRUE(win32::MakeCharacterFont(screen.Get(), {.Name = std::string(31, 'x'), .Size = 40}));
+  EXPECT_TRUE(desktop().CharactersOf({.Name = std::string(32, 'x')}).test('W'));
 }
 
 }  // namespace

@@ -16,9 +16,8 @@ class HeadlessDesktop final : public Desktop {
   double Scale() const override { return mScale; }
   std::vector<std::string> ScreenFonts() const override { return mScreenFonts; }
   Color SystemColor(orx::SystemColor which) const override;
-  /// 16 pixels high and the remainder of code / 20 wide, so that some characters are narrow, some wide and some have no
-  /// width.
-  Size MeasureCharacter(const Font&, int code) const override { return {code % 20, 16}; }
+  /// All but the control codes below 32, in every font.
+  CharacterCodes CharactersOf(const Font&) const override { return CharacterCodes().set() << 32; }
   numbers::Separators Separators() const override { return mSeparators; }
   /// Of the Latin, Greek and Cyrillic alphabets.
   std::string LowerCase(const std::string& text) const override;

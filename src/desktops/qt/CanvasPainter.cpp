@@ -56,9 +56,8 @@ class MarkPainter {
   void operator()(const CharacterMark& mark) {
     // Characters come by the hundred, all in the same font.
     if (!mCharacters || mCharacters->Face() != mark.Face) mCharacters.emplace(mark.Face, mDialogFont);
-    if (mark.Cell.Width > 0) mPainter.fillRect(RectOf(mark.Cell), ToQt(mark.Ground));
     mPainter.setPen(ToQt(mark.Ink));
-    mCharacters->Draw(mPainter, mark.Place, mark.Code);
+    mCharacters->Draw(mPainter, RectOf(mark.Cell), mark.Code);
   }
 
  private:

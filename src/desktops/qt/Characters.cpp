@@ -2,6 +2,7 @@
 
 #include <QGlyphRun>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktops/qt/CanvasPainter.h"
 #include "forms/TextBox.h"
@@ -36,17 +37,29 @@ quint32 CharacterFont::GlyphOf(int code) const {
   return character ? mRaw.glyphIndexesForString(QString::fromUcs4(&*character, 1)).value(0) : 0;
 }
 
-Size CharacterFont::Measure(int code) const {
-  const QList<QPointF> advances = mRaw.advancesForGlyphIndexes({GlyphOf(code)});
-  return {qRound(advances.value(0).x()), qRound(mRaw.ascent() + mRaw.descent())};
+CharacterCodes CharacterFont::Codes() const {
+  CharacterCodes codes;
+  for (int code = 0; code < kCharacterCodes; ++code) codes.set(static_cast<std::size_t>(code), GlyphOf(code) != 0);
+  return codes;
 }
 
-void CharacterFont::Draw(QPainter& painter, const Point& place, int code) const {
+void CharacterFont::Draw(QPainter& painter, const QRectF& cell, int code) const {
+  const quint32 glyph = GlyphOf(code);
+  const QRectF ink = mRaw.boundingRect(glyph);
+  const QRectF room = cell.adjusted(1, 1, -1, -1);
+  const QPointF middle = room.center();
+  QPointF start(middle.x() - ink.center().x(), middle.y() + (mRaw.ascent() - mRaw.descent()) / 2);
+  start = start.toPoint();
+  // A shrunk outline is smoothed by up to half a pixel at each side.
+  const double shrunk = std::min({1.0, (room.width() - 1) / ink.width(), (room.height() - 1) / ink.height()});
+  if (!ink.isEmpty() && !room.contains(ink.translated(start))) start = middle - shrunk * ink.center();
+  painter.translate(start);
+  painter.scale(shrunk, shrunk);
   QGlyphRun run;
   run.setRawFont(mRaw);
-  run.setGlyphIndexes({GlyphOf(code)});
-  run.setPositions({QPointF(0, mRaw.ascent())});
-  painter.drawGlyphRun(QPointF(place.X, place.Y), run);
+  run.setGlyphIndexes({glyph});
+  run.setPositions({QPointF()});
+  painter.drawGlyphRun(QPointF(), run);
 }
 
 }  // namespace orx::qt

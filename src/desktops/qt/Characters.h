@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "forms/Canvas.h"
+#include "forms/CharacterCodes.h"
 
 class QPainter;
 
@@ -16,17 +17,18 @@ namespace orx::qt {
 /// neither.
 std::optional<char32_t> CharacterFor(int code, const std::function<bool(char32_t)>& isInFont);
 
-/// A font whose characters are found by single-byte codes. A character that it lacks is not taken from another font:
-/// its own sign for missing characters is drawn.
+/// A font whose characters are found by single-byte codes. A character that it lacks is not taken from another font.
 class CharacterFont {
  public:
   /// `dialogFont` stands in for a font whose name is too long to be one.
   CharacterFont(const Font& face, const QFont& dialogFont);
 
   const Font& Face() const { return mFace; }
-  Size Measure(int code) const;
-  /// Draws the character with the painter's pen.
-  void Draw(QPainter& painter, const Point& place, int code) const;
+  /// The codes for which it has characters.
+  CharacterCodes Codes() const;
+  /// Draws the character with the painter's pen in the middle of a cell: its ink across, its line down, so that the
+  /// characters of a row stand on one line. One that would touch the edge is drawn smaller. The painter is moved.
+  void Draw(QPainter& painter, const QRectF& cell, int code) const;
 
  private:
   quint32 GlyphOf(int code) const;

@@ -169,8 +169,8 @@ Color QtDesktop::SystemColor(orx::SystemColor which) const {
   return FromQt(QApplication::palette().color(isGray ? QPalette::Disabled : QPalette::Active, RoleOf(which)));
 }
 
-Size QtDesktop::MeasureCharacter(const Font& face, int code) const {
-  return CharacterFont(face, DialogFont()).Measure(code);
+CharacterCodes QtDesktop::CharactersOf(const Font& face) const {
+  return CharacterFont(face, DialogFont()).Codes();
 }
 
 numbers::Separators QtDesktop::LocaleSeparators() const {

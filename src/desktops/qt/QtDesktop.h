@@ -23,7 +23,7 @@ class QtDesktop final : public NativeDesktop {
   int FrameLine(bool hasCaption) const override;
   std::vector<std::string> ScreenFonts() const override;
   Color SystemColor(orx::SystemColor which) const override;
-  Size MeasureCharacter(const Font& face, int code) const override;
+  CharacterCodes CharactersOf(const Font& face) const override;
   std::string LowerCase(const std::string& text) const override;
   SettingsStore& Settings() override;
   bool SavePicture(const Form& form, const std::string& pngPath) const override;

@@ -130,9 +130,9 @@ Color Win32Desktop::SystemColor(orx::SystemColor which) const {
   return {GetRValue(color), GetGValue(color), GetBValue(color)};
 }
 
-Size Win32Desktop::MeasureCharacter(const Font& face, int code) const {
+CharacterCodes Win32Desktop::CharactersOf(const Font& face) const {
   const GuestScope guest;
-  return CharacterSize(face, code);
+  return CodesOf(face);
 }
 
 numbers::Separators Win32Desktop::LocaleSeparators() const {
