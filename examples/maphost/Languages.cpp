@@ -21,6 +21,7 @@ Languages::Languages(const std::filesystem::path& folder) {
     mEntries.push_back({named.empty() ? file.stem().string() : named, std::move(language)});
   }
   mEntries.push_back({"Pseudo (for layouts)", std::make_unique<orx::languages::PseudoLanguage>()});
+  mEntries.push_back({"Pseudo, right to left", std::make_unique<orx::languages::PseudoLanguage>(true)});
 }
 
 DesignedCaptions::DesignedCaptions(const orx::Form& form) : mCaption(form.Caption()) {

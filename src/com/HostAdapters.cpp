@@ -44,6 +44,8 @@ class LanguageAdapter final : public orx::ILanguage, public std::enable_shared_f
     mLanguage.Held().Call("TranslateForm", Variant(lent.Automation()));
   }
 
+  bool IsRightToLeft() override { return TranslateText(kDirectionKey) == kRightToLeft; }
+
   std::shared_ptr<const void> Lifetime() const override { return shared_from_this(); }
 
  private:

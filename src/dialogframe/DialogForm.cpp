@@ -35,6 +35,7 @@ void DialogForm::TranslateCaption() {
 }
 
 void DialogForm::TakeLanguage() {
+  RightToLeft(LanguageActive() && mLanguage->IsRightToLeft());
   if (!LanguageActive()) return;
   const std::optional<double> number =
       numbers::ToDouble(mLanguage->TranslateText(mHelpKey), OwnerDesktop().Separators());

@@ -46,8 +46,8 @@ class DialogForm : public Form {
 
   /// Puts the form where it is to open.
   virtual void Arrange() { Center(); }
-  /// Takes the help context number from an active language: the number under the help key, rounded. A text that is not
-  /// a number, or is too large, leaves the designed one.
+  /// Takes the direction and the help context number from an active language: the number under the help key, rounded. A
+  /// text that is not a number, or is too large, leaves the designed one.
   virtual void TakeLanguage();
   /// Fills the controls. A form that has nothing to edit unloads itself here.
   virtual void Fill() {}

@@ -29,15 +29,8 @@ struct Font {
 inline constexpr int kLongestFaceName = 31;
 
 /// The colours of the user's scheme that drawings use, with the platform's code numbers.
-/// DialogFace is the ground of dialogs, and GrayText the ink of what cannot be used.
-enum class SystemColor {
-  Window = 5,
-  WindowText = 8,
-  Highlight = 13,
-  HighlightText = 14,
-  DialogFace = 15,
-  GrayText = 17
-};
+/// DialogFace is the ground of dialogs.
+enum class SystemColor { Window = 5, WindowText = 8, Highlight = 13, HighlightText = 14, DialogFace = 15 };
 
 /// The mouse pointers that dialogs show, with the platform's code numbers.
 enum class Pointer { Default = 0, SizeNS = 7, Hourglass = 11 };

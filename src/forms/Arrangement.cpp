@@ -79,6 +79,7 @@ Arrangement Arrange(const Form& form, Size scrollBars) {
                                 .Scale = desktop.Scale(),
                                 .ScrollBars = scrollBars});
   result.Frames = frames;
+  result.IsMirrored = form.RightToLeft();
   return result;
 }
 
@@ -88,10 +89,15 @@ bool StandsPinned(const Control& control) {
 
 Rect PixelPlace(const Control& control, const Arrangement& arrangement) {
   Rect place = TwipsToPixels(arrangement.Frames.PlaceOf(control), arrangement.Scale);
+  int width = arrangement.Body.Width;
+  if (const Control* const outer = control.Parent().ContainerControl())
+    width = TwipsToPixels(outer->Place(), arrangement.Scale).Width;
   if (StandsPinned(control)) {
     place.Left = std::max(0, place.Left - arrangement.Missing.Width);
     place.Top -= arrangement.Missing.Height;
+    width = arrangement.Window.Width;
   }
+  if (arrangement.IsMirrored) place.Left = width - place.Right();
   return place;
 }
 

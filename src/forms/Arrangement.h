@@ -53,6 +53,8 @@ struct Arrangement {
   double Scale = 1;
   /// How the frames move the controls.
   FrameRoom Frames;
+  /// True when all places are mirrored from left to right.
+  bool IsMirrored = false;
   /// What of the client area the window has no room for.
   Size Missing;
   /// The width that the window has beyond the shown part of the form, for the scroll bar, so that the controls lose
@@ -85,7 +87,8 @@ Arrangement Arrange(const Form& form, Size scrollBars);
 /// True for a control that stays at the bottom of the window while the body of its form scrolls.
 bool StandsPinned(const Control& control);
 /// The place of any control in the native window that it stands in: a pinned one in the window of its form, another
-/// control of the form in the body, all others in the control that holds them. All places on the screen come from here.
+/// control of the form in the body, all others in the control that holds them. All places on the screen come from here,
+/// and nothing but this mirrors them.
 Rect PixelPlace(const Control& control, const Arrangement& arrangement);
 
 }  // namespace orx

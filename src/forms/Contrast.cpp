@@ -6,8 +6,7 @@
 namespace orx {
 namespace {
 
-/// A little more than what is promised, as the faces of buttons are shaded.
-constexpr double kFadedContrast = 4.2;
+constexpr double kFadedContrast = 4.5;
 
 double Light(std::uint8_t part) {
   const double share = part / 255.0;

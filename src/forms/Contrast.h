@@ -8,8 +8,8 @@ namespace orx {
 /// The ratio of what two colours give off, as the eye weighs it: from 1 for equal ones to 21 for black and white.
 double Contrast(Color one, Color other);
 
-/// The ink of a picture that is disabled: paler than `ink`, but on `ground` it can still be told apart, by a contrast
-/// of at least 3 if the ink has that.
+/// The ink of what is disabled or only a substitute: paler than `ink`, but on `ground` it can still be read, by a
+/// contrast of at least 4.5 if the ink has that.
 Color FadedInk(Color ink, Color ground);
 
 }  // namespace orx

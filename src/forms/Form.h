@@ -47,6 +47,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void HelpContextId(std::int32_t value) { mDesign.HelpContextId = value; }
   /// Whether the user may size the window.
   BorderStyle Border() const { return mDesign.Border; }
+  /// True for a form that is read from right to left: its window shows it mirrored, drawings excepted. A change counts
+  /// when the form next gets a window. False at first.
+  bool RightToLeft() const { return mRightToLeft; }
+  void RightToLeft(bool value) { mRightToLeft = value; }
 
   /// Place of the window with its frame, in twips from the upper left corner of the screen.
   int Left() const { return mLeft; }
@@ -213,6 +217,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   bool mLoaded = false;
   bool mRetired = false;
   bool mUnloadsWhenHidden = false;
+  bool mRightToLeft = false;
   int mActs = 0;
   bool mVisible = false;
   bool mEnabled = true;

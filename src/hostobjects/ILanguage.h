@@ -21,7 +21,13 @@ class ILanguage : public BorrowedObject {
   /// Translates captions, tool tips and tab captions of the form's controls (Form::All), and the entries of lists that
   /// have words (ListControl::HasWords); the form's own caption is translated by the form through TranslateText.
   virtual void TranslateForm(Form& form) = 0;
+  /// True for a language that is read from right to left; dialogs are mirrored then.
+  virtual bool IsRightToLeft() { return false; }
 };
+
+/// The key under which languages of texts say how they are read: "rtl" means from right to left.
+inline constexpr char kDirectionKey[] = "_Direction";
+inline constexpr char kRightToLeft[] = "rtl";
 
 /// True when there is a language with entries.
 inline bool IsActive(ILanguage* language) {

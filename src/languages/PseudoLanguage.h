@@ -9,8 +9,15 @@ namespace orx::languages {
 /// {2}, ... and a text that is pseudo-translated already stay as they are. Help keys give an empty text.
 class PseudoLanguage final : public FormLanguage {
  public:
+  explicit PseudoLanguage(bool rightToLeft = false) : mRightToLeft(rightToLeft) {}
+
   std::int32_t EntryCount() override { return 1; }
   std::string TranslateText(const std::string& key) override;
+  /// As given when the language was made.
+  bool IsRightToLeft() override { return mRightToLeft; }
+
+ private:
+  bool mRightToLeft;
 };
 
 }  // namespace orx::languages

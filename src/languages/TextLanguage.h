@@ -27,6 +27,8 @@ class TextLanguage final : public FormLanguage {
 
   std::int32_t EntryCount() override { return static_cast<std::int32_t>(mTexts.size()); }
   std::string TranslateText(const std::string& key) override;
+  /// What the file says under "_Direction".
+  bool IsRightToLeft() override { return TranslateText(kDirectionKey) == kRightToLeft; }
   bool HasText(const std::string& key) const { return mTexts.contains(key); }
   /// All texts by key.
   const std::map<std::string, std::string>& Texts() const { return mTexts; }

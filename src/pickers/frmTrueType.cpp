@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "dialogframe/SelectAllText.h"
+#include "forms/Contrast.h"
 #include "forms/Desktop.h"
 #include "numbers/Numbers.h"
 #include "text/Utf8Text.h"
@@ -14,7 +15,7 @@ constexpr char kFontWithoutName[] = "arial";
 constexpr char kNotInstalled[] = "not installed";
 constexpr double kGridPoints = 12;
 /// Three digits fit in a cell.
-constexpr double kNumberPoints = 6.5;
+constexpr double kNumberPoints = 6;
 constexpr std::int32_t kFullTurn = 360;
 
 Font GridFont(const std::string& name) {
@@ -99,16 +100,14 @@ void frmTrueType::DrawCell(int code) {
   Canvas& drawing = picFont.Drawing();
   const Rect cell = mGrid.CellOf(code);
   const bool isSelected = code == mPicked.Character;
-  const auto ink = [&](SystemColor otherwise) {
-    return desktop.SystemColor(isSelected ? SystemColor::HighlightText : otherwise);
-  };
+  const Color ink = desktop.SystemColor(isSelected ? SystemColor::HighlightText : SystemColor::WindowText);
   if (isSelected) drawing.Draw(FillMark{cell, desktop.SystemColor(SystemColor::Highlight)});
   if (mCodes.test(static_cast<std::size_t>(code)))
-    return drawing.Draw(CharacterMark{cell, code, GridFont(mPicked.Font), ink(SystemColor::WindowText)});
+    return drawing.Draw(CharacterMark{cell, code, GridFont(mPicked.Font), ink});
   drawing.Draw(TextMark{{cell.Left + cell.Width / 2, cell.Top + cell.Height / 2},
                         std::to_string(code),
                         {.Size = kNumberPoints},
-                        ink(SystemColor::GrayText)});
+                        isSelected ? ink : FadedInk(ink, desktop.SystemColor(SystemColor::Window))});
 }
 
 void frmTrueType::Select(int code) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "forms/Contrast.h"
 #include "pickers/frmTrueType.h"
 #include "service/modMain.h"
 #include "tests/support/DesktopTest.h"
@@ -90,11 +91,11 @@ class CharactersTest : public DesktopTest {
   }
   Rect CellOf(int code) { return {PlaceOf(code).X, PlaceOf(code).Y, Scaled(19), Scaled(19)}; }
   /// Whatever stands in a cell, the character or its number, is in its middle and has one of two inks.
-  void ExpectInk(int code, SystemColor character, SystemColor number) {
+  void ExpectInk(int code, Color character, Color number) {
     const std::optional<CharacterMark> drawn = Drawn(code);
     const std::optional<TextMark> text = Number(code);
     ASSERT_NE(drawn.has_value(), text.has_value()) << code;
-    EXPECT_EQ(desktop().SystemColor(drawn ? character : number), drawn ? drawn->Ink : text->Pen) << code;
+    EXPECT_EQ(drawn ? character : number, drawn ? drawn->Ink : text->Pen) << code;
     const Rect cell = CellOf(code);
     const Point middle{cell.Left + cell.Width / 2, cell.Top + cell.Height / 2};
     EXPECT_EQ(cell, drawn ? drawn->Cell : cell) << code;
@@ -104,9 +105,13 @@ class CharactersTest : public DesktopTest {
     EXPECT_EQ(code, form->SelCharacter());
     EXPECT_EQ("Selected character: " + std::to_string(code), form->lblHlp[1].Caption());
     EXPECT_EQ((std::vector<FillMark>{{CellOf(code), desktop().SystemColor(SystemColor::Highlight)}}), Grounds());
-    ExpectInk(code, SystemColor::HighlightText, SystemColor::HighlightText);
+    const Color ink = desktop().SystemColor(SystemColor::HighlightText);
+    ExpectInk(code, ink, ink);
   }
-  void ExpectNormal(int code) { ExpectInk(code, SystemColor::WindowText, SystemColor::GrayText); }
+  Color Gray() {
+    return FadedInk(desktop().SystemColor(SystemColor::WindowText), desktop().SystemColor(SystemColor::Window));
+  }
+  void ExpectNormal(int code) { ExpectInk(code, desktop().SystemColor(SystemColor::WindowText), Gray()); }
   void ExpectRotationRefused(const std::string& text) {
     const std::string before = user.See(form->txtRot).Text;
     user.Type(form->txtRot, text);

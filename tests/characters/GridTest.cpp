@@ -29,7 +29,7 @@ TEST_F(CharactersGrid, CodesThatTheFontHasNoCharacterForAreNumbers) {
     ASSERT_FALSE(codes.test(1));
     ASSERT_TRUE(Number(1));
     EXPECT_EQ("1", Number(1)->Text);
-    EXPECT_EQ(desktop().SystemColor(SystemColor::GrayText), Number(1)->Pen);
+    EXPECT_EQ(Gray(), Number(1)->Pen);
     ClickOn(1);
     ExpectSelected(1);
     Cancel();

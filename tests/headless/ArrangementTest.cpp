@@ -196,5 +196,18 @@ TEST_F(FormArrangement, AllOtherControlsKeepTheirPlaceInWhatHoldsThem) {
   }
 }
 
+TEST_F(FormArrangement, FormsThatAreReadFromRightToLeftAreMirrored) {
+  form.RightToLeft(true);
+  EXPECT_EQ((Rect{400 - 96 - 160, 8, 160, 22}), PixelPlace(txtName, On(5400)));
+  EXPECT_EQ((Rect{380 - 10 - 85, 20, 85, 25}), PixelPlace(cmdInside, On(5400)));
+  EXPECT_EQ((Rect{400 - 208 - 85, 312, 85, 25}), PixelPlace(cmdOK, On(5400)));
+}
+
+TEST_F(FormArrangement, MirroredControlsStandBesideTheScrollBarAsTheOthersDo) {
+  form.RightToLeft(true);
+  EXPECT_EQ((Rect{400 - 96 - 160, 8, 160, 22}), PixelPlace(txtName, On(3600)));
+  EXPECT_EQ((Rect{400 - 208 - 85 + kBar, 192, 85, 25}), PixelPlace(cmdOK, On(3600)));
+}
+
 }  // namespace
 }  // namespace orx::test

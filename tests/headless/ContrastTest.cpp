@@ -19,7 +19,7 @@ TEST(Contrast, FadedInkIsPalerAndCanStillBeRead) {
   for (const Color ground : {Color{240, 240, 240}, Color{255, 255, 255}, Color{53, 53, 53}, Color{0, 0, 0}}) {
     const Color ink = ground.Red > 128 ? Color{0, 0, 0} : Color{255, 255, 255};
     const double faded = Contrast(FadedInk(ink, ground), ground);
-    EXPECT_GE(faded, 3);
+    EXPECT_GE(faded, 4.5);
     EXPECT_LE(faded, Contrast(ink, ground) / 2);
   }
 }

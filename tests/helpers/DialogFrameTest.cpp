@@ -129,6 +129,18 @@ TEST_F(DialogFrame, F1OpensTheTopicOfTheDialogFromAnyFieldThatHasNoUseForIt) {
   });
 }
 
+TEST_F(DialogFrame, ALanguageMirrorsTheDialogWhileItIsActive) {
+  language.IsMirrored = true;
+  form->Language(&language);
+  form->Load();
+  EXPECT_TRUE(form->RightToLeft());
+  form->Unload();
+  language.Entries = 0;
+  form->Language(&language);
+  form->Load();
+  EXPECT_FALSE(form->RightToLeft());
+}
+
 TEST_F(DialogFrame, AFormThatUnloadsItselfAsItIsFilledSkipsTheRest) {
   form->Language(&language);
   log.Calls.clear();

@@ -15,6 +15,31 @@ TEST_F(Layout, AWellDrawnFormHasNoProblems) {
   EXPECT_EQ(Problems{}, LayoutProblems(*form));
 }
 
+TEST_F(Layout, AFormThatIsReadFromRightToLeftIsMirroredOnce) {
+  const auto placesOf = [this] {
+    std::map<std::string, Rect> places;
+    for (const Control* const control : form->All())
+      if (LayoutOfDesktop().IsSeen(*control)) places[control->Name()] = LayoutOfDesktop().PlaceOf(*control);
+    return places;
+  };
+  ShowForm();
+  const std::map<std::string, Rect> before = placesOf();
+  form->Unload();
+  form->RightToLeft(true);
+  ShowForm();
+  const int width = desktop().ToPixels(form->ClientSize().Width);
+  // What a narrow screen has no room for is scrolled away at the other side.
+  const int missing = width - desktop().ToPixels(form->ShownClientSize().Width);
+  ASSERT_EQ(before.size(), placesOf().size());
+  for (const auto& [name, place] : placesOf()) {
+    const Rect& other = before.at(name);
+    EXPECT_NEAR(width - other.Right(), place.Left, 2 + missing) << name;
+    EXPECT_EQ(other.Width, place.Width) << name;
+    EXPECT_EQ(other.Top, place.Top) << name;
+  }
+  EXPECT_EQ(Problems{}, LayoutProblems(*form));
+}
+
 TEST_F(Layout, TextThatIsCutOffIsFound) {
   ShowForm();
   const std::string longText = "A text that is much too long for the place";

@@ -114,6 +114,11 @@ TEST_F(PageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
   ExpectAllTextShown(&pseudo);
 }
 
+TEST_F(PageLayout, NothingIsCutOffFromRightToLeft) {
+  languages::PseudoLanguage pseudo(true);
+  ExpectAllTextShown(&pseudo);
+}
+
 TEST_F(PageLayout, DialogsFitAScreenOf1280By800PixelsAtTwiceTheSize) {
   // In twips, with the room that the frames take in the style of the desktop, whatever screen there is.
   const auto fits = [this](Form& shown) {

@@ -45,6 +45,12 @@ TEST(MapLibraryLanguageFile, AnUnknownCaptionStaysAndAnUnknownHelpKeyIsEmpty) {
   EXPECT_EQ("12", language.TranslateText("_HelpMapLegend"));
 }
 
+TEST(MapLibraryLanguageFile, SaysHowItIsRead) {
+  EXPECT_FALSE(Parsed("A = B\n").IsRightToLeft());
+  EXPECT_FALSE(Parsed("_Direction = ltr\n").IsRightToLeft());
+  EXPECT_TRUE(Parsed("_Direction = rtl\n").IsRightToLeft());
+}
+
 TEST(MapLibraryLanguageFile, AnEmptyFileIsAnInactiveLanguage) {
   TextLanguage language = Parsed("");
   EXPECT_FALSE(IsActive(&language));

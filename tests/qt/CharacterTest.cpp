@@ -4,6 +4,7 @@
 #include <set>
 
 #include "desktops/qt/Characters.h"
+#include "forms/Contrast.h"
 #include "pickers/frmTrueType.h"
 #include "tests/qt/QtTest.h"
 
@@ -113,9 +114,10 @@ TEST_F(QtCharacters, CodesWithoutACharacterShowTheirNumbersInGray) {
   ASSERT_FALSE(desktop().CharactersOf({.Name = picker->SelFont()}).test(0x81));
   const QImage cell = Cell(grid, 0x81);
   EXPECT_FALSE(InkIn(cell, Known(SystemColor::Window)).isEmpty());
-  const QColor gray = Known(SystemColor::GrayText);
+  const Color gray =
+      FadedInk(desktop().SystemColor(SystemColor::WindowText), desktop().SystemColor(SystemColor::Window));
   for (int y = 0; y < cell.height(); ++y)
-    for (int x = 0; x < cell.width(); ++x) EXPECT_GE(cell.pixelColor(x, y).lightness(), gray.lightness() - 2);
+    for (int x = 0; x < cell.width(); ++x) EXPECT_GE(cell.pixelColor(x, y).lightness(), gray.Red - 2);
 }
 
 TEST_F(QtCharacters, AssistiveSoftwareReadsTheSelectedCharacter) {

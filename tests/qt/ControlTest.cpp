@@ -30,6 +30,16 @@ TEST_F(QtControl, LabelsUnderlineTheirMnemonicAndSpeakOfTheNextField) {
   EXPECT_EQ(&Native<QWidget>(form->txtName), label.buddy());
 }
 
+TEST_F(QtControl, LabelsStandWhereTheirFormIsReadFrom) {
+  ShowForm();
+  EXPECT_TRUE(Native<QLabel>(form->lblName).alignment().testFlag(Qt::AlignLeft));
+  form->Unload();
+  form->RightToLeft(true);
+  ShowForm();
+  EXPECT_TRUE(Native<QLabel>(form->lblName).alignment().testFlag(Qt::AlignRight));
+  EXPECT_TRUE(Native<QLabel>(form->lblName).alignment().testFlag(Qt::AlignAbsolute));
+}
+
 TEST_F(QtControl, AssistiveSoftwareReadsTheNames) {
   ShowForm();
   EXPECT_EQ("Name:", Native<QLineEdit>(form->txtName).accessibleName());

@@ -126,8 +126,10 @@ class RecordingLanguage final : public ILanguage {
   /// The text given for the key, else the key between angle brackets; nothing for keys with an underscore in front.
   std::string TranslateText(const std::string& key) override;
   void TranslateForm(Form& form) override;
+  bool IsRightToLeft() override { return IsMirrored; }
 
   std::int32_t Entries = 10;
+  bool IsMirrored = false;
   std::map<std::string, std::string> Texts;
 
  private:

@@ -96,8 +96,7 @@ TEST_F(Win32Characters, TheColorsAreThoseOfTheSystem) {
                                      {SystemColor::WindowText, COLOR_WINDOWTEXT},
                                      {SystemColor::Highlight, COLOR_HIGHLIGHT},
                                      {SystemColor::HighlightText, COLOR_HIGHLIGHTTEXT},
-                                     {SystemColor::DialogFace, COLOR_BTNFACE},
-                                     {SystemColor::GrayText, COLOR_GRAYTEXT}}) {
+                                     {SystemColor::DialogFace, COLOR_BTNFACE}}) {
     const Color color = desktop().SystemColor(which);
     EXPECT_EQ(GetSysColor(index), RGB(color.Red, color.Green, color.Blue));
   }

@@ -71,8 +71,6 @@ Color HeadlessDesktop::SystemColor(orx::SystemColor which) const {
       return {0, 120, 215};
     case orx::SystemColor::DialogFace:
       return {240, 240, 240};
-    case orx::SystemColor::GrayText:
-      return {109, 109, 109};
     case orx::SystemColor::WindowText:
       break;
   }

@@ -27,6 +27,8 @@ Dialog::Dialog(Form& form) : FormGate(form), mContent(*this, form) {
   setObjectName(ToQt(form.Name()));
   // A font set here would have to be passed on to every control.
   if (const QFont face = DialogFont(); face != font()) setFont(face);
+  // The places of controls are mirrored by their arrangement, what is in them by Qt.
+  setLayoutDirection(form.RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
   // Closing a dialog must not end the host's application.
   setAttribute(Qt::WA_QuitOnClose, false);
   Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;

@@ -16,13 +16,15 @@ class LabelPeer final : public Peer {
       : Peer(control, dialog, native), mControl(control), mNative(*native) {
     mNative.setTextFormat(Qt::PlainText);
     mNative.setWordWrap(control.Wraps());
-    mNative.setAlignment(Qt::AlignTop | NativeAlignment());
+    // Of itself Qt would align a text by the alphabet that it is written in.
+    mNative.setAlignment(Qt::AlignTop | Qt::AlignAbsolute | NativeAlignment());
   }
 
  private:
   Qt::AlignmentFlag NativeAlignment() const {
     if (mControl.Align() == Alignment::Center) return Qt::AlignHCenter;
-    return mControl.Align() == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft;
+    const bool isAtEnd = mControl.Align() == Alignment::Right;
+    return isAtEnd != mControl.OwnerForm().RightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
   }
 
   /// The widget that the label describes: that of the next control that takes the focus.

@@ -58,7 +58,6 @@ QPalette::ColorRole RoleOf(SystemColor which) {
     case SystemColor::DialogFace:
       return QPalette::Window;
     case SystemColor::WindowText:
-    case SystemColor::GrayText:
       break;
   }
   return QPalette::Text;
@@ -165,8 +164,7 @@ std::vector<std::string> QtDesktop::ScreenFonts() const {
 }
 
 Color QtDesktop::SystemColor(orx::SystemColor which) const {
-  const bool isGray = which == orx::SystemColor::GrayText;
-  return FromQt(QApplication::palette().color(isGray ? QPalette::Disabled : QPalette::Active, RoleOf(which)));
+  return FromQt(QApplication::palette().color(QPalette::Active, RoleOf(which)));
 }
 
 CharacterCodes QtDesktop::CharactersOf(const Font& face) const {

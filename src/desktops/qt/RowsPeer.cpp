@@ -45,7 +45,9 @@ RowsPeer::~RowsPeer() {
 void RowsPeer::Pressed(QPoint at, bool isSecond) {
   const QModelIndex index = mView.indexAt(at);
   if (!mModel.Holds(index)) return Report([control = &mControl] { control->OwnerForm().UserFocus(*control); });
-  const RowPress press{index.row(), at.x() - mView.visualRect(index).left(), isSecond};
+  const QRect row = mView.visualRect(index);
+  const int across = mView.isRightToLeft() ? row.right() - at.x() : at.x() - row.left();
+  const RowPress press{index.row(), across, isSecond};
   Report([&rows = mRows, press] { rows.UserPress(press); });
 }
 

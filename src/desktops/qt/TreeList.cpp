@@ -25,7 +25,8 @@ class RowPainter final : public QStyledItemDelegate {
     initStyleOption(&item, index);
     item.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
     PaintMark(*painter, item, index.row());
-    item.rect.setLeft(item.rect.left() + mMeasures.Indent(mModel.Rows().LevelsAt(index.row())));
+    const int indent = mMeasures.Indent(mModel.Rows().LevelsAt(index.row()));
+    item.rect = QStyle::visualRect(item.direction, item.rect, item.rect.adjusted(indent, 0, 0, 0));
     item.widget->style()->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
   }
 
@@ -40,7 +41,9 @@ class RowPainter final : public QStyledItemDelegate {
     if (which == FoldMark::None) return;
     const PixelSpan span = mMeasures.MarkAt(mModel.Rows().LevelsAt(position));
     QStyleOption mark;
-    mark.rect = {item.rect.left() + span.Left, item.rect.top(), span.Width, item.rect.height()};
+    const QRect place(item.rect.left() + span.Left, item.rect.top(), span.Width, item.rect.height());
+    mark.rect = QStyle::visualRect(item.direction, item.rect, place);
+    mark.direction = item.direction;
     mark.palette = item.palette;
     mark.state = QStyle::State_Children | (item.state & (QStyle::State_Enabled | QStyle::State_Selected));
     if (which == FoldMark::Unfolded) mark.state |= QStyle::State_Open;

@@ -20,7 +20,8 @@ constexpr int kStepsPerNotch = 3;
 
 void ContentPane::Open(HWND dialog) {
   mDialog = dialog;
-  mPane = Made(CreateWindowExW(WS_EX_CONTROLPARENT, WindowClasses::kPane, L"",
+  const DWORD scrollBar = mForm.RightToLeft() ? WS_EX_LEFTSCROLLBAR : 0;
+  mPane = Made(CreateWindowExW(WS_EX_CONTROLPARENT | scrollBar, WindowClasses::kPane, L"",
                                WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0, dialog, nullptr,
                                ThisModule(), nullptr));
   mSubclass.emplace(mPane, &ContentPane::PaneProc, this);

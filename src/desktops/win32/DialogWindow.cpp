@@ -41,7 +41,8 @@ int DialogWindow::IdOf(const Control& control) {
 
 void DialogWindow::MakePeers(const Container& container, HWND parent) {
   for (Control* const control : container.Children()) {
-    const WindowSite site{parent ? parent : mDialog->Content().HomeOf(*control), IdOf(*control)};
+    const HWND home = parent ? parent : mDialog->Content().HomeOf(*control);
+    const WindowSite site{home, IdOf(*control), mForm.RightToLeft()};
     Peer& peer = *mPeers.emplace_back(PeerMaker<Peer, Dialog, const WindowSite>(*mDialog, site).Make(*control));
     control->Peer(&peer);
     if (const Container* const inner = control->AsContainer()) MakePeers(*inner, peer.Window());

@@ -40,12 +40,14 @@ class FramePeer final : public Peer {
   }
 
   void Paint(HDC context) const {
+    const Form& form = mControl.OwnerForm();
+    if (form.RightToLeft()) SetLayout(context, LAYOUT_RTL);
     const Selection font(context, Owner().Face());
     const std::wstring caption = Widened(mControl.Caption());
     RECT box;
     GetClientRect(Window(), &box);
     RECT text = box;
-    text.left += mControl.OwnerForm().OwnerDesktop().ToPixels(kIndent);
+    text.left += form.OwnerDesktop().ToPixels(kIndent);
     DrawTextW(context, caption.c_str(), -1, &text, DT_SINGLELINE | DT_CALCRECT);
     if (caption.empty()) text.right = text.left;
     box.top += (text.bottom - text.top) / 2;

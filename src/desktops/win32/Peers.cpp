@@ -1,16 +1,23 @@
 #include "desktops/win32/Peers.h"
 
-#include "desktops/win32/WindowClasses.h"
-
 namespace orx::win32 {
 
-HWND MakeWindow(const wchar_t* className, DWORD style, const WindowSite& site, DWORD extendedStyle) {
+namespace {
+
+HWND Make(const wchar_t* className, DWORD style, const WindowSite& site, DWORD extendedStyle) {
   return Made(CreateWindowExW(extendedStyle, className, L"", style | WS_CHILD, 0, 0, 0, 0, site.Parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(site.Id)), ThisModule(), nullptr));
 }
 
-HWND MakePane(DWORD style, const WindowSite& site) {
-  return MakeWindow(WindowClasses::kPane, style, site, WS_EX_CONTROLPARENT);
+}  // namespace
+
+HWND MakeWindow(const wchar_t* className, DWORD style, const WindowSite& site, DWORD extendedStyle) {
+  const DWORD layout = site.IsMirrored ? WS_EX_LAYOUTRTL | WS_EX_NOINHERITLAYOUT : 0;
+  return Make(className, style, site, extendedStyle | layout);
+}
+
+HWND MakePane(DWORD style, const WindowSite& site, const wchar_t* className) {
+  return Make(className, style, site, WS_EX_CONTROLPARENT);
 }
 
 }  // namespace orx::win32

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "desktops/win32/Peer.h"
+#include "desktops/win32/WindowClasses.h"
 #include "forms/ControlVisitor.h"
 
 namespace orx::win32 {
@@ -12,12 +13,15 @@ namespace orx::win32 {
 struct WindowSite {
   HWND Parent;
   int Id;
+  /// Whether its form is read from right to left.
+  bool IsMirrored = false;
 };
 
-/// Makes a child window of one of the system's classes or of this desktop's.
+/// Makes a child window of one of the system's classes, which the system mirrors inside where that is asked for. The
+/// places of windows are mirrored by their arrangement, and therefore not by those that they stand in.
 HWND MakeWindow(const wchar_t* className, DWORD style, const WindowSite& site, DWORD extendedStyle = 0);
-/// Makes an empty child window that its peer draws or that holds controls.
-HWND MakePane(DWORD style, const WindowSite& site);
+/// Makes an empty child window that its peer draws or that holds controls. It is never mirrored inside.
+HWND MakePane(DWORD style, const WindowSite& site, const wchar_t* className = WindowClasses::kPane);
 
 /// Makes the peer of a control with a new window. The window does not show the control's state yet: call UpdateAll once
 /// all controls have their peers.

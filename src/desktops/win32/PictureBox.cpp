@@ -82,8 +82,8 @@ class PicturePeer final : public Peer {
 }  // namespace
 
 std::unique_ptr<Peer> MakePeer(PictureBox& control, Dialog& dialog, const WindowSite& site) {
-  return std::make_unique<PicturePeer>(
-      control, dialog, MakeWindow(WindowClasses::kPicture, control.TakesFocus() ? WS_TABSTOP : 0, site));
+  return std::make_unique<PicturePeer>(control, dialog,
+                                       MakePane(control.TakesFocus() ? WS_TABSTOP : 0, site, WindowClasses::kPicture));
 }
 
 }  // namespace orx::win32
