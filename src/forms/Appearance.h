@@ -1,6 +1,7 @@
 // Colours, fonts and mouse pointers of forms and drawings.
 #pragma once
 
+#include <bitset>
 #include <cstdint>
 #include <string>
 
@@ -24,6 +25,12 @@ struct Font {
   bool Strikethrough = false;
   bool operator==(const Font&) const = default;
 };
+
+/// The single-byte codes of characters in a font run from 0 up to this.
+inline constexpr int kCharacterCodes = 256;
+
+/// A set of such codes.
+using CharacterCodes = std::bitset<kCharacterCodes>;
 
 /// The longest face name that a font can have on the platforms. A longer one names no font.
 inline constexpr int kLongestFaceName = 31;

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "forms/Appearance.h"
-#include "forms/CharacterCodes.h"
 #include "forms/DesktopHook.h"
 #include "forms/FormWindow.h"
 #include "forms/Geometry.h"

@@ -1,6 +1,6 @@
 #include "pickers/CharacterGrid.h"
 
-#include "forms/CharacterCodes.h"
+#include "forms/Appearance.h"
 #include "forms/Keys.h"
 #include "numbers/Numbers.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "dialogframe/OkCancelForm.h"
-#include "forms/CharacterCodes.h"
+#include "forms/Appearance.h"
 #include "forms/ComboBox.h"
 #include "forms/Label.h"
 #include "forms/Panel.h"

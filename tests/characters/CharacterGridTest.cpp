@@ -1,5 +1,5 @@
 // The geometry of the grid and the ways through it, without a dialog.
-#include "forms/CharacterCodes.h"
+#include "forms/Appearance.h"
 #include "forms/Keys.h"
 #include "pickers/CharacterGrid.h"
 #include "tests/support/User.h"

@@ -1,9 +1,11 @@
 // What the native controls do beyond the scenarios that run on every desktop.
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QtTest>
 
@@ -28,6 +30,51 @@ TEST_F(QtControl, LabelsUnderlineTheirMnemonicAndSpeakOfTheNextField) {
   const auto& label = Native<QLabel>(form->lblName);
   EXPECT_EQ("&Name:", label.text());
   EXPECT_EQ(&Native<QWidget>(form->txtName), label.buddy());
+}
+
+TEST_F(QtControl, TextsThatAreLongerThanTheirPlaceEndWithAnEllipsisAndHaveAToolTip) {
+  ShowForm();
+  const std::string text = "&A text that is much longer than the place that it stands in";
+  const QString whole = "A text that is much longer than the place that it stands in";
+  form->lblName.Caption(text);
+  form->chkShow.Caption(text);
+  form->cmdOK.Caption(text);
+  const auto expectCut = [&](const QWidget& widget, const QString& shown) {
+    EXPECT_TRUE(shown.endsWith(QChar(0x2026))) << shown.toStdString();
+    EXPECT_TRUE(shown.startsWith("&A")) << shown.toStdString();
+    EXPECT_EQ(whole, widget.toolTip());
+  };
+  expectCut(Native<QLabel>(form->lblName), Native<QLabel>(form->lblName).text());
+  expectCut(Native<QCheckBox>(form->chkShow), Native<QCheckBox>(form->chkShow).text());
+  expectCut(Native<QPushButton>(form->cmdOK), Native<QPushButton>(form->cmdOK).text());
+  form->cmdOK.ToolTipText("What it does");
+  EXPECT_EQ("What it does", Native<QWidget>(form->cmdOK).toolTip());
+  form->lblName.Caption("&Name:");
+  EXPECT_EQ("&Name:", Native<QLabel>(form->lblName).text());
+  EXPECT_EQ("", Native<QLabel>(form->lblName).toolTip());
+}
+
+TEST_F(QtControl, AWiderPlaceShowsMoreOfAText) {
+  ShowForm();
+  form->lblName.Caption("A text that is longer");
+  ASSERT_NE("", Native<QLabel>(form->lblName).toolTip());
+  form->lblName.Place({120, 120, 4000, 240});
+  EXPECT_EQ("A text that is longer", Native<QLabel>(form->lblName).text());
+  EXPECT_EQ("", Native<QLabel>(form->lblName).toolTip());
+}
+
+TEST_F(QtControl, AnEntryThatIsLongerThanItsBoxEndsWithAnEllipsisAndHasAToolTip) {
+  ShowForm();
+  form->cboKind.AddItem(std::string(80, 'W'));
+  form->cboKind.ListIndex(form->cboKind.ListCount() - 1);
+  auto& combo = Native<QComboBox>(form->cboKind);
+  EXPECT_EQ(QString(80, 'W'), combo.toolTip());
+  EXPECT_EQ(QString(80, 'W'), combo.currentText());
+  const QImage cut = combo.grab().toImage();
+  form->cboKind.AddItem(std::string(4, 'W'));
+  form->cboKind.ListIndex(form->cboKind.ListCount() - 1);
+  EXPECT_EQ("", combo.toolTip());
+  EXPECT_NE(cut, combo.grab().toImage());
 }
 
 TEST_F(QtControl, LabelsStandWhereTheirFormIsReadFrom) {

@@ -1,9 +1,12 @@
 // What native lists do beyond the scenarios that run on every desktop, and how questions close.
+#include <QHelpEvent>
 #include <QListView>
 #include <QMessageBox>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include "desktops/qt/MessageBox.h"
+#include "forms/TreeList.h"
 #include "tests/forms/ListForm.h"
 #include "tests/qt/QtTest.h"
 
@@ -38,6 +41,28 @@ TEST_F(QtList, ALongEntryIsReadByScrolling) {
     View(lists->lstOne).grab();
     return bar.maximum() == 0;
   }));
+}
+
+struct RowsForm final : Form {
+  explicit RowsForm(Desktop& desktop) : Form(desktop, "frmRows", {.Client = {3000, 3000}}) {}
+  TreeList sftRows{*this, "sftRows", {.Place = {120, 120, 1800, 1800}}};
+};
+
+TEST_F(QtList, ARowThatIsCutOffHasAToolTip) {
+  const auto rows = std::make_shared<RowsForm>(desktop());
+  rows->sftRows.AddRow({"Oak"});
+  rows->sftRows.AddRow({"A layer with a name that is longer than its list is wide"});
+  rows->Show(ShowMode::Modeless);
+  auto& view = Native<QListView>(rows->sftRows);
+  const auto toolTipOf = [&](int row) {
+    const QPoint at = view.visualRect(view.model()->index(row, 0)).center();
+    QHelpEvent rest(QEvent::ToolTip, at, view.viewport()->mapToGlobal(at));
+    QCoreApplication::sendEvent(view.viewport(), &rest);
+    return QToolTip::text();
+  };
+  EXPECT_EQ("", toolTipOf(0));
+  EXPECT_EQ("A layer with a name that is longer than its list is wide", toolTipOf(1));
+  rows->Unload();
 }
 
 TEST_F(QtList, AssistiveSoftwareSelectsEntries) {

@@ -39,8 +39,8 @@ QSize PartSize(const QWidget& widget, QStyle::SubElement part) {
   return widget.style()->subElementRect(part, &option, &widget).size();
 }
 
-Fit LabelFit(const QLabel& label) {
-  if (!label.wordWrap()) return {label.size(), label.sizeHint()};
+Fit LabelFit(const QLabel& label, const QString& caption) {
+  if (!label.wordWrap()) return {label.size(), TextSize(label, caption)};
   return {label.size(), {0, label.heightForWidth(label.width())}};
 }
 
@@ -76,18 +76,19 @@ Fit FieldFit(const QLineEdit& field) {
   return {{0, field.height() - 2 * frame}, {0, field.fontMetrics().height()}};
 }
 
-/// The fit of whatever text the widget shows.
-Fit FitOfText(const QWidget& widget, const Form& form) {
-  if (const auto* label = qobject_cast<const QLabel*>(&widget)) return LabelFit(*label);
+/// The fit of whatever text the widget shows, or would show if it had the room.
+Fit FitOfText(const QWidget& widget, const QString& caption, const Form& form) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) return LabelFit(*label, caption);
   if (const auto* field = qobject_cast<const QLineEdit*>(&widget)) return FieldFit(*field);
   if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return ComboFit(*combo);
   if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) return TabsFit(*tabs, form);
   if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
     return {box->size() - QSize(TitlePlace(*box).left(), 0), TextSize(*box, box->title())};
   if (const auto* box = qobject_cast<const QCheckBox*>(&widget))
-    return {PartSize(*box, QStyle::SE_CheckBoxContents), TextSize(*box, box->text())};
+    return {PartSize(*box, QStyle::SE_CheckBoxContents), TextSize(*box, caption)};
   if (const auto* button = qobject_cast<const QPushButton*>(&widget))
-    return {PartSize(*button, QStyle::SE_PushButtonContents), TextSize(*button, button->text())};
+    return {PartSize(*button, QStyle::SE_PushButtonContents),
+            TextSize(*button, button->text().isEmpty() ? QString() : caption)};
   return {};
 }
 
@@ -100,7 +101,7 @@ class QtLayout final : public NativeLayout {
   bool IsSeen(const Control& control) const override { return WidgetOf(control).isVisible(); }
 
   TextFit FitOf(const Control& control, const Form& form) const override {
-    const Fit fit = FitOfText(WidgetOf(control), form);
+    const Fit fit = FitOfText(WidgetOf(control), qt::ToQt(control.Caption()), form);
     return {{fit.Room.width(), fit.Room.height()}, {fit.Need.width(), fit.Need.height()}};
   }
 

@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QPushButton>
+#include <QStyleOption>
 
 #include "desktops/qt/Colors.h"
 #include "desktops/qt/Peers.h"
@@ -49,8 +50,15 @@ class ButtonPeer final : public Peer {
   }
 
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Text && mControl.ShowsCaption()) mNative.setText(ToQt(mControl.Caption()));
     Peer::Mirror(aspect);
+    if (!mControl.ShowsCaption() || (aspect != Aspect::Text && aspect != Aspect::Place)) return;
+    mNative.setText(Fitted(ToQt(mControl.Caption()), Room()));
+  }
+
+  int Room() const {
+    QStyleOptionButton option;
+    option.initFrom(&mNative);
+    return mNative.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &mNative).width();
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {

@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "forms/Canvas.h"
-#include "forms/CharacterCodes.h"
 
 class QPainter;
 

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QSignalBlocker>
+#include <QStyleOption>
 
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/Text.h"
@@ -25,9 +26,15 @@ class CheckBoxPeer final : public Peer {
  private:
   void Mirror(Aspect aspect) override {
     const QSignalBlocker blocker(mNative);
-    if (aspect == Aspect::Text) mNative.setText(ToQt(mControl.Caption()));
     if (aspect == Aspect::Value) mNative.setCheckState(NativeState(mControl.Value()));
     Peer::Mirror(aspect);
+    if (aspect == Aspect::Text || aspect == Aspect::Place) mNative.setText(Fitted(ToQt(mControl.Caption()), Room()));
+  }
+
+  int Room() const {
+    QStyleOptionButton option;
+    option.initFrom(&mNative);
+    return mNative.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &mNative).width();
   }
 
   CheckBox& mControl;

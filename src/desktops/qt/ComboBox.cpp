@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyleOption>
+#include <QStylePainter>
 
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/Text.h"
@@ -19,6 +21,28 @@ class NativeCombo final : public QComboBox {
   void showPopup() override {
     if (!MayOpen || MayOpen()) QComboBox::showPopup();
   }
+  /// How wide the text of the chosen entry may be.
+  int Room() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width() - kGap;
+  }
+
+ protected:
+  /// Of itself Qt cuts a long text without a sign.
+  void paintEvent(QPaintEvent* event) override {
+    if (isEditable()) return QComboBox::paintEvent(event);
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, Room());
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+
+ private:
+  /// What styles leave free at both ends of the text.
+  static constexpr int kGap = 2;
 };
 
 class ComboBoxPeer final : public Peer {
@@ -62,6 +86,7 @@ class ComboBoxPeer final : public Peer {
     if (aspect == Aspect::Items) MirrorItems();
     if (aspect == Aspect::Items || aspect == Aspect::Value) MirrorValue();
     Peer::Mirror(aspect);
+    if (aspect == Aspect::Value || aspect == Aspect::Place) Fitted(mNative.currentText(), mNative.Room(), 0);
   }
 
   void MirrorItems() {

@@ -36,15 +36,17 @@ class LabelPeer final : public Peer {
   }
 
   void Mirror(Aspect aspect) override {
-    if (aspect == Aspect::Text) MirrorText();
     Peer::Mirror(aspect);
+    if (aspect == Aspect::Text || aspect == Aspect::Place) MirrorText();
   }
 
   void MirrorText() {
     // Qt underlines the mnemonic only in a label that has a buddy, and shows the marks as they are in the others.
     const bool marked = mControl.Mnemonic() != 0;
     mNative.setBuddy(marked ? Buddy() : nullptr);
-    mNative.setText(ToQt(marked ? mControl.Caption() : WithoutMnemonic(mControl.Caption())));
+    const QString text = ToQt(marked ? mControl.Caption() : WithoutMnemonic(mControl.Caption()));
+    const bool isLine = !mControl.Wraps();
+    mNative.setText(isLine ? Fitted(text, mNative.width(), marked ? Qt::TextShowMnemonic : 0) : text);
   }
 
   Label& mControl;

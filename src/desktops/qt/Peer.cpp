@@ -58,9 +58,23 @@ void Peer::ShowIf(bool isVisible) {
   if (mWidget->isHidden() == isVisible) mWidget->setVisible(isVisible);
 }
 
+QString Peer::Fitted(const QString& text, int width, int flags) {
+  // Before it has its place there is nothing to fit into, and lines are the business of whoever breaks them.
+  if (!mWidget->testAttribute(Qt::WA_Resized) || text.contains('\n')) return text;
+  const QFontMetrics metrics = mWidget->fontMetrics();
+  const bool fits = metrics.size(Qt::TextSingleLine | flags, text).width() <= width;
+  const QString whole = flags & Qt::TextShowMnemonic ? ToQt(WithoutMnemonic(FromQt(text))) : text;
+  if (const QString cut = fits ? QString() : whole; cut != mCutText) {
+    mCutText = cut;
+    MirrorToolTip();
+  }
+  return fits ? text : metrics.elidedText(text, Qt::ElideRight, width, flags);
+}
+
 void Peer::MirrorToolTip() {
   // Qt sends an event for every tool tip that is set, even for an empty one.
-  const QString text = PlainToolTip(mControl.ToolTipText());
+  const std::string& own = mControl.ToolTipText();
+  const QString text = PlainToolTip(own.empty() ? FromQt(mCutText) : own);
   if (text != mWidget->toolTip()) mWidget->setToolTip(text);
 }
 

@@ -26,6 +26,9 @@ class Peer : public QObject, public ControlPeer {
   /// Mirrors one aspect. Each kind of control handles its own aspects and leaves the others to this.
   virtual void Mirror(Aspect aspect);
   void ShowIf(bool isVisible);
+  /// A text of the control as far as `width` has room for it. One that is cut ends with an ellipsis, and the tool tip
+  /// shows all of it unless the control has a tool tip of its own. `flags` are those of the font's metrics.
+  QString Fitted(const QString& text, int width, int flags = Qt::TextShowMnemonic);
   /// The reason that Qt is given when the form moves the focus here.
   virtual Qt::FocusReason ReasonToFocus() const { return Qt::TabFocusReason; }
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,6 +49,8 @@ class Peer : public QObject, public ControlPeer {
   Dialog& mDialog;
   QWidget* mWidget;
   QWidget* mFocus;
+  /// What of the control's text is cut off somewhere, as a whole.
+  QString mCutText;
 };
 
 /// The peer of a control, null while its form has no window.

@@ -1,12 +1,15 @@
 #include "forms/TreeList.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 
 #include "desktops/qt/Peers.h"
 #include "desktops/qt/RowsPeer.h"
+#include "desktops/qt/Text.h"
 #include "forms/Form.h"
 #include "forms/RowMeasures.h"
 
@@ -28,6 +31,17 @@ class RowPainter final : public QStyledItemDelegate {
     const int indent = mMeasures.Indent(mModel.Rows().LevelsAt(index.row()));
     item.rect = QStyle::visualRect(item.direction, item.rect, item.rect.adjusted(indent, 0, 0, 0));
     item.widget->style()->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
+  }
+
+  /// A name that is cut off can be read in a tool tip.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    if (event->type() != QEvent::ToolTip || !mModel.Holds(index)) return false;
+    const int indent = mMeasures.Indent(mModel.Rows().LevelsAt(index.row()));
+    const bool isCut = indent + QStyledItemDelegate::sizeHint(option, index).width() > option.rect.width();
+    const QString text = isCut ? PlainToolTip(mModel.Rows().ShownText(index.row())) : QString();
+    QToolTip::showText(event->globalPos(), text, view, option.rect);
+    return true;
   }
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {

@@ -6,7 +6,6 @@
 
 #include "desktops/win32/Handles.h"
 #include "forms/Canvas.h"
-#include "forms/CharacterCodes.h"
 
 namespace orx::win32 {
 
