@@ -33,9 +33,9 @@ frmDataDialog::frmDataDialog(Desktop& desktop, IPageFactory& pages)
                                .Tab = {120, 120, 6255, 4755},
                                .ButtonTop = 4995,
                                .HelpLeft = 120,
-                               .OKLeft = 2340,
-                               .CancelLeft = 3720,
-                               .ApplyLeft = 5100},
+                               .OKLeft = 2040,
+                               .CancelLeft = 3510,
+                               .ApplyLeft = 4980},
                     .Border = BorderStyle::SizableHeight}) {
 }
 

@@ -16,9 +16,9 @@ constexpr PropertyLayout kMapLayout{.Client = {9420, 5220},
                                     .Tab = {3075, 120, 6255, 4545},
                                     .ButtonTop = 4770,
                                     .HelpLeft = 120,
-                                    .OKLeft = 5295,
-                                    .CancelLeft = 6675,
-                                    .ApplyLeft = 8055};
+                                    .OKLeft = 4995,
+                                    .CancelLeft = 6465,
+                                    .ApplyLeft = 7935};
 
 /// The tags that tell what a row is.
 constexpr char kMapTag[] = "Map";

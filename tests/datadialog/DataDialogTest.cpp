@@ -61,10 +61,10 @@ TEST_F(DataDialog, IsOpenedInItsOrderAndReturnsWhetherSomethingChanged) {
 TEST_F(DataDialog, WithoutACallBackTheButtonsCloseUp) {
   Show([&](frmDataDialog& form) {
     EXPECT_FALSE(user.See(form.cmdApply).Visible);
-    EXPECT_EQ(3720, form.cmdOK.Left());
-    EXPECT_EQ(5100, form.cmdCancel.Left());
+    EXPECT_EQ(3510, form.cmdOK.Left());
+    EXPECT_EQ(4980, form.cmdCancel.Left());
     form.ClientSize({form.ClientSize().Width, form.ClientSize().Height + 300});
-    EXPECT_EQ(3720, form.cmdOK.Left());
+    EXPECT_EQ(3510, form.cmdOK.Left());
   });
 }
 

@@ -109,6 +109,21 @@ TEST_F(PageLayout, NothingIsCutOffInAnyLanguage) {
   }
 }
 
+TEST_F(PageLayout, ButtonsHaveAirAroundTheirTextsInEachLanguage) {
+  const int air = 2 * desktop().ToPixels(60);
+  for (const auto& [name, language] : ReadInstalledLanguages()) {
+    SCOPED_TRACE(name);
+    service.Language(language.get());
+    InDialog("frmProperties", [&] {
+      for (const char* const button : {"cmdHelp", "cmdOK", "cmdCancel", "cmdApply"}) {
+        const TextFit fit = LayoutOfDesktop().FitOf(*form->Find(button), *form);
+        EXPECT_LE(fit.Need.Width + air, fit.Room.Width) << button;
+      }
+    });
+    service.ShowProperties(&layer);
+  }
+}
+
 TEST_F(PageLayout, NothingIsCutOffWhenTextsGrowByAThird) {
   languages::PseudoLanguage pseudo;
   ExpectAllTextShown(&pseudo);
