@@ -9,6 +9,19 @@
 #include "forms/ScreenUpdates.h"
 
 namespace orx {
+namespace {
+
+/// Moves a form away from modeless ones that it would stand on exactly, so that all of them can be seen.
+void StandApart(Form& form) {
+  constexpr int kApart = 360;
+  const auto isOn = [&](const std::shared_ptr<Form>& other) {
+    return other.get() != &form && other->Visible() && other->Left() == form.Left() && other->Top() == form.Top();
+  };
+  while (std::ranges::any_of(form.OwnerDesktop().OpenForms(), isOn))
+    form.Move(form.Left() + kApart, form.Top() + kApart);
+}
+
+}  // namespace
 
 Form::Form(Desktop& desktop, std::string name, FormDesign design)
     : mDesktop(desktop), mName(std::move(name)), mDesign(std::move(design)) {
@@ -125,6 +138,7 @@ void Form::Show(ShowMode mode, OwnerWindow owner) {
   if (!mWindow) mWindow = mDesktop.OpenWindow(*this);
   Form_Resize();
   if (!mLoaded) return;
+  if (mode == ShowMode::Modeless) StandApart(*this);
   KeepOnScreen();
   ShowUpdates();
   mVisible = true;

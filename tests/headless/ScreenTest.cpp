@@ -35,6 +35,20 @@ TEST_F(HeadlessScreens, AWindowStaysOnTheScreenWhereItStands) {
   EXPECT_EQ((Point{3000, 10500}), Shown(3000, 10500));
 }
 
+TEST_F(HeadlessScreens, AModelessWindowDoesNotOpenExactlyOnAnotherOne) {
+  ASSERT_EQ((Point{300, 450}), Shown(300, 450));
+  std::vector<std::shared_ptr<Form>> others;
+  for (const int apart : {360, 720}) {
+    others.push_back(std::make_shared<Form>(desktop, "frmOther", FormDesign{.Client = {3000, 1500}}));
+    others.back()->Move(300, 450);
+    others.back()->Show(ShowMode::Modeless);
+    EXPECT_EQ((Point{300 + apart, 450 + apart}), (Point{others.back()->Left(), others.back()->Top()}));
+  }
+  // Where it stood itself it may stand again.
+  EXPECT_EQ((Point{300, 450}), Shown(300, 450));
+  for (const std::shared_ptr<Form>& other : others) other->Unload();
+}
+
 TEST_F(HeadlessScreens, AWindowBetweenTwoScreensGoesToTheOneThatHoldsTheMostOfIt) {
   EXPECT_EQ(0, Shown(-600, 450).X);
   EXPECT_EQ(-form->Width(), Shown(-2500, 450).X);
