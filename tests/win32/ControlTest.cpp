@@ -91,24 +91,44 @@ TEST_F(Win32Control, TheButtonThatEnterWouldPressLooksLikeIt) {
   EXPECT_FALSE(isDefault(form->cmdCancel));
 }
 
-TEST_F(Win32Control, AToolTipIsGivenToThePlatform) {
-  ShowForm();
-  form->txtName.ToolTipText("The layer's name");
-  const HWND tips = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr);
-  ASSERT_TRUE(tips);
-  wchar_t text[100] = {};
-  TTTOOLINFOW info = {};
-  info.cbSize = TTTOOLINFOW_V2_SIZE;
-  info.hwnd = WindowOf(*form);
-  info.uId = reinterpret_cast<UINT_PTR>(FieldOf(form->txtName));
-  info.lpszText = text;
-  Send(tips, TTM_GETTEXTW, 100, reinterpret_cast<LPARAM>(&info));
-  EXPECT_STREQ(L"The layer's name", text);
-}
-
 /// The tool tips of the thread's dialog.
 HWND Tips() {
   return FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr);
+}
+
+class Win32TipTexts : public Win32Control {
+ protected:
+  /// The tool tip that the platform has for a control.
+  std::wstring TipOf(const Control& control) {
+    wchar_t text[100] = {};
+    TTTOOLINFOW info = {};
+    info.cbSize = TTTOOLINFOW_V2_SIZE;
+    info.hwnd = WindowOf(*form);
+    info.uId = reinterpret_cast<UINT_PTR>(FieldOf(control));
+    info.lpszText = text;
+    Send(Tips(), TTM_GETTEXTW, 100, reinterpret_cast<LPARAM>(&info));
+    return text;
+  }
+};
+
+TEST_F(Win32TipTexts, AreGivenToThePlatform) {
+  ShowForm();
+  form->txtName.ToolTipText("The layer's name");
+  ASSERT_TRUE(Tips());
+  EXPECT_EQ(L"The layer's name", TipOf(form->txtName));
+}
+
+TEST_F(Win32TipTexts, ALabelThatIsCutOffEndsWithAnEllipsisAndHasItsTextAsToolTip) {
+  ShowForm();
+  form->lblName.Caption("A &text that is longer than its place");
+  ASSERT_TRUE(Tips());
+  EXPECT_EQ(SS_ENDELLIPSIS, GetWindowLongPtrW(WindowOf(form->lblName), GWL_STYLE) & SS_ELLIPSISMASK);
+  EXPECT_EQ(L"A text that is longer than its place", TipOf(form->lblName));
+  form->lblName.ToolTipText("What the layer is called");
+  EXPECT_EQ(L"What the layer is called", TipOf(form->lblName));
+  form->lblName.ToolTipText("");
+  form->lblName.Place({120, 120, 4500, 240});
+  EXPECT_EQ(L"", TipOf(form->lblName));
 }
 
 class Win32ToolTips : public Win32Control {

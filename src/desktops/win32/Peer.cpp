@@ -166,8 +166,14 @@ void Peer::MirrorName() {
   if (mControl.Caption().empty() || !mControl.ShowsCaption()) Annotate(Spoken::Name, mControl.AccessibleName());
 }
 
+void Peer::CutText(const std::string& whole) {
+  if (mCutText == whole) return;
+  mCutText = whole;
+  MirrorToolTip();
+}
+
 void Peer::MirrorToolTip() {
-  mDialog.ToolTip(mFocus, mControl.ToolTipText());
+  mDialog.ToolTip(mFocus, mControl.ToolTipText().empty() ? mCutText : mControl.ToolTipText());
   Annotate(Spoken::Description, mControl.ToolTipText());
 }
 

@@ -61,6 +61,9 @@ class Peer : public ControlPeer {
   void Report(const std::function<void()>& act) const { mDialog.Report(act); }
   /// The width and height of the control's place in pixels.
   SIZE PixelSize() const;
+  /// What of the control's text is cut off, as a whole, for a tool tip unless the control has one of its own; empty for
+  /// nothing.
+  void CutText(const std::string& whole);
   /// Sets the text of a window when it differs.
   static void ShowText(HWND window, const std::string& text);
   /// Asks the form for the focus. False when the field that would lose it keeps it.
@@ -87,6 +90,7 @@ class Peer : public ControlPeer {
   Subclass mFocusSubclass;
   ATOM mName;
   bool mIsAnnotated = false;
+  std::string mCutText;
 };
 
 /// The peer of a control, null while its form has no window.
