@@ -10,7 +10,7 @@
 
 namespace orx::pages {
 
-/// Drawn for a panel of 6135 x 4095 twips. Opposite edges are compared when the focus leaves the two (NumberSpan), so
+/// Drawn for a panel of 6135 x 4545 twips. Opposite edges are compared when the focus leaves the two (NumberSpan), so
 /// an extent can be moved by typing one edge after the other; an extent without width or height is refused. The edges
 /// are written so that the client's extent is in order at each step. For a map the page asks for the georeference
 /// dialog, which writes to the map by itself; what it changed counts as changed at once, and takes the place of pending
@@ -19,30 +19,30 @@ class CoordinatesPage final : public PageBase {
  public:
   explicit CoordinatesPage(const PageSite& site);
 
-  Frame fraHorizontal{Surface, "fraHorizontal", {.Caption = "West to east", .Place = {120, 120, 5895, 1545}}};
-  Label lblLeft{fraHorizontal, "lblLeft", {.Caption = "&Left:", .Place = {150, 375, 1500, 240}}};
-  TextBox txtLeft{fraHorizontal, "txtLeft", {.Place = {1740, 315, 3000, 330}}};
-  Label lblRight{fraHorizontal, "lblRight", {.Caption = "&Right:", .Place = {150, 750, 1500, 240}}};
-  TextBox txtRight{fraHorizontal, "txtRight", {.Place = {1740, 690, 3000, 330}}};
-  Label lblWidth{fraHorizontal, "lblWidth", {.Caption = "Wi&dth:", .Place = {150, 1125, 1500, 240}}};
-  TextBox txtWidth{fraHorizontal, "txtWidth", {.Place = {1740, 1065, 3000, 330}}, TextLines::Single, true};
+  Frame fraHorizontal{Surface, "fraHorizontal", {.Caption = "West to east", .Place = {120, 120, 5895, 1725}}};
+  Label lblLeft{fraHorizontal, "lblLeft", {.Caption = "&Left:", .Place = {150, 420, 1500, 240}}};
+  TextBox txtLeft{fraHorizontal, "txtLeft", {.Place = {1740, 360, 3000, 330}}};
+  Label lblRight{fraHorizontal, "lblRight", {.Caption = "&Right:", .Place = {150, 840, 1500, 240}}};
+  TextBox txtRight{fraHorizontal, "txtRight", {.Place = {1740, 780, 3000, 330}}};
+  Label lblWidth{fraHorizontal, "lblWidth", {.Caption = "Wi&dth:", .Place = {150, 1260, 1500, 240}}};
+  TextBox txtWidth{fraHorizontal, "txtWidth", {.Place = {1740, 1200, 3000, 330}}, TextLines::Single, true};
 
-  Frame fraVertical{Surface, "fraVertical", {.Caption = "South to north", .Place = {120, 1755, 5895, 1545}}};
-  Label lblBottom{fraVertical, "lblBottom", {.Caption = "&Bottom:", .Place = {150, 375, 1500, 240}}};
-  TextBox txtBottom{fraVertical, "txtBottom", {.Place = {1740, 315, 3000, 330}}};
-  Label lblTop{fraVertical, "lblTop", {.Caption = "&Top:", .Place = {150, 750, 1500, 240}}};
-  TextBox txtTop{fraVertical, "txtTop", {.Place = {1740, 690, 3000, 330}}};
-  Label lblHeight{fraVertical, "lblHeight", {.Caption = "Hei&ght:", .Place = {150, 1125, 1500, 240}}};
-  TextBox txtHeight{fraVertical, "txtHeight", {.Place = {1740, 1065, 3000, 330}}, TextLines::Single, true};
+  Frame fraVertical{Surface, "fraVertical", {.Caption = "South to north", .Place = {120, 1965, 5895, 1725}}};
+  Label lblBottom{fraVertical, "lblBottom", {.Caption = "&Bottom:", .Place = {150, 420, 1500, 240}}};
+  TextBox txtBottom{fraVertical, "txtBottom", {.Place = {1740, 360, 3000, 330}}};
+  Label lblTop{fraVertical, "lblTop", {.Caption = "&Top:", .Place = {150, 840, 1500, 240}}};
+  TextBox txtTop{fraVertical, "txtTop", {.Place = {1740, 780, 3000, 330}}};
+  Label lblHeight{fraVertical, "lblHeight", {.Caption = "Hei&ght:", .Place = {150, 1260, 1500, 240}}};
+  TextBox txtHeight{fraVertical, "txtHeight", {.Place = {1740, 1200, 3000, 330}}, TextLines::Single, true};
 
   Label lblUnit{
       Surface,
       "lblUnit",
-      {.Caption = "All values are in the unit of the map: degrees or meters.", .Place = {120, 3345, 3600, 630}},
+      {.Caption = "All values are in the unit of the map: degrees or meters.", .Place = {120, 3765, 3600, 660}},
       Alignment::Left,
       true};
   Button cmdGeoreference{
-      Surface, "cmdGeoreference", {.Caption = "Geore&ference...", .Place = {3840, 3420, 2175, 375}, .Visible = false}};
+      Surface, "cmdGeoreference", {.Caption = "Geore&ference...", .Place = {3840, 3825, 2175, 375}, .Visible = false}};
 
  protected:
   bool IsSupported() const override { return Extent() != nullptr; }

@@ -13,7 +13,7 @@
 
 namespace orx::pages {
 
-/// Drawn for a panel of 6135 x 4095 twips. The dialogs that the buttons request write to the data by themselves; what
+/// Drawn for a panel of 6135 x 4545 twips. The dialogs that the buttons request write to the data by themselves; what
 /// they changed counts as changed at once. Another file is read when the page is saved.
 class DataPropertiesPage final : public PageBase {
  public:
@@ -23,28 +23,28 @@ class DataPropertiesPage final : public PageBase {
   TextBox txtFile{Surface, "txtFile", {.Place = {1860, 120, 2520, 330}}, TextLines::Single, true};
   Button cmdBrowse{Surface, "cmdBrowse", {.Caption = "&Browse...", .Place = {4485, 90, 1530, 375}, .Visible = false}};
 
-  Frame fraClasses{Surface, "fraClasses", {.Caption = "Classification", .Place = {120, 570, 5895, 1950}}};
+  Frame fraClasses{Surface, "fraClasses", {.Caption = "Classification", .Place = {120, 600, 5895, 2040}}};
   Label lblMethod{fraClasses, "lblMethod", {.Caption = "Method:", .Place = {150, 360, 1740, 240}}};
   TextBox txtMethod{fraClasses, "txtMethod", {.Place = {1950, 300, 2250, 330}}, TextLines::Single, true};
-  Label lblRange{fraClasses, "lblRange", {.Caption = "Range:", .Place = {150, 750, 1740, 240}}};
-  TextBox txtRange{fraClasses, "txtRange", {.Place = {1950, 690, 2250, 330}}, TextLines::Single, true};
-  Label lblCount{fraClasses, "lblCount", {.Caption = "Classes:", .Place = {150, 1140, 1740, 240}}};
-  TextBox txtCount{fraClasses, "txtCount", {.Place = {1950, 1080, 2250, 330}}, TextLines::Single, true};
-  Label lblFormat{fraClasses, "lblFormat", {.Caption = "Value format:", .Place = {150, 1530, 1740, 240}}};
-  TextBox txtFormat{fraClasses, "txtFormat", {.Place = {1950, 1470, 2250, 330}}, TextLines::Single, true};
+  Label lblRange{fraClasses, "lblRange", {.Caption = "Range:", .Place = {150, 780, 1740, 240}}};
+  TextBox txtRange{fraClasses, "txtRange", {.Place = {1950, 720, 2250, 330}}, TextLines::Single, true};
+  Label lblCount{fraClasses, "lblCount", {.Caption = "Classes:", .Place = {150, 1200, 1740, 240}}};
+  TextBox txtCount{fraClasses, "txtCount", {.Place = {1950, 1140, 2250, 330}}, TextLines::Single, true};
+  Label lblFormat{fraClasses, "lblFormat", {.Caption = "Value format:", .Place = {150, 1620, 1740, 240}}};
+  TextBox txtFormat{fraClasses, "txtFormat", {.Place = {1950, 1560, 2250, 330}}, TextLines::Single, true};
   Button cmdClassify{
       fraClasses, "cmdClassify", {.Caption = "C&lassify...", .Place = {4290, 270, 1455, 375}, .Visible = false}};
 
   Button cmdOptions{
-      Surface, "cmdOptions", {.Caption = "Data op&tions...", .Place = {120, 2640, 2850, 375}, .Visible = false}};
+      Surface, "cmdOptions", {.Caption = "Data op&tions...", .Place = {120, 2820, 2850, 375}, .Visible = false}};
   Button cmdShade{
-      Surface, "cmdShade", {.Caption = "&Relief shading...", .Place = {3165, 2640, 2850, 375}, .Visible = false}};
+      Surface, "cmdShade", {.Caption = "&Relief shading...", .Place = {3165, 2820, 2850, 375}, .Visible = false}};
   Button cmdIsolines{
-      Surface, "cmdIsolines", {.Caption = "&Isolines...", .Place = {120, 3090, 2850, 375}, .Visible = false}};
+      Surface, "cmdIsolines", {.Caption = "&Isolines...", .Place = {120, 3330, 2850, 375}, .Visible = false}};
   Button cmdColors{
-      Surface, "cmdColors", {.Caption = "Color sche&mes...", .Place = {3165, 3090, 2850, 375}, .Visible = false}};
+      Surface, "cmdColors", {.Caption = "Color sche&mes...", .Place = {3165, 3330, 2850, 375}, .Visible = false}};
   Button cmdDataStyle{
-      Surface, "cmdDataStyle", {.Caption = "Data &style...", .Place = {120, 3540, 2850, 375}, .Visible = false}};
+      Surface, "cmdDataStyle", {.Caption = "Data &style...", .Place = {120, 3840, 2850, 375}, .Visible = false}};
 
  protected:
   bool IsSupported() const override { return As<IData>(DataObject()) != nullptr; }

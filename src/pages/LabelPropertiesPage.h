@@ -15,38 +15,38 @@
 
 namespace orx::pages {
 
-/// Drawn for a panel of 6135 x 4095 twips. While labels are not shown, all other fields are disabled; what was typed in
+/// Drawn for a panel of 6135 x 4545 twips. While labels are not shown, all other fields are disabled; what was typed in
 /// them is kept and written all the same.
 class LabelPropertiesPage final : public PageBase {
  public:
   explicit LabelPropertiesPage(const PageSite& site);
 
   CheckBox chkShowLabels{Surface, "chkShowLabels", {.Caption = "Show &labels", .Place = {120, 120, 5895, 255}}};
-  Label lblContent{Surface, "lblContent", {.Caption = "Cont&ent:", .Place = {120, 510, 1620, 240}}};
-  ComboBox cboContent{Surface, "cboContent", {.Place = {1860, 450, 2370, 330}}};
-  Label lblPosition{Surface, "lblPosition", {.Caption = "&Position:", .Place = {120, 900, 1620, 240}}};
-  ComboBox cboPosition{Surface, "cboPosition", {.Place = {1860, 840, 2370, 330}}};
-  Label lblRotation{Surface, "lblRotation", {.Caption = "Ro&tation:", .Place = {120, 1290, 1620, 240}}};
-  TextBox txtRotation{Surface, "txtRotation", {.Place = {1860, 1230, 1080, 330}}};
-  Label lblDegrees{Surface, "lblDegrees", {.Caption = "degrees", .Place = {3030, 1290, 1200, 240}}};
-  PictureBox pctPreview{Surface, "pctPreview", {.Place = {4350, 450, 1665, 1110}, .ToolTipText = "Preview"}};
+  Label lblContent{Surface, "lblContent", {.Caption = "Cont&ent:", .Place = {120, 555, 1620, 240}}};
+  ComboBox cboContent{Surface, "cboContent", {.Place = {1860, 495, 2370, 330}}};
+  Label lblPosition{Surface, "lblPosition", {.Caption = "&Position:", .Place = {120, 975, 1620, 240}}};
+  ComboBox cboPosition{Surface, "cboPosition", {.Place = {1860, 915, 2370, 330}}};
+  Label lblRotation{Surface, "lblRotation", {.Caption = "Ro&tation:", .Place = {120, 1395, 1620, 240}}};
+  TextBox txtRotation{Surface, "txtRotation", {.Place = {1860, 1335, 1080, 330}}};
+  Label lblDegrees{Surface, "lblDegrees", {.Caption = "degrees", .Place = {3030, 1395, 1200, 240}}};
+  PictureBox pctPreview{Surface, "pctPreview", {.Place = {4350, 495, 1665, 1170}, .ToolTipText = "Preview"}};
 
-  Frame fraFont{Surface, "fraFont", {.Caption = "Font", .Place = {120, 1635, 5895, 1470}}};
-  Label lblFont{fraFont, "lblFont", {.Caption = "&Font:", .Place = {150, 360, 1500, 240}}};
-  ComboBox cboFont{fraFont, "cboFont", {.Place = {1740, 300, 4005, 330}}, ComboStyle::Editable};
-  Label lblSize{fraFont, "lblSize", {.Caption = "&Size:", .Place = {150, 750, 1500, 240}}};
-  TextBox txtSize{fraFont, "txtSize", {.Place = {1740, 690, 1080, 330}}};
-  Label lblPoints{fraFont, "lblPoints", {.Caption = "points", .Place = {2910, 750, 1200, 240}}};
-  CheckBox chkBold{fraFont, "chkBold", {.Caption = "&Bold", .Place = {150, 1080, 1800, 255}}};
-  CheckBox chkItalic{fraFont, "chkItalic", {.Caption = "&Italic", .Place = {2040, 1080, 1800, 255}}};
-  CheckBox chkUnderline{fraFont, "chkUnderline", {.Caption = "&Underline", .Place = {3930, 1080, 1815, 255}}};
+  Frame fraFont{Surface, "fraFont", {.Caption = "Font", .Place = {120, 1785, 5895, 1635}}};
+  Label lblFont{fraFont, "lblFont", {.Caption = "&Font:", .Place = {150, 390, 1500, 240}}};
+  ComboBox cboFont{fraFont, "cboFont", {.Place = {1740, 330, 4005, 330}}, ComboStyle::Editable};
+  Label lblSize{fraFont, "lblSize", {.Caption = "&Size:", .Place = {150, 810, 1500, 240}}};
+  TextBox txtSize{fraFont, "txtSize", {.Place = {1740, 750, 1080, 330}}};
+  Label lblPoints{fraFont, "lblPoints", {.Caption = "points", .Place = {2910, 810, 1200, 240}}};
+  CheckBox chkBold{fraFont, "chkBold", {.Caption = "&Bold", .Place = {150, 1215, 1800, 255}}};
+  CheckBox chkItalic{fraFont, "chkItalic", {.Caption = "&Italic", .Place = {2040, 1215, 1800, 255}}};
+  CheckBox chkUnderline{fraFont, "chkUnderline", {.Caption = "&Underline", .Place = {3930, 1215, 1815, 255}}};
 
-  Frame fraColor{Surface, "fraColor", {.Caption = "Color", .Place = {120, 3195, 5895, 780}}};
-  Label lblColor{fraColor, "lblColor", {.Caption = "&Name:", .Place = {150, 375, 1000, 240}}};
-  ComboBox cboColor{fraColor, "cboColor", {.Place = {1170, 315, 1800, 330}}};
-  Label lblHex{fraColor, "lblHex", {.Caption = "He&x:", .Place = {3120, 375, 750, 240}}};
-  TextBox txtColor{fraColor, "txtColor", {.Place = {3900, 315, 1215, 330}}};
-  PictureBox pctColor{fraColor, "pctColor", {.Place = {5235, 315, 510, 330}}};
+  Frame fraColor{Surface, "fraColor", {.Caption = "Color", .Place = {120, 3540, 5895, 855}}};
+  Label lblColor{fraColor, "lblColor", {.Caption = "&Name:", .Place = {150, 420, 1000, 240}}};
+  ComboBox cboColor{fraColor, "cboColor", {.Place = {1170, 360, 1800, 330}}};
+  Label lblHex{fraColor, "lblHex", {.Caption = "He&x:", .Place = {3120, 420, 750, 240}}};
+  TextBox txtColor{fraColor, "txtColor", {.Place = {3900, 360, 1215, 330}}};
+  PictureBox pctColor{fraColor, "pctColor", {.Place = {5235, 360, 510, 330}}};
 
  protected:
   bool IsSupported() const override;

@@ -16,7 +16,7 @@
 
 namespace orx::pages {
 
-/// Drawn for a panel of 6135 x 4095 twips. Raises NameChanged when a save has written another name, and
+/// Drawn for a panel of 6135 x 4545 twips. Raises NameChanged when a save has written another name, and
 /// CharacterRequested when the user wants to choose the symbol from a table.
 class PropertiesPage final : public PageBase {
  public:
@@ -26,26 +26,26 @@ class PropertiesPage final : public PageBase {
   TextBox txtName{Surface, "txtName", {.Place = {1860, 120, 4155, 330}}};
   Label lblSource{Surface, "lblSource", {.Caption = "Source f&ile:", .Place = {120, 600, 1620, 240}}};
   TextBox txtSource{Surface, "txtSource", {.Place = {1860, 540, 4155, 330}}, TextLines::Single, true};
-  CheckBox chkVisible{Surface, "chkVisible", {.Caption = "&Visible", .Place = {1860, 975, 4155, 255}}};
+  CheckBox chkVisible{Surface, "chkVisible", {.Caption = "&Visible", .Place = {1860, 1005, 4155, 255}}};
 
-  Frame fraSymbol{Surface, "fraSymbol", {.Caption = "Symbol", .Place = {120, 1380, 5895, 2430}}};
-  Label lblFont{fraSymbol, "lblFont", {.Caption = "&Font:", .Place = {150, 390, 1500, 240}}};
-  ComboBox cboFont{fraSymbol, "cboFont", {.Place = {1740, 330, 2280, 330}}, ComboStyle::Editable};
-  Label lblCharacter{fraSymbol, "lblCharacter", {.Caption = "Cha&racter:", .Place = {150, 780, 1500, 240}}};
-  TextBox txtCharacter{fraSymbol, "txtCharacter", {.Place = {1740, 720, 2280, 330}}};
-  Label lblRotation{fraSymbol, "lblRotation", {.Caption = "Ro&tation:", .Place = {150, 1170, 1500, 240}}};
-  TextBox txtRotation{fraSymbol, "txtRotation", {.Place = {1740, 1110, 1080, 330}}};
-  Label lblDegrees{fraSymbol, "lblDegrees", {.Caption = "degrees", .Place = {2910, 1170, 1200, 240}}};
-  Label lblSize{fraSymbol, "lblSize", {.Caption = "&Size:", .Place = {150, 1560, 1500, 240}}};
-  TextBox txtSize{fraSymbol, "txtSize", {.Place = {1740, 1500, 1080, 330}}};
-  Label lblPoints{fraSymbol, "lblPoints", {.Caption = "points", .Place = {2910, 1560, 1200, 240}}};
+  Frame fraSymbol{Surface, "fraSymbol", {.Caption = "Symbol", .Place = {120, 1440, 5895, 2655}}};
+  Label lblFont{fraSymbol, "lblFont", {.Caption = "&Font:", .Place = {150, 420, 1500, 240}}};
+  ComboBox cboFont{fraSymbol, "cboFont", {.Place = {1740, 360, 2280, 330}}, ComboStyle::Editable};
+  Label lblCharacter{fraSymbol, "lblCharacter", {.Caption = "Cha&racter:", .Place = {150, 840, 1500, 240}}};
+  TextBox txtCharacter{fraSymbol, "txtCharacter", {.Place = {1740, 780, 2280, 330}}};
+  Label lblRotation{fraSymbol, "lblRotation", {.Caption = "Ro&tation:", .Place = {150, 1260, 1500, 240}}};
+  TextBox txtRotation{fraSymbol, "txtRotation", {.Place = {1740, 1200, 1080, 330}}};
+  Label lblDegrees{fraSymbol, "lblDegrees", {.Caption = "degrees", .Place = {2910, 1260, 1200, 240}}};
+  Label lblSize{fraSymbol, "lblSize", {.Caption = "&Size:", .Place = {150, 1680, 1500, 240}}};
+  TextBox txtSize{fraSymbol, "txtSize", {.Place = {1740, 1620, 1080, 330}}};
+  Label lblPoints{fraSymbol, "lblPoints", {.Caption = "points", .Place = {2910, 1680, 1200, 240}}};
   Button cmdCharacter{fraSymbol,
                       "cmdCharacter",
                       {.Caption = "Choos&e...",
-                       .Place = {1740, 1905, 2280, 375},
+                       .Place = {1740, 2085, 2280, 375},
                        .Visible = false,
                        .ToolTipText = "Choose the symbol from the characters of a font"}};
-  PictureBox pctSymbol{fraSymbol, "pctSymbol", {.Place = {4200, 330, 1545, 1500}, .ToolTipText = "Preview"}};
+  PictureBox pctSymbol{fraSymbol, "pctSymbol", {.Place = {4200, 360, 1545, 1590}, .ToolTipText = "Preview"}};
 
  protected:
   bool IsSupported() const override;

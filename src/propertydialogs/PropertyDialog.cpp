@@ -6,7 +6,7 @@ namespace orx {
 namespace {
 
 Design ButtonDesign(const char* caption, int left, int top) {
-  return {.Caption = caption, .Place = {left, top, 1395, 375}, .Pinned = true};
+  return {.Caption = caption, .Place = {left, top, 1275, 375}, .Pinned = true};
 }
 
 std::vector<std::string> TabCaptions(const std::vector<PageDesign>& pages) {

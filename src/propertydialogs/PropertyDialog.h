@@ -28,13 +28,13 @@ struct PropertyLayout {
 };
 
 /// The layout of the dialogs for a layer.
-inline constexpr PropertyLayout kLayerLayout{.Client = {6465, 5220},
-                                             .Tab = {120, 120, 6255, 4545},
-                                             .ButtonTop = 4770,
+inline constexpr PropertyLayout kLayerLayout{.Client = {6465, 5670},
+                                             .Tab = {120, 120, 6255, 4995},
+                                             .ButtonTop = 5220,
                                              .HelpLeft = 120,
-                                             .OKLeft = 2040,
-                                             .CancelLeft = 3510,
-                                             .ApplyLeft = 4980};
+                                             .OKLeft = 2340,
+                                             .CancelLeft = 3720,
+                                             .ApplyLeft = 5100};
 
 /// What distinguishes one dialog with property pages from another.
 struct PropertyDesign {

@@ -29,13 +29,13 @@ frmDataDialog::frmDataDialog(Desktop& desktop, IPageFactory& pages)
                     .Caption = "Data Classify",
                     .HelpKey = "_HelpLayerDataProperties",
                     .Pages = {{PageKind::DataProperties, kPageName, "Data", AnswerDataRequests}},
-                    .Layout = {.Client = {6465, 5490},
-                               .Tab = {120, 120, 6255, 4755},
-                               .ButtonTop = 4995,
+                    .Layout = {.Client = {6465, 5910},
+                               .Tab = {120, 120, 6255, 5175},
+                               .ButtonTop = 5415,
                                .HelpLeft = 120,
-                               .OKLeft = 2040,
-                               .CancelLeft = 3510,
-                               .ApplyLeft = 4980},
+                               .OKLeft = 2340,
+                               .CancelLeft = 3720,
+                               .ApplyLeft = 5100},
                     .Border = BorderStyle::SizableHeight}) {
 }
 

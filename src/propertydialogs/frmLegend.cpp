@@ -12,9 +12,9 @@ frmLegend::frmLegend(Desktop& desktop, IPageFactory& pages)
                                .Tab = {120, 120, 5955, 3975},
                                .ButtonTop = 4200,
                                .HelpLeft = 120,
-                               .OKLeft = 1740,
-                               .CancelLeft = 3210,
-                               .ApplyLeft = 4680}}) {
+                               .OKLeft = 2040,
+                               .CancelLeft = 3420,
+                               .ApplyLeft = 4800}}) {
 }
 
 void frmLegend::Take(const PropertyTask& task, ErrorTrap& trap) {

@@ -12,13 +12,13 @@
 namespace orx {
 namespace {
 
-constexpr PropertyLayout kMapLayout{.Client = {9420, 5220},
-                                    .Tab = {3075, 120, 6255, 4545},
-                                    .ButtonTop = 4770,
+constexpr PropertyLayout kMapLayout{.Client = {9420, 5670},
+                                    .Tab = {3075, 120, 6255, 4995},
+                                    .ButtonTop = 5220,
                                     .HelpLeft = 120,
-                                    .OKLeft = 4995,
-                                    .CancelLeft = 6465,
-                                    .ApplyLeft = 7935};
+                                    .OKLeft = 5295,
+                                    .CancelLeft = 6675,
+                                    .ApplyLeft = 8055};
 
 /// The tags that tell what a row is.
 constexpr char kMapTag[] = "Map";

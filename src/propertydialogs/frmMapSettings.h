@@ -36,7 +36,7 @@ class frmMapSettings final : public PropertyDialog {
   /// selected.
   std::int32_t SelectedLayer() const { return mSelectedLayer; }
 
-  TreeList sftLayers{*this, "sftLayers", {.Place = {120, 120, 2400, 4545}, .AccessibleName = "Layers"}};
+  TreeList sftLayers{*this, "sftLayers", {.Place = {120, 120, 2400, 4995}, .AccessibleName = "Layers"}};
   Button cmdAdd{*this, "cmdAdd", PictureDesign("Add layer", 0), glyphs::kPlus};
   Button cmdUp{*this, "cmdUp", PictureDesign("Move selected layer up", 1), glyphs::kUp};
   Button cmdDown{*this, "cmdDown", PictureDesign("Move selected layer down", 2), glyphs::kDown};

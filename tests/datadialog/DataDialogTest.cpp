@@ -61,10 +61,10 @@ TEST_F(DataDialog, IsOpenedInItsOrderAndReturnsWhetherSomethingChanged) {
 TEST_F(DataDialog, WithoutACallBackTheButtonsCloseUp) {
   Show([&](frmDataDialog& form) {
     EXPECT_FALSE(user.See(form.cmdApply).Visible);
-    EXPECT_EQ(3510, form.cmdOK.Left());
-    EXPECT_EQ(4980, form.cmdCancel.Left());
+    EXPECT_EQ(3720, form.cmdOK.Left());
+    EXPECT_EQ(5100, form.cmdCancel.Left());
     form.ClientSize({form.ClientSize().Width, form.ClientSize().Height + 300});
-    EXPECT_EQ(3510, form.cmdOK.Left());
+    EXPECT_EQ(3720, form.cmdOK.Left());
   });
 }
 
@@ -131,7 +131,7 @@ TEST_F(DataDialog, TextInASettingStandsForTheCenteredPlaceAndTheDesignedHeight) 
   Show([&](frmDataDialog& form) {
     EXPECT_NEAR((desktop().Metrics(BorderStyle::SizableHeight).Screen.Width - form.Width()) / 2.0, form.Left(),
                 Pixel());
-    EXPECT_EQ((Size{6465, 5490}), form.ClientSize());
+    EXPECT_EQ((Size{6465, 5910}), form.ClientSize());
   });
 }
 
@@ -142,14 +142,14 @@ TEST_F(DataDialog, AHeightTooSmallForTheButtonsStillOpens) {
     EXPECT_TRUE(form.Visible());
     EXPECT_EQ(0, form.ssTab.Place().Height);
     EXPECT_EQ(0, PagePanel(form).Place().Height);
-    form.ClientSize({6465, 5490});
-    EXPECT_EQ(4755, form.ssTab.Place().Height);
+    form.ClientSize({6465, 5910});
+    EXPECT_EQ(5175, form.ssTab.Place().Height);
   });
 }
 
 TEST_F(DataDialog, EachHeightIsLaidOutAnew) {
   Show([&](frmDataDialog& form) {
-    for (const int height : {5490, 6510, 4500}) {
+    for (const int height : {5910, 6510, 4500}) {
       form.ClientSize({6465, height});
       const int top = height - 120 - 375;
       for (const Button* button :
@@ -177,14 +177,14 @@ TEST_F(DataDialog, EachResizeLoadsThePageAgain) {
 
 TEST_F(DataDialog, APageThatFailsToLoadDoesNotKeepTheDialogFromOpening) {
   log.Failing = {"Page.RefreshContents"};
-  Show([&](frmDataDialog& form) { EXPECT_EQ(4995, form.cmdOK.Top()); });
+  Show([&](frmDataDialog& form) { EXPECT_EQ(5415, form.cmdOK.Top()); });
 }
 
 TEST_F(DataDialog, DraggingTheStripChangesTheHeightAlone) {
   Show([&](frmDataDialog& form) {
     log.Calls.clear();
     user.DragFromBottom(form, 2, 30);
-    EXPECT_NEAR(5490 + desktop().ToTwips(30), form.ClientSize().Height, Pixel());
+    EXPECT_NEAR(5910 + desktop().ToTwips(30), form.ClientSize().Height, Pixel());
     EXPECT_EQ(6465, form.ClientSize().Width);
     EXPECT_EQ(form.ClientSize().Height - 120 - 375, form.cmdOK.Top());
     EXPECT_GE(std::ranges::count(log.Calls, "Page.RefreshContents"), 2);
@@ -197,7 +197,7 @@ TEST_F(DataDialog, APressOnePixelAboveTheStripDoesNothing) {
   Show([&](frmDataDialog& form) {
     log.Calls.clear();
     user.DragFromBottom(form, 4, 30);
-    EXPECT_EQ((Size{6465, 5490}), form.ClientSize());
+    EXPECT_EQ((Size{6465, 5910}), form.ClientSize());
     EXPECT_EQ(Calls{}, NewCalls());
     EXPECT_EQ(0, std::ranges::count(script.Pointers, Pointer::SizeNS));
   });

@@ -23,14 +23,14 @@ struct HostCase {
 class PageHostDesigns : public PageHostTest {
  protected:
   std::vector<HostCase> Hosts() {
-    const Size large{6465, 5220};
-    const Rect tab{120, 120, 6255, 4545};
-    const std::vector<int> lefts{120, 2040, 3510, 4980};
-    return {{"frmProperties", "Layer Properties", "Properties", "Properties, Properties1", large, tab, 4770, lefts,
+    const Size large{6465, 5670};
+    const Rect tab{120, 120, 6255, 4995};
+    const std::vector<int> lefts{120, 2340, 3720, 5100};
+    return {{"frmProperties", "Layer Properties", "Properties", "Properties, Properties1", large, tab, 5220, lefts,
              std::make_shared<frmProperties>(desktop(), pages)},
-            {"frmCoordinates", "Properties", "Coordinates", "Coordinates, Coordinates1", large, tab, 4770, lefts,
+            {"frmCoordinates", "Properties", "Coordinates", "Coordinates, Coordinates1", large, tab, 5220, lefts,
              std::make_shared<frmCoordinates>(desktop(), pages)},
-            {"frmLabels", "Properties", "Labels", "LabelProperties, LabelProperties1", large, tab, 4770, lefts,
+            {"frmLabels", "Properties", "Labels", "LabelProperties, LabelProperties1", large, tab, 5220, lefts,
              std::make_shared<frmLabels>(desktop(), pages)},
             {"frmLegend",
              "Map Annotation Properties",
@@ -39,7 +39,7 @@ class PageHostDesigns : public PageHostTest {
              {6165, 4695},
              {120, 120, 5955, 3975},
              4200,
-             {120, 1740, 3210, 4680},
+             {120, 2040, 3420, 4800},
              std::make_shared<frmLegend>(desktop(), pages)}};
   }
   static std::vector<int> Lefts(PageHostForm& form) {
@@ -67,7 +67,7 @@ TEST_F(PageHostDesigns, ButtonsShareOneRow) {
   for (const HostCase& host : Hosts())
     for (Button* button : std::initializer_list<Button*>{&host.Form->cmdHelp, &host.Form->cmdOK, &host.Form->cmdCancel,
                                                          &host.Form->cmdApply}) {
-      EXPECT_EQ((Rect{button->Left(), host.ButtonTop, 1395, 375}), button->Place()) << host.Name;
+      EXPECT_EQ((Rect{button->Left(), host.ButtonTop, 1275, 375}), button->Place()) << host.Name;
       EXPECT_TRUE(button->Pinned());
     }
 }
@@ -102,8 +102,8 @@ TEST_F(PageHostDesigns, WithoutACallBackShowingAgainMovesNothingMore) {
   form->Show(ShowMode::Modeless);
   form->Hide();
   form->Show(ShowMode::Modeless);
-  EXPECT_EQ(3510, form->cmdOK.Left());
-  EXPECT_EQ(4980, form->cmdCancel.Left());
+  EXPECT_EQ(3720, form->cmdOK.Left());
+  EXPECT_EQ(5100, form->cmdCancel.Left());
   form->Unload();
 }
 

@@ -197,7 +197,7 @@ TEST_F(SettingsDialog, WithoutACallBackApplyIsVisibleAndCleansAllPages) {
   service.CallBack(nullptr);
   EXPECT_EQ(0, Show([&](frmSettings& form) {
               EXPECT_TRUE(user.See(form.cmdApply).Visible);
-              EXPECT_EQ(3510, form.cmdCancel.Left());
+              EXPECT_EQ(3720, form.cmdCancel.Left());
               EditPage(form, 0, "x");
               log.Calls.clear();
               Press(form, "cmdApply");

@@ -85,7 +85,7 @@ TEST_P(MapLibraryPagesOfEachKind, EachInputHasAnAccessibleName) {
 
 TEST_P(MapLibraryPagesOfEachKind, ControlsLieInsideTheirContainersAndApart) {
   const auto page = MakePage(GetParam());
-  const Size size = GetParam() == PageKind::Legends ? Size{5835, 3525} : Size{6135, 4095};
+  const Size size = GetParam() == PageKind::Legends ? Size{5835, 3525} : Size{6135, 4545};
   const auto apart = [](const Rect& a, const Rect& b) {
     return a.Right() <= b.Left || b.Right() <= a.Left || a.Bottom() <= b.Top || b.Bottom() <= a.Top;
   };

@@ -20,11 +20,11 @@ using Calls = std::vector<std::string>;
 /// A page alone on a tab, for what no dialog does to it.
 struct PageForm final : Form {
   PageForm(Desktop& desktop, PageKind kind)
-      : Form(desktop, "frmPage", {.Caption = "Page", .Client = {6465, 5220}}),
-        Page(pages::PageFactory().CreatePage(kind, {Tabs.Page(0), "Page1", {0, 0, 6135, 4095}})) {}
+      : Form(desktop, "frmPage", {.Caption = "Page", .Client = {6465, 5670}}),
+        Page(pages::PageFactory().CreatePage(kind, {Tabs.Page(0), "Page1", {0, 0, 6135, 4545}})) {}
 
-  TabControl Tabs{*this, "ssTab", {.Place = {120, 120, 6255, 4545}}, {"Page"}};
-  Button cmdOK{*this, "cmdOK", {.Caption = "&OK", .Place = {2340, 4770, 1275, 375}}, ButtonRole::Default};
+  TabControl Tabs{*this, "ssTab", {.Place = {120, 120, 6255, 4995}}, {"Page"}};
+  Button cmdOK{*this, "cmdOK", {.Caption = "&OK", .Place = {2340, 5220, 1275, 375}}, ButtonRole::Default};
   std::unique_ptr<PropertyPage> Page;
 };
 
