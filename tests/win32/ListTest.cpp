@@ -3,6 +3,10 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
+#include "desktops/win32/Handles.h"
+#include "forms/TreeList.h"
 #include "tests/forms/ListForm.h"
 #include "tests/win32/Win32Test.h"
 
@@ -43,6 +47,37 @@ TEST_F(Win32List, ALongEntryIsReadByScrolling) {
   lists->lstOne.Clear();
   lists->lstOne.AddItem("Oak");
   EXPECT_EQ(0, Overhang());
+}
+
+struct RowsForm final : Form {
+  explicit RowsForm(Desktop& desktop) : Form(desktop, "frmRows", {.Client = {3000, 3000}}) { RightToLeft(true); }
+  TreeList sftRows{*this, "sftRows", {.Place = {120, 120, 1800, 1800}}};
+};
+
+TEST_F(Win32List, RowsThatAreReadFromRightToLeftStandAtTheRightAndTheirLettersAreNotMirrored) {
+  const auto rows = std::make_shared<RowsForm>(desktop());
+  rows->sftRows.AddRow({"LLLL"});
+  rows->Show(ShowMode::Modeless);
+  const HWND window = WindowOf(rows->sftRows);
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+  RECT client = {};
+  GetClientRect(window, &client);
+  const win32::WindowContext context(window);
+  SetLayout(context.Get(), 0);
+  // How many pixels of each column are of the text.
+  std::vector<int> ink;
+  for (int x = 0; x < client.right; ++x) {
+    ink.push_back(0);
+    for (int y = 0; y < 18; ++y) ink.back() += GetPixel(context.Get(), x, y) != GetPixel(context.Get(), 1, 1) ? 1 : 0;
+  }
+  const auto hasInk = [](int count) { return count > 0; };
+  const auto first = std::ranges::find_if(ink, hasInk);
+  const auto last = std::find_if(ink.rbegin(), ink.rend(), hasInk);
+  ASSERT_NE(ink.end(), first);
+  EXPECT_GT(first - ink.begin(), client.right / 2);
+  // An L begins with its high stem.
+  EXPECT_GT(*first, *last);
+  rows->Unload();
 }
 
 TEST_F(Win32List, TheOtherMouseButtonSelectsNothing) {

@@ -26,7 +26,9 @@ int TextHeight(HWND window, HFONT face) {
 
 RowsPeer::RowsPeer(Control& control, RowList& rows, Dialog& dialog, HWND window)
     : Peer(control, dialog, window), mRows(rows), mMeasures(dialog.Owner().OwnerDesktop().Scale()) {
-  Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
+  // The buffer knows nothing of mirroring: it would show even the letters mirrored.
+  const DWORD buffered = dialog.Owner().RightToLeft() ? 0 : LVS_EX_DOUBLEBUFFER;
+  Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(buffered | LVS_EX_FULLROWSELECT));
   LVCOLUMNW column = {};
   Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
   // The rows are as high as the pictures that they might have.

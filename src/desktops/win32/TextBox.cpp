@@ -78,7 +78,9 @@ std::unique_ptr<Peer> MakePeer(TextBox& control, Dialog& dialog, const WindowSit
   DWORD style = WS_TABSTOP | (control.Locked() ? ES_READONLY : 0);
   style |= control.Lines() == TextLines::Multiple ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL
                                                   : ES_AUTOHSCROLL;
-  return std::make_unique<TextBoxPeer>(control, dialog, MakeWindow(L"EDIT", style, site, WS_EX_CLIENTEDGE));
+  // Numbers and paths are read from left to right everywhere.
+  const WindowSite plain{site.Parent, site.Id};
+  return std::make_unique<TextBoxPeer>(control, dialog, MakeWindow(L"EDIT", style, plain, WS_EX_CLIENTEDGE));
 }
 
 }  // namespace orx::win32
