@@ -1,4 +1,5 @@
 // Single characters of fonts as Qt paints them: what the pixels of the picker's grid show.
+#include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
 #include <set>

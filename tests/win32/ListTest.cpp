@@ -64,11 +64,13 @@ TEST_F(Win32List, RowsThatAreReadFromRightToLeftStandAtTheRightAndTheirLettersAr
   GetClientRect(window, &client);
   const win32::WindowContext context(window);
   SetLayout(context.Get(), 0);
+  const int height = desktop().ToPixels(270);
   // How many pixels of each column are of the text.
   std::vector<int> ink;
   for (int x = 0; x < client.right; ++x) {
     ink.push_back(0);
-    for (int y = 0; y < 18; ++y) ink.back() += GetPixel(context.Get(), x, y) != GetPixel(context.Get(), 1, 1) ? 1 : 0;
+    for (int y = 0; y < height; ++y)
+      ink.back() += GetPixel(context.Get(), x, y) != GetPixel(context.Get(), 1, 1) ? 1 : 0;
   }
   const auto hasInk = [](int count) { return count > 0; };
   const auto first = std::ranges::find_if(ink, hasInk);

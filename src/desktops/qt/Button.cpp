@@ -1,5 +1,6 @@
 #include "forms/Button.h"
 
+#include <QEvent>
 #include <QIcon>
 #include <QPixmap>
 #include <QPushButton>
