@@ -10,11 +10,13 @@ template <class Object>
 class Factory final : public Counted<IClassFactory> {
  public:
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept override {
-    if (!object) return E_POINTER;
-    *object = nullptr;
-    if (outer) return CLASS_E_NOAGGREGATION;
+    if (object) *object = nullptr;
+    if (object && outer) return CLASS_E_NOAGGREGATION;
     HRESULT found = S_OK;
-    const HRESULT made = Guarded("ClassFactory", [&] { found = MakeCounted<Object>()->QueryInterface(iid, object); });
+    const HRESULT made = Guarded({"ClassFactory", IID_IClassFactory}, [&] {
+      RequirePlaces({{"The object", object}});
+      found = MakeCounted<Object>()->QueryInterface(iid, object);
+    });
     return FAILED(made) ? made : found;
   }
 

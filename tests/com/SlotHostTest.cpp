@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "com/HostAdapters.h"
+#include "com/Members.h"
 #include "forms/Button.h"
 #include "forms/CheckBox.h"
 #include "hostobjects/IData.h"
@@ -105,6 +106,51 @@ TEST(SlotHost, ADataObjectGivesItsViews) {
   EXPECT_EQ(QueryKind<orx::IData>(adapter.get())->MaximumOfData(), 99.5);
   EXPECT_TRUE(QueryKind<orx::ShadeSettings>(adapter.get()));
   EXPECT_FALSE(QueryKind<orx::IIsolines>(adapter.get()));
+}
+
+/// A page whose members are in slots. It counts what it is told to do.
+class SlotPage final : public SlotObject<::IMapPropertyPage> {
+ public:
+  int Acts = 0;
+  ORX_READ_SLOT(IDispatch*, Client)
+  ORX_READ_SLOT(IDispatch*, Language)
+  ORX_SLOT(VARIANT_BOOL, IsDirty)
+  ORX_SLOT(long, StartUpIndex)
+  ORX_SLOT(VARIANT_BOOL, Selected)
+
+  HRESULT STDMETHODCALLTYPE putref_Client(IDispatch* value) noexcept override {
+    Client = ComPtr<IDispatch>(value);
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE putref_Language(IDispatch* value) noexcept override {
+    Language = ComPtr<IDispatch>(value);
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE RefreshContents() noexcept override { return Count(); }
+  HRESULT STDMETHODCALLTYPE SaveChanges() noexcept override { return Count(); }
+  HRESULT STDMETHODCALLTYPE DiscardChanges() noexcept override { return Count(); }
+  HRESULT STDMETHODCALLTYPE ApplyChanges() noexcept override { return Count(); }
+
+ private:
+  HRESULT Count() {
+    ++Acts;
+    return S_OK;
+  }
+};
+
+TEST(SlotHost, APageTakesObjectsFlagsAndActs) {
+  const auto page = MakeCounted<SlotPage>();
+  const auto layer = MakeCounted<SlotLayer>();
+  const auto members = Members::Of<::IMapPropertyPage>(page.Get());
+  members.Put("Client", static_cast<IDispatch*>(layer.Get()));
+  members.Put("Language", static_cast<IDispatch*>(nullptr));
+  members.Put("Selected", true);
+  EXPECT_EQ(page->Client.Get(), static_cast<IDispatch*>(layer.Get()));
+  EXPECT_FALSE(page->Language);
+  EXPECT_EQ(page->Selected, VARIANT_TRUE);
+  EXPECT_FALSE(members.GetBool("IsDirty"));
+  for (const char* const act : {"RefreshContents", "SaveChanges", "DiscardChanges", "ApplyChanges"}) members.Call(act);
+  EXPECT_EQ(page->Acts, 4);
 }
 
 /// A layer whose name cannot be read.

@@ -74,6 +74,8 @@ TEST_F(Factories, RefuseUnknownClassesAndInterfaces) {
 TEST_F(Factories, RefuseToWriteNowhere) {
   EXPECT_EQ(server.GetClassObject(classes[0], IID_IClassFactory, nullptr), E_POINTER);
   EXPECT_EQ(server.Factory(classes[0])->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+  ComPtr<IErrorInfo> info;
+  EXPECT_EQ(GetErrorInfo(0, info.Out()), S_OK) << "It says what is wrong.";
   EXPECT_EQ(server.Create<IUnknown>(classes[0])->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
 
