@@ -5,6 +5,8 @@ if(CMAKE_SCRIPT_MODE_FILE)
   cmake_policy(VERSION 3.25)
   # cmake -DFROM=src -DTO=folder -DLIST=PublicHeaders.txt -P PublicHeaders.cmake
   file(STRINGS ${LIST} headers)
+  # What has left the list leaves the folder too.
+  file(REMOVE_RECURSE ${TO}/orx)
   foreach(header IN LISTS headers)
     file(READ ${FROM}/${header} text)
     # Brackets and semicolons mean something to lists, but the text never becomes one.

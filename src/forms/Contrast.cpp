@@ -1,6 +1,7 @@
 #include "forms/Contrast.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace orx {
@@ -28,7 +29,8 @@ Color Between(Color one, Color other, double share) {
 }  // namespace
 
 double Contrast(Color one, Color other) {
-  const auto [darker, lighter] = std::minmax(Light(one), Light(other));
+  const std::array<double, 2> lights{Light(one), Light(other)};
+  const auto [darker, lighter] = std::ranges::minmax(lights);
   return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -43,7 +43,12 @@ TEST_F(ExamplesHost, DialogsKeptOpenReportToTheLogUntilTheyAreClosed) {
 }
 
 TEST_F(ExamplesHost, TheLanguageChangesTheWindowAndItsDialogsAndBack) {
-  user.Choose(window->cboLanguage, 1);
+  const auto indexOf = [this](const std::string& language) {
+    int index = 0;
+    while (window->cboLanguage.List(index) != language) ++index;
+    return index;
+  };
+  user.Choose(window->cboLanguage, indexOf("Deutsch"));
   EXPECT_EQ("Eigenschaften...", user.See(Get<Button>(*window, "cmdProperties")).Text);
   script.ExpectForm("frmProperties", [&](Form& shown) {
     EXPECT_EQ("Ebeneneigenschaften", user.SeeCaption(shown));
@@ -58,7 +63,9 @@ TEST_F(ExamplesHost, EveryTextOfTheWindowIsTranslated) {
   for (Control* control : window->All()) {
     const std::string& caption = control->Caption();
     if (caption.empty()) continue;
-    EXPECT_NE(caption, languages.Language(1)->TranslateText(caption)) << control->Name();
+    // The first one is English.
+    for (int language = 1; language < window->cboLanguage.ListCount(); ++language)
+      EXPECT_NE(caption, languages.Language(language)->TranslateText(caption)) << language << ": " << control->Name();
   }
 }
 
