@@ -111,7 +111,7 @@ TEST_P(MapLibraryLanguagePages, EveryTextIsInTheFileOfEachLanguage) {
 
 TEST_P(MapLibraryLanguagePages, MnemonicsAreUniqueInEachLanguage) {
   for (const auto& [name, language] : installed)
-    Look(language.get(), [&] { EXPECT_EQ("", DoubleMnemonics()) << name; });
+    Look(language.get(), [&, name = name] { EXPECT_EQ("", DoubleMnemonics()) << name; });
   PseudoLanguage pseudo;
   // The designed texts of this one have two doubles, between which the key goes to and fro.
   const char* const doubles = std::string_view(GetParam().Form) == "frmDataIsoline" ? "co" : "";
@@ -121,7 +121,7 @@ TEST_P(MapLibraryLanguagePages, MnemonicsAreUniqueInEachLanguage) {
 
 TEST_P(MapLibraryLanguagePages, EveryInputHasItsNameInEachLanguage) {
   for (const auto& [name, language] : installed)
-    Look(language.get(), [&] {
+    Look(language.get(), [&, name = name] {
       for (Control* control : form->All())
         EXPECT_TRUE(!control->IsTabStop() || !control->AccessibleName().empty()) << name << ": " << control->Name();
     });
