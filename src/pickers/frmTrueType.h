@@ -34,8 +34,8 @@ class frmTrueType final : public OkCancelForm {
   void SelRotation(std::int32_t value);
 
   Panel RowRotation{*this, "RowRotation", {.Place = {120, 120, 5970, 330}}};
-  Panel RowGrid{*this, "RowGrid", {.Place = {120, 525, 5970, 3975}}};
-  Panel RowFont{*this, "RowFont", {.Place = {120, 4575, 5970, 330}}};
+  Panel RowGrid{*this, "RowGrid", {.Place = {120, 540, 5970, 3975}}};
+  Panel RowFont{*this, "RowFont", {.Place = {120, 4590, 5970, 330}}};
   /// The one in the middle is never shown. It names the grid for assistive software.
   Label lblHlp[3]{
       {RowFont, "lblHlp(0)", {.Caption = "&Font", .Place = {0, 60, 1380, 240}}},
