@@ -151,8 +151,10 @@ void Monkey::Answer(const Modal& modal) {
   Say(picks ? "picks what it is asked for" : "picks nothing");
   if (modal.ShownFiles) {
     const std::string name = mFiles.Names.at(act.How % mFiles.Names.size());
-    // The dialogs of some platforms refuse what their filter hides.
-    if (!picks || !Offers(*modal.ShownFiles, name)) return mUser.CancelFiles(*modal.ShownFiles);
+    // The dialogs of some platforms refuse what their filter hides. The one of Qt needs to be active for names to be
+    // typed, which it is not in the middle of whatever else goes on.
+    const bool takesNames = mScreen.IsQuick() || mScreen.IsSlow();
+    if (!picks || !takesNames || !Offers(*modal.ShownFiles, name)) return mUser.CancelFiles(*modal.ShownFiles);
     // A file that is chosen is taken at once.
     ++mWritings;
     return mUser.PickFiles(*modal.ShownFiles, {mFiles.Folder, {name}});

@@ -27,7 +27,7 @@ class CreatingFileDialog final : public QFileDialog {
     }
     if (!mAsks || !IsNew(paths)) return QFileDialog::accept();
     // The toolkit's own check accepts files that exist only.
-    if (AgreesToCreate(paths.front())) QDialog::accept();
+    if (AgreesToCreate(paths.front())) done(Accepted);
   }
 
  private:
