@@ -17,7 +17,7 @@ using Object = ComPtr<IDispatch>;
 /// not of that kind.
 template <class Published>
 Members ViewOf(const Object& object, std::initializer_list<const char*> members, const char* unlike = nullptr) {
-  const auto named = Members::Of<Published>(object.Get());
+  Members named = Members::Of<Published>(object.Get());
   if (named.IsPublished()) return named;
   for (const char* const member : members)
     if (!named.Has(member)) return Members();

@@ -34,7 +34,7 @@ std::wstring ClassesKey::Text(const std::wstring& key, const wchar_t* name, REGS
   std::wstring text(bytes / sizeof(wchar_t), L'\0');
   if (RegGetValueW(opened.Get(), nullptr, name, RRF_RT_REG_SZ, nullptr, text.data(), &bytes) != ERROR_SUCCESS)
     return {};
-  return text.c_str();
+  return text.substr(0, text.find(L'\0'));
 }
 
 bool ClassesKey::Has(const std::wstring& key, REGSAM view) const {

@@ -101,7 +101,7 @@ std::shared_ptr<ThreadContext> Threads::Find() {
   }
   Entry& entry = found->second;
   if (std::shared_ptr<ThreadContext> held = entry.Held.lock()) return held;
-  const std::shared_ptr<ThreadContext> held(
+  std::shared_ptr<ThreadContext> held(
       entry.Context.get(), [thread](const ThreadContext* context) { AllThreads().Released(thread, *context); });
   entry.Held = held;
   return held;

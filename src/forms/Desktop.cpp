@@ -24,17 +24,17 @@ class Topmost {
 };
 
 /// Its address tells threads apart, for much less than asking the system: whatever changes a control asks.
-thread_local const char theMark = 0;
+thread_local const char kMark = 0;
 
 }  // namespace
 
-Desktop::Desktop() : mThread(&theMark) {
+Desktop::Desktop() : mThread(&kMark) {
 }
 
 Desktop::~Desktop() = default;
 
 void Desktop::RequireThread() const {
-  if (&theMark != mThread) throw WrongThread();
+  if (&kMark != mThread) throw WrongThread();
 }
 
 int Desktop::ToPixels(int twips) const {

@@ -102,10 +102,10 @@ TEST_F(Frames, FramesSideBySideTakeTheirRoomOnce) {
 
 struct TabbedForm final : Form {
   TabbedForm(Desktop& desktop, int frameHeight, BorderStyle border = BorderStyle::Fixed)
-      : Form(desktop, "frmTabbed", {.Client = {6000, 3600}, .Border = border}), mFrameHeight(frameHeight) {}
-  int mFrameHeight;
+      : Form(desktop, "frmTabbed", {.Client = {6000, 3600}, .Border = border}), FrameHeight(frameHeight) {}
+  int FrameHeight;
   TabControl ssTab{*this, "ssTab", {.Place = {120, 120, 5700, 2850}}, {"One", "Two"}};
-  Frame fraPage{ssTab.Page(1), "fraPage", {.Caption = "Page", .Place = {120, 120, 5000, mFrameHeight}}};
+  Frame fraPage{ssTab.Page(1), "fraPage", {.Caption = "Page", .Place = {120, 120, 5000, FrameHeight}}};
   Button cmdOK{*this, "cmdOK", {.Caption = "&OK", .Place = {120, 3105, 1500, 375}, .Pinned = true}};
 };
 

@@ -30,6 +30,8 @@ struct HeldBySlot<IDispatch*> {
   static IDispatch* Give(const Type& held) { return Given(held); }
 };
 
+// Types and names cannot stand in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 /// A property that can be read, with the variable behind it.
 #define ORX_READ_SLOT(Slot, Name)                                       \
   HeldBySlot<Slot>::Type Name{};                                        \
@@ -44,6 +46,7 @@ struct HeldBySlot<IDispatch*> {
     Name = HeldBySlot<Slot>::Take(value);                              \
     return S_OK;                                                       \
   }
+// NOLINTEND(bugprone-macro-parentheses)
 
 /// The base of such an object: an IDispatch that can do nothing.
 template <class Published, class... Bases>
