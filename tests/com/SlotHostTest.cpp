@@ -154,19 +154,12 @@ TEST(SlotHost, APageTakesObjectsFlagsAndActs) {
 }
 
 /// A layer whose name cannot be read.
-class NamelessLayer final : public SlotObject<::ILayer> {
+class NamelessLayer final : public SlotLayer {
  public:
   HRESULT STDMETHODCALLTYPE get_Name(BSTR*) noexcept override {
     return Guarded("Host", [] { throw RunTimeError(kErrorFileFormat, "The name is broken"); });
   }
   HRESULT STDMETHODCALLTYPE put_Name(BSTR) noexcept override { return E_ACCESSDENIED; }
-  ORX_SLOT(VARIANT_BOOL, Visible)
-  ORX_READ_SLOT(BSTR, Source)
-  ORX_SLOT(BSTR, SymbolFont)
-  ORX_SLOT(long, SymbolCharacter)
-  ORX_SLOT(double, SymbolRotation)
-  ORX_SLOT(double, SymbolSize)
-  ORX_READ_SLOT(IDispatch*, Data)
 };
 
 TEST(SlotHost, AnErrorOfASlotKeepsItsNumberAndDescription) {

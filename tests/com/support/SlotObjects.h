@@ -70,7 +70,7 @@ class SlotObject : public Counted<Published> {
   }
 };
 
-class SlotLayer final : public SlotObject<::ILayer> {
+class SlotLayer : public SlotObject<::ILayer> {
  public:
   ORX_SLOT(BSTR, Name)
   ORX_SLOT(VARIANT_BOOL, Visible)
