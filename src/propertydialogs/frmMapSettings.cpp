@@ -177,7 +177,7 @@ void frmMapSettings::sftLayers_Click() {
 
 void frmMapSettings::sftLayers_KeyDown(int keyCode) {
   if (keyCode == kKeyCodeF1) return modMain::ShowHelpFinder(*this, modMain::HelpFile(), sftLayers.HelpContextId());
-  if (keyCode == kKeyCodeDelete && cmdRemove.IsReachable()) return cmdRemove.UserPress();
+  if (keyCode == kKeyCodeDelete) return cmdRemove_Click();
   const bool isArrow = keyCode >= kKeyCodeLeft && keyCode <= kKeyCodeDown;
   if (isArrow && !sftLayers.Redraw()) sftLayers.Redraw(true);
   // Other keys count if they moved to another row.

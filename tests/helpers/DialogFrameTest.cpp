@@ -123,6 +123,9 @@ TEST_F(DialogFrame, F1OpensTheTopicOfTheDialogFromAnyFieldThatHasNoUseForIt) {
     int clicks = 0;
     form->pctColor.KeyDown = [&clicks](int) { ++clicks; };
     form->pctColor.SetFocus();
+    user.Press(*form, {Key::Help});
+    EXPECT_EQ(0U, script.Helps.size());
+    clicks = 0;
     user.PressKey(*form, kKeyCodeF1);
     EXPECT_EQ(1, clicks);
     EXPECT_EQ(0U, script.Helps.size());

@@ -92,6 +92,7 @@ TEST_F(LayerManagerMoves, TheDeleteKeyRemovesTheSelectedLayerAndNothingElse) {
     user.PressKey(form, kKeyCodeDelete);
     EXPECT_EQ((Texts{"Roads", "Rivers"}), map.Names());
     EXPECT_EQ(2, Selected(form));
+    EXPECT_TRUE(user.See(form.sftLayers).Focused);
     // The row of the collection is no layer.
     user.Click(form.sftLayers, 0);
     user.PressKey(form, kKeyCodeDelete);
